@@ -1,0 +1,27 @@
+# The warnings that every target of the project is compiled with; each is an error.
+add_library(tavrene_warnings INTERFACE)
+target_compile_options(tavrene_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Wcast-qual -Wformat=2 -Werror)
+
+# tavrene_library(NAME DEPENDS ...): one static library from all sources of the calling folder.
+function(tavrene_library name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_library(tavrene_${name} STATIC ${sources})
+  target_include_directories(tavrene_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(tavrene_${name} PUBLIC ${ARG_DEPENDS} PRIVATE tavrene_warnings)
+  set_target_properties(tavrene_${name} PROPERTIES LINKER_LANGUAGE CXX)
+endfunction()
+
+# tavrene_test(NAME DEPENDS ...): one test program from all sources of the calling folder.
+function(tavrene_test name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_executable(test_${name} ${sources})
+  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(test_${name} PRIVATE ${ARG_DEPENDS} tavrene_test_support GTest::gtest_main tavrene_warnings)
+  target_compile_definitions(test_${name} PRIVATE TAVRENE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  include(GoogleTest)
+  gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
+endfunction()

@@ -1,0 +1,178 @@
+#include <fcntl.h>
+#include <fnmatch.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include "app/Files.h"
+
+namespace tavrene::app {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void Refuse(std::string_view action, std::string_view path, int error) {
+    std::string text = "Cannot ";
+    text.append(action).append(" ").append(path).append(": ").append(std::generic_category().message(error));
+    throw FileError(text);
+}
+
+// An open file descriptor that is closed on every way out.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    int Number() const { return number_; }
+
+    // Closing can be the moment at which a full disk shows.
+    bool Close() { return ::close(std::exchange(number_, -1)) == 0; }
+
+  private:
+    int number_;
+};
+
+bool WriteAll(int descriptor, std::span<const std::byte> content) {
+    while (!content.empty()) {
+        const ::ssize_t written = ::write(descriptor, content.data(), content.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        content = content.subspan(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+// A hidden, short name beside `path`: no pattern lists it, and a long file name leaves room for it.
+std::string TemporaryNeighbour(const std::string& path) {
+    static std::atomic<unsigned> counter{0};
+    const std::string name =
+        ".tavrene-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + ".tmp";
+    return FromPath(ToPath(path).parent_path() / name);
+}
+
+void WriteWhole(const std::string& path, std::span<const std::byte> content, Keep keep) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (file.Number() < 0)
+        Refuse("write", path, errno);
+    const bool done = WriteAll(file.Number(), content) &&
+                      (keep == Keep::AsScratch || ::fsync(file.Number()) == 0) && file.Close();
+    if (!done) {
+        const int error = errno;
+        ::unlink(path.c_str());
+        Refuse("write", path, error);
+    }
+}
+
+void RenameOver(const std::string& from, const std::string& to, std::string_view action) {
+    if (::rename(from.c_str(), to.c_str()) != 0) {
+        const int error = errno;
+        ::unlink(from.c_str());
+        Refuse(action, to, error);
+    }
+}
+
+}  // namespace
+
+bool DiskFiles::FileExists(const std::string& path) const {
+    std::error_code ignored;
+    return fs::is_regular_file(ToPath(path), ignored);
+}
+
+bool DiskFiles::FolderExists(const std::string& path) const {
+    std::error_code ignored;
+    return fs::is_directory(ToPath(path), ignored);
+}
+
+void DiskFiles::CreateFolder(const std::string& path) {
+    if (::mkdir(path.c_str(), 0777) != 0)
+        Refuse("create the folder", path, errno);
+}
+
+std::vector<std::string> DiskFiles::List(const std::string& folder, std::string_view pattern) const {
+    std::error_code error;
+    const std::string wanted(pattern);
+    std::vector<std::string> names;
+    for (fs::directory_iterator entry(ToPath(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code ignored;
+        std::string name = FromPath(entry->path().filename());
+        if (!name.starts_with('.') && entry->is_regular_file(ignored) &&
+            ::fnmatch(wanted.c_str(), name.c_str(), FNM_CASEFOLD) == 0)
+            names.push_back(std::move(name));
+    }
+    if (error)
+        Refuse("list the folder", folder, error.value());
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return std::pair(LowerCase(a), a) < std::pair(LowerCase(b), b);
+    });
+    return names;
+}
+
+Bytes DiskFiles::Read(const std::string& path) const {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct ::stat status {};
+    if (file.Number() < 0 || ::fstat(file.Number(), &status) != 0)
+        Refuse("read", path, errno);
+    if (!S_ISREG(status.st_mode))
+        Refuse("read", path, EISDIR);
+    Bytes content(static_cast<std::size_t>(status.st_size));
+    std::size_t done = 0;
+    while (done < content.size()) {
+        const ::ssize_t got = ::read(file.Number(), content.data() + done, content.size() - done);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            Refuse("read", path, errno);
+        if (got == 0)
+            break;
+        done += static_cast<std::size_t>(got);
+    }
+    content.resize(done);
+    return content;
+}
+
+void DiskFiles::Write(const std::string& path, std::span<const std::byte> content, Keep keep) {
+    const std::string temporary = TemporaryNeighbour(path);
+    try {
+        WriteWhole(temporary, content, keep);
+    } catch (const FileError& error) {
+        // The operator knows the file by its own name, not by that of the neighbour.
+        std::string text = error.what();
+        text.replace(text.find(temporary), temporary.size(), path);
+        throw FileError(text);
+    }
+    RenameOver(temporary, path, "write");
+}
+
+void DiskFiles::Append(const std::string& path, std::string_view text) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+    if (file.Number() < 0 || !WriteAll(file.Number(), AsBytes(text)) || !file.Close())
+        Refuse("write", path, errno);
+}
+
+void DiskFiles::Move(const std::string& from, const std::string& to) {
+    if (::rename(from.c_str(), to.c_str()) == 0)
+        return;
+    if (errno != EXDEV)
+        Refuse("move", from, errno);
+    Write(to, Read(from), Keep::Durably);
+    Delete(from);
+}
+
+void DiskFiles::Delete(const std::string& path) {
+    if (::unlink(path.c_str()) != 0)
+        Refuse("delete", path, errno);
+}
+
+}  // namespace tavrene::app

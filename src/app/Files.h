@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavrene::app {
+
+using Bytes = std::vector<std::byte>;
+
+/// A file operation that the system refused; `what()` is a plain sentence that names the file and the reason.
+class FileError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Whether a written file must outlive a power cut. A scratch file is made anew with every image anyway.
+enum class Keep { Durably, AsScratch };
+
+/// Every file operation of the program. Paths are UTF-8 text. All but the queries throw `FileError` when
+/// refused.
+class Files {
+  public:
+    virtual ~Files() = default;
+
+    virtual bool FileExists(const std::string& path) const = 0;
+    virtual bool FolderExists(const std::string& path) const = 0;
+
+    /// Creates one folder; its parent must exist.
+    virtual void CreateFolder(const std::string& path) = 0;
+
+    /// Names of the files of `folder` that match `pattern` ("*.Tvp", "*"; case does not count), ordered by
+    /// lower-cased name. Sub-folders and names with a leading dot are left out.
+    virtual std::vector<std::string> List(const std::string& folder, std::string_view pattern) const = 0;
+
+    virtual Bytes Read(const std::string& path) const = 0;
+
+    /// Writes a whole file: to a temporary neighbour, flushed unless it is scratch, then renamed over `path`,
+    /// so that `path` holds either its old or its new content at any moment.
+    virtual void Write(const std::string& path, std::span<const std::byte> content,
+                       Keep keep = Keep::Durably) = 0;
+
+    /// Appends to a file, creating it when it is missing; opened and closed within the call.
+    virtual void Append(const std::string& path, std::string_view text) = 0;
+
+    /// Moves a file, replacing `to`. Across file systems the copy is complete before the source goes.
+    virtual void Move(const std::string& from, const std::string& to) = 0;
+
+    virtual void Delete(const std::string& path) = 0;
+};
+
+/// The operations on the disk.
+class DiskFiles final : public Files {
+  public:
+    bool FileExists(const std::string& path) const override;
+    bool FolderExists(const std::string& path) const override;
+    void CreateFolder(const std::string& path) override;
+    std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override;
+    Bytes Read(const std::string& path) const override;
+    void Write(const std::string& path, std::span<const std::byte> content, Keep keep) override;
+    void Append(const std::string& path, std::string_view text) override;
+    void Move(const std::string& from, const std::string& to) override;
+    void Delete(const std::string& path) override;
+};
+
+/// The bytes of a text.
+std::span<const std::byte> AsBytes(std::string_view text);
+
+/// A path of the standard library from UTF-8 text, and back.
+std::filesystem::path ToPath(std::string_view utf8);
+std::string FromPath(const std::filesystem::path& path);
+
+/// Name and extension of a path ("form7.tif"), the base name ("form7"), and the extension without its dot
+/// ("tif", empty where there is none).
+std::string FileName(std::string_view path);
+std::string BaseName(std::string_view path);
+std::string Extension(std::string_view path);
+
+/// ASCII letters of `text` in upper or lower case; other characters stay.
+std::string UpperCase(std::string_view text);
+std::string LowerCase(std::string_view text);
+
+}  // namespace tavrene::app

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string_view>
+
+namespace tavrene::app {
+
+/// The panels of the status bar.
+enum class Panel { File, Message, ElapsedTime, Progress };
+
+enum class Answer { Yes, No, Cancel };
+
+/// The one door to the person at the machine. Texts are UTF-8.
+class Operator {
+  public:
+    virtual ~Operator() = default;
+
+    /// A message box with an OK button; returns when it is closed. An empty title stands for the
+    /// application's.
+    virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
+
+    /// Tells of one file without stopping the work: all such messages stand in one box beside the window, and
+    /// further ones are added to it as lines while it is open. One message a file.
+    virtual void ReportFile(std::string_view fileName, std::string_view text) = 0;
+
+    /// Questions in a message box that carries the application's title.
+    virtual Answer AskYesNo(std::string_view text) = 0;
+    virtual Answer AskYesNoCancel(std::string_view text) = 0;
+
+    /// Puts a text into a panel; it can be read at once, also while a long operation runs.
+    virtual void SetPanel(Panel panel, std::string_view text) = 0;
+
+    /// The progress bar runs from 0 to `last`; setting the range puts it to 0.
+    virtual void SetProgressRange(int last) = 0;
+    virtual void SetProgress(int value) = 0;
+
+    /// Lets the screen take pending events (a click on `Stop`, repainting). Called from the processing run
+    /// only.
+    virtual void RunPendingEvents() = 0;
+};
+
+}  // namespace tavrene::app

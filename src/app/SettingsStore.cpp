@@ -1,0 +1,31 @@
+#include "app/SettingsStore.h"
+
+#include "app/Numeric.h"
+
+namespace tavrene::app {
+
+std::string ReadCommonText(const SettingsStore& store, std::string_view name) {
+    return store.ReadSettingValue(kApplicationName, kCommonSection, name);
+}
+
+std::int16_t ReadCommonNumber(const SettingsStore& store, std::string_view name) {
+    return RoundToInt16(LeadingNumber(ReadCommonText(store, name)));
+}
+
+bool ReadCommonFlag(const SettingsStore& store, std::string_view name) {
+    return LeadingNumber(ReadCommonText(store, name)) == 1.0;
+}
+
+void WriteCommon(SettingsStore& store, std::string_view name, std::string_view text) {
+    store.WriteSettingValue(kApplicationName, kCommonSection, name, text);
+}
+
+void WriteCommonNumber(SettingsStore& store, std::string_view name, std::int16_t value) {
+    WriteCommon(store, name, std::to_string(value));
+}
+
+void WriteCommonFlag(SettingsStore& store, std::string_view name, bool on) {
+    WriteCommon(store, name, on ? "1" : "0");
+}
+
+}  // namespace tavrene::app

@@ -1,0 +1,103 @@
+#include "imaging/Bitmap.h"
+
+#include <FreeImage.h>
+
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+namespace tavrene::imaging {
+namespace {
+
+struct CloseMemory {
+    void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
+};
+using Memory = std::unique_ptr<FIMEMORY, CloseMemory>;
+
+}  // namespace
+
+std::string ImageLibraryVersion() {
+    const char* const version = FreeImage_GetVersion();
+    return version == nullptr ? std::string() : std::string(version);
+}
+
+Bitmap& Bitmap::operator=(Bitmap&& other) noexcept {
+    if (this != &other) {
+        FreeImage_Unload(handle_);
+        handle_ = other.Release();
+    }
+    return *this;
+}
+
+Bitmap::~Bitmap() {
+    FreeImage_Unload(handle_);
+}
+
+FIBITMAP* Bitmap::Release() {
+    return std::exchange(handle_, nullptr);
+}
+
+Bitmap Bitmap::BilevelPage(int width, int height, int dpi) {
+    Bitmap page(FreeImage_Allocate(width, height, 1));
+    if (!page)
+        throw std::runtime_error("There is not enough memory for a page image.");
+    MakeInkDark(page);
+    const auto dotsPerMeter = static_cast<unsigned>(std::lround(dpi / 0.0254));
+    FreeImage_SetDotsPerMeterX(page.Get(), dotsPerMeter);
+    FreeImage_SetDotsPerMeterY(page.Get(), dotsPerMeter);
+    return page;
+}
+
+int Bitmap::Width() const {
+    return static_cast<int>(FreeImage_GetWidth(handle_));
+}
+int Bitmap::Height() const {
+    return static_cast<int>(FreeImage_GetHeight(handle_));
+}
+int Bitmap::Pitch() const {
+    return static_cast<int>(FreeImage_GetPitch(handle_));
+}
+int Bitmap::BitsPerPixel() const {
+    return static_cast<int>(FreeImage_GetBPP(handle_));
+}
+bool Bitmap::IsStandardBitmap() const {
+    return handle_ != nullptr && FreeImage_GetImageType(handle_) == FIT_BITMAP;
+}
+
+std::span<const std::uint8_t> Bitmap::ScanLine(int row) const {
+    return {FreeImage_GetScanLine(handle_, row), static_cast<std::size_t>(Pitch())};
+}
+
+std::span<std::uint8_t> Bitmap::ScanLine(int row) {
+    return {FreeImage_GetScanLine(handle_, row), static_cast<std::size_t>(Pitch())};
+}
+
+void MakeInkDark(Bitmap& bitmap) {
+    RGBQUAD* const palette = FreeImage_GetPalette(bitmap.Get());
+    palette[0] = {255, 255, 255, 0};
+    palette[1] = {0, 0, 0, 0};
+}
+
+Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decode extent) {
+    // The library does not write to the memory that it reads from.
+    auto* const bytes = const_cast<BYTE*>(reinterpret_cast<const BYTE*>(content.data()));
+    const Memory memory(FreeImage_OpenMemory(bytes, static_cast<DWORD>(content.size())));
+    const int flags = extent == Decode::HeaderOnly ? FIF_LOAD_NOPIXELS : 0;
+    return Bitmap(FreeImage_LoadFromMemory(static_cast<FREE_IMAGE_FORMAT>(format), memory.get(), flags));
+}
+
+app::Bytes EncodeGroup4Tiff(const Bitmap& bitmap) {
+    const Memory memory(FreeImage_OpenMemory());
+    BYTE* data = nullptr;
+    DWORD size = 0;
+    if (!FreeImage_SaveToMemory(FIF_TIFF, bitmap.Get(), memory.get(), TIFF_CCITTFAX4) ||
+        !FreeImage_AcquireMemory(memory.get(), &data, &size))
+        throw std::runtime_error("The image library cannot write this page as TIFF.");
+    app::Bytes content(size);
+    std::memcpy(content.data(), data, size);
+    return content;
+}
+
+}  // namespace tavrene::imaging
