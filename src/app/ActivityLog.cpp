@@ -42,7 +42,19 @@ void ActivityLog::Log(std::string_view kind, std::string_view message, ShowInSta
     std::string path = logFolder_;
     path += kSeparator;
     path.append("TavreneBoxes-").append(kind).append("-").append(DateStamp(now)).append(".Log");
-    files_.Append(path, TimeStamp(now) + " " + ToWindows1252(message) + "\r\n");
+    try {
+        files_.Append(path, TimeStamp(now) + " " + ToWindows1252(message) + "\r\n");
+    } catch (const FileError&) {
+        if (!tolerant_)
+            throw;
+        ++failedLines_;
+    }
+}
+
+void ActivityLog::TolerateFailures(bool tolerate) {
+    tolerant_ = tolerate;
+    if (tolerate)
+        failedLines_ = 0;
 }
 
 }  // namespace tavrene::app

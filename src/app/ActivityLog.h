@@ -24,6 +24,11 @@ class ActivityLog {
     void LogProfileEvent(std::string_view message, ShowInStatusBar show = ShowInStatusBar::No);
     void LogProcessEvent(std::string_view message, ShowInStatusBar show = ShowInStatusBar::No);
 
+    /// While set, a line that cannot be written costs that line only and is counted instead of thrown: a run
+    /// goes on without its log. Setting starts the count anew.
+    void TolerateFailures(bool tolerate);
+    int FailedLines() const { return failedLines_; }
+
   private:
     void Log(std::string_view kind, std::string_view message, ShowInStatusBar show);
 
@@ -31,6 +36,8 @@ class ActivityLog {
     const Clock& clock_;
     Operator& person_;
     std::string logFolder_;
+    bool tolerant_ = false;
+    int failedLines_ = 0;
 };
 
 /// `utf8` in Windows-1252; a character that it lacks, or a broken sequence, becomes `?`.

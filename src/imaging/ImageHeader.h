@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+#include "imaging/Bitmap.h"
+
+namespace tavrene::imaging {
+
+/// Which axes of an image file carry a resolution of their own. The library fills in defaults where there is
+/// none, so the file itself is asked. BMP and PCX count as carrying what the library reports; GIF carries
+/// none.
+struct ResolutionPresence {
+    bool x = false;
+    bool y = false;
+    bool operator==(const ResolutionPresence&) const = default;
+};
+
+/// Never reads outside `content`, whatever it holds.
+ResolutionPresence FindResolution(std::span<const std::byte> content, ImageFormat format);
+
+/// True when the file says that its picture would make a grid wider or taller than 32,767 cells or larger
+/// than 256 megapixels. Asked before the pixels are unpacked: a few kilobytes can unpack to gigabytes.
+bool IsTooLarge(std::span<const std::byte> content, ImageFormat format);
+
+}  // namespace tavrene::imaging

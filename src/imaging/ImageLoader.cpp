@@ -1,0 +1,57 @@
+#include "imaging/ImageLoader.h"
+
+#include <exception>
+#include <utility>
+
+namespace tavrene::imaging {
+namespace {
+
+std::string_view TextOf(PageFault fault) {
+    return fault == PageFault::NotABitmap ? "Image not in bitmap format"
+                                          : "Unable to process since image has more than 2 colors";
+}
+
+}  // namespace
+
+ImageLoader::ImageLoader(app::Files& files, app::ActivityLog& log, app::Operator& person,
+                         std::string tempFolder)
+    : files_(files), log_(log), person_(person), tempFolder_(std::move(tempFolder)) {}
+
+bool ImageLoader::LoadImageForProcessing(const std::string& path) {
+    page_.reset();
+    displayCopy_.clear();
+    const std::string imageName = app::FileName(path);
+    const std::optional<ImageFormat> format = FormatOfExtension(path);
+    if (!format) {
+        log_.LogProcessEvent(imageName + ": Unrecognized File type");
+        return false;
+    }
+    std::variant<Page, PageFault> read = ReadPage(files_, path, *format);
+    if (const PageFault* const fault = std::get_if<PageFault>(&read)) {
+        Refuse(imageName, TextOf(*fault));
+        return false;
+    }
+    page_ = std::get<Page>(std::move(read));
+    WriteDisplayCopies(imageName, *format == ImageFormat::Tiff && page_->inverted);
+    return true;
+}
+
+void ImageLoader::Refuse(const std::string& imageName, std::string_view reason) {
+    log_.LogProcessEvent(imageName + ": " + std::string(reason));
+    person_.ReportFile(imageName, reason);
+}
+
+// The copies serve the screen only: a full disk must not keep a form from being read.
+void ImageLoader::WriteDisplayCopies(const std::string& imageName, bool alsoInverted) {
+    try {
+        const app::Bytes content = EncodeGroup4Tiff(page_->bitmap);
+        files_.Write(tempFolder_ + "temp2.tif", content, app::Keep::AsScratch);
+        displayCopy_ = tempFolder_ + "temp2.tif";
+        if (alsoInverted)
+            files_.Write(tempFolder_ + "temp.tif", content, app::Keep::AsScratch);
+    } catch (const std::exception& error) {
+        log_.LogProcessEvent(imageName + ": " + error.what());
+    }
+}
+
+}  // namespace tavrene::imaging

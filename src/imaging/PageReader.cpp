@@ -1,0 +1,121 @@
+#include "imaging/PageReader.h"
+
+#include <FreeImage.h>
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "app/Numeric.h"
+#include "imaging/ImageHeader.h"
+
+namespace tavrene::imaging {
+namespace {
+
+constexpr BYTE kInkLevel = 128;
+
+struct ExtensionFormat {
+    std::string_view extension;
+    ImageFormat format;
+};
+
+constexpr std::array kExtensions = {
+    ExtensionFormat{"TIF", ImageFormat::Tiff}, ExtensionFormat{"PNG", ImageFormat::Png},
+    ExtensionFormat{"GIF", ImageFormat::Gif},  ExtensionFormat{"JPG", ImageFormat::Jpeg},
+    ExtensionFormat{"PCX", ImageFormat::Pcx},  ExtensionFormat{"BMP", ImageFormat::Bmp}};
+
+bool IsReducedToTwoColors(ImageFormat format) {
+    return format == ImageFormat::Png || format == ImageFormat::Gif || format == ImageFormat::Jpeg;
+}
+
+Bitmap LaidOnWhite(const Bitmap& bitmap) {
+    RGBQUAD white{255, 255, 255, 0};
+    const Bitmap full(FreeImage_ConvertTo32Bits(bitmap.Get()));
+    return Bitmap(FreeImage_Composite(full.Get(), FALSE, &white, nullptr));
+}
+
+// Two colours at level 128; light pixels become bit 1. A one-bit picture already has its two colours.
+Bitmap Thresholded(Bitmap bitmap) {
+    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.Get());
+    if (FreeImage_IsTransparent(bitmap.Get()) || type == FIT_RGBA16)
+        bitmap = LaidOnWhite(bitmap);
+    else if (type == FIT_RGB16)
+        bitmap = Bitmap(FreeImage_ConvertTo24Bits(bitmap.Get()));
+    if (bitmap.BitsPerPixel() == 1)
+        return bitmap;
+    return Bitmap(FreeImage_Threshold(bitmap.Get(), kInkLevel));
+}
+
+int Luminance(const RGBQUAD& color) {
+    return 299 * color.rgbRed + 587 * color.rgbGreen + 114 * color.rgbBlue;
+}
+
+// Turns the bits round where bit 1 is the lighter colour. True when they were.
+bool MakeInkSetBits(Bitmap& bitmap) {
+    RGBQUAD* const palette = FreeImage_GetPalette(bitmap.Get());
+    const bool inverted = Luminance(palette[1]) >= Luminance(palette[0]);
+    if (inverted) {
+        // With any other palette the library would turn round the palette instead of the bits.
+        palette[0] = {0, 0, 0, 0};
+        palette[1] = {255, 255, 255, 0};
+        FreeImage_Invert(bitmap.Get());
+    }
+    MakeInkDark(bitmap);
+    return inverted;
+}
+
+WorkGrid Unpacked(const Bitmap& bitmap) {
+    WorkGrid grid(bitmap.Width(), bitmap.Pitch() * 8, bitmap.Height());
+    for (int row = 0; row < grid.Rows(); ++row)
+        grid.UnpackScanLine(row, bitmap.ScanLine(row));
+    return grid;
+}
+
+std::int16_t DotsPerInch(unsigned dotsPerMetre) {
+    return app::HoldInInt16(std::floor(dotsPerMetre * 0.0254 + 0.5));
+}
+
+Bitmap Decoded(const app::Bytes& content, ImageFormat format) {
+    return IsTooLarge(content, format) ? Bitmap() : DecodeImage(content, format);
+}
+
+app::Bytes ContentOrNothing(const app::Files& files, const std::string& path) {
+    try {
+        return files.Read(path);
+    } catch (const app::FileError&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+std::optional<ImageFormat> FormatOfExtension(std::string_view path) {
+    const std::string extension = app::UpperCase(app::Extension(path));
+    for (const ExtensionFormat& entry : kExtensions) {
+        if (entry.extension == extension)
+            return entry.format;
+    }
+    return std::nullopt;
+}
+
+std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
+    const app::Bytes content = ContentOrNothing(files, path);
+    Page page;
+    page.bitmap = Decoded(content, format);
+    if (page.bitmap) {
+        const ResolutionPresence carried = FindResolution(content, format);
+        page.DPI_X = carried.x ? DotsPerInch(FreeImage_GetDotsPerMeterX(page.bitmap.Get())) : std::int16_t{0};
+        page.DPI_Y = carried.y ? DotsPerInch(FreeImage_GetDotsPerMeterY(page.bitmap.Get())) : std::int16_t{0};
+        if (IsReducedToTwoColors(format))
+            page.bitmap = Thresholded(std::move(page.bitmap));
+    }
+    if (!page.bitmap.IsStandardBitmap())
+        return PageFault::NotABitmap;
+    if (page.bitmap.BitsPerPixel() > 1)
+        return PageFault::TooManyColors;
+    page.inverted = MakeInkSetBits(page.bitmap);
+    page.grid = Unpacked(page.bitmap);
+    return page;
+}
+
+}  // namespace tavrene::imaging

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "app/Files.h"
+#include "imaging/Bitmap.h"
+#include "imaging/WorkGrid.h"
+
+namespace tavrene::imaging {
+
+/// One binarised page: bit 1 of the bitmap is ink and shown black; the grid holds the same pixels.
+struct Page {
+    Bitmap bitmap;
+    WorkGrid grid;
+    std::int16_t DPI_X = 0;  ///< Dots per inch; 0 when the file carries no resolution.
+    std::int16_t DPI_Y = 0;
+    bool inverted = false;  ///< The file's bits were the other way round.
+};
+
+/// Why a file is no page: no bitmap could be had of it (damaged, mislabelled, missing, too large), or it has
+/// more than two colours.
+enum class PageFault { NotABitmap, TooManyColors };
+
+/// The file type that the extension of `path` stands for; none for other extensions, tiff and jpeg among
+/// them.
+std::optional<ImageFormat> FormatOfExtension(std::string_view path);
+
+/// Reads a file as a page. PNG, GIF and JPEG are reduced to two colours at level 128, a transparent picture
+/// laid on white first; the other types must have two colours. Ink is what is dark, for every type.
+std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
+
+}  // namespace tavrene::imaging
