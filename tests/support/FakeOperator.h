@@ -1,0 +1,70 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "app/Operator.h"
+#include "support/Transcript.h"
+
+namespace tavrene::test {
+
+/// Writes every message, panel text and progress change into the transcript ("message: ", "report: ", "ask:
+/// ", "panel File: ", "range: ", "progress: ", "events") and answers questions from a script. A question
+/// without a scripted answer fails the test at once and is answered Cancel.
+class FakeOperator final : public app::Operator {
+  public:
+    explicit FakeOperator(Transcript& transcript) : transcript_(transcript) {}
+
+    std::deque<app::Answer> answers;
+    std::function<void()> onPendingEvents;
+
+    std::string PanelText(app::Panel panel) const {
+        const auto found = panels_.find(panel);
+        return found == panels_.end() ? std::string() : found->second;
+    }
+
+    void ShowMessage(std::string_view title, std::string_view text) override {
+        transcript_.Add("message: [" + std::string(title) + "] " + std::string(text));
+    }
+    void ReportFile(std::string_view fileName, std::string_view text) override {
+        transcript_.Add("report: [" + std::string(fileName) + "] " + std::string(text));
+    }
+    app::Answer AskYesNo(std::string_view text) override { return Ask(text); }
+    app::Answer AskYesNoCancel(std::string_view text) override { return Ask(text); }
+    void SetPanel(app::Panel panel, std::string_view text) override {
+        static const std::map<app::Panel, std::string> names = {{app::Panel::File, "File"},
+                                                                {app::Panel::Message, "Message"},
+                                                                {app::Panel::ElapsedTime, "ElapsedTime"},
+                                                                {app::Panel::Progress, "Progress"}};
+        panels_[panel] = text;
+        transcript_.Add("panel " + names.at(panel) + ": " + std::string(text));
+    }
+    void SetProgressRange(int last) override { transcript_.Add("range: " + std::to_string(last)); }
+    void SetProgress(int value) override { transcript_.Add("progress: " + std::to_string(value)); }
+    void RunPendingEvents() override {
+        transcript_.Add("events");
+        if (onPendingEvents)
+            onPendingEvents();
+    }
+
+  private:
+    app::Answer Ask(std::string_view text) {
+        transcript_.Add("ask: " + std::string(text));
+        if (answers.empty()) {
+            ADD_FAILURE() << "no answer is scripted for: " << text;
+            return app::Answer::Cancel;
+        }
+        const app::Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    Transcript& transcript_;
+    std::map<app::Panel, std::string> panels_;
+};
+
+}  // namespace tavrene::test
