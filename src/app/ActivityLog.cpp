@@ -51,10 +51,13 @@ void ActivityLog::Log(std::string_view kind, std::string_view message, ShowInSta
     }
 }
 
-void ActivityLog::TolerateFailures(bool tolerate) {
-    tolerant_ = tolerate;
-    if (tolerate)
-        failedLines_ = 0;
+ToleratedLogFailures::ToleratedLogFailures(ActivityLog& log)
+    : log_(log), before_(log.failedLines_), wasTolerant_(log.tolerant_) {
+    log_.tolerant_ = true;
+}
+
+ToleratedLogFailures::~ToleratedLogFailures() {
+    log_.tolerant_ = wasTolerant_;
 }
 
 }  // namespace tavrene::app

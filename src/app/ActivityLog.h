@@ -24,12 +24,8 @@ class ActivityLog {
     void LogProfileEvent(std::string_view message, ShowInStatusBar show = ShowInStatusBar::No);
     void LogProcessEvent(std::string_view message, ShowInStatusBar show = ShowInStatusBar::No);
 
-    /// While set, a line that cannot be written costs that line only and is counted instead of thrown: a run
-    /// goes on without its log. Setting starts the count anew.
-    void TolerateFailures(bool tolerate);
-    int FailedLines() const { return failedLines_; }
-
   private:
+    friend class ToleratedLogFailures;
     void Log(std::string_view kind, std::string_view message, ShowInStatusBar show);
 
     Files& files_;
@@ -38,6 +34,24 @@ class ActivityLog {
     std::string logFolder_;
     bool tolerant_ = false;
     int failedLines_ = 0;
+};
+
+/// While one lives, a line that cannot be written costs that line only and is counted instead of thrown, so
+/// that work goes on without its log.
+class ToleratedLogFailures {
+  public:
+    explicit ToleratedLogFailures(ActivityLog& log);
+    ~ToleratedLogFailures();
+    ToleratedLogFailures(const ToleratedLogFailures&) = delete;
+    ToleratedLogFailures& operator=(const ToleratedLogFailures&) = delete;
+
+    /// Lines lost since this object was made.
+    int LostLines() const { return log_.failedLines_ - before_; }
+
+  private:
+    ActivityLog& log_;
+    int before_;
+    bool wasTolerant_;
 };
 
 /// `utf8` in Windows-1252; a character that it lacks, or a broken sequence, becomes `?`.

@@ -1,0 +1,86 @@
+#include "profiles/XmlFile.h"
+
+#include <charconv>
+#include <set>
+#include <sstream>
+
+namespace tavrene::profiles {
+namespace {
+
+class AttributeCheck final : public pugi::xml_tree_walker {
+  public:
+    bool for_each(pugi::xml_node& node) override {
+        std::set<std::string_view> names;
+        for (const pugi::xml_attribute attribute : node.attributes()) {
+            if (!names.insert(attribute.name()).second)
+                throw DocumentError(std::string("the attribute ") + attribute.name() +
+                                    " stands twice in one element");
+        }
+        return true;
+    }
+};
+
+void CheckTopLevel(const pugi::xml_document& document, Declaration declaration) {
+    pugi::xml_node node = document.first_child();
+    if (declaration == Declaration::Allowed && node.type() == pugi::node_declaration)
+        node = node.next_sibling();
+    if (!node)
+        throw DocumentError("the document is empty");
+    if (node.type() != pugi::node_element)
+        throw DocumentError("something stands before the root element");
+    for (node = node.next_sibling(); node; node = node.next_sibling()) {
+        if (node.type() != pugi::node_comment && node.type() != pugi::node_pi)
+            throw DocumentError("something stands behind the root element");
+    }
+}
+
+}  // namespace
+
+pugi::xml_document ReadXml(const app::Files& files, const std::string& path, Declaration declaration) {
+    const app::Bytes content = files.Read(path);
+    pugi::xml_document document;
+    // As a fragment the library keeps text beside the root element instead of passing over it in silence.
+    const pugi::xml_parse_result result =
+        document.load_buffer(content.data(), content.size(), pugi::parse_full | pugi::parse_fragment);
+    if (content.empty())
+        throw DocumentError("the file is empty");
+    if (!result)
+        throw DocumentError(std::string("it is not XML (") + result.description() + " at byte " +
+                            std::to_string(result.offset) + ")");
+    CheckTopLevel(document, declaration);
+    AttributeCheck check;
+    document.traverse(check);
+    return document;
+}
+
+void WriteXml(app::Files& files, const std::string& path, const pugi::xml_document& document,
+              XmlLayout layout) {
+    std::ostringstream text;
+    if (layout == XmlLayout::Raw)
+        document.save(text, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    else
+        document.save(text);
+    files.Write(path, app::AsBytes(text.str()));
+}
+
+std::int16_t RequiredNumber(const pugi::xml_node& element, const char* attribute) {
+    const pugi::xml_attribute found = element.attribute(attribute);
+    const std::string place = std::string("the attribute ") + attribute + " of " + element.name();
+    if (!found)
+        throw DocumentError(place + " is missing");
+    const std::string_view text = found.value();
+    std::int16_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size())
+        throw DocumentError(place + " is \"" + std::string(text) + "\", which is no whole number of 16 bits");
+    return value;
+}
+
+pugi::xml_node RequiredChild(const pugi::xml_node& element, const char* name) {
+    const pugi::xml_node child = element.child(name);
+    if (!child)
+        throw DocumentError(std::string("the element ") + name + " is missing");
+    return child;
+}
+
+}  // namespace tavrene::profiles
