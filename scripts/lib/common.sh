@@ -15,7 +15,7 @@ missing_packages() {
     local wanted installed
     wanted=$(cat "$@" | sed 's/#.*//' | tr -s ' \t' '\n' | sed '/^$/d' | sort -u)
     # shellcheck disable=SC2086
-    installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' $wanted 2>/dev/null |
+    installed=$({ dpkg-query -W -f='${db:Status-Status} ${Package}\n' $wanted 2>/dev/null || true; } |
         sed -n 's/^installed //p' | sort -u)
     comm -23 <(printf '%s\n' "$wanted") <(printf '%s\n' "$installed")
 }
