@@ -1,0 +1,116 @@
+#include "recognition/MarkReading.h"
+
+#include <algorithm>
+
+#include "app/Numeric.h"
+#include "recognition/FormScale.h"
+#include "recognition/SampleBoxes.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using profiles::OmrBox;
+using profiles::ProfileRecord;
+
+// Ink this close to the printed outline is left out of the count: it may be the outline's own blur.
+constexpr int kBorder = 4;
+
+// The shift along one axis as a line through the two extreme sampled boxes.
+struct AxisSpread {
+    double low = 0;  // the smallest ordinate of the sampled boxes
+    double shiftAtLow = 0;
+    double slope = 0;
+
+    // Boxes beyond the low extreme are shifted against the slope; this rule is kept with all documents read
+    // so far.
+    std::int16_t ShiftAt(std::int16_t ordinate) const {
+        const double away = (ordinate - low) * slope;
+        return app::RoundToInt16(ordinate <= low ? shiftAtLow - away : away + shiftAtLow);
+    }
+};
+
+template <typename Ordinate, typename Shift>
+AxisSpread SpreadAlong(const std::vector<std::size_t>& sample, Ordinate ordinate, Shift shift,
+                       const char* sharedLine) {
+    std::size_t low = sample.front();
+    std::size_t high = sample.front();
+    for (const std::size_t index : sample) {
+        if (ordinate(index) < ordinate(low))
+            low = index;
+        if (ordinate(index) > ordinate(high))
+            high = index;
+    }
+    const double distance = ordinate(high) - ordinate(low);
+    if (distance == 0)
+        throw ReadingError(std::string("the sampled boxes of the profile all lie in one ") + sharedLine +
+                           ", so the page's shift cannot be spread");
+    return {static_cast<double>(ordinate(low)), static_cast<double>(shift(low)),
+            (shift(high) - shift(low)) / distance};
+}
+
+GridRect PlaceOf(const imaging::WorkGrid& grid, const OmrBox& box, const FormScale& scale,
+                 const BoxShift& shift) {
+    const double height = grid.Rows();
+    const auto row = [&](std::int16_t ordinate) {
+        return app::RoundToInt(imaging::FlipVertically(height, scale.Y(ordinate)) + shift.dy);
+    };
+    const auto column = [&](std::int16_t ordinate) { return app::RoundToInt(scale.X(ordinate) + shift.dx); };
+    return {row(box.T), column(box.L), row(box.B), column(box.R)};
+}
+
+imaging::PageRect OnPage(const imaging::WorkGrid& grid, const GridRect& place) {
+    return {static_cast<double>(place.col0),
+            static_cast<double>(imaging::FlipVertically(grid.Rows(), place.row1)),
+            static_cast<double>(place.col1 - place.col0), static_cast<double>(place.row1 - place.row0)};
+}
+
+double FillOf(const imaging::WorkGrid& grid, const GridRect& place, const std::string& name) {
+    const std::int64_t width = std::int64_t{place.col1} - place.col0 - 1;
+    const std::int64_t height = std::int64_t{place.row1} - place.row0 - 1;
+    const std::int16_t area = app::WrapToInt16(width * height);
+    if (area == 0)
+        throw ReadingError("the box " + name + " has no area that could be read");
+    const std::int64_t ink = CountInk(
+        grid, {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder});
+    return static_cast<double>(ink * 100) / area;
+}
+
+}  // namespace
+
+void SpreadShifts(const ProfileRecord& profile, std::span<BoxShift> shifts) {
+    const std::vector<std::size_t> sample = SampleBoxes(profile.Boxes.size());
+    const auto left = [&profile](std::size_t index) { return int{profile.Boxes[index].L}; };
+    const auto top = [&profile](std::size_t index) { return int{profile.Boxes[index].T}; };
+    const AxisSpread alongX = SpreadAlong(
+        sample, left, [&shifts](std::size_t index) { return shifts[index].dx; }, "column");
+    const AxisSpread alongY = SpreadAlong(
+        sample, top, [&shifts](std::size_t index) { return shifts[index].dy; }, "row");
+    for (std::size_t k = 0; k < profile.Boxes.size(); ++k)
+        shifts[k] = {alongX.ShiftAt(profile.Boxes[k].L), alongY.ShiftAt(profile.Boxes[k].T)};
+}
+
+int CountInk(const imaging::WorkGrid& grid, const GridRect& rect) {
+    const int firstColumn = std::max(0, rect.col0);
+    const int lastColumn = std::min(grid.Width() - 1, rect.col1);
+    const int lastRow = std::min(grid.Rows() - 1, rect.row1);
+    int count = 0;
+    for (int row = std::max(0, rect.row0); row <= lastRow; ++row)
+        count += grid.CountInkInRow(row, firstColumn, lastColumn);
+    return count;
+}
+
+std::vector<MarkReading> ReadMarks(const imaging::Page& page, const ProfileRecord& profile,
+                                   std::span<const BoxShift> shifts, std::int16_t fillThreshold) {
+    const FormScale scale = ScaleBetween(page, profile);
+    std::vector<MarkReading> readings;
+    readings.reserve(profile.Boxes.size());
+    for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
+        const OmrBox& box = profile.Boxes[k];
+        const GridRect place = PlaceOf(page.grid, box, scale, shifts[k]);
+        const double fill = FillOf(page.grid, place, box.Name);
+        readings.push_back({box.Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
+    }
+    return readings;
+}
+
+}  // namespace tavrene::recognition

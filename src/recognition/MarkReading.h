@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "imaging/PageReader.h"
+#include "imaging/PageRects.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/Outline.h"
+#include "recognition/ShiftSpiral.h"
+
+namespace tavrene::recognition {
+
+/// Arithmetic that a profile makes impossible; `what()` says why in plain words.
+class ReadingError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One box as it was read.
+struct MarkReading {
+    std::string Name;
+    BoxShift Shift;
+    imaging::PageRect rect;  ///< Where the box lies on the image: page frame, image pixels.
+    double fill = 0;         ///< Ink of the inner part in percent of the whole interior.
+    bool Checked = false;
+};
+
+/// Fills `shifts` (one a box) from those of the sampled boxes: linear between the leftmost and the rightmost,
+/// and between the lowest and the highest sampled box. Throws `ReadingError` when the sampled boxes share one
+/// column or one row.
+void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> shifts);
+
+/// Ink cells in the rectangle (grid frame, inclusive) after it is clamped to the picture; 0 when that leaves
+/// nothing.
+int CountInk(const imaging::WorkGrid& grid, const GridRect& rect);
+
+/// Reads every box of the profile, in its order, at its shifted place. Checked when the fill reaches
+/// `fillThreshold` percent. Throws `ReadingError` for a box without interior.
+std::vector<MarkReading> ReadMarks(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                                   std::span<const BoxShift> shifts, std::int16_t fillThreshold);
+
+}  // namespace tavrene::recognition

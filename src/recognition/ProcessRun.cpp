@@ -1,0 +1,235 @@
+#include "recognition/ProcessRun.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <utility>
+#include <vector>
+
+#include "profiles/ProfileLoader.h"
+#include "recognition/Classification.h"
+#include "recognition/ResultDocument.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using app::Panel;
+using app::ShowInStatusBar;
+using profiles::ProfileRecord;
+
+// Holds a flag for as long as it lives.
+class Raised {
+  public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+  private:
+    bool& flag_;
+};
+
+}  // namespace
+
+// What came of one file, as far as showing and moving it need to know.
+struct ProcessRun::FileOutcome {
+    std::vector<MarkReading> readings;
+    std::vector<ResultMark> marks;  // read back from the written document
+    bool hasResult = false;
+    std::optional<app::Bytes>
+        replacedResult;  // the earlier document of that name, as long as the image is not moved
+};
+
+ProcessRun::ProcessRun(const RunDoors& doors, const app::Settings& settings,
+                       const app::WorkingFolders& folders)
+    : doors_(doors),
+      settings_(settings),
+      folders_(folders),
+      loader_(doors.files, doors.log, doors.person, folders.Temp) {}
+
+bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
+    if (profiles.empty()) {
+        doors_.person.ShowMessage("", "No Profiles to match images against!");
+        return false;
+    }
+    if (profiles::CountActive(profiles) == 0) {
+        doors_.person.ShowMessage(
+            "",
+            "None of your Profiles are active! Activate a Profile by checking the PROFILE "
+            "ACTIVE checkbox and clicking the SAVE button.");
+        return false;
+    }
+    return true;
+}
+
+void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
+    const app::ToleratedLogFailures tolerated(doors_.log);
+    const Raised running(running_);
+    stop_ = false;
+    filesDone_ = 0;
+    currentName_.clear();
+    const double start = doors_.clock.Seconds();
+    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    doors_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
+    doors_.view.Clear();
+    doors_.rects.ClearRects();
+    doors_.rows.ClearRows();
+    doors_.rows.AddValColumn();
+    TakeFiles(profiles);
+    doors_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
+    Finish(start, tolerated.LostLines());
+}
+
+std::vector<std::string> ProcessRun::ListImages() {
+    try {
+        return doors_.files.List(folders_.ProcessIn, "*");
+    } catch (const app::FileError& error) {
+        doors_.log.LogProcessEvent(error.what());
+        doors_.person.ShowMessage("", error.what());
+        return {};
+    }
+}
+
+void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
+    const std::vector<std::string> names = ListImages();
+    doors_.person.SetProgressRange(static_cast<int>(names.size()));
+    for (std::size_t next = 0; next < names.size() && !stop_;) {
+        currentName_ = names[next];
+        const bool moved = TakeFile(currentName_, profiles);
+        if (settings_.ProcessSingle)
+            return;
+        if (moved)
+            LogAbout(currentName_, "Processing complete");
+        ++next;
+        currentName_ = next < names.size() ? names[next] : std::string();
+        doors_.person.SetProgress(++filesDone_);
+        doors_.person.RunPendingEvents();
+    }
+}
+
+bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord> profiles) {
+    const bool display = settings_.DisplayDuringProcess;
+    doors_.person.SetPanel(Panel::File, name);
+    if (display) {
+        doors_.rects.ClearRects();
+        doors_.rows.ClearRows();
+        doors_.view.SetZoom(100);
+    }
+    FileOutcome outcome;
+    try {
+        outcome = Recognise(name, profiles);
+    } catch (const std::exception& error) {
+        LogAbout(name, error.what());
+    }
+    if (display)
+        ShowPage(outcome);
+    return MoveToProcessOut(name, outcome);
+}
+
+ProcessRun::FileOutcome ProcessRun::Recognise(const std::string& name,
+                                              std::span<const ProfileRecord> profiles) {
+    FileOutcome outcome;
+    if (!loader_.LoadImageForProcessing(folders_.ProcessIn + name))
+        return outcome;
+    const imaging::Page& page = loader_.CurrentPage();
+    Classification classification = ClassifyImage(name, page, profiles, doors_.log);
+    if (classification.winner < 0)
+        return outcome;
+    const auto winner = static_cast<std::size_t>(classification.winner);
+    ProfileMatch& match = classification.matches[winner];
+    SpreadShifts(profiles[winner], match.Shifts);
+    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    SaveResult(name, profiles[winner], match.Confidence, outcome);
+    return outcome;
+}
+
+void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profile, std::int16_t confidence,
+                            FileOutcome& outcome) {
+    const std::string path = ResultPath(folders_.ProcessOut, name);
+    if (doors_.files.FileExists(path))
+        outcome.replacedResult = doors_.files.Read(path);
+    SaveResultDocument(doors_.files, path, {profile.Name, name, "0", confidence}, outcome.readings);
+    outcome.hasResult = true;
+    outcome.marks = ReadResultMarks(doors_.files, path);
+    if (outcome.replacedResult)
+        LogAbout(name, "Result replaces the earlier " + app::FileName(path));
+}
+
+void ProcessRun::ShowPage(const FileOutcome& outcome) {
+    if (loader_.DisplayCopy().empty())
+        doors_.view.Clear();
+    else
+        doors_.view.ShowFile(loader_.DisplayCopy());
+    for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
+        const int number = static_cast<int>(k) + 1;
+        const ResultMark& mark = outcome.marks[k];
+        doors_.rects.DrawRect(number, outcome.readings[k].rect,
+                              mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
+        doors_.rows.AddRow(number, mark.Name, mark.Checked ? "1" : "0");
+    }
+    doors_.view.Refresh();
+}
+
+// A move that fails leaves image and results as they were before this file was taken.
+bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& outcome) {
+    std::optional<app::Bytes> outdated;
+    try {
+        if (!outcome.hasResult)
+            outdated = RemoveOutdatedResult(name);
+        doors_.files.Move(folders_.ProcessIn + name, folders_.ProcessOut + name);
+        return true;
+    } catch (const std::exception& error) {
+        LogAbout(name, error.what());
+    }
+    try {
+        if (outcome.hasResult || outdated)
+            TakeBackResult(name, outcome.hasResult ? outcome.replacedResult : outdated);
+    } catch (const std::exception& error) {
+        LogAbout(name, error.what());
+    }
+    return false;
+}
+
+void ProcessRun::TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier) {
+    const std::string path = ResultPath(folders_.ProcessOut, name);
+    if (earlier)
+        doors_.files.Write(path, *earlier);
+    else
+        doors_.files.Delete(path);
+}
+
+// An image without a result must not lie beside the marks of the image that it replaces.
+std::optional<app::Bytes> ProcessRun::RemoveOutdatedResult(const std::string& name) {
+    const std::string path = ResultPath(folders_.ProcessOut, name);
+    if (!doors_.files.FileExists(folders_.ProcessOut + name) || !doors_.files.FileExists(path) ||
+        ImageOfResult(doors_.files, path) != name)
+        return std::nullopt;
+    std::optional<app::Bytes> content = doors_.files.Read(path);
+    doors_.files.Delete(path);
+    LogAbout(name, "Replaces an earlier image, whose result " + app::FileName(path) + " is removed");
+    return content;
+}
+
+void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
+    doors_.log.LogProcessEvent(name + ": " + what);
+}
+
+void ProcessRun::Finish(double start, int lostLogLines) {
+    doors_.person.SetProgress(0);
+    const long seconds = std::lround(doors_.clock.Seconds() - start);
+    if (stop_) {
+        doors_.log.LogProcessEvent("Processing interrupted by user", ShowInStatusBar::Yes);
+        doors_.person.ShowMessage("Stop Tavrene Process", "Process interrupted by user");
+    } else {
+        LogAbout(currentName_, "Processing complete");
+    }
+    const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";
+    doors_.person.SetPanel(Panel::ElapsedTime, summary);
+    doors_.log.LogProcessEvent("Processed " + summary);
+    if (lostLogLines > 0)
+        doors_.person.ShowMessage("", std::to_string(lostLogLines) +
+                                          " lines could not be written to the process log in " +
+                                          folders_.Log);
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "app/ActivityLog.h"
+#include "app/Clock.h"
+#include "app/Files.h"
+#include "app/Operator.h"
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "imaging/ImageLoader.h"
+#include "imaging/PageRects.h"
+#include "imaging/PageView.h"
+#include "profiles/BoxRows.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/MarkReading.h"
+
+namespace tavrene::recognition {
+
+/// What a run needs of the world; everything must outlive it.
+struct RunDoors {
+    app::Files& files;
+    app::ActivityLog& log;
+    app::Operator& person;
+    const app::Clock& clock;
+    imaging::PageView& view;
+    imaging::PageRects& rects;
+    profiles::BoxRows& rows;
+};
+
+/// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
+/// and moves it to `ProcessOut`. Whatever fails for one file is logged and the run goes on.
+class ProcessRun {
+  public:
+    /// The settings are asked anew for every file; the folders are those of the window.
+    ProcessRun(const RunDoors& doors, const app::Settings& settings, const app::WorkingFolders& folders);
+
+    /// False, after telling the operator why, when there is no profile to match images against.
+    bool MayStart(std::span<const profiles::ProfileRecord> profiles);
+
+    /// Runs until the folder is done, after one file when `ProcessSingle` is on, or until `Stop`. Lets the
+    /// screen take events once a file.
+    void Run(std::span<const profiles::ProfileRecord> profiles);
+
+    /// Ends the run before its next file; the current one is finished.
+    void Stop() { stop_ = true; }
+
+    bool IsRunning() const { return running_; }
+
+  private:
+    struct FileOutcome;
+
+    std::vector<std::string> ListImages();
+    void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
+    bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
+    FileOutcome Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
+    void SaveResult(const std::string& name, const profiles::ProfileRecord& profile, std::int16_t confidence,
+                    FileOutcome& outcome);
+    void ShowPage(const FileOutcome& outcome);
+    bool MoveToProcessOut(const std::string& name, const FileOutcome& outcome);
+    void TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier);
+    std::optional<app::Bytes> RemoveOutdatedResult(const std::string& name);
+    void LogAbout(const std::string& name, const std::string& what);
+    void Finish(double start, int lostLogLines);
+
+    RunDoors doors_;
+    const app::Settings& settings_;
+    const app::WorkingFolders& folders_;
+    imaging::ImageLoader loader_;
+    bool running_ = false;
+    bool stop_ = false;
+    int filesDone_ = 0;
+    std::string currentName_;
+};
+
+}  // namespace tavrene::recognition
