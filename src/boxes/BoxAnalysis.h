@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "app/Settings.h"
+#include "boxes/LineSeg.h"
+#include "imaging/WorkGrid.h"
+
+namespace tavrene::boxes {
+
+/// One assembled rectangle, in the grid frame: `T` is the lower row, `B` the higher one.
+struct BoxRect {
+    std::int16_t L = 0;
+    std::int16_t T = 0;
+    std::int16_t R = 0;
+    std::int16_t B = 0;
+    std::int16_t Kind = 0;   ///< Sides that assembly had to create; 0 when all four were printed.
+    std::int16_t Valid = 0;  ///< -1 kept, 0 dropped.
+    std::int16_t Mark = 0;   ///< -1 when a created side has little ink under it.
+    bool operator==(const BoxRect&) const = default;
+};
+
+/// The limits on a box's sides, in pixels of the image.
+struct BoxSizes {
+    std::int16_t BoxMinWidth = 0;
+    std::int16_t BoxMaxWidth = 0;
+    std::int16_t BoxMinHeight = 0;
+    std::int16_t BoxMaxHeight = 0;
+};
+
+BoxSizes SizesOf(const app::Settings& settings);
+
+/// How far apart two segments may lie and still be looked at together. The window takes the reaches when it
+/// loads and keeps them, whatever sizes are set later.
+struct PairReach {
+    int X = 0;
+    int Y = 0;
+};
+
+PairReach ReachFor(const BoxSizes& sizes);
+
+/// All that the steps of box finding share. Each step works in place.
+struct BoxAnalysis {
+    BoxAnalysis(imaging::WorkGrid page, const BoxSizes& boxSizes, const PairReach& pairReach);
+
+    BoxSizes Sizes;
+    PairReach Reach;
+    imaging::WorkGrid WorkGrid;
+    imaging::WorkGrid SaveGrid;  ///< Starts as a copy of the page before any gap is closed.
+    std::vector<bool> RowSkip;   ///< Rows without a run long enough for a box side.
+    std::vector<bool> ColSkip;   ///< Columns likewise; one entry a padded column.
+    std::vector<LineSeg> Segments;
+    std::vector<LineSeg> LongLines;
+    std::vector<LineGroup> Groups;
+    std::vector<BoxRect> Boxes;
+};
+
+}  // namespace tavrene::boxes

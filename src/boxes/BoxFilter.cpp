@@ -1,0 +1,118 @@
+#include "boxes/BoxFilter.h"
+
+#include <cstdlib>
+#include <map>
+#include <set>
+#include <tuple>
+
+namespace tavrene::boxes {
+namespace {
+
+constexpr int kCandidateReach = 2;
+constexpr int kKeepReach = 3;
+
+// A box of which all sides were printed says more about the sizes of the form than one that was completed.
+constexpr int kWholeVote = 4;
+constexpr int kCompletedVote = 1;
+
+// Fewer boxes than this are letters by chance, not a second kind of box; the same for a share this small.
+constexpr int kSecondSizeVotes = 3 * kWholeVote;
+constexpr int kSecondSizeShare = 8;
+
+bool Within(BoxSize a, BoxSize b, int reach) {
+    return std::abs(a.Width - b.Width) <= reach && std::abs(a.Height - b.Height) <= reach;
+}
+
+// One entry a size that occurs, with its votes.
+using SizeTable = std::map<std::pair<int, int>, int>;
+
+SizeTable CountSizes(const std::vector<BoxRect>& boxes) {
+    SizeTable table;
+    for (const BoxRect& box : boxes) {
+        const BoxSize size = SizeOf(box);
+        if (box.Valid != 0)
+            table[{size.Width, size.Height}] += box.Kind == 0 ? kWholeVote : kCompletedVote;
+    }
+    return table;
+}
+
+struct Choice {
+    BoxSize Size;
+    int Votes = 0;
+};
+
+int VotesAround(const SizeTable& table, BoxSize size) {
+    int votes = 0;
+    for (int width = size.Width - kCandidateReach; width <= size.Width + kCandidateReach; ++width) {
+        const auto end = table.upper_bound({width, size.Height + kCandidateReach});
+        for (auto entry = table.lower_bound({width, size.Height - kCandidateReach}); entry != end; ++entry)
+            votes += entry->second;
+    }
+    return votes;
+}
+
+// The size with the most votes within two pixels of it; among equals the one with the most of its own.
+Choice MostVoted(const SizeTable& table) {
+    Choice best;
+    int bestOwn = 0;
+    for (const auto& [key, own] : table) {
+        const BoxSize size{key.first, key.second};
+        const int votes = VotesAround(table, size);
+        if (std::tie(votes, own) > std::tie(best.Votes, bestOwn)) {
+            best = {size, votes};
+            bestOwn = own;
+        }
+    }
+    return best;
+}
+
+class Filter {
+  public:
+    explicit Filter(const ReferenceSizes& sizes) : sizes_(sizes) {}
+
+    // Boxes are judged from the last to the first, so that those already judged are the later ones.
+    bool Keeps(const BoxRect& box) {
+        const bool repeated = !seen_.insert({box.L, box.T, box.R, box.B}).second;
+        const BoxSize size = SizeOf(box);
+        if (box.Valid == 0 || size.Height < 1 || size.Width < 1)
+            return box.Valid != 0;
+        if (IsNearReference(size, kCandidateReach))
+            return !repeated;
+        return box.Mark == 0 && IsNearReference(size, kKeepReach);
+    }
+
+  private:
+    bool IsNearReference(BoxSize size, int reach) const {
+        return Within(size, sizes_.MostCommon, reach) || Within(size, sizes_.Second, reach);
+    }
+
+    ReferenceSizes sizes_;
+    std::set<std::tuple<int, int, int, int>> seen_;
+};
+
+}  // namespace
+
+BoxSize SizeOf(const BoxRect& box) {
+    return {std::abs(box.R - box.L), std::abs(box.B - box.T)};
+}
+
+ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes) {
+    SizeTable table = CountSizes(boxes);
+    const Choice common = MostVoted(table);
+    std::erase_if(table, [&](const auto& entry) {
+        return Within({entry.first.first, entry.first.second}, common.Size, kKeepReach);
+    });
+    const Choice second = MostVoted(table);
+    const bool isReal = second.Votes >= kSecondSizeVotes && second.Votes * kSecondSizeShare >= common.Votes;
+    return {common.Size, isReal ? second.Size : common.Size};
+}
+
+void FilterBoxes(BoxAnalysis& analysis) {
+    std::vector<BoxRect>& boxes = analysis.Boxes;
+    Filter filter(ChooseReferenceSizes(boxes));
+    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box)
+        box->Valid = filter.Keeps(*box) ? std::int16_t{-1} : std::int16_t{0};
+    std::erase_if(boxes, [](const BoxRect& box) { return box.Valid == 0; });
+}
+
+}  // namespace tavrene::boxes

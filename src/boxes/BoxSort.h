@@ -1,0 +1,13 @@
+#pragma once
+
+#include <vector>
+
+#include "boxes/BoxAnalysis.h"
+
+namespace tavrene::boxes {
+
+/// Orders boxes from the top of the page down, and from left to right within a row, by their lower row and
+/// left column. Boxes that agree in both may come in any order. `width` is that of the image.
+void SortBoxes(std::vector<BoxRect>& boxes, int width);
+
+}  // namespace tavrene::boxes

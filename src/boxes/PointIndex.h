@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace tavrene::boxes {
+
+/// Bounds of a window, in columns and rows, all inclusive. Empty when an upper bound is below its lower one.
+struct Window {
+    int Left;
+    int Bottom;
+    int Right;
+    int Top;
+
+    bool Contains(int x, int y) const { return x >= Left && x <= Right && y >= Bottom && y <= Top; }
+};
+
+/// Numbers at points of the page, kept in square cells so that those near a place are found without a walk
+/// over all. A point may move; its number stays.
+class PointIndex {
+  public:
+    /// Points may lie anywhere; those outside 0 to `width` and 0 to `height` share the cells at the rim.
+    /// `cellSize` (at least 1) should be about the size of the windows asked for.
+    PointIndex(int width, int height, int cellSize);
+
+    void Add(int number, int x, int y);
+    void Move(int number, int fromX, int fromY, int toX, int toY);
+
+    /// Calls `visit(number)` for the points of every cell that the window touches, in no order; points
+    /// outside the window may be among them.
+    template <typename Visit>
+    void VisitNear(const Window& window, Visit visit) const {
+        if (window.Right < window.Left || window.Top < window.Bottom)
+            return;
+        const int lastColumn = CellColumn(window.Right);
+        const int lastRow = CellRow(window.Top);
+        for (int row = CellRow(window.Bottom); row <= lastRow; ++row) {
+            for (int column = CellColumn(window.Left); column <= lastColumn; ++column) {
+                for (const int number : cells_[CellAt(column, row)])
+                    visit(number);
+            }
+        }
+    }
+
+  private:
+    int CellColumn(int x) const;
+    int CellRow(int y) const;
+    std::size_t CellAt(int column, int row) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+               static_cast<std::size_t>(column);
+    }
+    std::vector<int>& CellOf(int x, int y) { return cells_[CellAt(CellColumn(x), CellRow(y))]; }
+
+    int cellSize_;
+    int columns_;
+    int rows_;
+    std::vector<std::vector<int>> cells_;
+};
+
+}  // namespace tavrene::boxes

@@ -1,0 +1,36 @@
+#include "boxes/SegmentIndex.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace tavrene::boxes {
+namespace {
+
+// Near the usual reaches, so that a window touches about nine cells.
+constexpr int kCellSize = 32;
+
+}  // namespace
+
+SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int height)
+    : segments_(segments), horizontal_(width, height, kCellSize), vertical_(width, height, kCellSize) {
+    int number = 0;
+    for (const LineSeg& segment : segments) {
+        (segment.IsVertical() ? vertical_ : horizontal_).Add(number++, segment.L, segment.T);
+        widest_ = std::max(widest_, std::abs(segment.R - segment.L));
+        highest_ = std::max(highest_, std::abs(segment.B - segment.T));
+    }
+}
+
+const std::vector<int>& SegmentIndex::Find(Orientation orientation, const Window& window) {
+    found_.clear();
+    const PointIndex& index = orientation == Orientation::Vertical ? vertical_ : horizontal_;
+    index.VisitNear(window, [&](int number) {
+        const LineSeg& segment = segments_[static_cast<std::size_t>(number)];
+        if (window.Contains(segment.L, segment.T))
+            found_.push_back(number);
+    });
+    std::sort(found_.begin(), found_.end());
+    return found_;
+}
+
+}  // namespace tavrene::boxes

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+#include "boxes/BoxAnalysis.h"
+#include "boxes/PointIndex.h"
+
+namespace tavrene::boxes {
+
+/// The segments of a list by orientation and by their `L` and `T`. The list may grow behind it, but its
+/// segments must not move.
+class SegmentIndex {
+  public:
+    /// `width` and `height` are those of the page.
+    SegmentIndex(const std::vector<LineSeg>& segments, int width, int height);
+
+    /// List indices, ascending, of the segments of one orientation whose (`L`, `T`) lies in the window. The
+    /// list is reused by the next call.
+    const std::vector<int>& Find(Orientation orientation, const Window& window);
+
+    /// The largest |`R` - `L`| and |`B` - `T`| of the list.
+    int WidestSpan() const { return widest_; }
+    int HighestSpan() const { return highest_; }
+
+  private:
+    const std::vector<LineSeg>& segments_;
+    PointIndex horizontal_;
+    PointIndex vertical_;
+    int widest_ = 0;
+    int highest_ = 0;
+    std::vector<int> found_;
+};
+
+}  // namespace tavrene::boxes
