@@ -1,0 +1,43 @@
+#include "ui/Composition.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+
+#include "app/Startup.h"
+#include "ui/QtText.h"
+#include "ui/SettingsDialog.h"
+
+namespace tavrene::ui {
+namespace {
+
+QString ConfigFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
+}
+
+}  // namespace
+
+void PrepareApplication() {
+    QApplication::setApplicationName(ToQt(app::kApplicationName));
+    QApplication::setApplicationVersion(TAVRENE_VERSION);
+    QApplication::setStyle("Fusion");
+    // A dialog of start-up that closes before there is a window must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Composition::Composition()
+    : store_(ConfigFolder()), instance_(ConfigFolder() + '/' + ToQt(app::kApplicationName)) {}
+
+bool Composition::Start() {
+    const app::StartupDoors doors = {
+        store_, files_, [this] { return instance_.Become(); },
+        [this](app::Settings& settings) { SettingsDialog(settings, store_, files_, nullptr).exec(); },
+        [this] {
+            window_ = std::make_unique<MainWindow>(settings_, WindowDoors{store_, files_, clock_});
+            window_->Load();
+            window_->show();
+            QApplication::setQuitOnLastWindowClosed(true);
+        }};
+    return app::RunStartup(settings_, doors);
+}
+
+}  // namespace tavrene::ui

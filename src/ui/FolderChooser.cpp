@@ -1,0 +1,116 @@
+#include "ui/FolderChooser.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kIndent = 3;
+
+// Mounted file systems that can hold folders of a person; what the system mounts for itself is left out.
+QStringList Drives() {
+    QStringList drives = {QDir::rootPath()};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        const QString root = volume.rootPath();
+        const bool real = volume.isRoot() || volume.device().startsWith("/dev/");
+        if (volume.isReady() && real && QFileInfo(root).isDir() && !drives.contains(root))
+            drives.append(root);
+    }
+    return drives;
+}
+
+QString NearestExisting(const QString& folder) {
+    QString path = QDir::cleanPath(QDir(folder).absolutePath());
+    while (!QFileInfo(path).isDir() && path != QFileInfo(path).path())
+        path = QFileInfo(path).path();
+    return path;
+}
+
+// From the root down to `folder` itself.
+QStringList Lineage(const QString& folder) {
+    QStringList lineage = {folder};
+    while (QFileInfo(lineage.front()).path() != lineage.front())
+        lineage.prepend(QFileInfo(lineage.front()).path());
+    return lineage;
+}
+
+bool LiesOn(const QString& folder, const QString& drive) {
+    return folder == drive || folder.startsWith(drive.endsWith('/') ? drive : drive + '/');
+}
+
+}  // namespace
+
+FolderChooser::FolderChooser() : drives_(new QComboBox), folders_(new QListWidget), path_(new QLabel) {
+    drives_->setObjectName("Drive1");
+    drives_->setAccessibleName("Drive");
+    folders_->setObjectName("Dir1");
+    folders_->setAccessibleName("Working folder");
+    path_->setObjectName("lblFolder");
+    path_->setTextFormat(Qt::PlainText);
+    path_->setWordWrap(true);
+    path_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(drives_);
+    layout->addWidget(folders_, 1);
+    layout->addWidget(path_);
+    FillDrives();
+    GoTo(QDir::currentPath());
+    connect(drives_, &QComboBox::activated, this, [this] { GoTo(drives_->currentData().toString()); });
+    connect(folders_, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* row) { GoTo(row->data(Qt::UserRole).toString()); });
+}
+
+void FolderChooser::GoTo(const QString& folder) {
+    current_ = NearestExisting(folder);
+    FillFolders();
+    path_->setText(QDir::toNativeSeparators(current_));
+    int best = 0;
+    for (int i = 1; i < drives_->count(); ++i) {
+        const QString drive = drives_->itemData(i).toString();
+        if (LiesOn(current_, drive) && drive.size() > drives_->itemData(best).toString().size())
+            best = i;
+    }
+    drives_->setCurrentIndex(best);
+}
+
+void FolderChooser::FillDrives() {
+    const QStringList drives = Drives();
+    for (const QString& drive : drives)
+        drives_->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon), QDir::toNativeSeparators(drive),
+                         drive);
+}
+
+void FolderChooser::FillFolders() {
+    folders_->clear();
+    const QStringList lineage = Lineage(current_);
+    for (int depth = 0; depth < lineage.size(); ++depth) {
+        const QString name = QFileInfo(lineage[depth]).fileName();
+        AddRow(name.isEmpty() ? lineage[depth] : name, lineage[depth], depth);
+    }
+    QListWidgetItem* const here = folders_->item(folders_->count() - 1);
+    QFont bold = folders_->font();
+    bold.setBold(true);
+    here->setFont(bold);
+    const QStringList children =
+        QDir(current_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    for (const QString& child : children)
+        AddRow(child, QDir(current_).filePath(child), static_cast<int>(lineage.size()));
+    folders_->setCurrentItem(here);
+    folders_->scrollToItem(here, QAbstractItemView::PositionAtCenter);
+}
+
+void FolderChooser::AddRow(const QString& text, const QString& path, int depth) {
+    const bool open = LiesOn(current_, path);
+    auto* const row =
+        new QListWidgetItem(QString(static_cast<qsizetype>(depth) * kIndent, ' ') + text, folders_);
+    row->setIcon(style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirIcon));
+    row->setData(Qt::UserRole, path);
+    row->setToolTip(QDir::toNativeSeparators(path).toHtmlEscaped());
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,148 @@
+#include "ui/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QSplitter>
+#include <utility>
+
+#include "imaging/Bitmap.h"
+#include "ui/ProfilePane.h"
+#include "ui/QtText.h"
+#include "ui/SettingsDialog.h"
+#include "ui/commands/SettingsCommand.h"
+#include "ui/commands/WindowLoad.h"
+
+namespace tavrene::ui {
+namespace {
+
+using commands::Command;
+
+// What the window remembers about itself lies beside the settings, in a group of its own.
+constexpr std::string_view kWindowSection = "Window";
+
+QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
+    return QByteArray::fromBase64(
+        ToQt(store.ReadSettingValue(app::kApplicationName, kWindowSection, name)).toLatin1());
+}
+
+void WriteShape(app::SettingsStore& store, std::string_view name, const QByteArray& shape) {
+    store.WriteSettingValue(app::kApplicationName, kWindowSection, name, shape.toBase64().toStdString());
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
+    : doors_(doors),
+      state_(commands::InitialState(settings)),
+      panels_(new StatusPanels(this)),
+      splitter_(new QSplitter(this)),
+      view_(new ImageView(doors.files, this)),
+      boxes_(new BoxListView(this)),
+      operator_(*this, *panels_),
+      log_(doors.files, doors.clock, operator_, state_.folders.Log),
+      run_({doors.files, log_, operator_, doors.clock, *view_, *view_, *boxes_}, state_.settings,
+           state_.folders),
+      gate_(operator_, state_.processing),
+      processing_(
+          state_, run_, [this] { UpdateCommands(); }, [this] { close(); }),
+      toolbars_(*this, [this](Command command) { gate_.Run(command); }) {
+    setObjectName("frmTavrene");
+    setWindowTitle(ToQt(app::kApplicationName));
+    BuildLayout();
+    ConnectViewCommands();
+    ConnectCommands();
+    UpdateCommands();
+    RestoreShape();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildLayout() {
+    splitter_->setObjectName("Splitter1");
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setHandleWidth(1);
+    auto* const profiles = new ProfilePane(this);
+    profiles->setMinimumWidth(150);
+    boxes_->setMinimumWidth(180);
+    view_->setMinimumWidth(300);
+    splitter_->addWidget(profiles);
+    splitter_->addWidget(view_);
+    splitter_->addWidget(boxes_);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setSizes({180, 640, 220});
+    setCentralWidget(splitter_);
+    setStatusBar(panels_);
+    setMinimumSize(800, 560);
+    resize(1024, 700);
+}
+
+void MainWindow::ConnectViewCommands() {
+    gate_.SetHandler(Command::ZoomToOrig, [this] { view_->ZoomToOriginal(); });
+    gate_.SetHandler(Command::ZoomIn, [this] { view_->ZoomIn(); });
+    gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
+    gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
+    gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+}
+
+void MainWindow::ConnectCommands() {
+    gate_.SetHandler(Command::Process, [this] { processing_.Process(); });
+    gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
+    gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
+    gate_.SetHandler(Command::About, [this] { ShowAbout(); });
+    gate_.SetHandler(Command::Exit, [this] { close(); });
+    gate_.SetAfterwards([this] {
+        UpdateCommands();
+        processing_.CloseIfWaiting();
+    });
+}
+
+void MainWindow::UpdateCommands() {
+    toolbars_.Update([this](Command command) { return gate_.Offers(command); });
+}
+
+void MainWindow::Load() {
+    commands::LoadWindow(state_, {doors_.files, log_, operator_, &imaging::ImageLibraryVersion}, gate_);
+}
+
+void MainWindow::ShowSettings() {
+    commands::ShowSettings(state_.settings, operator_, [this](app::Settings& settings) {
+        SettingsDialog(settings, doors_.store, doors_.files, this).exec();
+    });
+}
+
+void MainWindow::ShowAbout() {
+    QMessageBox::about(this, "About " + ToQt(app::kApplicationName),
+                       "<h3>" + ToQt(app::kApplicationName) +
+                           "</h3><p>Version " TAVRENE_VERSION
+                           "</p><p>Reads the check boxes of scanned paper forms.</p>");
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    gate_.Guard([this, event] {
+        if (!processing_.MayClose())
+            return;
+        RememberShape();
+        event->accept();
+    });
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::RestoreShape() {
+    restoreGeometry(ReadShape(doors_.store, "Geometry"));
+    splitter_->restoreState(ReadShape(doors_.store, "Splitter"));
+}
+
+void MainWindow::RememberShape() {
+    WriteShape(doors_.store, "Geometry", saveGeometry());
+    WriteShape(doors_.store, "Splitter", splitter_->saveState());
+}
+
+}  // namespace tavrene::ui

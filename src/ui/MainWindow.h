@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "app/ActivityLog.h"
+#include "app/Clock.h"
+#include "app/Files.h"
+#include "app/SettingsStore.h"
+#include "recognition/ProcessRun.h"
+#include "ui/BoxListView.h"
+#include "ui/ImageView.h"
+#include "ui/QtOperator.h"
+#include "ui/StatusPanels.h"
+#include "ui/Toolbars.h"
+#include "ui/commands/AppState.h"
+#include "ui/commands/CommandGate.h"
+#include "ui/commands/Processing.h"
+
+class QSplitter;
+
+namespace tavrene::ui {
+
+/// What the window needs of the world; everything must outlive it.
+struct WindowDoors {
+    app::SettingsStore& store;
+    app::Files& files;
+    const app::Clock& clock;
+};
+
+/// The working screen `frmTavrene`. It builds, lays out and forwards; what its commands do lies in
+/// ui/commands and below.
+class MainWindow final : public QMainWindow {
+  public:
+    MainWindow(const app::Settings& settings, const WindowDoors& doors);
+    ~MainWindow() override;
+
+    /// Tests the image library and loads the profiles; called once, before the window is shown.
+    void Load();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void BuildLayout();
+    void ConnectViewCommands();
+    void ConnectCommands();
+    void UpdateCommands();
+    void ShowSettings();
+    void ShowAbout();
+    void RestoreShape();
+    void RememberShape();
+
+    WindowDoors doors_;
+    commands::AppState state_;
+    StatusPanels* panels_;
+    QSplitter* splitter_;
+    ImageView* view_;
+    BoxListView* boxes_;
+    QtOperator operator_;
+    app::ActivityLog log_;
+    recognition::ProcessRun run_;
+    commands::CommandGate gate_;
+    commands::Processing processing_;
+    Toolbars toolbars_;
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+
+namespace tavrene::commands {
+
+/// The four bars of the settings dialog, by what they set.
+enum class Bar { MinWidth, MaxWidth, MinHeight, MaxHeight };
+inline constexpr std::array kAllBars = {Bar::MinWidth, Bar::MaxWidth, Bar::MinHeight, Bar::MaxHeight};
+
+/// Box sizes in image pixels.
+struct BoxSizes {
+    int minWidth = 0;
+    int maxWidth = 0;
+    int minHeight = 0;
+    int maxHeight = 0;
+    bool operator==(const BoxSizes&) const = default;
+};
+
+/// Positions of the four bars and the rules that tie them: a smallest size never exceeds its largest, and no
+/// height falls below 10. The bars of the heights stand upright with the lowest position on top, so they are
+/// inverted: height = 50 - position, and a thumb that moves up makes the box taller.
+class BoxSizeBars {
+  public:
+    static constexpr int kLowest = 10;
+    static constexpr int kHighest = 50;
+
+    /// Puts all four bars in place first and applies the rules then, so that sizes that fit each other are
+    /// kept whatever the bars showed before.
+    void SetSizes(const BoxSizes& sizes);
+
+    /// A bar was moved; it is corrected until its rule holds. The other bars stay.
+    void Move(Bar bar, int position);
+
+    int Position(Bar bar) const { return positions_[static_cast<std::size_t>(bar)]; }
+    BoxSizes Sizes() const;
+
+  private:
+    int& At(Bar bar) { return positions_[static_cast<std::size_t>(bar)]; }
+    void ApplyRule(Bar bar);
+
+    std::array<int, 4> positions_ = {16, 38, 16, 34};
+};
+
+/// The sizes that the bars' first positions stand for. The two heights come out swapped; a store without
+/// sizes gets them so.
+BoxSizes SizesOfFirstPositions();
+
+/// A box in the middle of a preview, in pixels of the preview, not rounded.
+struct PreviewBox {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+};
+PreviewBox BoxInPreview(int previewWidth, int previewHeight, int boxWidth, int boxHeight);
+
+}  // namespace tavrene::commands

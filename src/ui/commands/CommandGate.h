@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "app/Operator.h"
+#include "ui/commands/CommandTable.h"
+
+namespace tavrene::commands {
+
+/// The one way from the window's events to what they do. Keeps a run from being disturbed, and turns what
+/// goes wrong into a message instead of a crash.
+class CommandGate {
+  public:
+    /// `processing` tells whether a run goes on; both references must outlive the gate.
+    CommandGate(app::Operator& person, const bool& processing);
+
+    void SetHandler(Command command, std::function<void()> handler);
+
+    /// Called when a command or event has ended, well or not.
+    void SetAfterwards(std::function<void()> afterwards);
+
+    /// Whether the command's button is to be enabled: it has a handler, and during a run it is `Process` or
+    /// `Stop` (which are never in different states) or `Exit` (closing has a rule of its own for a run).
+    bool Offers(Command command) const;
+
+    /// Runs a command. During a run all but `Stop` and `Exit` are ignored.
+    void Run(Command command);
+
+    /// Runs what an event of the window asks for; an exception ends it with a message.
+    void Guard(const std::function<void()>& event);
+
+  private:
+    app::Operator& person_;
+    const bool& processing_;
+    std::map<Command, std::function<void()>> handlers_;
+    std::function<void()> afterwards_;
+};
+
+}  // namespace tavrene::commands

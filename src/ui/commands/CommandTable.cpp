@@ -1,0 +1,74 @@
+#include "ui/commands/CommandTable.h"
+
+#include <array>
+#include <cstddef>
+
+namespace tavrene::commands {
+namespace {
+
+using C = Command;
+using T = Toolbar;
+using M = Menu;
+using G = ButtonGroup;
+using S = StartState;
+
+// clang-format off
+constexpr std::array kCommands = {
+    CommandInfo{C::New, T::Main, "New", "Create New Profile",
+                M::File, "&New Profile...", "Ctrl+N", "New", G::None, S::Shown, false},
+    CommandInfo{C::Save, T::Main, "Save", "Save Current Profile",
+                M::File, "&Save Profile", "Ctrl+S", "Save", G::ProfileFile, S::Shown, false},
+    CommandInfo{C::DeleteProfile, T::Main, "Delete", "Delete Current Profile",
+                M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", G::ProfileFile, S::Shown, false},
+    CommandInfo{C::ZoomToOrig, T::Main, "ZoomToOrig", "Zoom To Original",
+                M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", G::View, S::Shown, true},
+    CommandInfo{C::ZoomIn, T::Main, "ZoomIn", "Zoom In",
+                M::View, "Zoom &In", "Ctrl++", "ZoomIn", G::View, S::Shown, false},
+    CommandInfo{C::ZoomOut, T::Main, "ZoomOut", "Zoom Out",
+                M::View, "Zoom O&ut", "Ctrl+-", "ZoomOut", G::View, S::Shown, false},
+    CommandInfo{C::FitPage, T::Main, "FitPage", "Fit Page",
+                M::View, "Fit &Page", "Ctrl+2", "FitPage", G::View, S::Shown, false},
+    CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
+                M::View, "Fit &Width", "Ctrl+3", "FitWidth", G::View, S::Shown, false},
+    CommandInfo{C::Process, T::Main, "Process",
+                "Start OMR recognition process of images from configured directory",
+                M::Process, "&Process", "F5", "Process", G::Processing, S::Shown, true},
+    CommandInfo{C::Stop, T::Main, "Stop", "Stop Process",
+                M::Process, "&Stop", "Shift+F5", "Stop", G::Processing, S::Shown, false},
+    CommandInfo{C::Review, T::Main, "Review", "Review Processed Forms",
+                M::Review, "&Review Forms", "F6", "Review", G::None, S::Toggle, true},
+    CommandInfo{C::Okay, T::Main, "Okay", "Reviewed OK",
+                M::Review, "Reviewed &OK", "Ctrl+Return", "Okay", G::None, S::Hidden, false},
+    CommandInfo{C::AcceptForm, T::Main, "AcceptForm", "Accept Form (Move to Final Folder)",
+                M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", G::None, S::Hidden, false},
+    CommandInfo{C::RejectForm, T::Main, "RejectForm", "Reject Form (Move to Reject Folder)",
+                M::Review, "Re&ject Form", "Ctrl+Shift+R", "RejectForm", G::None, S::Hidden, false},
+    CommandInfo{C::SelectBox, T::Cfg, "Select", "Select/Move/Modify OMR CheckBox",
+                M::Boxes, "&Select Box", "F7", "Select", G::BoxTools, S::Shown, false},
+    CommandInfo{C::AddBox, T::Cfg, "Add", "Create New OMR CheckBox",
+                M::Boxes, "&Add Box", "F8", "Add", G::BoxTools, S::Shown, false},
+    CommandInfo{C::DeleteBox, T::Cfg, "Delete", "Delete OMR CheckBox",
+                M::Boxes, "&Delete Box", "Ctrl+Del", "DeleteBox", G::BoxTools, S::Shown, false},
+    CommandInfo{C::Settings, T::None, "Settings", "Folder, box sizes and processing options",
+                M::File, "Se&ttings...", "Ctrl+,", "", G::None, S::Shown, true},
+    CommandInfo{C::Exit, T::None, "Exit", "Close the program",
+                M::File, "E&xit", "Ctrl+Q", "", G::None, S::Shown, true},
+    CommandInfo{C::About, T::None, "About", "Name and version of the program",
+                M::Help, "&About...", "F1", "", G::None, S::Shown, false},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const CommandInfo> CommandTable() {
+    return kCommands;
+}
+
+const CommandInfo& InfoOf(Command command) {
+    for (const CommandInfo& info : kCommands)
+        if (info.command == command)
+            return info;
+    return kCommands.front();
+}
+
+}  // namespace tavrene::commands

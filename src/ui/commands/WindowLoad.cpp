@@ -1,0 +1,43 @@
+#include "ui/commands/WindowLoad.h"
+
+#include <exception>
+
+#include "profiles/ProfileLoader.h"
+
+namespace tavrene::commands {
+namespace {
+
+constexpr int kReachBeyondBox = 6;
+
+bool CanCallImageLibrary(const std::function<std::string()>& version) {
+    try {
+        return !version().empty();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+AppState InitialState(const app::Settings& settings) {
+    AppState state;
+    state.settings = settings;
+    state.folders = app::PathsUnder(settings.WorkDir);
+    return state;
+}
+
+void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate) {
+    if (!CanCallImageLibrary(doors.imageLibraryVersion)) {
+        constexpr std::string_view kText = "FreeImage is not available";
+        gate.Guard([&] { doors.log.LogProfileEvent(kText); });
+        gate.Guard([&] { doors.person.ShowMessage("", kText); });
+    }
+    gate.Guard([&] {
+        state.profiles =
+            profiles::LoadActiveProfiles(doors.files, doors.log, doors.person, state.folders.Profiles);
+    });
+    state.reach.PairReachX = state.settings.BoxMaxWidth + kReachBeyondBox;
+    state.reach.PairReachY = state.settings.BoxMaxHeight + kReachBeyondBox;
+}
+
+}  // namespace tavrene::commands
