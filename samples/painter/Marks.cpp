@@ -78,12 +78,12 @@ void DrawTick(Canvas& canvas, Random& random, const MarkArea& box, const Pen& pe
 }
 
 void DrawCross(Canvas& canvas, Random& random, const MarkArea& box, const Pen& pen) {
-    const std::vector<Point> falling = {Within(random, box, 0.08, 0.10, 0.12),
-                                        Within(random, box, 0.50, 0.50, 0.08),
-                                        Within(random, box, 0.92, 0.92, 0.12)};
-    const std::vector<Point> rising = {Within(random, box, 0.90, 0.06, 0.12),
-                                       Within(random, box, 0.52, 0.50, 0.08),
-                                       Within(random, box, 0.10, 0.94, 0.12)};
+    const std::vector<Point> falling = {Within(random, box, 0.05, 0.06, 0.16),
+                                        Within(random, box, 0.50, 0.50, 0.10),
+                                        Within(random, box, 0.95, 0.98, 0.16)};
+    const std::vector<Point> rising = {Within(random, box, 0.96, 0.00, 0.16),
+                                       Within(random, box, 0.52, 0.48, 0.10),
+                                       Within(random, box, 0.04, 0.98, 0.16)};
     DrawStroke(canvas, random, falling, pen);
     DrawStroke(canvas, random, rising, pen);
 }
@@ -124,17 +124,27 @@ void DrawRing(Canvas& canvas, Random& random, const MarkArea& box, const Pen& pe
 
 void DrawHandwriting(Canvas& canvas, Random& random, Point origin, double length, double height,
                      const Pen& pen) {
+    constexpr int kPlaces = 8;  // per letter
+    constexpr double kSlant = 0.3;
     double x = origin.x;
     while (x < origin.x + length) {
         std::vector<Point> word;
-        const double wordEnd = x + height * random.Between(3, 6);
-        for (double up = 1.9; x < wordEnd; up = random.Chance(0.2) ? 1.8 : random.Between(0.7, 1.1)) {
-            word.push_back({x, origin.y - height * up});
-            word.push_back({x + height * random.Between(0.1, 0.3), origin.y + height * random.Wobble(0.15)});
-            x += height * random.Between(0.35, 0.75);
+        const auto letters = 2 + random.Next() % 7;
+        for (std::uint64_t letter = 0; letter < letters; ++letter) {
+            const double kind = random.Between(0, 1);
+            const double up = height * (kind < 0.22 ? 1.9 : kind < 0.3 ? -0.9 : random.Between(0.75, 1.05));
+            const double width = height * random.Between(0.4, 0.8);
+            const double loop = height * random.Between(0.0, 0.4);
+            for (int k = 0; k < kPlaces; ++k) {
+                const double angle = 2 * std::numbers::pi * k / kPlaces;
+                const double rise = up * (1 - std::cos(angle)) / 2;
+                word.push_back(
+                    {x + width * k / kPlaces - loop * std::sin(angle) + kSlant * rise, origin.y - rise});
+            }
+            x += width;
         }
         DrawStroke(canvas, random, word, pen);
-        x += height * 0.8;
+        x += height;
     }
 }
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "painter/Canvas.h"
+#include "painter/Random.h"
+
+namespace tavrene::samples {
+
+/// How a page lies on the scanner's glass and what the scanner makes of it.
+struct ScanSettings {
+    int Dpi = 200;
+    double ShiftX = 0;  ///< Pixels of the scan, to the right.
+    double ShiftY = 0;  ///< Pixels of the scan, downwards.
+    double StretchX = 1;
+    double StretchY = 1;
+    double SkewDegrees = 0;  ///< Clockwise, about the middle of the page.
+    double Noise = 0;        ///< Largest error of a grey value.
+    int Specks = 0;
+};
+
+/// A colour by its three grey values.
+struct Tint {
+    Shade Red = kBlack;
+    Shade Green = kBlack;
+    Shade Blue = kBlack;
+};
+
+/// The page at the scan's resolution, as large as an unmoved scan; what lies beyond the page is white. Every
+/// pixel is the mean of the paper below it. Noise and specks are not added here.
+Canvas TakeScan(const Canvas& page, const ScanSettings& settings);
+
+/// One channel of a scan from print and pen: paper of grey value `paper`, black print, ink of grey value
+/// `ink`.
+Canvas Develop(const Canvas& print, const Canvas& pen, Shade paper, Shade ink);
+
+/// Shakes every grey value by up to `noise`.
+void AddNoise(Canvas& scan, Random& random, double noise);
+
+}  // namespace tavrene::samples
