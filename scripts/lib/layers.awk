@@ -13,6 +13,7 @@ BEGIN {
     # The rooms that know a library.
     knows["Qt"] = " ui "
     knows["FreeImage"] = " imaging "
+    knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "
     knows["platform"] = " app imaging ui "
     faults = 0
@@ -49,6 +50,8 @@ function library(header) {
         return "Qt"
     if (header ~ /^FreeImage/)
         return "FreeImage"
+    if (header ~ /^tiff/)
+        return "libtiff"
     if (header ~ /^pugi/)
         return "pugixml"
     if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|windows|io)\.h$/)
