@@ -1,6 +1,7 @@
 #include "imaging/Bitmap.h"
 
 #include <FreeImage.h>
+#include <tiffio.h>
 
 #include <cmath>
 #include <cstring>
@@ -15,6 +16,12 @@ struct CloseMemory {
     void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
 };
 using Memory = std::unique_ptr<FIMEMORY, CloseMemory>;
+
+// Damaged scans are told of in the log and on the screen, not on the console.
+void SilenceLibraries() {
+    TIFFSetErrorHandler(nullptr);
+    TIFFSetWarningHandler(nullptr);
+}
 
 }  // namespace
 
@@ -81,6 +88,7 @@ void MakeInkDark(Bitmap& bitmap) {
 }
 
 Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decode extent) {
+    SilenceLibraries();
     // The library does not write to the memory that it reads from.
     auto* const bytes = const_cast<BYTE*>(reinterpret_cast<const BYTE*>(content.data()));
     const Memory memory(FreeImage_OpenMemory(bytes, static_cast<DWORD>(content.size())));
@@ -89,6 +97,7 @@ Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decod
 }
 
 app::Bytes EncodeGroup4Tiff(const Bitmap& bitmap) {
+    SilenceLibraries();
     const Memory memory(FreeImage_OpenMemory());
     BYTE* data = nullptr;
     DWORD size = 0;

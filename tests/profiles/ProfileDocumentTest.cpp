@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include "profiles/ProfileDocument.h"
+#include "profiles/ProfileLoader.h"
+#include "profiles/XmlFile.h"
+#include "support/FakeClock.h"
+#include "support/FakeOperator.h"
+#include "support/FaultyFiles.h"
+#include "support/TempFolder.h"
+#include "support/TestForm.h"
+
+namespace tavrene::profiles {
+namespace {
+
+class ProfileDocumentTest : public ::testing::Test {
+  protected:
+    std::vector<ProfileRecord> Load() {
+        return LoadActiveProfiles(files_, log_, person_, folder_.Path() + "/");
+    }
+
+    std::string ProfileLog() const {
+        return test::ReadText(folder_.File("TavreneBoxes-Profile-20240305.Log"));
+    }
+
+    void WriteProfile(const std::string& fileName, const std::string& text) {
+        test::WriteText(folder_.File(fileName), text);
+    }
+
+    test::TempFolder folder_;
+    test::Transcript transcript_;
+    test::FakeOperator person_{transcript_};
+    test::FaultyFiles files_;
+    test::FakeClock clock_;
+    app::ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
+};
+
+OmrBox Box(const std::string& name, std::int16_t left) {
+    OmrBox box;
+    box.Name = name;
+    box.L = left;
+    box.T = 340;
+    box.R = static_cast<std::int16_t>(left + 32);
+    box.B = 371;
+    return box;
+}
+
+TEST_F(ProfileDocumentTest, CreatesAndRewritesTheDocumentOnOneLine) {
+    const std::string path = folder_.File("Form.Tvp");
+    const std::vector<OmrBox> found = {Box("Un-named-1", 100), Box("Un-named-2", 200)};
+    const std::string omrs = ComposeOmrs(found, 2);
+    EXPECT_EQ(omrs,
+              "<OMRs Count=\"2\">\r\n<OMR ID=\"1\" L=\"100\" T=\"340\" R=\"132\" B=\"371\" "
+              "Name=\"Un-named-1\"/>\r\n"
+              "<OMR ID=\"2\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Un-named-2\"/>\r\n</OMRs>\r\n");
+    SaveProfileDocument(files_, path,
+                        CreateProfileDocument({"Form", "/scans/a & b.tif", 200, 196, true}, omrs));
+    EXPECT_EQ(
+        test::ReadText(path),
+        "<Tavrene Profile=\"Form\" Image=\"/scans/a &amp; b.tif\" DPI_X=\"200\" DPI_Y=\"196\" Active=\"1\">"
+        "<OMRs Count=\"2\"><OMR ID=\"1\" L=\"100\" T=\"340\" R=\"132\" B=\"371\" Name=\"Un-named-1\"/>"
+        "<OMR ID=\"2\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Un-named-2\"/></OMRs></Tavrene>");
+
+    pugi::xml_document document = LoadProfileDocument(files_, path);
+    std::vector<OmrBox> boxes = ReadProfileContent(document).Boxes;
+    EXPECT_EQ(boxes, found);
+    boxes[0].Checked = false;
+    boxes.push_back(Box("größer ja/nein", 300));
+    UpdateProfileDocument(document, false, ComposeOmrs(boxes, 2));
+    SaveProfileDocument(files_, path, document);
+    EXPECT_EQ(
+        test::ReadText(path),
+        "<Tavrene Profile=\"Form\" Image=\"/scans/a &amp; b.tif\" DPI_X=\"200\" DPI_Y=\"196\" Active=\"0\">"
+        "<OMRs Count=\"2\"><OMR ID=\"1\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Un-named-2\"/>"
+        "<OMR ID=\"2\" L=\"300\" T=\"340\" R=\"332\" B=\"371\" Name=\"größer ja/nein\"/></OMRs></Tavrene>");
+    EXPECT_EQ(ComposeOmrs({}, 0), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
+}
+
+TEST_F(ProfileDocumentTest, NamesTheBoxWhoseNameCannotBeWritten) {
+    for (const std::string bad : {"say \"yes\"", "a<b", "R&D"}) {
+        const std::vector<OmrBox> boxes = {Box("fine", 100), Box(bad, 200)};
+        try {
+            ComposeOmrs(boxes, 2);
+            ADD_FAILURE() << bad;
+        } catch (const DocumentError& error) {
+            EXPECT_NE(std::string(error.what()).find("box 2 (" + bad + ")"), std::string::npos)
+                << error.what();
+        }
+    }
+}
+
+TEST_F(ProfileDocumentTest, LeavesOutWhatCannotBeReadAndSaysWhy) {
+    const std::string good = test::TestForm::Grid(2, 2).ProfileText("Good");
+    const auto with = [&good](const std::string& from, const std::string& to) {
+        std::string text = good;
+        return text.replace(text.find(from), from.size(), to);
+    };
+    const std::vector<std::pair<std::string, std::string>> faults = {
+        {"", "empty"},
+        {"not xml at all", "before the root"},
+        {good.substr(0, good.size() - 12), "not XML"},
+        {"<?xml version=\"1.0\"?>" + good, "before the root"},
+        {"<!-- note -->" + good, "before the root"},
+        {"note " + good, "before the root"},
+        {good + "<Tavrene/>", "behind the root"},
+        {"<Other/>", "not Tavrene"},
+        {"<Tavrene DPI_X=\"1\" DPI_Y=\"1\"/>", "element OMRs is missing"},
+        {with(" DPI_Y=\"200\"", ""), "DPI_Y of Tavrene is missing"},
+        {with(" Count=\"4\"", ""), "Count of OMRs is missing"},
+        {with(" L=\"60\"", ""), "L of OMR is missing"},
+        {with("T=\"70\"", "T=\"12px\""), "T of OMR is \"12px\""},
+        {with("R=\"84\"", "R=\"40000\""), "R of OMR is \"40000\""},
+        {with("B=\"94\"", "B=\"94\" B=\"95\""), "B stands twice"}};
+    for (std::size_t k = 0; k < faults.size(); ++k)
+        WriteProfile("fault" + std::to_string(100 + k) + ".tvp", faults[k].first);
+    WriteProfile("good.tvp", good);
+    const std::vector<ProfileRecord> loaded = Load();
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].Name, "good");
+    const std::string log = ProfileLog();
+    for (std::size_t k = 0; k < faults.size(); ++k) {
+        const std::size_t line = log.find("fault" + std::to_string(100 + k) + ".tvp is left out: ");
+        ASSERT_NE(line, std::string::npos) << faults[k].second;
+        const std::string reason = log.substr(line, log.find("\r\n", line) - line);
+        EXPECT_NE(reason.find(faults[k].second), std::string::npos) << reason;
+    }
+}
+
+TEST_F(ProfileDocumentTest, LoadsProfilesInListingOrderForRecognition) {
+    const test::TestForm form = test::TestForm::Grid(2, 2);
+    WriteProfile("beta.TVP", form.ProfileText("x"));
+    WriteProfile("Alpha.Tvp", form.ProfileText("x", false));
+    WriteProfile(".hidden.tvp", form.ProfileText("x"));
+    WriteProfile("notes.txt", "no profile");
+    std::string odd = form.ProfileText("x");
+    odd.replace(odd.find("T=\"70\" R=\"84\" B=\"94\""), 20,
+                "T=\"94\" R=\"84\" B=\"70\"");  // the other way up
+    odd.replace(odd.find("Count=\"4\""), 9, "Count=\"3\"");
+    odd.replace(odd.find("Active=\"1\""), 10, "Active=\"true\"");
+    odd.replace(odd.find(" Name=\"Q2\""), 10, "");
+    WriteProfile("gamma.tvp", odd);
+
+    const std::vector<ProfileRecord> loaded = Load();
+    ASSERT_EQ(loaded.size(), 3U);
+    EXPECT_EQ(loaded[0].Name, "Alpha");
+    EXPECT_EQ(loaded[1].FileName, "beta.TVP");
+    EXPECT_TRUE(loaded[1].Active);
+    EXPECT_FALSE(loaded[0].Active || loaded[2].Active);
+    EXPECT_EQ(loaded[2].Boxes.size(), 3U);
+    EXPECT_EQ(loaded[2].Boxes[1].Name, "");
+    for (const ProfileRecord& profile : loaded) {
+        EXPECT_EQ(profile.Boxes[0].T, 94);
+        EXPECT_EQ(profile.Boxes[0].B, 70);
+        EXPECT_EQ(profile.Boxes[0].ExpectedOutline, 2 * (24 + 24) - 4);
+    }
+    EXPECT_EQ(loaded[0].Extent.L, 60);
+    EXPECT_EQ(loaded[0].Extent.T, 94);
+    EXPECT_EQ(loaded[0].Extent.R, 138);
+    EXPECT_EQ(loaded[0].Extent.B, 124);
+    EXPECT_EQ(person_.PanelText(app::Panel::File), "Profiles:3, Active:1");
+    EXPECT_EQ(transcript_.LinesOf("panel Message: "),
+              (std::vector<std::string>{"Loading profile " + folder_.File("Alpha.Tvp"),
+                                        "Loading profile " + folder_.File("beta.TVP"),
+                                        "Loading profile " + folder_.File("gamma.tvp"), "Ready"}));
+    EXPECT_EQ(ProfileLog(),
+              "02:05:09 PM Loaded Profile: Alpha.Tvp\r\n02:05:09 PM Loaded Profile: beta.TVP\r\n"
+              "02:05:09 PM Loaded Profile: gamma.tvp\r\n");
+}
+
+TEST_F(ProfileDocumentTest, LoadsWithoutLogAndWithoutFolder) {
+    WriteProfile("form.tvp", test::TestForm::Grid(2, 2).ProfileText("x"));
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "append"; };
+    EXPECT_EQ(Load().size(), 1U);
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "list"; };
+    EXPECT_TRUE(Load().empty());
+    EXPECT_EQ(person_.PanelText(app::Panel::File), "Profiles:0, Active:0");
+}
+
+}  // namespace
+}  // namespace tavrene::profiles

@@ -1,0 +1,164 @@
+#include "recognition/ProcessRun.h"
+#include "support/RunWorld.h"
+
+namespace tavrene {
+namespace {
+
+using test::ReadText;
+using test::TestForm;
+using test::WriteText;
+using Names = std::vector<std::string>;
+
+class ProcessRunTest : public test::RunWorld {
+  protected:
+    ProcessRunTest() { AddProfile("Form", form_); }
+
+    void AddScan(const std::string& name, const TestForm::Filling& filling = {}) {
+        form_.SaveScan(folders_.ProcessIn + name, filling);
+    }
+
+    bool LogHas(const std::string& line) const {
+        const Names lines = ProcessLog();
+        return std::find(lines.begin(), lines.end(), line) != lines.end();
+    }
+
+    TestForm form_ = TestForm::Grid(2, 2);
+};
+
+TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
+    AddScan("b.tif", {.checked = {2, 3}});
+    AddScan("A form & Co.TIF", {.checked = {1}, .dx = 4, .dy = -6});
+    TestForm::Grid(2, 2, 24, 300, 300).SaveScan(folders_.ProcessIn + "other.tif", {});
+    WriteText(folders_.ProcessIn + "form.tiff", "x");
+    WriteText(folders_.ProcessIn + ".hidden", "x");
+    files_.CreateFolder(folders_.ProcessIn + "sub");
+    clock_.tick = 7.4;
+    Process();
+
+    EXPECT_EQ(In(folders_.ProcessIn), Names());
+    EXPECT_EQ(In(folders_.ProcessOut),
+              (Names{"A form & Co.TIF", "A form & Co.xml", "b.tif", "b.xml", "form.tiff", "other.tif"}));
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml"),
+              "<?xml version=\"1.0\"?>\n"
+              "<Tavrene Profile=\"Form\" Image=\"b.tif\" Reviewed=\"0\" Confidence=\"100\">\n"
+              "\t<OMRs Count=\"4\">\n"
+              "\t\t<OMR Name=\"Q1\" Shift=\"0,0\" Checked=\"0\" />\n"
+              "\t\t<OMR Name=\"Q2\" Shift=\"0,0\" Checked=\"1\" />\n"
+              "\t\t<OMR Name=\"Q3\" Shift=\"0,0\" Checked=\"1\" />\n"
+              "\t\t<OMR Name=\"Q4\" Shift=\"0,0\" Checked=\"0\" />\n"
+              "\t</OMRs>\n"
+              "</Tavrene>\n");
+    EXPECT_NE(ReadText(folders_.ProcessOut + "A form & Co.xml").find("Image=\"A form &amp; Co.TIF\""),
+              std::string::npos);
+    EXPECT_EQ(
+        ProcessLog(),
+        (Names{"Processing started", "Image [A form & Co.TIF] classified as [Form] with confidence [100.00] ",
+               "A form & Co.TIF: Processing complete",
+               "Image [b.tif] classified as [Form] with confidence [100.00] ", "b.tif: Processing complete",
+               "form.tiff: Unrecognized File type", "form.tiff: Processing complete",
+               "Image [other.tif] unclassified", "other.tif: Processing complete", ": Processing complete",
+               "Processed 4 Files, 7 Sec."}));
+    EXPECT_EQ(transcript_.Lines(), (Names{"panel ElapsedTime: ",
+                                          "panel Message: Processing started",
+                                          "view: clear",
+                                          "rects: clear",
+                                          "rows: clear",
+                                          "rows: column Val",
+                                          "range: 4",
+                                          "panel File: A form & Co.TIF",
+                                          "progress: 1",
+                                          "events",
+                                          "panel File: b.tif",
+                                          "progress: 2",
+                                          "events",
+                                          "panel File: form.tiff",
+                                          "progress: 3",
+                                          "events",
+                                          "panel File: other.tif",
+                                          "progress: 4",
+                                          "events",
+                                          "panel File: Profiles:1, Active:1",
+                                          "progress: 0",
+                                          "panel ElapsedTime: 4 Files, 7 Sec."}));
+}
+
+TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {
+    settings_.DisplayDuringProcess = true;
+    AddScan("a.tif", {.checked = {4}, .dx = 2});
+    WriteText(folders_.ProcessIn + "b.tif", "no image");
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("rect: "), (Names{"1 62,70 24x24 unchecked", "2 116,70 24x24 unchecked",
+                                                    "3 62,124 24x24 unchecked", "4 116,124 24x24 checked"}));
+    EXPECT_EQ(transcript_.LinesOf("row: "), (Names{"1 Q1|0", "2 Q2|0", "3 Q3|0", "4 Q4|1"}));
+    EXPECT_EQ(transcript_.LinesOf("view: "),
+              (Names{"clear", "zoom 100", "show temp2.tif", "refresh", "zoom 100", "clear", "refresh"}));
+    EXPECT_EQ(transcript_.LinesOf("report: "), (Names{"[b.tif] Image not in bitmap format"}));
+}
+
+TEST_F(ProcessRunTest, TakesOneFileWhenToldTo) {
+    settings_.ProcessSingle = true;
+    for (const char* name : {"1.tif", "2.tif", "3.tif"})
+        AddScan(name);
+    Process();
+    EXPECT_EQ(In(folders_.ProcessIn), (Names{"2.tif", "3.tif"}));
+    EXPECT_EQ(ProcessLog(),
+              (Names{"Processing started", "Image [1.tif] classified as [Form] with confidence [100.00] ",
+                     "1.tif: Processing complete", "Processed 0 Files, 0 Sec."}));
+    EXPECT_TRUE(transcript_.LinesOf("events").empty());
+}
+
+TEST_F(ProcessRunTest, StopsBehindTheFileAtHand) {
+    for (const char* name : {"1.tif", "2.tif", "3.tif", "4.tif", "5.tif"})
+        AddScan(name);
+    int pages = 0;
+    person_.onPendingEvents = [this, &pages] {
+        EXPECT_TRUE(run_.IsRunning());
+        if (++pages == 3)
+            run_.Stop();
+    };
+    Process();
+    EXPECT_FALSE(run_.IsRunning());
+    EXPECT_EQ(In(folders_.ProcessIn), (Names{"4.tif", "5.tif"}));
+    EXPECT_EQ(transcript_.LinesOf("message: "),
+              (Names{"[Stop Tavrene Process] Process interrupted by user"}));
+    EXPECT_EQ(transcript_.LinesOf("panel Message: ").back(), "Processing interrupted by user");
+    EXPECT_TRUE(LogHas("Processing interrupted by user"));
+    EXPECT_FALSE(LogHas(": Processing complete"));
+    EXPECT_TRUE(LogHas("Processed 3 Files, 0 Sec."));
+
+    person_.onPendingEvents = nullptr;
+    Process();  // a stop belongs to the run that it stopped
+    EXPECT_EQ(In(folders_.ProcessIn), Names());
+}
+
+TEST_F(ProcessRunTest, DoesNotStartWithoutAnActiveProfile) {
+    AddScan("a.tif");
+    WriteText(folders_.Profiles + "Form.Tvp", form_.ProfileText("Form", false));
+    Process();
+    files_.Delete(folders_.Profiles + "Form.Tvp");
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("message: "), (Names{"[] No Profiles to match images against!"}));
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+    EXPECT_TRUE(ProcessLog().empty());
+}
+
+TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {
+    AddScan("a.tif", {.checked = {1}});
+    AddScan("b.tif", {.checked = {1}});
+    AddScan("c.tif", {.checked = {1}});
+    Process();
+    const std::string kept = ReadText(folders_.ProcessOut + "c.xml");
+    AddScan("a.tif", {.checked = {2}});
+    TestForm::Grid(1, 1).SaveScan(folders_.ProcessIn + "b.tif", {});  // no longer the form
+    WriteText(folders_.ProcessIn + "c.png", "no image; the result belongs to c.tif");
+    Process();
+    EXPECT_NE(ReadText(folders_.ProcessOut + "a.xml").find("Name=\"Q2\" Shift=\"0,0\" Checked=\"1\""),
+              std::string::npos);
+    EXPECT_TRUE(LogHas("a.tif: Result replaces the earlier a.xml"));
+    EXPECT_TRUE(LogHas("b.tif: Replaces an earlier image, whose result b.xml is removed"));
+    EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.tif", "a.xml", "b.tif", "c.png", "c.tif", "c.xml"}));
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "c.xml"), kept);
+}
+
+}  // namespace
+}  // namespace tavrene
