@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "app/ActivityLog.h"
+#include "support/FakeClock.h"
+#include "support/FakeOperator.h"
+#include "support/FaultyFiles.h"
+#include "support/TempFolder.h"
+
+namespace tavrene::app {
+namespace {
+
+class ActivityLogTest : public ::testing::Test {
+  protected:
+    test::TempFolder folder_;
+    test::Transcript transcript_;
+    test::FakeOperator person_{transcript_};
+    test::FaultyFiles files_;
+    test::FakeClock clock_;
+    ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
+};
+
+TEST_F(ActivityLogTest, WritesOneStampedLineAnEventIntoTheFileOfTheDay) {
+    clock_.now = {2024, 12, 31, 23, 59, 59};
+    log_.LogProcessEvent("last");
+    clock_.now = {2025, 1, 1, 0, 0, 0};
+    log_.LogProcessEvent("first", ShowInStatusBar::Yes);
+    clock_.now = {2025, 1, 1, 12, 0, 5};
+    log_.LogProcessEvent("");
+    log_.LogProfileEvent("profile");
+    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20241231.Log")), "11:59:59 PM last\r\n");
+    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20250101.Log")),
+              "12:00:00 AM first\r\n12:00:05 PM \r\n");
+    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Profile-20250101.Log")), "12:00:05 PM profile\r\n");
+    EXPECT_EQ(transcript_.Lines(), (std::vector<std::string>{"panel Message: first"}));
+}
+
+TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
+    log_.LogProcessEvent("Größe – 5 € \xE2\x96\xA1 \xF0\x9F\x99\x82 \xFF\xC3");
+    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20240305.Log")),
+              "02:05:09 PM Gr\xF6\xDF"
+              "e \x96 5 \x80 ? ? ??\r\n");
+}
+
+TEST_F(ActivityLogTest, PassesFailuresOnUnlessTheyAreTolerated) {
+    files_.refuse = [](const std::string&, const std::string&) { return true; };
+    EXPECT_THROW(log_.LogProcessEvent("lost", ShowInStatusBar::Yes), FileError);
+    EXPECT_EQ(person_.PanelText(Panel::Message), "lost");
+    {
+        const ToleratedLogFailures tolerated(log_);
+        log_.LogProcessEvent("lost");
+        log_.LogProfileEvent("lost");
+        EXPECT_EQ(tolerated.LostLines(), 2);
+    }
+    EXPECT_THROW(log_.LogProfileEvent("lost"), FileError);
+}
+
+}  // namespace
+}  // namespace tavrene::app

@@ -1,0 +1,266 @@
+#include <FreeImage.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "imaging/ImageHeader.h"
+#include "imaging/ImageLoader.h"
+#include "imaging/PageReader.h"
+#include "painter/ImageFiles.h"
+#include "support/FakeClock.h"
+#include "support/FakeOperator.h"
+#include "support/FaultyFiles.h"
+#include "support/TempFolder.h"
+
+namespace tavrene::imaging {
+namespace {
+
+using samples::Canvas;
+using samples::Photometric;
+using samples::SaveImage;
+
+class PageReaderTest : public ::testing::Test {
+  protected:
+    PageReaderTest() {
+        picture_.FillRect(3, 5, 20, 2);
+        picture_.FillRect(90, 40, 10, 20);
+        picture_.FillRect(40, 20, 9, 9, 100);  // dark enough
+        picture_.FillRect(60, 20, 9, 9, 200);  // too light
+    }
+
+    std::variant<Page, PageFault> Read(const std::string& name) {
+        return ReadPage(files_, folder_.File(name), FormatOfExtension(name).value());
+    }
+
+    // The page must be read and show the picture's dark pixels.
+    Page Expect(const std::string& name) {
+        std::variant<Page, PageFault> read = Read(name);
+        if (!std::holds_alternative<Page>(read)) {
+            ADD_FAILURE() << name << " is refused";
+            return {};
+        }
+        Page page = std::get<Page>(std::move(read));
+        EXPECT_EQ(page.grid.Width(), 100);
+        EXPECT_EQ(page.grid.Columns(), 128);
+        for (int y = 0; y < 60; ++y) {
+            for (int x = 0; x < 100; ++x)
+                EXPECT_EQ(page.grid.IsInk(x, 59 - y), picture_.At(x, y) < 128)
+                    << name << " at " << x << "," << y;
+        }
+        return page;
+    }
+
+    void Expect(const std::string& name, PageFault fault) {
+        const std::variant<Page, PageFault> read = Read(name);
+        ASSERT_TRUE(std::holds_alternative<PageFault>(read)) << name;
+        EXPECT_EQ(std::get<PageFault>(read), fault) << name;
+    }
+
+    // A one-bit picture with a two-entry palette of its own.
+    Bitmap WithPalette(RGBQUAD zero, RGBQUAD one, bool inkIsOne) const {
+        Bitmap bitmap =
+            samples::ToBilevel(picture_, inkIsOne ? Photometric::MinIsWhite : Photometric::MinIsBlack);
+        RGBQUAD* const palette = FreeImage_GetPalette(bitmap.Get());
+        palette[0] = zero;
+        palette[1] = one;
+        return bitmap;
+    }
+
+    test::TempFolder folder_;
+    test::FaultyFiles files_;
+    Canvas picture_{100, 60, 200};
+};
+
+TEST_F(PageReaderTest, FindsTheSameInkInEveryFileType) {
+    SaveImage(samples::ToBilevel(picture_), ImageFormat::Tiff, folder_.File("white.tif"));
+    SaveImage(samples::ToBilevel(picture_, Photometric::MinIsBlack), ImageFormat::Tiff,
+              folder_.File("black.TIF"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Png, folder_.File("grey.png"));
+    SaveImage(samples::ToColour(picture_, picture_, picture_), ImageFormat::Png, folder_.File("colour.PNG"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Gif, folder_.File("grey.gif"));
+    SaveImage(samples::ToBilevel(picture_), ImageFormat::Bmp, folder_.File("two.bmp"));
+    SaveImage(samples::ToColour(picture_, picture_, picture_), ImageFormat::Jpeg, folder_.File("photo.jpg"),
+              100);
+    for (const char* name : {"white.tif", "black.TIF", "grey.png", "colour.PNG", "two.bmp", "photo.jpg"}) {
+        const Page page = Expect(name);
+        EXPECT_EQ(page.DPI_X, 200) << name;
+        EXPECT_EQ(page.DPI_Y, 200) << name;
+    }
+    EXPECT_EQ(Expect("grey.gif").DPI_X, 0);
+    EXPECT_TRUE(Expect("black.TIF").inverted);
+    EXPECT_FALSE(Expect("white.tif").inverted);
+    EXPECT_EQ(FormatOfExtension("form.tiff"), std::nullopt);
+    EXPECT_EQ(FormatOfExtension("form"), std::nullopt);
+}
+
+TEST_F(PageReaderTest, TakesTheDarkerOfTwoPaletteColoursForInk) {
+    const RGBQUAD blue{120, 40, 20, 0};
+    const RGBQUAD cream{200, 240, 250, 0};
+    for (const ImageFormat format : {ImageFormat::Png, ImageFormat::Bmp}) {
+        const std::string extension = format == ImageFormat::Png ? ".png" : ".bmp";
+        SaveImage(WithPalette(cream, blue, true), format, folder_.File("one" + extension));
+        SaveImage(WithPalette(blue, cream, false), format, folder_.File("zero" + extension));
+        Expect("one" + extension);
+        Expect("zero" + extension);
+    }
+}
+
+TEST_F(PageReaderTest, ReadsAFaxPcx) {
+    std::string pcx(128, '\0');
+    pcx[0] = 10;
+    pcx[1] = 5;
+    pcx[2] = 1;
+    pcx[3] = 1;
+    pcx[8] = 99;   // last column
+    pcx[10] = 59;  // last line
+    pcx[65] = 1;
+    pcx[66] = 14;  // bytes a line
+    for (int y = 0; y < 60; ++y) {
+        for (int b = 0; b < 14; ++b) {
+            unsigned byte = 0;
+            for (int k = 0; k < 8; ++k)
+                byte = byte << 1U | (picture_.At(8 * b + k, y) < 128 ? 0U : 1U);
+            pcx += '\xC1';  // one byte, whatever it is
+            pcx += static_cast<char>(byte);
+        }
+    }
+    test::WriteText(folder_.File("fax.pcx"), pcx);
+    Expect("fax.pcx");
+}
+
+TEST_F(PageReaderTest, LaysTransparentPicturesOnWhite) {
+    Bitmap full(FreeImage_ConvertTo32Bits(samples::ToGrey(picture_).Get()));
+    for (unsigned y = 0; y < 60; ++y) {
+        for (unsigned x = 0; x < 100; ++x) {
+            RGBQUAD pixel;
+            FreeImage_GetPixelColor(full.Get(), x, y, &pixel);
+            // Clear paper is stored black, as many programs do.
+            const bool ink = pixel.rgbRed < 128;
+            pixel = {0, 0, 0, static_cast<BYTE>(ink ? 255 : 0)};
+            FreeImage_SetPixelColor(full.Get(), x, y, &pixel);
+        }
+    }
+    SaveImage(full, ImageFormat::Png, folder_.File("clear.png"));
+    Expect("clear.png");
+
+    Bitmap deep(FreeImage_ConvertToRGB16(samples::ToGrey(picture_).Get()));
+    SaveImage(deep, ImageFormat::Png, folder_.File("deep.png"));
+    Expect("deep.png");
+}
+
+TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
+    const Canvas unmeasured(100, 60, 0);
+    SaveImage(samples::ToGrey(unmeasured), ImageFormat::Png, folder_.File("a.png"));
+    SaveImage(samples::ToGrey(unmeasured), ImageFormat::Jpeg, folder_.File("a.jpg"));
+    // The library writes a density unit in any case; a camera's file may say "no unit".
+    std::string jpeg = test::ReadText(folder_.File("a.jpg"));
+    jpeg[jpeg.find("JFIF") + 7] = 0;
+    test::WriteText(folder_.File("a.jpg"), jpeg);
+    SaveImage(samples::ToBilevel(picture_), ImageFormat::Tiff, folder_.File("a.tif"));
+    std::string tiff = test::ReadText(folder_.File("a.tif"));
+    for (const char low : {'\x1A', '\x1B'}) {  // tags 282 and 283 become private ones
+        const std::size_t tag = tiff.find(std::string{low, '\x01', '\x05', '\0'});
+        ASSERT_NE(tag, std::string::npos);
+        tiff[tag + 1] = '\x71';
+    }
+    test::WriteText(folder_.File("a.tif"), tiff);
+    for (const char* name : {"a.png", "a.jpg", "a.tif"}) {
+        const std::variant<Page, PageFault> read = Read(name);
+        ASSERT_TRUE(std::holds_alternative<Page>(read)) << name;
+        EXPECT_EQ(std::get<Page>(read).DPI_X, 0) << name;
+        EXPECT_EQ(std::get<Page>(read).DPI_Y, 0) << name;
+    }
+}
+
+TEST_F(PageReaderTest, RefusesWhatIsNoPage) {
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Tiff, folder_.File("grey.tif"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Bmp, folder_.File("grey.bmp"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Png, folder_.File("png.tif"));
+    SaveImage(samples::ToBilevel({32'768, 2, 200}), ImageFormat::Tiff, folder_.File("wide.tif"));
+    SaveImage(samples::ToBilevel({2, 32'768, 200}), ImageFormat::Tiff, folder_.File("tall.tif"));
+    test::WriteText(folder_.File("empty.png"), "");
+    Expect("grey.tif", PageFault::TooManyColors);
+    Expect("grey.bmp", PageFault::TooManyColors);
+    for (const char* name : {"png.tif", "wide.tif", "tall.tif", "empty.png", "missing.gif"})
+        Expect(name, PageFault::NotABitmap);
+}
+
+std::string BigEndian(unsigned value) {
+    return {static_cast<char>(value >> 24U), static_cast<char>(value >> 16U), static_cast<char>(value >> 8U),
+            static_cast<char>(value)};
+}
+
+std::string PngChunk(const std::string& type, const std::string& data) {
+    std::string body = type + data;
+    const DWORD sum =
+        FreeImage_ZLibCRC32(0, reinterpret_cast<BYTE*>(body.data()), static_cast<DWORD>(body.size()));
+    return BigEndian(static_cast<unsigned>(data.size())) + body + BigEndian(sum);
+}
+
+TEST_F(PageReaderTest, AsksTheHeaderBeforeUnpackingABomb) {
+    const auto png = [](unsigned side) {
+        return "\x89PNG\r\n\x1A\n" +
+               PngChunk("IHDR", BigEndian(side) + BigEndian(side) + std::string("\x08\0\0\0\0", 5)) +
+               PngChunk("IDAT", "x");
+    };
+    EXPECT_TRUE(IsTooLarge(app::AsBytes(png(30'000)), ImageFormat::Png));
+    EXPECT_FALSE(IsTooLarge(app::AsBytes(png(3'000)), ImageFormat::Png));
+    const auto gif = [](char high) {
+        return "GIF89a" + std::string("\x10\0\x10\0\x80\0\0", 7) + std::string(6, 'c') +
+               std::string("\x21\xF9\x04\0\0\0\0\0", 8) + "\x2C" + std::string(4, '\0') +
+               std::string{'\0', high, '\0', high} + std::string(20, '\0');
+    };
+    EXPECT_TRUE(IsTooLarge(app::AsBytes(gif('\xF0')), ImageFormat::Gif));
+    EXPECT_FALSE(IsTooLarge(app::AsBytes(gif('\x04')), ImageFormat::Gif));
+}
+
+TEST_F(PageReaderTest, HeaderReadingSurvivesAnyBytes) {
+    SaveImage(samples::ToBilevel(picture_), ImageFormat::Tiff, folder_.File("a.tif"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Png, folder_.File("a.png"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Jpeg, folder_.File("a.jpg"));
+    SaveImage(samples::ToGrey(picture_), ImageFormat::Gif, folder_.File("a.gif"));
+    for (const char* name : {"a.tif", "a.png", "a.jpg", "a.gif"}) {
+        const std::string whole = test::ReadText(folder_.File(name));
+        for (std::size_t length = 0; length < whole.size(); length += 7) {
+            test::WriteText(folder_.File(name), whole.substr(0, length));
+            const std::variant<Page, PageFault> read = Read(name);  // a damaged file gives a page or a fault
+            if (const Page* const page = std::get_if<Page>(&read)) {
+                EXPECT_EQ(page->grid.Width(), 100) << name << " cut at " << length;
+            }
+        }
+    }
+}
+
+class ImageLoaderTest : public PageReaderTest {
+  protected:
+    test::Transcript transcript_;
+    test::FakeOperator person_{transcript_};
+    test::FakeClock clock_;
+    app::ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
+    ImageLoader loader_{files_, log_, person_, folder_.Path() + "/"};
+};
+
+TEST_F(ImageLoaderTest, KeepsDisplayCopiesOfTheCurrentImageOnly) {
+    SaveImage(samples::ToBilevel(picture_, Photometric::MinIsBlack), ImageFormat::Tiff,
+              folder_.File("scan.tif"));
+    SaveImage(samples::ToBilevel(Canvas(50, 50, 200)), ImageFormat::Tiff, folder_.File("blank.tif"));
+    ASSERT_TRUE(loader_.LoadImageForProcessing(folder_.File("scan.tif")));
+    EXPECT_EQ(loader_.DisplayCopy(), folder_.File("temp2.tif"));
+    const Page shown = Expect("temp2.tif");
+    EXPECT_FALSE(shown.inverted);
+    EXPECT_FALSE(Expect("temp.tif").inverted);
+
+    files_.Delete(folder_.File("temp.tif"));
+    ASSERT_TRUE(loader_.LoadImageForProcessing(folder_.File("blank.tif")));
+    EXPECT_EQ(std::get<Page>(Read("temp2.tif")).grid.Width(), 50);
+    EXPECT_FALSE(files_.FileExists(folder_.File("temp.tif")));
+
+    EXPECT_FALSE(loader_.LoadImageForProcessing(folder_.File("form.tiff")));
+    EXPECT_EQ(loader_.DisplayCopy(), "");
+    EXPECT_TRUE(transcript_.Lines().empty());
+    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20240305.Log")),
+              "02:05:09 PM form.tiff: Unrecognized File type\r\n");
+}
+
+}  // namespace
+}  // namespace tavrene::imaging
