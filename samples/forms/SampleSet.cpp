@@ -18,7 +18,7 @@ constexpr const char* kStaff = "StaffSurvey";
 constexpr Pen kBallPen{3.2, kBlack, 0};
 constexpr Pen kFeltPen{5.0, kBlack, 0};
 constexpr Pen kDryPen{3.0, 40, 0.25};
-constexpr Pen kPencil{3.6, 85, 0.12};
+constexpr Pen kPencil{3.4, 112, 0.2};
 
 Respondent By(Habit habit, std::uint64_t seed, const Pen& pen = kBallPen, double carelessness = 0.05) {
     return {.Marks = habit, .Seed = seed, .Tool = pen, .Carelessness = carelessness};
@@ -132,7 +132,7 @@ std::vector<Sample> StaffSamples() {
         As({.Format = ImageFormat::Gif},
            WithSpecks(400, OneBit("staff-07-fax.gif", kStaff, By(Habit::Crosses, 207, kFeltPen, 0.1),
                                   At(-9, -5, 60)))),
-        Stretched(0.997, 1.003, -0.05,
+        Stretched(0.997, 1.003, -0.04,
                   OneBit("staff-08-stretched.tif", kStaff, By(Habit::Mixed, 208), At(6, 7))),
         Beyond("150 dpi: the outlines are shorter than those of the profile",
                AtResolution(

@@ -6,28 +6,54 @@
 
 namespace tavrene::samples {
 
-Canvas TakeScan(const Canvas& page, const ScanSettings& settings) {
-    const double scale = static_cast<double>(settings.Dpi) / page.Dpi();
-    Canvas scan(static_cast<int>(std::lround(page.Width() * scale)),
-                static_cast<int>(std::lround(page.Height() * scale)), settings.Dpi);
-    const int reads = page.Dpi() / settings.Dpi;  // per pixel and direction
-    const double angle = settings.SkewDegrees * std::numbers::pi / 180;
-    const Point middle{scan.Width() / 2.0, scan.Height() / 2.0};
-    for (int y = 0; y < scan.Height(); ++y)
-        for (int x = 0; x < scan.Width(); ++x) {
-            int sum = 0;
-            for (int read = 0; read < reads * reads; ++read) {
-                const double offX = x + (read % reads + 0.5) / reads - settings.ShiftX - middle.x;
-                const double offY = y + (read / reads + 0.5) / reads - settings.ShiftY - middle.y;
-                const double pageX =
-                    middle.x + (offX * std::cos(angle) + offY * std::sin(angle)) / settings.StretchX;
-                const double pageY =
-                    middle.y + (offY * std::cos(angle) - offX * std::sin(angle)) / settings.StretchY;
-                sum += page.At(static_cast<int>(std::floor(pageX / scale)),
-                               static_cast<int>(std::floor(pageY / scale)));
-            }
-            scan.Set(x, y, static_cast<Shade>(sum / (reads * reads)));
+namespace {
+
+/// Where on the page a place of the scan lies.
+class Placement {
+  public:
+    Placement(const Canvas& page, const ScanSettings& settings, Point middle)
+        : settings_(settings),
+          middle_(middle),
+          finer_(static_cast<double>(page.Dpi()) / settings.Dpi),
+          sine_(std::sin(settings.SkewDegrees * std::numbers::pi / 180)),
+          cosine_(std::cos(settings.SkewDegrees * std::numbers::pi / 180)) {}
+
+    Point OnPage(double x, double y) const {
+        const double offX = x - settings_.ShiftX - middle_.x;
+        const double offY = y - settings_.ShiftY - middle_.y;
+        return {finer_ * (middle_.x + (offX * cosine_ + offY * sine_) / settings_.StretchX),
+                finer_ * (middle_.y + (offY * cosine_ - offX * sine_) / settings_.StretchY)};
+    }
+
+  private:
+    const ScanSettings& settings_;
+    Point middle_;
+    double finer_;
+    double sine_;
+    double cosine_;
+};
+
+/// The mean of the page below pixel (x, y) of the scan, of `reads` x `reads` places.
+Shade MeanBelow(const Canvas& page, const Placement& placement, int x, int y, int reads) {
+    int sum = 0;
+    for (int down = 0; down < reads; ++down)
+        for (int right = 0; right < reads; ++right) {
+            const Point place = placement.OnPage(x + (right + 0.5) / reads, y + (down + 0.5) / reads);
+            sum += page.At(static_cast<int>(std::floor(place.x)), static_cast<int>(std::floor(place.y)));
         }
+    return static_cast<Shade>(sum / (reads * reads));
+}
+
+}  // namespace
+
+Canvas TakeScan(const Canvas& page, const ScanSettings& settings) {
+    const double coarser = static_cast<double>(settings.Dpi) / page.Dpi();
+    Canvas scan(static_cast<int>(std::lround(page.Width() * coarser)),
+                static_cast<int>(std::lround(page.Height() * coarser)), settings.Dpi);
+    const Placement placement(page, settings, {scan.Width() / 2.0, scan.Height() / 2.0});
+    for (int y = 0; y < scan.Height(); ++y)
+        for (int x = 0; x < scan.Width(); ++x)
+            scan.Set(x, y, MeanBelow(page, placement, x, y, page.Dpi() / settings.Dpi));
     return scan;
 }
 

@@ -9,13 +9,15 @@ namespace tavrene::samples {
 
 namespace {
 
-/// A place in a box by shares of its sides, moved by up to `wobble` (a share too).
+/// A place in a box by shares of its sides, moved by up to `wobble` (a share
+/// too).
 Point Within(Random& random, const MarkArea& box, double shareX, double shareY, double wobble) {
     return {box.x + box.width * (shareX + random.Wobble(wobble)),
             box.y + box.height * (shareY + random.Wobble(wobble))};
 }
 
-/// A place on the curve through b and c (Catmull-Rom); a and d are the neighbours.
+/// A place on the curve through b and c (Catmull-Rom); a and d are the
+/// neighbours.
 Point OnCurve(Point a, Point b, Point c, Point d, double t) {
     const auto blend = [t](double p, double q, double r, double s) {
         return 0.5 * (2 * q + (r - p) * t + (2 * p - 5 * q + 4 * r - s) * t * t +
@@ -39,7 +41,8 @@ std::vector<Point> Smooth(std::span<const Point> places, double step) {
     return curve;
 }
 
-/// Lines to and fro that run from the top to the bottom of the box, `turns` times.
+/// Lines to and fro that run from the top to the bottom of the box, `turns`
+/// times.
 std::vector<Point> ZigZag(Random& random, const MarkArea& box, int turns, double margin, double wobble) {
     std::vector<Point> places;
     for (int turn = 0; turn <= turns; ++turn) {
@@ -89,9 +92,15 @@ void DrawCross(Canvas& canvas, Random& random, const MarkArea& box, const Pen& p
 }
 
 void DrawDot(Canvas& canvas, Random& random, const MarkArea& box, const Pen& pen) {
-    const MarkArea middle{box.x + box.width * 0.36, box.y + box.height * 0.36, box.width * 0.28,
-                          box.height * 0.28};
-    DrawStroke(canvas, random, ZigZag(random, middle, 4, 0.05, 0.15), pen);
+    const double middleX = 0.5 + random.Wobble(0.1);
+    const double middleY = 0.5 + random.Wobble(0.1);
+    std::vector<Point> places;
+    for (int i = 0; i <= 12; ++i) {
+        const double angle = i * std::numbers::pi / 5;
+        places.push_back(
+            Within(random, box, middleX + 0.08 * std::cos(angle), middleY + 0.08 * std::sin(angle), 0.04));
+    }
+    DrawStroke(canvas, random, places, pen);
 }
 
 void DrawDash(Canvas& canvas, Random& random, const MarkArea& box, const Pen& pen) {

@@ -46,13 +46,13 @@ char32_t TakeCharacter(std::string_view& text) {
     return code;
 }
 
-void DrawGlyph(Canvas& canvas, const FT_GlyphSlot slot, Point pen, Shade shade) {
-    const int left = static_cast<int>(std::lround(pen.x)) + slot->bitmap_left;
-    const int top = static_cast<int>(std::lround(pen.y)) - slot->bitmap_top;
-    const auto width = static_cast<int>(slot->bitmap.width);
-    for (int y = 0; y < static_cast<int>(slot->bitmap.rows); ++y)
+void DrawGlyph(Canvas& canvas, const FT_GlyphSlotRec& slot, Point pen, Shade shade) {
+    const int left = static_cast<int>(std::lround(pen.x)) + slot.bitmap_left;
+    const int top = static_cast<int>(std::lround(pen.y)) - slot.bitmap_top;
+    const auto width = static_cast<int>(slot.bitmap.width);
+    for (int y = 0; y < static_cast<int>(slot.bitmap.rows); ++y)
         for (int x = 0; x < width; ++x) {
-            const int cover = slot->bitmap.buffer[y * slot->bitmap.pitch + x];
+            const int cover = slot.bitmap.buffer[y * slot.bitmap.pitch + x];
             canvas.Darken(left + x, top + y, static_cast<Shade>(kWhite - cover * (kWhite - shade) / 255));
         }
 }
@@ -71,7 +71,7 @@ struct Typeface::Face {
     /// Loads the glyph of a character at a size; its width in pixels is returned.
     double Load(char32_t character, double points, int dpi, FT_Int32 flags) const {
         FT_Set_Char_Size(face, 0, std::lround(points * kUnitsPerPixel), 0, static_cast<FT_UInt>(dpi));
-        if (FT_Load_Char(face, character, flags | FT_LOAD_NO_HINTING) != 0)
+        if (FT_Load_Char(face, character, flags | static_cast<FT_Int32>(FT_LOAD_NO_HINTING)) != 0)
             throw std::runtime_error("A character of the text has no glyph.");
         return static_cast<double>(face->glyph->advance.x) / kUnitsPerPixel;
     }
@@ -93,7 +93,7 @@ Point Typeface::DrawText(Canvas& canvas, Point origin, double points, std::strin
     Point pen = origin;
     while (!text.empty()) {
         const double advance = face_->Load(TakeCharacter(text), points, canvas.Dpi(), FT_LOAD_RENDER);
-        DrawGlyph(canvas, face_->face->glyph, pen, shade);
+        DrawGlyph(canvas, *face_->face->glyph, pen, shade);
         pen.x += advance;
     }
     return pen;
