@@ -1,0 +1,168 @@
+#include "boxes/BoxPages.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include "boxes/PageWear.h"
+
+namespace tavrene::samples {
+namespace {
+
+constexpr std::array kResolutions = {100, 150, 200, 300};
+constexpr int kThickest = 4;
+
+// One class of the table: what is done to the page, and by how much.
+struct WearClass {
+    const char* Name;
+    Wear Kind;
+    double Amount;
+    int Breaks;
+    int BreakLength;
+};
+
+constexpr std::array kWear = {WearClass{"clean", Wear::None, 0, 0, 0},
+                              WearClass{"specks 0.1 %", Wear::Specks, 0.001, 0, 0},
+                              WearClass{"specks 0.25 %", Wear::Specks, 0.0025, 0, 0},
+                              WearClass{"specks 0.5 %", Wear::Specks, 0.005, 0, 0},
+                              WearClass{"specks 1 %", Wear::Specks, 0.01, 0, 0},
+                              WearClass{"eroded", Wear::Eroded, 0, 0, 0},
+                              WearClass{"dilated", Wear::Dilated, 0, 0, 0},
+                              WearClass{"one break of 1", Wear::Broken, 0, 1, 1},
+                              WearClass{"one break of 2", Wear::Broken, 0, 1, 2},
+                              WearClass{"one break of 3", Wear::Broken, 0, 1, 3},
+                              WearClass{"one break of 4", Wear::Broken, 0, 1, 4},
+                              WearClass{"one break of 5", Wear::Broken, 0, 1, 5},
+                              WearClass{"two breaks of 3", Wear::Broken, 0, 2, 3},
+                              WearClass{"tilt 0.25", Wear::Tilted, 0.25, 0, 0},
+                              WearClass{"tilt 0.5", Wear::Tilted, 0.5, 0, 0},
+                              WearClass{"tilt 1", Wear::Tilted, 1, 0, 0}};
+
+struct SizeRange {
+    int Smallest;
+    int Largest;
+};
+
+// Boxes of three to four millimetres, as far as the settings reach.
+SizeRange RangeFor(int dpi) {
+    switch (dpi) {
+        case 100:
+            return {14, 18};
+        case 150:
+            return {18, 25};
+        case 200:
+            return {24, 31};
+        default:
+            return {30, 33};
+    }
+}
+
+// Outlines of one pixel vanish when they are eroded.
+bool Survives(const WearClass& wear, int thickness) {
+    return wear.Kind != Wear::Eroded || thickness >= 3;
+}
+
+class Planner {
+  public:
+    void AddClass(const WearClass& wear, int thickness, const BoxLayout& layout, const std::string& name) {
+        for (const int dpi : kResolutions) {
+            BoxPagePlan plan;
+            plan.Class = name;
+            plan.Layout = &layout;
+            plan.Dpi = dpi;
+            plan.Style = {thickness, wear.Breaks, wear.BreakLength};
+            plan.Kind = wear.Kind;
+            plan.Amount = wear.Amount;
+            plan.Seed = ++seed_;
+            plans_.push_back(plan);
+        }
+    }
+
+    std::vector<BoxPagePlan> Take() { return std::move(plans_); }
+
+  private:
+    std::vector<BoxPagePlan> plans_;
+    std::uint64_t seed_ = 1000;
+};
+
+std::vector<BoxPagePlan> EveryNth(const std::vector<BoxPagePlan>& plans, int step) {
+    std::map<std::pair<std::string, int>, int> seen;
+    std::vector<BoxPagePlan> kept;
+    for (const BoxPagePlan& plan : plans) {
+        if (seen[{plan.Class, plan.Style.Thickness}]++ % step == 0)
+            kept.push_back(plan);
+    }
+    return kept;
+}
+
+OuterSize PickSize(Random& dice, const SizeRange& range) {
+    const auto height = static_cast<int>(dice.Between(range.Smallest, range.Largest + 1));
+    const int widening = dice.Chance(0.5) ? 0 : static_cast<int>(dice.Between(0, height * 0.25));
+    return {height + widening, height};
+}
+
+void WearPage(BoxPage& page, const BoxPagePlan& plan, Random& dice) {
+    switch (plan.Kind) {
+        case Wear::Specks:
+            return AddSpecks(page.Grid, dice, plan.Amount);
+        case Wear::Eroded:
+            return Erode(page.Grid);
+        case Wear::Dilated:
+            return Dilate(page.Grid);
+        case Wear::Tilted:
+            return Tilt(page.Grid, page.Truth, dice.Chance(0.5) ? plan.Amount : -plan.Amount);
+        case Wear::None:
+        case Wear::Broken:
+            return;
+    }
+}
+
+}  // namespace
+
+std::string BoxPagePlan::Name() const {
+    return Class + ", " + Layout->Name + ", " + std::to_string(Style.Thickness) + " px, " +
+           std::to_string(Dpi) + " dpi";
+}
+
+std::vector<BoxPagePlan> PlanPages(int sample) {
+    Planner planner;
+    for (const WearClass& wear : kWear) {
+        for (int thickness = 1; thickness <= kThickest; ++thickness) {
+            if (!Survives(wear, thickness))
+                continue;
+            for (const BoxLayout& layout : UsualLayouts())
+                planner.AddClass(wear, thickness, layout, wear.Name);
+        }
+    }
+    for (const BoxLayout* layout : {&SharedSides(), &OnTheDiagonal()}) {
+        for (int thickness = 1; thickness <= kThickest; ++thickness)
+            planner.AddClass(kWear.front(), thickness, *layout, layout->Name);
+    }
+    return EveryNth(planner.Take(), std::max(sample, 1));
+}
+
+boxes::BoxSizes SizesFor(const OuterSize& size, const OuterSize& second) {
+    const auto lower = [](int a, int b) {
+        return static_cast<std::int16_t>(std::max(std::min(a, b) * 7 / 10, 10));
+    };
+    const auto upper = [](int a, int b, int most) {
+        return static_cast<std::int16_t>(std::min(std::max(a, b) * 12 / 10, most));
+    };
+    return {lower(size.Width, second.Width), upper(size.Width, second.Width, 50),
+            lower(size.Height, second.Height), upper(size.Height, second.Height, 40)};
+}
+
+BoxPage PaintPage(const BoxPagePlan& plan) {
+    Random dice(plan.Seed * 77);
+    const OuterSize size = PickSize(dice, RangeFor(plan.Dpi));
+    const OuterSize smaller{size.Width * 3 / 4, size.Height * 3 / 4};
+    // A sheet of A5.
+    BoxSheet sheet(static_cast<int>(148 * plan.Dpi / 25.4), static_cast<int>(210 * plan.Dpi / 25.4), plan.Dpi,
+                   plan.Style, plan.Seed);
+    plan.Layout->Paint(sheet, size, smaller);
+    BoxPage page{ToGrid(sheet.Page()), sheet.Truth(), SizesFor(size, plan.Layout->TwoSizes ? smaller : size)};
+    WearPage(page, plan, dice);
+    return page;
+}
+
+}  // namespace tavrene::samples

@@ -1,0 +1,69 @@
+#include "boxes/BoxScore.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "boxes/BoxAssembly.h"
+#include "boxes/ProfileImagePipeline.h"
+
+namespace tavrene::samples {
+namespace {
+
+double WorstEdgeOf(const TrueBox& truth, const boxes::BoxRect& found) {
+    return std::max({std::abs(truth.L - found.L), std::abs(truth.T - found.T), std::abs(truth.R - found.R),
+                     std::abs(truth.B - found.B)});
+}
+
+double Percent(std::size_t part, std::size_t whole) {
+    return whole == 0 ? 100.0 : 100.0 * static_cast<double>(part) / static_cast<double>(whole);
+}
+
+}  // namespace
+
+void Tally::Add(const PageScore& page) {
+    True += page.Right.size() + page.Missed.size();
+    Right += page.Right.size();
+    False += page.False.size();
+    WorstEdge = std::max(WorstEdge, page.WorstEdge);
+}
+
+double Tally::Recall() const {
+    return Percent(Right, True);
+}
+
+double Tally::Precision() const {
+    return Percent(Right, Right + False);
+}
+
+boxes::BoxAnalysis AnalyseSteps(const BoxPage& page, int steps) {
+    boxes::BoxAnalysis analysis(page.Grid.Clone(), page.Sizes, boxes::ReachFor(page.Sizes));
+    for (int number = 0; number < steps; ++number)
+        boxes::PipelineSteps()[static_cast<std::size_t>(number)].Run(analysis);
+    return analysis;
+}
+
+boxes::BoxAnalysis AnalysePage(const BoxPage& page) {
+    boxes::BoxAnalysis analysis = AnalyseSteps(page, static_cast<int>(boxes::PipelineSteps().size()));
+    boxes::IdentifyBoxes(analysis);
+    return analysis;
+}
+
+PageScore ScorePage(const std::vector<TrueBox>& truth, const std::vector<boxes::BoxRect>& found) {
+    PageScore score;
+    score.False = found;
+    for (const TrueBox& box : truth) {
+        const auto nearest = std::min_element(
+            score.False.begin(), score.False.end(),
+            [&](const auto& a, const auto& b) { return WorstEdgeOf(box, a) < WorstEdgeOf(box, b); });
+        if (nearest == score.False.end() || WorstEdgeOf(box, *nearest) > kEdgeTolerance) {
+            score.Missed.push_back(box);
+            continue;
+        }
+        score.WorstEdge = std::max(score.WorstEdge, WorstEdgeOf(box, *nearest));
+        score.Right.push_back(*nearest);
+        score.False.erase(nearest);
+    }
+    return score;
+}
+
+}  // namespace tavrene::samples
