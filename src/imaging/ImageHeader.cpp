@@ -1,5 +1,8 @@
 #include "imaging/ImageHeader.h"
 
+#include <algorithm>
+#include <array>
+
 #include "imaging/ByteReader.h"
 
 namespace tavrene::imaging {
@@ -47,22 +50,32 @@ ResolutionPresence FindPngResolution(std::span<const std::byte> content) {
     return {};
 }
 
+// Calls `see(marker, offset)` for the segments of a JPEG file up to the first scan, whose offset it returns.
+template <typename See>
+std::uint64_t WalkJpegSegments(const ByteReader& reader, See see) {
+    constexpr std::uint64_t kStartOfScan = 0xDA;
+    std::uint64_t segment = 2;
+    while (reader.Holds(segment, 4) && reader.Number(segment, 1) == 0xFF) {
+        const std::uint64_t marker = reader.Number(segment + 1, 1);
+        if (marker == kStartOfScan)
+            break;
+        see(marker, segment);
+        segment += 2 + reader.Number(segment + 2, 2);
+    }
+    return segment;
+}
+
 // JPEG: the density unit of the JFIF segment, dots an inch (1) or a centimetre (2).
 ResolutionPresence FindJpegResolution(std::span<const std::byte> content) {
     constexpr std::uint64_t kJfif = 0x4A46494600;
     const ByteReader reader(content, Order::BigEndian);
-    std::uint64_t segment = 2;
-    while (reader.Holds(segment, 4) && reader.Number(segment, 1) == 0xFF) {
-        const std::uint64_t marker = reader.Number(segment + 1, 1);
-        if (marker == 0xDA)
-            break;
-        if (marker == 0xE0 && reader.Number(segment + 4, 5) == kJfif) {
-            const std::uint64_t unit = reader.Number(segment + 11, 1);
-            return {unit == 1 || unit == 2, unit == 1 || unit == 2};
-        }
-        segment += 2 + reader.Number(segment + 2, 2);
-    }
-    return {};
+    bool measured = false;
+    WalkJpegSegments(reader, [&](std::uint64_t marker, std::uint64_t segment) {
+        const std::uint64_t unit = reader.Number(segment + 11, 1);
+        if (marker == 0xE0 && reader.Number(segment + 4, 5) == kJfif)
+            measured = unit == 1 || unit == 2;
+    });
+    return {measured, measured};
 }
 
 struct Size {
@@ -112,6 +125,17 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
             break;
     }
     return {true, true};
+}
+
+bool IsWhole(std::span<const std::byte> content, ImageFormat format) {
+    if (format != ImageFormat::Jpeg)
+        return true;
+    // Within a scan the byte FF is never followed by D9, the end of the image.
+    const std::uint64_t scan =
+        WalkJpegSegments(ByteReader(content, Order::BigEndian), [](std::uint64_t, std::uint64_t) {});
+    constexpr std::array kEndOfImage = {std::byte{0xFF}, std::byte{0xD9}};
+    const std::span<const std::byte> rest = content.subspan(std::min<std::uint64_t>(scan, content.size()));
+    return !std::ranges::search(rest, kEndOfImage).empty();
 }
 
 bool IsTooLarge(std::span<const std::byte> content, ImageFormat format) {

@@ -23,4 +23,8 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
 /// than 256 megapixels. Asked before the pixels are unpacked: a few kilobytes can unpack to gigabytes.
 bool IsTooLarge(std::span<const std::byte> content, ImageFormat format);
 
+/// False for a JPEG file that ends before its picture does: the library would fill up the rest with grey, and
+/// marks on it would be lost in silence. Other formats notice that by themselves.
+bool IsWhole(std::span<const std::byte> content, ImageFormat format);
+
 }  // namespace tavrene::imaging

@@ -76,7 +76,7 @@ std::int16_t DotsPerInch(unsigned dotsPerMetre) {
 }
 
 Bitmap Decoded(const app::Bytes& content, ImageFormat format) {
-    return IsTooLarge(content, format) ? Bitmap() : DecodeImage(content, format);
+    return IsTooLarge(content, format) || !IsWhole(content, format) ? Bitmap() : DecodeImage(content, format);
 }
 
 app::Bytes ContentOrNothing(const app::Files& files, const std::string& path) {
