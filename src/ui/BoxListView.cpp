@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kValColumn = 1;
 constexpr int kValWidth = 52;
+constexpr int kRowMargin = 6;
 
 }  // namespace
 
@@ -45,6 +46,7 @@ void BoxListView::RemoveExtraColumns() {
 void BoxListView::AddRow(int number, std::string_view name, std::string_view value) {
     auto* const row = new QTreeWidgetItem(this, {ToQt(name)});
     row->setData(0, Qt::UserRole, number);
+    row->setSizeHint(0, {0, fontMetrics().height() + kRowMargin});
     row->setToolTip(0, row->text(0).toHtmlEscaped());
     if (columnCount() > kValColumn) {
         row->setText(kValColumn, ToQt(value));

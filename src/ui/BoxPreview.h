@@ -7,7 +7,7 @@ namespace tavrene::ui {
 /// A small white area that shows one box size at one screen pixel an image pixel, in the middle.
 class BoxPreview final : public QFrame {
   public:
-    static constexpr int kSide = 72;
+    static constexpr int kSide = 88;
 
     explicit BoxPreview(const QString& name);
 

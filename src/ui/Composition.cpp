@@ -1,6 +1,7 @@
 #include "ui/Composition.h"
 
 #include <QApplication>
+#include <QProxyStyle>
 #include <QStandardPaths>
 
 #include "app/Startup.h"
@@ -9,6 +10,19 @@
 
 namespace tavrene::ui {
 namespace {
+
+// The same look on every desktop, with plain words on the buttons of message boxes.
+class CalmStyle final : public QProxyStyle {
+  public:
+    CalmStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 QString ConfigFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
@@ -19,7 +33,7 @@ QString ConfigFolder() {
 void PrepareApplication() {
     QApplication::setApplicationName(ToQt(app::kApplicationName));
     QApplication::setApplicationVersion(TAVRENE_VERSION);
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new CalmStyle);
     // A dialog of start-up that closes before there is a window must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
 }

@@ -49,6 +49,7 @@ FolderChooser::FolderChooser() : drives_(new QComboBox), folders_(new QListWidge
     drives_->setAccessibleName("Drive");
     folders_->setObjectName("Dir1");
     folders_->setAccessibleName("Working folder");
+    folders_->setIconSize({16, 16});
     path_->setObjectName("lblFolder");
     path_->setTextFormat(Qt::PlainText);
     path_->setWordWrap(true);

@@ -33,12 +33,7 @@ const std::array kPictures = {
              {"M 9 11.5 L 15 17.5", Ink::Red},
              {"M 15 11.5 L 9 17.5", Ink::Red}}},
     Picture{"ZoomToOrig",
-            {{kLens, Ink::Paper, true},
-             {kHandle},
-             {"M 6.6 8.4 L 7.8 7.6 L 7.8 12.6", Ink::Blue},
-             {"M 10 8.8 L 10 9", Ink::Blue},
-             {"M 10 11.6 L 10 11.8", Ink::Blue},
-             {"M 12 8.4 L 13.2 7.6 L 13.2 12.6", Ink::Blue}}},
+            {{kLens, Ink::Paper, true}, {kHandle}, {"M 8.4 8.2 L 10.4 6.8 L 10.4 13.2", Ink::Blue}}},
     Picture{
         "ZoomIn",
         {{kLens, Ink::Paper, true}, {kHandle}, {"M 7 10 L 13 10", Ink::Blue}, {"M 10 7 L 10 13", Ink::Blue}}},

@@ -16,7 +16,7 @@ namespace tavrene::ui {
 namespace {
 
 constexpr double kSquare = 24;
-constexpr double kLineWidth = 1.7;
+constexpr double kLineWidth = 1.5;
 
 QPainterPath ParsePath(std::string_view text) {
     static const std::map<QChar, std::function<void(QPainterPath&, const double*)>> kSteps = {

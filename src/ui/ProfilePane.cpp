@@ -12,7 +12,11 @@ ProfilePane::ProfilePane(QWidget* parent) : QFrame(parent) {
     hint->setAccessibleName("Profile specimens");
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
-    hint->setEnabled(false);
+    QPalette calm = hint->palette();
+    QColor text = calm.color(QPalette::WindowText);
+    text.setAlphaF(0.55F);
+    calm.setColor(QPalette::WindowText, text);
+    hint->setPalette(calm);
     auto* const active = new QCheckBox("Profile active");
     active->setObjectName("chkActive");
     active->setToolTip("Whether the open profile takes part in processing");

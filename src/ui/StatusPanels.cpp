@@ -1,5 +1,6 @@
 #include "ui/StatusPanels.h"
 
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
@@ -11,13 +12,13 @@ constexpr int kFileWidth = 190;
 constexpr int kTimeWidth = 130;
 constexpr int kProgressTextWidth = 70;
 constexpr int kProgressBarWidth = 170;
+constexpr int kProgressBarHeight = 14;
 
 }  // namespace
 
 PanelLabel::PanelLabel(const QString& name) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContentsMargins(6, 2, 6, 2);
 }
 
@@ -36,30 +37,41 @@ void PanelLabel::paintEvent(QPaintEvent*) {
                           QPalette::WindowText);
 }
 
-StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent), progress_(new QProgressBar) {
+StatusPanels::StatusPanels(QWidget* parent)
+    : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar) {
     setObjectName("StatusBar1");
     setSizeGripEnabled(false);
-    setContentsMargins(4, 0, 6, 0);
-    AddPanel(app::Panel::File, "File", "Current file or profile counts")->setMinimumWidth(kFileWidth);
-    AddPanel(app::Panel::Message, "Message", "Message", 1);
-    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time")->setMinimumWidth(kTimeWidth);
-    AddPanel(app::Panel::Progress, "Progress", "Progress")->setMinimumWidth(kProgressTextWidth);
+    AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileWidth);
+    AddPanel(app::Panel::Message, "Message", "Message", 0);
+    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time", kTimeWidth);
+    AddPanel(app::Panel::Progress, "Progress", "Progress", kProgressTextWidth);
     progress_->setObjectName("ProgressBar1");
     progress_->setAccessibleName("Progress of the work");
     progress_->setTextVisible(false);
-    progress_->setFixedWidth(kProgressBarWidth);
-    progress_->setMaximumHeight(14);
+    progress_->setFixedSize(kProgressBarWidth, kProgressBarHeight);
     progress_->setRange(0, 1);
-    addPermanentWidget(progress_);
+    row_->addWidget(progress_);
+    row_->setContentsMargins(4, 2, 10, 2);
+    row_->setSpacing(4);
+    auto* const panels = new QWidget;
+    panels->setLayout(row_);
+    // Permanent, or the hints that the menus show would hide the panels for a while.
+    addPermanentWidget(panels, 1);
 }
 
-PanelLabel* StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName,
-                                   int stretch) {
+// A panel without a width of its own takes what the others leave.
+void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName, int width) {
     auto* const label = new PanelLabel(name);
     label->setAccessibleName(accessibleName);
+    if (width > 0)
+        label->setFixedWidth(width);
+    else
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     panels_[static_cast<std::size_t>(panel)] = label;
-    addWidget(label, stretch);
-    return label;
+    row_->addWidget(label, width > 0 ? 0 : 1);
+    auto* const line = new QFrame;
+    line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Sunken));
+    row_->addWidget(line);
 }
 
 void StatusPanels::SetPanel(app::Panel panel, const QString& text) {

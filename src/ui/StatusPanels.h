@@ -7,6 +7,8 @@
 
 #include "app/Operator.h"
 
+class QHBoxLayout;
+
 namespace tavrene::ui {
 
 /// A label on one line that shortens what it shows, not what it holds, when it is too narrow; the whole text
@@ -31,9 +33,10 @@ class StatusPanels final : public QStatusBar {
     void SetProgress(int value);
 
   private:
-    PanelLabel* AddPanel(app::Panel panel, const char* name, const char* accessibleName, int stretch = 0);
+    void AddPanel(app::Panel panel, const char* name, const char* accessibleName, int width);
 
     std::array<PanelLabel*, 4> panels_{};
+    QHBoxLayout* row_;
     QProgressBar* progress_;
 };
 

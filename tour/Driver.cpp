@@ -1,0 +1,106 @@
+#include "tour/Driver.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QProgressBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <stdexcept>
+
+namespace tavrene::tour {
+namespace {
+
+constexpr int kWidth = 1280;
+constexpr int kHeight = 860;
+
+// The picture during the run is taken after this many files, at the first page with this many checked boxes.
+constexpr int kFilesBeforeShot = 5;
+constexpr int kCheckedInShot = 8;
+
+int CountChecked(const QTreeWidget& boxes) {
+    int checked = 0;
+    for (int row = 0; row < boxes.topLevelItemCount(); ++row)
+        checked += boxes.topLevelItem(row)->text(1) == "1" ? 1 : 0;
+    return checked;
+}
+
+template <typename Control>
+Control& Find(QWidget& window, const char* name) {
+    auto* const control = window.findChild<Control*>(name);
+    if (control == nullptr)
+        throw std::runtime_error(std::string("The window has no ") + name + ".");
+    return *control;
+}
+
+}  // namespace
+
+Driver::Driver(ui::MainWindow& window, const QString& shotsFolder)
+    : window_(window), shotsFolder_(shotsFolder) {
+    QDir().mkpath(shotsFolder_);
+}
+
+void Driver::Drive() {
+    window_.resize(kWidth, kHeight);
+    QApplication::processEvents();
+    ShootWindow("1-before-the-run");
+    // The run lets pending events in once a file; that is when the timer strikes.
+    const int clock = startTimer(0);
+    Press("Process");
+    killTimer(clock);
+    ShootWindow("3-after-the-run");
+    Press("FitPage");
+    ShootWindow("4-whole-page");
+    if (auto* const reports = window_.findChild<QDialog*>("FileReports"); reports->isVisible()) {
+        Shoot(*reports, "5-messages-about-files");
+        reports->close();
+    }
+    ShootSettingsDialog();
+    window_.close();
+}
+
+void Driver::timerEvent(QTimerEvent*) {
+    if (shotDuringRun_ || Find<QProgressBar>(window_, "ProgressBar1").value() < kFilesBeforeShot ||
+        CountChecked(Find<QTreeWidget>(window_, "lvwSettings")) < kCheckedInShot)
+        return;
+    shotDuringRun_ = true;
+    ShootWindow("2-during-the-run");
+}
+
+void Driver::Press(const char* key) {
+    auto& toolbar = Find<QToolBar>(window_, "MainToolbar");
+    auto* const action = toolbar.findChild<QAction*>(key, Qt::FindDirectChildrenOnly);
+    auto* const button =
+        action == nullptr ? nullptr : qobject_cast<QAbstractButton*>(toolbar.widgetForAction(action));
+    if (button == nullptr)
+        throw std::runtime_error(std::string("The toolbar has no button ") + key + ".");
+    button->click();
+    QApplication::processEvents();
+}
+
+void Driver::ShootSettingsDialog() {
+    // The dialog is modal: it can be looked at only from its own event loop.
+    QTimer::singleShot(0, this, [this] {
+        if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            Shoot(*dialog, "6-settings");
+            dialog->reject();
+        }
+    });
+    Find<QAction>(window_, "Settings").trigger();
+}
+
+void Driver::ShootWindow(const QString& name) {
+    Shoot(window_, name);
+}
+
+void Driver::Shoot(QWidget& widget, const QString& name) {
+    const QString path = QDir(shotsFolder_).filePath(name + ".png");
+    if (!widget.grab().save(path))
+        throw std::runtime_error("The picture " + path.toStdString() + " cannot be written.");
+    shots_.append(path);
+}
+
+}  // namespace tavrene::tour

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include "ui/MainWindow.h"
+
+namespace tavrene::tour {
+
+/// Drives the real window through a processing run by the buttons that a person would press, and takes a
+/// picture at each stage. Meant for a working folder that has scans waiting and for settings that show pages
+/// during a run.
+class Driver final : public QObject {
+  public:
+    /// Pictures go to `shotsFolder`, which is made when it is missing.
+    Driver(ui::MainWindow& window, const QString& shotsFolder);
+
+    /// Runs all stages and closes the window; returns when that is done.
+    void Drive();
+
+    /// Paths of the pictures taken.
+    const QStringList& Shots() const { return shots_; }
+
+  protected:
+    void timerEvent(QTimerEvent* event) override;
+
+  private:
+    void ShootWindow(const QString& name);
+    void Shoot(QWidget& widget, const QString& name);
+    void Press(const char* key);
+    void ShootSettingsDialog();
+
+    ui::MainWindow& window_;
+    QString shotsFolder_;
+    QStringList shots_;
+    bool shotDuringRun_ = false;
+};
+
+}  // namespace tavrene::tour

@@ -1,0 +1,83 @@
+#include "tour/Filling.h"
+
+#include <QDir>
+#include <QStandardPaths>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "app/Files.h"
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "profiles/XmlFile.h"
+#include "ui/QtSettingsStore.h"
+#include "ui/QtText.h"
+
+namespace tavrene::tour {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Tells a folder that was filled here from one in which somebody works.
+constexpr const char* kMark = "filled-from-samples";
+
+void RemoveEarlierFilling(const fs::path& folder) {
+    const fs::path mark = folder / kMark;
+    if (fs::exists(folder) && !fs::is_empty(folder) && !fs::exists(mark))
+        throw std::runtime_error("The folder " + app::FromPath(folder) +
+                                 " is not empty and was not filled from the samples; it is left alone.");
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    std::ofstream(mark) << "This folder is emptied whenever it is filled from the samples again.\n";
+}
+
+void CopyAll(const fs::path& from, const std::string& to) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(from))
+        if (entry.is_regular_file())
+            fs::copy_file(entry.path(), app::ToPath(to) / entry.path().filename());
+}
+
+// A profile of the samples names its specimen without a folder.
+void PointAtSpecimens(app::Files& files, const app::WorkingFolders& folders) {
+    for (const std::string& name : files.List(folders.Profiles, "*.Tvp")) {
+        pugi::xml_document document =
+            profiles::ReadXml(files, folders.Profiles + name, profiles::Declaration::Refused);
+        pugi::xml_attribute image = document.document_element().attribute("Image");
+        image.set_value((folders.ProfileImages + image.value()).c_str());
+        profiles::WriteXml(files, folders.Profiles + name, document, profiles::XmlLayout::Raw);
+    }
+}
+
+}  // namespace
+
+void FillWorkingFolder(const std::string& samplesFolder, const std::string& workingFolder) {
+    const fs::path samples = app::ToPath(samplesFolder);
+    RemoveEarlierFilling(app::ToPath(workingFolder));
+    app::DiskFiles files;
+    if (!app::CreateWorkingFolders(files, workingFolder))
+        throw std::runtime_error("The sub-folders of " + workingFolder + " cannot be made.");
+    const app::WorkingFolders folders = app::PathsUnder(workingFolder);
+    CopyAll(samples / "blanks", folders.ProfileImages);
+    CopyAll(samples / "profiles", folders.Profiles);
+    CopyAll(samples / "scans", folders.ProcessIn);
+    PointAtSpecimens(files, folders);
+}
+
+void WriteSettings(const std::string& workingFolder) {
+    if (qEnvironmentVariableIsEmpty("XDG_CONFIG_HOME"))
+        throw std::runtime_error(
+            "Set XDG_CONFIG_HOME to a folder for the settings, so that your own are not touched.");
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
+    QDir().mkpath(config);
+    ui::QtSettingsStore store(config);
+    app::WriteCommon(store, "WorkDir", workingFolder);
+    app::WriteCommonNumber(store, "BoxMinWidth", app::kDefaultBoxMinWidth);
+    app::WriteCommonNumber(store, "BoxMaxWidth", app::kDefaultBoxMaxWidth);
+    app::WriteCommonNumber(store, "BoxMinHeight", app::kDefaultBoxMinHeight);
+    app::WriteCommonNumber(store, "BoxMaxHeight", app::kDefaultBoxMaxHeight);
+    app::WriteCommonNumber(store, "FillThreshold", app::kDefaultFillThreshold);
+    app::WriteCommonFlag(store, "ProcessSingle", false);
+    app::WriteCommonFlag(store, "DisplayDuringProcess", true);
+}
+
+}  // namespace tavrene::tour

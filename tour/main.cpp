@@ -1,0 +1,97 @@
+#include <QApplication>
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "app/Files.h"
+#include "app/WorkingFolders.h"
+#include "samples/Truth.h"
+#include "tour/Comparison.h"
+#include "tour/Driver.h"
+#include "tour/Filling.h"
+#include "ui/Composition.h"
+#include "ui/QtText.h"
+
+namespace {
+
+using namespace tavrene;
+
+constexpr const char* kUsage =
+    "Usage: tavrene-tour --fill SAMPLES FOLDER\n"
+    "       tavrene-tour --drive SAMPLES FOLDER SHOTS\n"
+    "\n"
+    "--fill   makes FOLDER a working folder with the profiles and scans of SAMPLES, and points the\n"
+    "         settings below XDG_CONFIG_HOME at it\n"
+    "--drive  opens the program's window on FOLDER, presses Process, writes pictures of the window to\n"
+    "         SHOTS, and compares the results with the truth of SAMPLES; the exit code is 0 when all\n"
+    "         scans are right, but for those that the truth calls beyond the rules\n";
+
+std::string FullPath(const std::string& path) {
+    std::string full = app::FromPath(std::filesystem::absolute(app::ToPath(path)).lexically_normal());
+    while (full.size() > 1 && full.back() == std::filesystem::path::preferred_separator)
+        full.pop_back();
+    return full;
+}
+
+int Fill(const std::string& samples, const std::string& folder) {
+    tour::FillWorkingFolder(samples, folder);
+    tour::WriteSettings(folder);
+    return 0;
+}
+
+void PrintPlaces(const app::WorkingFolders& folders, const QStringList& shots) {
+    std::cout << "\nResult documents: " << folders.ProcessOut << "\nLogs:             " << folders.Log
+              << "\nScreenshots:\n";
+    for (const QString& shot : shots)
+        std::cout << "  " << ui::FromQt(shot) << '\n';
+}
+
+int Drive(const std::string& samplesFolder, const std::string& folder, const std::string& shotsFolder) {
+    const auto truth = samples::ReadTruth(samplesFolder + "/truth.tsv");
+    ui::Composition program;
+    if (!program.Start()) {
+        std::cerr << "The program is open already.\n";
+        return 2;
+    }
+    tour::Driver driver(program.Window(), ui::ToQt(shotsFolder));
+    driver.Drive();
+    const app::WorkingFolders folders = app::PathsUnder(folder);
+    const auto comparisons = tour::CompareWithTruth(app::DiskFiles(), folders, truth);
+    std::cout << tour::TableOf(comparisons);
+    PrintPlaces(folders, driver.Shots());
+    const bool good = std::all_of(
+        comparisons.begin(), comparisons.end(),
+        [](const tour::Comparison& comparison) { return comparison.verdict != tour::Verdict::Wrong; });
+    return good ? 0 : 1;
+}
+
+int Run(const std::vector<std::string>& arguments) {
+    const std::string mode = arguments.empty() ? "" : arguments[0];
+    if (mode == "--fill" && arguments.size() == 3)
+        return Fill(FullPath(arguments[1]), FullPath(arguments[2]));
+    if (mode == "--drive" && arguments.size() == 4)
+        return Drive(FullPath(arguments[1]), FullPath(arguments[2]), FullPath(arguments[3]));
+    const bool help = mode == "--help" || mode == "-h";
+    (help ? std::cout : std::cerr) << kUsage;
+    return help ? 0 : 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const std::vector<std::string> arguments(argv + 1, argv + argc);
+        // Filling shows nothing, so it must not need a display.
+        if (arguments.empty() || arguments[0] != "--drive")
+            return Run(arguments);
+        const QApplication application(argc, argv);
+        ui::PrepareApplication();
+        return Run(arguments);
+    } catch (const std::exception& failure) {
+        std::cerr << "tavrene-tour: " << failure.what() << '\n';
+        return 2;
+    }
+}
