@@ -135,11 +135,12 @@ std::vector<Sample> StaffSamples() {
         Stretched(0.997, 1.003, -0.04,
                   OneBit("staff-08-stretched.tif", kStaff, By(Habit::Mixed, 208), At(6, 7))),
         Beyond("150 dpi: the outlines are shorter than those of the profile",
-               AtResolution(
-                   150, OneBit("staff-09-150dpi.tif", kStaff, By(Habit::Ticks, 209, kFeltPen), At(2, 2)))),
-        With("unreadable", OneBit("staff-10.tiff", kStaff, By(Habit::Ticks, 210), At(3, 3))),
-        With("unreadable", As(Grey(ImageFormat::Tiff, kRecycled),
-                              OneBit("staff-11-grey.tif", kStaff, By(Habit::Crosses, 211), At(2, -3, 0)))),
+               AtResolution(150, OneBit("new-scanner-1-150dpi.tif", kStaff, By(Habit::Ticks, 209, kFeltPen),
+                                        At(2, 2)))),
+        With("unreadable", OneBit("new-scanner-2.tiff", kStaff, By(Habit::Ticks, 210), At(3, 3))),
+        With("unreadable",
+             As(Grey(ImageFormat::Tiff, kRecycled),
+                OneBit("new-scanner-3-grey.tif", kStaff, By(Habit::Crosses, 211), At(2, -3, 0)))),
     };
 }
 
