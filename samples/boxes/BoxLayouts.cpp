@@ -7,8 +7,8 @@ namespace tavrene::samples {
 namespace {
 
 // Words whose letters have upright and level strokes, such as a box has.
-constexpr std::array kWords = {"HOBOE",  "DODO",  "nOBLE", "B0ND",  "0800", "HDB",   "Linen", "FELT", "EDEL",
-                               "OHNE", "minim", "HHnn",  "TEDDY", "|H|",  "PONTE", "dbqp",  "UHU",  "LIDL"};
+constexpr std::array kWords = {"HOBOE", "DODO",  "nOBLE", "B0ND",  "0800", "HDB",   "Linen", "FELT", "EDEL",
+                               "OHNE",  "minim", "HHnn",  "TEDDY", "|H|",  "PONTE", "dbqp",  "UHU",  "LIDL"};
 
 std::string Words(Random& dice, int count) {
     std::string text;
