@@ -20,14 +20,13 @@ FileReports::FileReports(QWidget* window) : QDialog(window), lines_(new QPlainTe
     lines_->setObjectName("Lines");
     lines_->setAccessibleName("Files that could not be used");
     lines_->setReadOnly(true);
-    lines_->setLineWrapMode(QPlainTextEdit::NoWrap);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel("These files could not be used:"));
     layout->addWidget(lines_);
     layout->addWidget(buttons);
-    resize(480, 240);
+    resize(560, 240);
 }
 
 void FileReports::Add(const QString& fileName, const QString& text) {

@@ -53,6 +53,9 @@ FolderChooser::FolderChooser() : drives_(new QComboBox), folders_(new QListWidge
     path_->setObjectName("lblFolder");
     path_->setTextFormat(Qt::PlainText);
     path_->setWordWrap(true);
+    QFont bold = path_->font();
+    bold.setBold(true);
+    path_->setFont(bold);
     path_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -94,9 +97,6 @@ void FolderChooser::FillFolders() {
         AddRow(name.isEmpty() ? lineage[depth] : name, lineage[depth], depth);
     }
     QListWidgetItem* const here = folders_->item(folders_->count() - 1);
-    QFont bold = folders_->font();
-    bold.setBold(true);
-    here->setFont(bold);
     const QStringList children =
         QDir(current_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString& child : children)

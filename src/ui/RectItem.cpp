@@ -2,31 +2,52 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QStyleOptionGraphicsItem>
+#include <algorithm>
+#include <cmath>
 
 namespace tavrene::ui {
 namespace {
 
-constexpr double kLineWidth = 2.0;
-constexpr double kSeamWidth = 4.0;
+constexpr double kSeam = 1.0;
 
-QPen CosmeticPen(const QColor& color, double width, Qt::PenStyle line) {
-    QPen pen(color, width, line, Qt::FlatCap, Qt::MiterJoin);
+// Boxes that are smaller than this on the screen get thinner lines.
+constexpr double kSmallSide = 16;
+constexpr double kThinLine = 0.7;
+
+struct Look {
+    QColor color;
+    double width;  // pixels of the screen
+    double inked;  // share of a dash in its period; 1 for a line without gaps
+};
+
+Look LookOf(imaging::RectStyle style) {
+    switch (style) {
+        case imaging::RectStyle::Checked:
+            return {QColor(0, 114, 178), 2.5, 1};
+        case imaging::RectStyle::Unchecked:
+            return {QColor(213, 94, 0), 2, 0.62};
+        case imaging::RectStyle::Skipped:
+            return {QColor(110, 110, 110), 2, 0.3};
+        case imaging::RectStyle::Plain:
+            break;
+    }
+    return {QColor(0, 114, 178), 1.5, 1};
+}
+
+QPen CosmeticPen(const QColor& color, double width) {
+    QPen pen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     pen.setCosmetic(true);
     return pen;
 }
 
-QPen PenOf(imaging::RectStyle style) {
-    switch (style) {
-        case imaging::RectStyle::Checked:
-            return CosmeticPen(QColor(0, 114, 178), kLineWidth + 0.5, Qt::SolidLine);
-        case imaging::RectStyle::Unchecked:
-            return CosmeticPen(QColor(213, 94, 0), kLineWidth, Qt::DashLine);
-        case imaging::RectStyle::Skipped:
-            return CosmeticPen(QColor(110, 110, 110), kLineWidth, Qt::DotLine);
-        case imaging::RectStyle::Plain:
-            break;
-    }
-    return CosmeticPen(QColor(0, 114, 178), kLineWidth - 0.5, Qt::SolidLine);
+// A whole number of dashes a side, with half a dash on either side of every corner, so that a small box still
+// looks like one. `side` in pixels of the screen.
+void BreakUp(QPen& pen, double side, double inked) {
+    const double periods = std::max(2.0, std::round(side / 9));
+    const double period = side / periods / pen.widthF();
+    pen.setDashPattern({inked * period, (1 - inked) * period});
+    pen.setDashOffset(inked * period / 2);
 }
 
 }  // namespace
@@ -42,9 +63,18 @@ QRectF RectItem::boundingRect() const {
 }
 
 void RectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
-    painter->setPen(CosmeticPen(QColor(255, 255, 255, 200), kSeamWidth, Qt::SolidLine));
+    const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
+    const double side = scale * std::min(rect_.width(), rect_.height());
+    const Look look = LookOf(style_);
+    // Pens that keep their width count in dots of the device, of which a fine screen has several a pixel.
+    const double dots = painter->device()->devicePixelRatio();
+    const double width = dots * (side < kSmallSide ? kThinLine * look.width : look.width);
+    painter->setPen(CosmeticPen(QColor(255, 255, 255, 200), width + 2 * kSeam * dots));
     painter->drawRect(rect_);
-    painter->setPen(PenOf(style_));
+    QPen pen = CosmeticPen(look.color, width);
+    if (look.inked < 1 && side > 0)
+        BreakUp(pen, side * dots, dots, look.inked);
+    painter->setPen(pen);
     painter->drawRect(rect_);
 }
 

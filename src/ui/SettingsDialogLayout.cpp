@@ -60,7 +60,7 @@ void SettingsDialog::Build() {
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(0, 1);
-    resize(720, 540);
+    setMinimumSize(720, 580);
 }
 
 void SettingsDialog::BuildBars() {
