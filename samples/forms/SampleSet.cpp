@@ -141,6 +141,8 @@ std::vector<Sample> StaffSamples() {
         With("unreadable",
              As(Grey(ImageFormat::Tiff, kRecycled),
                 OneBit("new-scanner-3-grey.tif", kStaff, By(Habit::Crosses, 211), At(2, -3, 0)))),
+        As({.Format = ImageFormat::Bmp, .Order = Photometric::MinIsBlack},
+           OneBit("staff-12 second copy.bmp", kStaff, By(Habit::Crosses, 212, kFeltPen), At(-4, 2))),
     };
 }
 
