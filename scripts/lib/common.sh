@@ -46,9 +46,10 @@ as_root() {
         fail "could not run: $*"
 }
 
-# Configures the preset where that is due and builds it.
+# Configures the preset where that is due and builds it: all of it, or the given targets.
 build_preset() {
     local preset=$1 folder=$root/build/$1
+    shift
     cd "$root"
     if ! [ "$folder/build.ninja" -nt CMakePresets.json ]; then
         say "Configuring $preset"
@@ -59,7 +60,7 @@ build_preset() {
             { cat "$root/build/$preset-configure.log"; fail "cannot configure $preset"; }
     fi
     say "Building $preset in build/$preset"
-    cmake --build "$folder"
+    cmake --build "$folder" ${1:+--target "$@"}
 }
 
 # Builds a preset and runs its tests; they need neither a display nor a person.
