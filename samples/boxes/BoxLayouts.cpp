@@ -109,25 +109,43 @@ void PaintFrames(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
     }
 }
 
-// A ruling lies exactly on one side of each box: under it, over it, to its left or to its right.
-void PaintRulings(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+// Whether a ruling runs beside a side of its boxes or is that side.
+enum class RulingSide { Touching, Shared };
+
+int RulingPlace(RulingSide side, bool behind, int place, int extent, int thickness) {
+    if (side == RulingSide::Shared)
+        return behind ? place + extent - thickness : place;
+    return behind ? place + extent : place - thickness;
+}
+
+// A level ruling under or over the boxes of each line in the upper half, an upright one to the right or to
+// the left of those of each column in the lower half.
+void PaintOnRulings(BoxSheet& sheet, const OuterSize& size, RulingSide side) {
     const int left = sheet.Mm(12);
     const int right = sheet.Page().Width() - sheet.Mm(30);
     const int thickness = sheet.Style().Thickness;
     int y = sheet.Mm(12);
     const int half = sheet.Page().Height() / 2;
-    for (bool standing = true; y < half; y += Step(sheet, size.Height, 8), standing = !standing) {
-        sheet.AddRule(left, standing ? y + size.Height - thickness : y, right - left);
+    for (bool under = true; y < half; y += Step(sheet, size.Height, 8), under = !under) {
+        sheet.AddRule(left, RulingPlace(side, under, y, size.Height, thickness), right - left);
         for (int x = left + sheet.Mm(5); x < right - sheet.Mm(12); x += Step(sheet, size.Width, 15))
             sheet.AddBox(x, y, size);
     }
     const int bottom = sheet.Page().Height() - sheet.Mm(20);
-    bool outside = true;
-    for (int x = left; x < right; x += Step(sheet, size.Width, 20), outside = !outside) {
-        sheet.AddUprightRule(outside ? x : x + size.Width - thickness, y, bottom - y);
+    bool behind = false;
+    for (int x = left; x < right; x += Step(sheet, size.Width, 20), behind = !behind) {
+        sheet.AddUprightRule(RulingPlace(side, behind, x, size.Width, thickness), y, bottom - y);
         for (int line = y + sheet.Mm(5); line < bottom - sheet.Mm(12); line += Step(sheet, size.Height, 9))
             sheet.AddBox(x, line, size);
     }
+}
+
+void PaintTouchingRulings(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    PaintOnRulings(sheet, size, RulingSide::Touching);
+}
+
+void PaintSidesOnRulings(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    PaintOnRulings(sheet, size, RulingSide::Shared);
 }
 
 void PaintTwoSizes(BoxSheet& sheet, const OuterSize& size, const OuterSize& second) {
@@ -151,6 +169,7 @@ void PaintStrips(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
 }
 
 void PaintDiagonal(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    sheet.AllowDiagonal();
     const int width = sheet.Page().Width();
     const int step = Step(sheet, size.Width, 2);
     int shift = -3;
@@ -163,11 +182,14 @@ void PaintDiagonal(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
     }
 }
 
-constexpr std::array kUsual = {
-    BoxLayout{"rows", false, PaintRows},      BoxLayout{"grid", false, PaintGrid},
-    BoxLayout{"column", false, PaintColumn},  BoxLayout{"text", false, PaintText},
-    BoxLayout{"table", false, PaintTable},    BoxLayout{"frames", false, PaintFrames},
-    BoxLayout{"ruling", false, PaintRulings}, BoxLayout{"two sizes", true, PaintTwoSizes}};
+constexpr std::array kUsual = {BoxLayout{"rows", false, PaintRows},
+                               BoxLayout{"grid", false, PaintGrid},
+                               BoxLayout{"column", false, PaintColumn},
+                               BoxLayout{"text", false, PaintText},
+                               BoxLayout{"table", false, PaintTable},
+                               BoxLayout{"frames", false, PaintFrames},
+                               BoxLayout{"ruling", false, PaintTouchingRulings},
+                               BoxLayout{"two sizes", true, PaintTwoSizes}};
 
 }  // namespace
 
@@ -177,6 +199,11 @@ std::span<const BoxLayout> UsualLayouts() {
 
 const BoxLayout& SharedSides() {
     static constexpr BoxLayout layout{"shared sides", false, PaintStrips};
+    return layout;
+}
+
+const BoxLayout& SidesOnRulings() {
+    static constexpr BoxLayout layout{"sides on rulings", false, PaintSidesOnRulings};
     return layout;
 }
 

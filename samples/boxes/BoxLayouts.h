@@ -22,6 +22,9 @@ std::span<const BoxLayout> UsualLayouts();
 /// Strips of boxes that share a side with their neighbour.
 const BoxLayout& SharedSides();
 
+/// Boxes of which one side is part of a long ruling.
+const BoxLayout& SidesOnRulings();
+
 /// Boxes whose lower left or lower right corner is near the page's diagonal, where column and row agree.
 const BoxLayout& OnTheDiagonal();
 

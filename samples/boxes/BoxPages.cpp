@@ -47,9 +47,9 @@ struct SizeRange {
 SizeRange RangeFor(int dpi) {
     switch (dpi) {
         case 100:
-            return {14, 18};
+            return {16, 20};
         case 150:
-            return {18, 25};
+            return {19, 25};
         case 200:
             return {24, 31};
         default:
@@ -134,7 +134,7 @@ std::vector<BoxPagePlan> PlanPages(int sample) {
                 planner.AddClass(wear, thickness, layout, wear.Name);
         }
     }
-    for (const BoxLayout* layout : {&SharedSides(), &OnTheDiagonal()}) {
+    for (const BoxLayout* layout : {&SharedSides(), &SidesOnRulings(), &OnTheDiagonal()}) {
         for (int thickness = 1; thickness <= kThickest; ++thickness)
             planner.AddClass(kWear.front(), thickness, *layout, layout->Name);
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace tavrene::samples {
 namespace {
@@ -27,7 +28,16 @@ int BoxSheet::Mm(double millimetres) const {
     return static_cast<int>(std::lround(millimetres * page_.Dpi() / 25.4));
 }
 
+// The lower left or the lower right corner has about the same column as row.
+bool BoxSheet::IsOnDiagonal(int x, int y, const OuterSize& size) const {
+    constexpr int nearness = 12;
+    const int lowerRow = page_.Height() - y - size.Height;
+    return std::abs(x - lowerRow) <= nearness || std::abs(x + size.Width - lowerRow) <= nearness;
+}
+
 void BoxSheet::AddBox(int x, int y, const OuterSize& size) {
+    if (!diagonalAllowed_ && IsOnDiagonal(x, y, size))
+        return;
     page_.DrawRect(x, y, size.Width, size.Height, style_.Thickness);
     const double inset = (style_.Thickness - 1) / 2.0;
     const double topRow = page_.Height() - 1 - y;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <string_view>
 #include <vector>
 
@@ -47,6 +46,10 @@ class BoxSheet {
     /// Millimetres in pixels.
     int Mm(double millimetres) const;
 
+    /// Box finding treats the places where a box's column and its row agree in a way of its own. Unless a
+    /// sheet is about them, it leaves out boxes that would stand there.
+    void AllowDiagonal() { diagonalAllowed_ = true; }
+
     /// A box whose outer top left corner is at column `x` and line `y`.
     void AddBox(int x, int y, const OuterSize& size);
 
@@ -59,11 +62,13 @@ class BoxSheet {
     void AddFrame(int x, int y, int width, int height);
 
   private:
+    bool IsOnDiagonal(int x, int y, const OuterSize& size) const;
     void Interrupt(int side, int x, int y, const OuterSize& size);
 
     Canvas page_;
     OutlineStyle style_;
     Random dice_;
+    bool diagonalAllowed_ = false;
     std::vector<TrueBox> truth_;
 };
 

@@ -15,9 +15,9 @@ struct BoxRect {
     std::int16_t T = 0;
     std::int16_t R = 0;
     std::int16_t B = 0;
-    std::int16_t Kind = 0;   ///< Sides that assembly had to create; 0 when all four were printed.
+    std::int16_t Kind = 0;   ///< Corners where the page shows no closed outline, 0 to 4.
     std::int16_t Valid = 0;  ///< -1 kept, 0 dropped.
-    std::int16_t Mark = 0;   ///< -1 when a created side has little ink under it.
+    std::int16_t Mark = 0;   ///< -1 when the page shows something else than a box: open corners, ink inside.
     bool operator==(const BoxRect&) const = default;
 };
 

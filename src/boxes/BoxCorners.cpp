@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "boxes/CreatedSide.h"
+#include "boxes/BoxOutline.h"
 
 namespace tavrene::boxes {
 namespace {
@@ -76,15 +76,11 @@ BoxRect RectangleOf(const std::vector<LineSeg>& segments, const SideNumbers& sid
     return box;
 }
 
-void NoteCreatedSides(BoxRect& box, const BoxAnalysis& analysis, const SideNumbers& sides) {
-    for (const std::size_t number : sides) {
-        const LineSeg& side = analysis.Segments[number];
-        if (side.Link == 0)
-            continue;
-        ++box.Kind;
-        if (!HasInkUnder(analysis.SaveGrid, side))
-            box.Mark = -1;
-    }
+void NoteOutline(BoxRect& box, const imaging::WorkGrid& page) {
+    constexpr int tooManyOpen = 2;
+    const BoxOutline outline = LookAtOutline(page, box);
+    box.Kind = static_cast<std::int16_t>(outline.OpenCorners);
+    box.Mark = outline.OpenCorners >= tooManyOpen || !outline.IsEmpty ? std::int16_t{-1} : std::int16_t{0};
 }
 
 bool ReachesSmallestSize(const BoxRect& box, const BoxSizes& sizes) {
@@ -120,7 +116,7 @@ std::vector<BoxRect> BuildRectangles(BoxAnalysis& analysis, int numbers) {
             continue;
         }
         BoxRect box = RectangleOf(analysis.Segments, sides, analysis.WorkGrid.Width());
-        NoteCreatedSides(box, analysis, sides);
+        NoteOutline(box, analysis.SaveGrid);
         box.Valid = ReachesSmallestSize(box, analysis.Sizes) ? std::int16_t{-1} : std::int16_t{0};
         boxes.push_back(box);
     }

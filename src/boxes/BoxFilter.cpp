@@ -11,13 +11,14 @@ namespace {
 constexpr int kCandidateReach = 2;
 constexpr int kKeepReach = 3;
 
-// A box of which all sides were printed says more about the sizes of the form than one that was completed.
-constexpr int kWholeVote = 4;
-constexpr int kCompletedVote = 1;
+// A closed and empty outline says more about the sizes of a form than one with an open corner, which may be a
+// worn print or a letter. All others have no say unless there is nothing else.
+constexpr int kClosedVote = 8;
+constexpr int kOpenVote = 1;
 
-// Fewer boxes than this are letters by chance, not a second kind of box; the same for a share this small.
-constexpr int kSecondSizeVotes = 3 * kWholeVote;
-constexpr int kSecondSizeShare = 8;
+// Fewer boxes than this, or a share this small, are letters by chance and no second kind of box.
+constexpr int kSecondSizeVotes = 3 * kClosedVote;
+constexpr int kSecondSizeShare = 16;
 
 bool Within(BoxSize a, BoxSize b, int reach) {
     return std::abs(a.Width - b.Width) <= reach && std::abs(a.Height - b.Height) <= reach;
@@ -26,12 +27,23 @@ bool Within(BoxSize a, BoxSize b, int reach) {
 // One entry a size that occurs, with its votes.
 using SizeTable = std::map<std::pair<int, int>, int>;
 
-SizeTable CountSizes(const std::vector<BoxRect>& boxes) {
+int VotesOf(const BoxRect& box) {
+    if (box.Mark != 0)
+        return 0;
+    return box.Kind == 0 ? kClosedVote : kOpenVote;
+}
+
+int OneVote(const BoxRect&) {
+    return 1;
+}
+
+SizeTable CountSizes(const std::vector<BoxRect>& boxes, int (*votesOf)(const BoxRect&)) {
     SizeTable table;
     for (const BoxRect& box : boxes) {
         const BoxSize size = SizeOf(box);
-        if (box.Valid != 0)
-            table[{size.Width, size.Height}] += box.Kind == 0 ? kWholeVote : kCompletedVote;
+        const int votes = votesOf(box);
+        if (box.Valid != 0 && votes != 0)
+            table[{size.Width, size.Height}] += votes;
     }
     return table;
 }
@@ -97,7 +109,9 @@ BoxSize SizeOf(const BoxRect& box) {
 }
 
 ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes) {
-    SizeTable table = CountSizes(boxes);
+    SizeTable table = CountSizes(boxes, VotesOf);
+    if (table.empty())
+        table = CountSizes(boxes, OneVote);
     const Choice common = MostVoted(table);
     std::erase_if(table, [&](const auto& entry) {
         return Within({entry.first.first, entry.first.second}, common.Size, kKeepReach);

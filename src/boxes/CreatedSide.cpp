@@ -7,10 +7,8 @@ namespace {
 
 using imaging::WorkGrid;
 
-bool InkAt(const WorkGrid& grid, const LineSeg& side, int along, int across = 0) {
-    if (side.IsVertical())
-        return grid.IsInk(side.L + across, along);
-    return grid.IsInk(along, side.T + across);
+bool InkAt(const WorkGrid& grid, const LineSeg& side, int along) {
+    return side.IsVertical() ? grid.IsInk(side.L, along) : grid.IsInk(along, side.T);
 }
 
 int StartOf(const LineSeg& side) {
@@ -50,15 +48,6 @@ int OverlongInk(const BoxAnalysis& analysis, const LineSeg& side) {
         count += InkAt(grid, side, along) ? 1 : 0;
     const int longest = side.IsVertical() ? analysis.Sizes.BoxMaxHeight : analysis.Sizes.BoxMaxWidth;
     return count > longest ? count : 0;
-}
-
-bool HasInkUnder(const WorkGrid& grid, const LineSeg& side) {
-    int inked = 0;
-    for (int along = StartOf(side); along < EndOf(side); ++along) {
-        if (InkAt(grid, side, along, -1) || InkAt(grid, side, along) || InkAt(grid, side, along, 1))
-            ++inked;
-    }
-    return 2 * inked >= EndOf(side) - StartOf(side);
 }
 
 LineSeg CreateSide(const BoxAnalysis& analysis, const LineSeg& segment, const ExpectedSide& expected,

@@ -14,7 +14,4 @@ LineSeg CreateSide(const BoxAnalysis& analysis, const LineSeg& segment, const Ex
 /// background. 0 unless it is longer than the largest box side of that axis.
 int OverlongInk(const BoxAnalysis& analysis, const LineSeg& side);
 
-/// Whether at least half of a created side has ink under it or right beside it.
-bool HasInkUnder(const imaging::WorkGrid& grid, const LineSeg& side);
-
 }  // namespace tavrene::boxes

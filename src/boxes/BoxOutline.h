@@ -1,0 +1,17 @@
+#pragma once
+
+#include "boxes/BoxAnalysis.h"
+
+namespace tavrene::boxes {
+
+/// What the page shows along the edges of a rectangle. A printed box is closed at its corners and empty;
+/// letters that look like one to line finding have round corners or a stroke across.
+struct BoxOutline {
+    int OpenCorners = 0;  ///< 0 to 4: corners with background within the first pixels of their two arms.
+    bool IsEmpty = true;  ///< Little ink well inside the edges.
+};
+
+/// Looks at `grid` up to one pixel beside the rectangle's edges. The rectangle may lie partly outside.
+BoxOutline LookAtOutline(const imaging::WorkGrid& grid, const BoxRect& box);
+
+}  // namespace tavrene::boxes
