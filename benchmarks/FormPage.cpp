@@ -1,0 +1,88 @@
+#include "FormPage.h"
+
+#include "Floor.h"
+#include "painter/Canvas.h"
+#include "painter/ImageFiles.h"
+#include "painter/Typeface.h"
+
+namespace tavrene::bench {
+namespace {
+
+constexpr int kDpi = 300;
+constexpr int kColumns = 4;
+constexpr int kRows = 25;
+constexpr int kBoxSize = 36;
+
+profiles::OmrBox BoxAt(int column, int row, int size) {
+    const int left = 180 + column * 550;
+    const int top = 420 + row * 118;
+    profiles::OmrBox box;
+    box.Name = "Q" + std::to_string(row + 1) + "." + std::to_string(column + 1);
+    box.L = static_cast<std::int16_t>(left);
+    box.R = static_cast<std::int16_t>(left + size);
+    box.B = static_cast<std::int16_t>(top);  // recognition's order: the lower edge, T, is the larger
+    box.T = static_cast<std::int16_t>(top + size);
+    box.ExpectedOutline = static_cast<std::int16_t>(4 * size - 4);
+    return box;
+}
+
+profiles::ProfileRecord ProfileOf(const std::string& name, int boxSize) {
+    profiles::ProfileRecord profile;
+    profile.Name = name;
+    profile.Active = true;
+    profile.DPI_X = profile.DPI_Y = kDpi;
+    for (int row = 0; row < kRows; ++row) {
+        for (int column = 0; column < kColumns; ++column)
+            profile.Boxes.push_back(BoxAt(column, row, boxSize));
+    }
+    return profile;
+}
+
+void PaintText(samples::Canvas& canvas) {
+    using samples::Typeface;
+    Typeface bold(Typeface::Style::SansBold);
+    Typeface plain(Typeface::Style::Sans);
+    bold.DrawText(canvas, {180, 230}, 20, "Questionnaire for all who were with us");
+    plain.DrawText(canvas, {180, 330}, 10,
+                   "Please tick one box in every line. Leave a line empty if it is not for you.");
+    for (int row = 0; row < kRows; ++row) {
+        plain.DrawText(canvas, {180, 400.0 + row * 118}, 9,
+                       "How did you like the part that is told of on this line?");
+        for (int column = 0; column < kColumns; ++column)
+            plain.DrawText(canvas, {230.0 + column * 550, 450.0 + row * 118}, 9, "more or less agreed");
+    }
+}
+
+FormPage Painted() {
+    FormPage page;
+    page.profile = ProfileOf("Form", kBoxSize);
+    page.stranger = ProfileOf("Stranger", 2 * kBoxSize);
+    samples::Canvas canvas(2480, 3508, kDpi);
+    PaintText(canvas);
+    for (std::size_t k = 0; k < page.profile.Boxes.size(); ++k) {
+        const profiles::OmrBox& box = page.profile.Boxes[k];
+        canvas.DrawRect(box.L - 1, box.B - 2, kBoxSize + 3, kBoxSize + 3, 3);
+        if (k % 3 == 0)
+            canvas.DrawLine({box.L + 8.0, box.B + 8.0}, {box.R - 8.0, box.T - 8.0}, 4);
+    }
+    page.file = ScratchFolder() + "/page.tif";
+    samples::SaveImage(samples::ToBilevel(canvas), imaging::ImageFormat::Tiff, page.file);
+    return page;
+}
+
+}  // namespace
+
+const FormPage& TheFormPage() {
+    static const FormPage page = Painted();
+    return page;
+}
+
+Workplace::Workplace()
+    : folders(app::PathsUnder(ScratchFolder())),
+      log(files, clock, nobody, folders.Log),
+      run({files, log, nobody, clock, nobody, nobody, nobody}, settings, folders) {
+    settings.FillThreshold = app::kDefaultFillThreshold;
+    app::CreateWorkingFolders(files, ScratchFolder());
+}
+
+}  // namespace tavrene::bench

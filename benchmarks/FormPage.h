@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+
+#include "app/ActivityLog.h"
+#include "app/Operator.h"
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "imaging/PageRects.h"
+#include "imaging/PageView.h"
+#include "profiles/BoxRows.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/ProcessRun.h"
+
+namespace tavrene::bench {
+
+/// A 300 dpi A4 form of text and 100 boxes.
+struct FormPage {
+    std::string file;                  ///< The one-bit scan, every third box ticked.
+    profiles::ProfileRecord profile;   ///< Matches at once.
+    profiles::ProfileRecord stranger;  ///< Never matches: its boxes are of another size.
+};
+
+/// Painted once for the life of the program.
+const FormPage& TheFormPage();
+
+/// A screen and an operator that nobody looks at.
+class Nobody final : public app::Operator,
+                     public imaging::PageView,
+                     public imaging::PageRects,
+                     public profiles::BoxRows {
+  public:
+    void ShowMessage(std::string_view, std::string_view) override {}
+    void ReportFile(std::string_view, std::string_view) override {}
+    app::Answer AskYesNo(std::string_view) override { return app::Answer::No; }
+    app::Answer AskYesNoCancel(std::string_view) override { return app::Answer::Cancel; }
+    void SetPanel(app::Panel, std::string_view) override {}
+    void SetProgressRange(int) override {}
+    void SetProgress(int) override {}
+    void RunPendingEvents() override {}
+    void ShowFile(const std::string&) override {}
+    void Clear() override {}
+    double Zoom() const override { return 100; }
+    void SetZoom(double) override {}
+    void Refresh() override {}
+    void DrawRect(int, const imaging::PageRect&, imaging::RectStyle) override {}
+    void ClearRects() override {}
+    void ClearRows() override {}
+    void AddValColumn() override {}
+    void RemoveExtraColumns() override {}
+    void AddRow(int, std::string_view, std::string_view) override {}
+};
+
+/// A working folder in the scratch folder and everything that a run on it needs.
+struct Workplace {
+    Workplace();
+
+    app::DiskFiles files;
+    app::SystemClock clock;
+    Nobody nobody;
+    app::Settings settings;
+    app::WorkingFolders folders;
+    app::ActivityLog log;
+    recognition::ProcessRun run;
+};
+
+}  // namespace tavrene::bench

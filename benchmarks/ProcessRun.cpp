@@ -1,0 +1,43 @@
+#include "recognition/ProcessRun.h"
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <vector>
+
+#include "Floor.h"
+#include "FormPage.h"
+
+namespace tavrene::bench {
+namespace {
+
+void BM_Floor(benchmark::State& state) {
+    const std::string copy = ScratchFolder() + "/copy.tif";
+    for (auto _ : state)
+        LoadAndSave(TheFormPage().file, copy);
+}
+
+// One page from the incoming folder to its result document, with one profile that matches at once and the
+// given number that never do.
+void BM_ProcessPage(benchmark::State& state) {
+    Workplace work;
+    std::vector<profiles::ProfileRecord> profiles = {TheFormPage().profile};
+    profiles.resize(1 + static_cast<std::size_t>(state.range(0)), TheFormPage().stranger);
+    const std::string waiting = work.folders.ProcessIn + "page.tif";
+    for (auto _ : state) {
+        state.PauseTiming();
+        std::filesystem::copy_file(TheFormPage().file, waiting,
+                                   std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::remove(work.folders.ProcessOut + "page.xml");
+        state.ResumeTiming();
+        work.run.Run(profiles);
+    }
+    if (!work.files.FileExists(work.folders.ProcessOut + "page.xml"))
+        state.SkipWithError("the page was not read");
+}
+
+BENCHMARK(BM_Floor)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ProcessPage)->Arg(0)->Arg(9)->Arg(19)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tavrene::bench
