@@ -101,6 +101,13 @@ OuterSize PickSize(Random& dice, const SizeRange& range) {
     return {height + widening, height};
 }
 
+// A quarter smaller, or larger where smaller boxes would be below what the settings reach.
+OuterSize SecondSize(const OuterSize& size) {
+    constexpr int smallest = 16;
+    const int quarters = size.Height * 3 / 4 >= smallest ? 3 : 5;
+    return {size.Width * quarters / 4, size.Height * quarters / 4};
+}
+
 void WearPage(BoxPage& page, const BoxPagePlan& plan, Random& dice) {
     switch (plan.Kind) {
         case Wear::Specks:
@@ -155,12 +162,12 @@ boxes::BoxSizes SizesFor(const OuterSize& size, const OuterSize& second) {
 BoxPage PaintPage(const BoxPagePlan& plan) {
     Random dice(plan.Seed * 77);
     const OuterSize size = PickSize(dice, RangeFor(plan.Dpi));
-    const OuterSize smaller{size.Width * 3 / 4, size.Height * 3 / 4};
+    const OuterSize second = SecondSize(size);
     // A sheet of A5.
     BoxSheet sheet(static_cast<int>(148 * plan.Dpi / 25.4), static_cast<int>(210 * plan.Dpi / 25.4), plan.Dpi,
                    plan.Style, plan.Seed);
-    plan.Layout->Paint(sheet, size, smaller);
-    BoxPage page{ToGrid(sheet.Page()), sheet.Truth(), SizesFor(size, plan.Layout->TwoSizes ? smaller : size)};
+    plan.Layout->Paint(sheet, size, second);
+    BoxPage page{ToGrid(sheet.Page()), sheet.Truth(), SizesFor(size, plan.Layout->TwoSizes ? second : size)};
     WearPage(page, plan, dice);
     return page;
 }

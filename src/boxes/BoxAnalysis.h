@@ -17,7 +17,7 @@ struct BoxRect {
     std::int16_t B = 0;
     std::int16_t Kind = 0;   ///< Corners where the page shows no closed outline, 0 to 4.
     std::int16_t Valid = 0;  ///< -1 kept, 0 dropped.
-    std::int16_t Mark = 0;   ///< -1 when the page shows something else than a box: open corners, ink inside.
+    std::int16_t Mark = 0;   ///< -1 for an open corner: it then has to have one of the form's sizes exactly.
     bool operator==(const BoxRect&) const = default;
 };
 

@@ -76,11 +76,12 @@ BoxRect RectangleOf(const std::vector<LineSeg>& segments, const SideNumbers& sid
     return box;
 }
 
-void NoteOutline(BoxRect& box, const imaging::WorkGrid& page) {
-    constexpr int tooManyOpen = 2;
+// One open corner may be a worn print, two of them or ink inside are a letter.
+bool LooksLikeBox(BoxRect& box, const imaging::WorkGrid& page) {
     const BoxOutline outline = LookAtOutline(page, box);
     box.Kind = static_cast<std::int16_t>(outline.OpenCorners);
-    box.Mark = outline.OpenCorners >= tooManyOpen || !outline.IsEmpty ? std::int16_t{-1} : std::int16_t{0};
+    box.Mark = outline.OpenCorners == 0 ? std::int16_t{0} : std::int16_t{-1};
+    return outline.OpenCorners < 2 && outline.IsEmpty;
 }
 
 bool ReachesSmallestSize(const BoxRect& box, const BoxSizes& sizes) {
@@ -116,8 +117,8 @@ std::vector<BoxRect> BuildRectangles(BoxAnalysis& analysis, int numbers) {
             continue;
         }
         BoxRect box = RectangleOf(analysis.Segments, sides, analysis.WorkGrid.Width());
-        NoteOutline(box, analysis.SaveGrid);
-        box.Valid = ReachesSmallestSize(box, analysis.Sizes) ? std::int16_t{-1} : std::int16_t{0};
+        const bool isKept = ReachesSmallestSize(box, analysis.Sizes) && LooksLikeBox(box, analysis.SaveGrid);
+        box.Valid = isKept ? std::int16_t{-1} : std::int16_t{0};
         boxes.push_back(box);
     }
     return boxes;

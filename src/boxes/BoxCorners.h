@@ -32,7 +32,8 @@ ExpectedSide ExpectFourthSide(const LineSeg& segment, const LineSeg& a, const Li
 bool RunsBetween(const LineSeg& side, const ExpectedSide& expected);
 
 /// One rectangle for every box number below `numbers` that has four sides, in the order of the numbers. The
-/// segments of a number that has fewer are released. `Valid` says whether the smallest size is reached.
+/// segments of a number that has fewer are released. `Valid` says whether the smallest size is reached and
+/// the page shows a box there.
 std::vector<BoxRect> BuildRectangles(BoxAnalysis& analysis, int numbers);
 
 }  // namespace tavrene::boxes

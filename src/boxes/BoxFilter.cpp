@@ -11,8 +11,8 @@ namespace {
 constexpr int kCandidateReach = 2;
 constexpr int kKeepReach = 3;
 
-// A closed and empty outline says more about the sizes of a form than one with an open corner, which may be a
-// worn print or a letter. All others have no say unless there is nothing else.
+// A closed outline says more about the sizes of a form than one with an open corner, which may be a worn
+// print or a letter.
 constexpr int kClosedVote = 8;
 constexpr int kOpenVote = 1;
 
@@ -27,23 +27,12 @@ bool Within(BoxSize a, BoxSize b, int reach) {
 // One entry a size that occurs, with its votes.
 using SizeTable = std::map<std::pair<int, int>, int>;
 
-int VotesOf(const BoxRect& box) {
-    if (box.Mark != 0)
-        return 0;
-    return box.Kind == 0 ? kClosedVote : kOpenVote;
-}
-
-int OneVote(const BoxRect&) {
-    return 1;
-}
-
-SizeTable CountSizes(const std::vector<BoxRect>& boxes, int (*votesOf)(const BoxRect&)) {
+SizeTable CountSizes(const std::vector<BoxRect>& boxes) {
     SizeTable table;
     for (const BoxRect& box : boxes) {
         const BoxSize size = SizeOf(box);
-        const int votes = votesOf(box);
-        if (box.Valid != 0 && votes != 0)
-            table[{size.Width, size.Height}] += votes;
+        if (box.Valid != 0)
+            table[{size.Width, size.Height}] += box.Kind == 0 ? kClosedVote : kOpenVote;
     }
     return table;
 }
@@ -109,9 +98,7 @@ BoxSize SizeOf(const BoxRect& box) {
 }
 
 ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes) {
-    SizeTable table = CountSizes(boxes, VotesOf);
-    if (table.empty())
-        table = CountSizes(boxes, OneVote);
+    SizeTable table = CountSizes(boxes);
     const Choice common = MostVoted(table);
     std::erase_if(table, [&](const auto& entry) {
         return Within({entry.first.first, entry.first.second}, common.Size, kKeepReach);

@@ -48,9 +48,47 @@ bool IsEmptyInside(const WorkGrid& grid, const BoxRect& box) {
     return ink * 100 <= emptyPercent * area;
 }
 
+int InkDown(const WorkGrid& grid, int column, const BoxRect& box) {
+    int ink = 0;
+    for (int row = box.T; row <= box.B; ++row)
+        ink += grid.IsInk(column, row) ? 1 : 0;
+    return ink;
+}
+
+int InkAcross(const WorkGrid& grid, int row, const BoxRect& box) {
+    int ink = 0;
+    for (int column = box.L; column <= box.R; ++column)
+        ink += grid.IsInk(column, row) ? 1 : 0;
+    return ink;
+}
+
+// The place with the most ink among `edge` and the pixels beside it.
+template <typename InkAt>
+std::int16_t Inkiest(std::int16_t edge, InkAt inkAt) {
+    std::int16_t best = edge;
+    for (const int place : {edge - 1, edge + 1}) {
+        if (inkAt(place) > inkAt(best))
+            best = static_cast<std::int16_t>(place);
+    }
+    return best;
+}
+
+// A side that ends where a run ends lies on the pixel after it; here each edge is put onto the ink.
+BoxRect LaidOnInk(const WorkGrid& grid, const BoxRect& box) {
+    const auto inkDown = [&](int column) { return InkDown(grid, column, box); };
+    const auto inkAcross = [&](int row) { return InkAcross(grid, row, box); };
+    BoxRect laid = box;
+    laid.L = Inkiest(box.L, inkDown);
+    laid.R = Inkiest(box.R, inkDown);
+    laid.T = Inkiest(box.T, inkAcross);
+    laid.B = Inkiest(box.B, inkAcross);
+    return laid;
+}
+
 }  // namespace
 
-BoxOutline LookAtOutline(const WorkGrid& grid, const BoxRect& box) {
+BoxOutline LookAtOutline(const WorkGrid& grid, const BoxRect& rectangle) {
+    const BoxRect box = LaidOnInk(grid, rectangle);
     BoxOutline outline;
     for (const bool isRight : {false, true}) {
         for (const bool isUpper : {false, true}) {
