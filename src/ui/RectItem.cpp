@@ -42,10 +42,10 @@ QPen CosmeticPen(const QColor& color, double width) {
 }
 
 // A whole number of dashes a side, with half a dash on either side of every corner, so that a small box still
-// looks like one. `side` in pixels of the screen.
-void BreakUp(QPen& pen, double side, double inked) {
+// looks like one. `side` in pixels of the screen, `dots` of the device on each of them.
+void BreakUp(QPen& pen, double side, double dots, double inked) {
     const double periods = std::max(2.0, std::round(side / 9));
-    const double period = side / periods / pen.widthF();
+    const double period = side * dots / periods / pen.widthF();
     pen.setDashPattern({inked * period, (1 - inked) * period});
     pen.setDashOffset(inked * period / 2);
 }
@@ -73,7 +73,7 @@ void RectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget
     painter->drawRect(rect_);
     QPen pen = CosmeticPen(look.color, width);
     if (look.inked < 1 && side > 0)
-        BreakUp(pen, side * dots, dots, look.inked);
+        BreakUp(pen, side, dots, look.inked);
     painter->setPen(pen);
     painter->drawRect(rect_);
 }

@@ -1,0 +1,232 @@
+#include <QGraphicsView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QTreeWidget>
+
+#include "support/RunWorld.h"
+#include "ui/Controls.h"
+#include "ui/MainWindow.h"
+#include "ui/QtSettingsStore.h"
+#include "ui/RectItem.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::Button;
+using test::Find;
+using Names = std::vector<std::string>;
+
+class MainWindowTest : public test::RunWorld {
+  protected:
+    MainWindowTest() {
+        settings_.DisplayDuringProcess = true;
+        AddProfile("Form", form_);
+    }
+
+    MainWindow& Open() {
+        window_ = std::make_unique<MainWindow>(settings_, WindowDoors{store_, files_, clock_});
+        window_->Load();
+        window_->show();
+        QApplication::processEvents();
+        return *window_;
+    }
+    void AddScans(int count) {
+        for (int i = 1; i <= count; ++i)
+            form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
+    }
+    void Click(const char* key) { Button(*window_, "MainToolbar", key).click(); }
+    void PressEscape() {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(&View(), &escape);
+    }
+    QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }
+    std::string Panel(const char* key) { return FromQt(Find<QLabel>(*window_, key).text()); }
+    int Progress() { return Find<QProgressBar>(*window_, "ProgressBar1").value(); }
+    double Zoom() { return View().transform().m11(); }
+
+    test::TempFolder config_;
+    QtSettingsStore store_{ToQt(config_.Path())};
+    test::TestForm form_ = test::TestForm::Grid(2, 2);
+    std::unique_ptr<MainWindow> window_;
+};
+
+Names ButtonsOf(const QToolBar& toolbar) {
+    Names buttons;
+    for (const QAction* action : toolbar.actions()) {
+        if (action->isSeparator()) {
+            buttons.emplace_back("-");
+            continue;
+        }
+        const char* const state = !action->isVisible() ? "hidden" : action->isEnabled() ? "on" : "off";
+        buttons.push_back(FromQt(action->objectName() + "|" + action->toolTip() + "|" + state));
+        EXPECT_FALSE(action->icon().pixmap(24).toImage().isNull()) << buttons.back();
+    }
+    return buttons;
+}
+
+TEST_F(MainWindowTest, HasTheListedButtonsAndAMenuForEachOfThem) {
+    Open();
+    auto& main = Find<QToolBar>(*window_, "MainToolbar");
+    EXPECT_EQ(
+        ButtonsOf(main),
+        (Names{"New|Create New Profile|off", "Save|Save Current Profile|off",
+               "Delete|Delete Current Profile|off", "-", "ZoomToOrig|Zoom To Original|on",
+               "ZoomIn|Zoom In|on", "ZoomOut|Zoom Out|on", "FitPage|Fit Page|on", "FitWidth|Fit Width|on",
+               "-", "Process|Start OMR recognition process of images from configured directory|on",
+               "Stop|Stop Process|on", "-", "Review|Review Processed Forms|off", "Okay|Reviewed OK|hidden",
+               "AcceptForm|Accept Form (Move to Final Folder)|hidden",
+               "RejectForm|Reject Form (Move to Reject Folder)|hidden"}));
+    auto& cfg = Find<QToolBar>(*window_, "CfgToolbar");
+    EXPECT_EQ(ButtonsOf(cfg), (Names{"Select|Select/Move/Modify OMR CheckBox|off",
+                                     "Add|Create New OMR CheckBox|off", "Delete|Delete OMR CheckBox|off"}));
+    QList<QAction*> reached;
+    for (const QAction* menu : window_->menuBar()->actions())
+        reached += menu->menu()->actions();
+    for (QAction* action : main.actions() + cfg.actions())
+        EXPECT_TRUE(action->isSeparator() || reached.contains(action)) << FromQt(action->objectName());
+    EXPECT_EQ(Panel("File"), "Profiles:1, Active:1");
+    EXPECT_EQ(Panel("Message"), "Ready");
+}
+
+TEST_F(MainWindowTest, ARunShowsPageBoxesAndListAndTheZoomCommandsWorkOnIt) {
+    AddScans(1);
+    Open();
+    Click("ZoomIn");
+    EXPECT_EQ(Zoom(), 1) << "there is no page to zoom";
+    Click("Process");
+    EXPECT_EQ(In(folders_.ProcessOut), (Names{"scan1.tif", "scan1.xml"}));
+    auto& boxes = Find<QTreeWidget>(*window_, "lvwSettings");
+    ASSERT_EQ(boxes.topLevelItemCount(), 4);
+    EXPECT_EQ(boxes.headerItem()->text(1), "Val");
+    EXPECT_EQ(boxes.topLevelItem(1)->text(0) + boxes.topLevelItem(1)->text(1), "Q21");
+    EXPECT_EQ(boxes.topLevelItem(2)->text(1), "0");
+    const QList<QGraphicsItem*> items = View().items();
+    EXPECT_EQ(std::count_if(items.begin(), items.end(),
+                            [](QGraphicsItem* item) { return dynamic_cast<RectItem*>(item) != nullptr; }),
+              4);
+    EXPECT_EQ(View().sceneRect(), QRectF(0, 0, form_.width, form_.height));
+
+    Click("ZoomIn");
+    Click("ZoomIn");
+    EXPECT_DOUBLE_EQ(Zoom(), 1.56);
+    Click("ZoomOut");
+    EXPECT_DOUBLE_EQ(Zoom(), 1.25);
+    Click("FitPage");
+    QApplication::processEvents();
+    EXPECT_FALSE(View().verticalScrollBar()->isVisible());
+    EXPECT_FALSE(View().horizontalScrollBar()->isVisible());
+    EXPECT_NEAR(std::max(form_.width * Zoom() / View().viewport()->width(),
+                         form_.height * Zoom() / View().viewport()->height()),
+                1, 0.001);
+    Click("ZoomToOrig");
+    EXPECT_EQ(Zoom(), 1);
+}
+
+TEST_F(MainWindowTest, StopDuringTheThirdOfFiveFinishesTheThird) {
+    AddScans(5);
+    Open();
+    test::BoxCloser boxes;
+    test::WhileRunning stop([this] {
+        if (Progress() == 1)
+            Click("Process");  // ignored: one run goes on already
+        if (Progress() == 3)
+            Click("Stop");
+    });
+    Click("Process");
+    EXPECT_EQ(In(folders_.ProcessIn), (Names{"scan4.tif", "scan5.tif"}));
+    EXPECT_EQ(boxes.texts, Names{"Stop Tavrene Process: Process interrupted by user"});
+    const Names log = ProcessLog();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 1);
+    EXPECT_EQ(log.back(), "Processed 3 Files, 0 Sec.");
+    EXPECT_EQ(Panel("ElapsedTime"), "3 Files, 0 Sec.");
+    EXPECT_TRUE(window_->isVisible());
+}
+
+// Counts how often a widget is painted and what its label shows then.
+class PaintWatch final : public QObject {
+  public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    Names shown;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            auto* const label = qobject_cast<QLabel*>(watched);
+            shown.push_back(label == nullptr ? "painted" : FromQt(label->text()));
+        }
+        return false;
+    }
+};
+
+TEST_F(MainWindowTest, RepaintsPageAndPanelsForEveryFile) {
+    AddScans(4);
+    Open();
+    PaintWatch page(*View().viewport());
+    PaintWatch file(Find<QLabel>(*window_, "File"));
+    Click("Process");
+    EXPECT_GE(page.shown.size(), 4U);
+    for (const char* name : {"scan1.tif", "scan2.tif", "scan3.tif", "scan4.tif"})
+        EXPECT_NE(std::find(file.shown.begin(), file.shown.end(), name), file.shown.end()) << name;
+}
+
+TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
+    AddScans(5);
+    Open();
+    test::BoxCloser boxes;
+    bool openAfterEscape = false;
+    test::WhileRunning escape([&] {
+        if (Progress() != 2)
+            return;
+        PressEscape();
+        openAfterEscape = window_->isVisible();
+    });
+    Click("Process");
+    EXPECT_TRUE(openAfterEscape);
+    EXPECT_EQ(In(folders_.ProcessIn).size(), 3U);
+    EXPECT_EQ(boxes.texts, Names{"Stop Tavrene Process: Process interrupted by user"});
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MainWindowTest, EscapeClosesTheIdleWindowWhichRemembersItsShape) {
+    Open().resize(1111, 777);
+    PressEscape();
+    EXPECT_FALSE(window_->isVisible());
+    Open();
+    EXPECT_EQ(window_->size(), QSize(1111, 777));
+}
+
+TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {
+    for (const char* name : {"a.tif", "b & <c>.tif", "d.png"})
+        test::WriteText(folders_.ProcessIn + name, "no image");
+    Open();
+    Click("Process");
+    EXPECT_EQ(In(folders_.ProcessIn), Names());
+    auto& box = Find<QDialog>(*window_, "FileReports");
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_FALSE(box.isModal());
+    auto& lines = Find<QPlainTextEdit>(box, "Lines");
+    EXPECT_EQ(lines.toPlainText(),
+              "a.tif: Image not in bitmap format\nb & <c>.tif: Image not in bitmap format\n"
+              "d.png: Image not in bitmap format");
+    box.close();
+    test::WriteText(folders_.ProcessIn + "e.tif", "no image");
+    Click("Process");
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_EQ(lines.toPlainText(), "e.tif: Image not in bitmap format");
+}
+
+TEST_F(MainWindowTest, ARunThatCannotStartSaysWhyAndLeavesTheWindowUsable) {
+    files_.Delete(folders_.Profiles + "Form.Tvp");
+    Open();
+    test::BoxCloser boxes;
+    Click("Process");
+    EXPECT_EQ(boxes.texts, Names{"Tavrene CheckBoxes: No Profiles to match images against!"});
+    EXPECT_TRUE(Button(*window_, "MainToolbar", "ZoomIn").isEnabled());
+}
+
+}  // namespace
+}  // namespace tavrene::ui

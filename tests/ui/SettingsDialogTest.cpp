@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "support/FaultyFiles.h"
+#include "support/MemoryStore.h"
+#include "support/TempFolder.h"
+#include "ui/Controls.h"
+#include "ui/SettingsDialog.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::Find;
+using Values = std::map<std::string, std::string>;
+
+class SettingsDialogTest : public testing::Test {
+  protected:
+    SettingsDialogTest() {
+        store_.values = {{"BoxMinWidth", "16"},  {"BoxMaxWidth", "38"},  {"BoxMinHeight", "16"},
+                         {"BoxMaxHeight", "34"}, {"FillThreshold", "8"}, {"WorkDir", work_.Path()}};
+        settings_.WorkDir = work_.Path();
+    }
+
+    SettingsDialog& Open() {
+        dialog_ = std::make_unique<SettingsDialog>(settings_, store_, files_, nullptr);
+        dialog_->show();
+        return *dialog_;
+    }
+    void Move(const char* bar, int position) { Find<QScrollBar>(*dialog_, bar).setValue(position); }
+    int Position(const char* bar) { return Find<QScrollBar>(*dialog_, bar).value(); }
+    QString Text(const char* label) { return Find<QLabel>(*dialog_, label).text(); }
+    void Click(const char* button) { Find<QPushButton>(*dialog_, button).click(); }
+
+    // Makes a row of the folder list the current folder, as a double click does.
+    void Enter(const QString& folder) {
+        auto& list = Find<QListWidget>(*dialog_, "Dir1");
+        for (int row = 0; row < list.count(); ++row)
+            if (list.item(row)->data(Qt::UserRole).toString() == folder)
+                return Q_EMIT list.itemActivated(list.item(row));
+        FAIL() << "no row for " << FromQt(folder);
+    }
+
+    test::TempFolder work_;
+    test::MemoryStore store_;
+    test::FaultyFiles files_;
+    app::Settings settings_;
+    std::unique_ptr<SettingsDialog> dialog_;
+};
+
+TEST_F(SettingsDialogTest, BarsHoldEachOtherAndTheLabelFollows) {
+    Open();
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
+    Move("HScroll1", 50);
+    EXPECT_EQ(Position("HScroll1"), 38);
+    Move("VScroll1", 10);
+    EXPECT_EQ(Text("lblSize"), "(38,34) - (38,34)");
+    Move("HScroll1", 12);
+    Move("HScroll2", 10);
+    Move("VScroll1", 50);
+    EXPECT_EQ(Text("lblSize"), "(12,10) - (12,34)");
+    Move("VScroll2", 50);
+    EXPECT_EQ(Text("lblSize"), "(12,10) - (12,10)");
+    Move("VScroll2", 10);
+    Move("HScroll2", 50);
+    EXPECT_EQ(Text("lblSize"), "(12,10) - (50,40)");
+    Move("HScroll3", 23);
+    EXPECT_EQ(Text("lblThreshold"), "23");
+}
+
+TEST_F(SettingsDialogTest, OpeningWithZerosStoresTheFirstPositions) {
+    store_.values = {{"FillThreshold", "8"}, {"WorkDir", work_.Path()}};
+    Open();
+    EXPECT_EQ(store_.values, (Values{{"BoxMinWidth", "16"},
+                                     {"BoxMaxWidth", "38"},
+                                     {"BoxMinHeight", "34"},
+                                     {"BoxMaxHeight", "16"},
+                                     {"FillThreshold", "8"},
+                                     {"WorkDir", work_.Path()}}));
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,16)");
+}
+
+TEST_F(SettingsDialogTest, ResetPutsBackTheSizesAloneAndStoresNothing) {
+    const Values before = store_.values;
+    Open();
+    for (const char* bar : {"HScroll1", "HScroll2", "VScroll1", "VScroll2"})
+        Move(bar, 40);
+    Move("HScroll3", 55);
+    Find<QCheckBox>(*dialog_, "chkProcessSingle").setChecked(true);
+    Click("cmdReset");
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
+    EXPECT_EQ(Text("lblThreshold"), "55");
+    EXPECT_TRUE(Find<QCheckBox>(*dialog_, "chkProcessSingle").isChecked());
+    EXPECT_EQ(store_.values, before);
+}
+
+TEST_F(SettingsDialogTest, CancelWithoutAWorkingFolderKeepsTheFolderShown) {
+    settings_.WorkDir.clear();
+    store_.values.erase("WorkDir");
+    Open();
+    Move("HScroll1", 20);
+    Click("cmdCancel");
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(settings_.WorkDir, FromQt(QDir::currentPath()));
+    EXPECT_EQ(store_.values["WorkDir"], settings_.WorkDir);
+    EXPECT_EQ(store_.values["BoxMinWidth"], "16");
+}
+
+TEST_F(SettingsDialogTest, SaveWritesEveryValueAndMakesTheFolders) {
+    QDir(ToQt(work_.Path())).mkpath("nested/deep & <wide>");
+    Open();
+    Enter(ToQt(work_.Path()) + "/nested");
+    Enter(ToQt(work_.Path()) + "/nested/deep & <wide>");
+    Move("HScroll1", 20);
+    Move("VScroll1", 28);
+    Move("HScroll3", 11);
+    Find<QCheckBox>(*dialog_, "chkDisplayDuringProcess").setChecked(true);
+    Click("cmdOK");
+    const std::string chosen = work_.Path() + "/nested/deep & <wide>";
+    EXPECT_EQ(store_.values, (Values{{"BoxMinWidth", "20"},
+                                     {"BoxMaxWidth", "38"},
+                                     {"BoxMinHeight", "22"},
+                                     {"BoxMaxHeight", "34"},
+                                     {"FillThreshold", "11"},
+                                     {"ProcessSingle", "0"},
+                                     {"DisplayDuringProcess", "1"},
+                                     {"WorkDir", chosen}}));
+    EXPECT_EQ(settings_.BoxMinHeight, 22);
+    EXPECT_TRUE(settings_.DisplayDuringProcess);
+    EXPECT_TRUE(files_.FolderExists(chosen + "/ProcessIn"));
+    EXPECT_FALSE(dialog_->isVisible());
+}
+
+TEST_F(SettingsDialogTest, SaveWithAnUnusableFolderKeepsTheOldOne) {
+    QDir(ToQt(work_.Path())).mkpath("readonly");
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "create"; };
+    Open();
+    Enter(ToQt(work_.Path()) + "/readonly");
+    Move("HScroll3", 30);
+    Click("cmdOK");
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(settings_.WorkDir, work_.Path());
+    EXPECT_EQ(store_.values["WorkDir"], work_.Path());
+    EXPECT_EQ(store_.values["FillThreshold"], "30");
+}
+
+TEST_F(SettingsDialogTest, AFolderThatIsGoneIsShownAsTheNearestOneThatExists) {
+    settings_.WorkDir = work_.Path() + "/gone/for good";
+    Open();
+    EXPECT_EQ(Text("lblFolder"), ToQt(work_.Path()));
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
+}
+
+}  // namespace
+}  // namespace tavrene::ui

@@ -1,0 +1,70 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "support/TempFolder.h"
+#include "ui/QtSettingsStore.h"
+#include "ui/QtText.h"
+#include "ui/SingleInstance.h"
+
+namespace tavrene::ui {
+namespace {
+
+TEST(QtSettingsStoreTest, KeepsEveryTextAsItIs) {
+    const test::TempFolder config;
+    for (const std::string text :
+         {"/home/Zoë/a, b; c=d #e \"f\" %20 & [g]", " spaced ", "12px", "C:\\x\\n"}) {
+        QtSettingsStore writer(ToQt(config.Path()));
+        ASSERT_TRUE(writer.WriteSettingValue("App", "Common", "WorkDir", text));
+        const QtSettingsStore reader(ToQt(config.Path()));
+        EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), text);
+        EXPECT_EQ(reader.ReadSettingValue("App", "Window", "WorkDir"), "");
+        EXPECT_EQ(reader.ReadSettingValue("Other", "Common", "WorkDir"), "");
+    }
+}
+
+TEST(QtSettingsStoreTest, ReadsWhatAPersonWroteByHand) {
+    const test::TempFolder config;
+    QtSettingsStore store(ToQt(config.Path()));
+    store.WriteSettingValue("App", "Common", "FillThreshold", "8");
+    test::WriteText(config.File("App/settings.ini"), "[Common]\nFillThreshold=12\nWorkDir=/forms, old\n");
+    const QtSettingsStore reader(ToQt(config.Path()));
+    EXPECT_EQ(reader.ReadSettingValue("App", "Common", "FillThreshold"), "12");
+    EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), "/forms, old");
+}
+
+TEST(QtSettingsStoreTest, TellsWhenItCannotWrite) {
+    const test::TempFolder config;
+    test::WriteText(config.File("App"), "a file where the folder should be");
+    QtSettingsStore store(ToQt(config.Path()));
+    EXPECT_FALSE(store.WriteSettingValue("App", "Common", "FillThreshold", "8"));
+}
+
+TEST(SingleInstanceTest, ASecondOneIsRefusedUntilTheFirstEnds) {
+    const test::TempFolder folder;
+    const QString path = ToQt(folder.File("new folder"));
+    {
+        SingleInstance first(path);
+        EXPECT_TRUE(first.Become());
+        EXPECT_FALSE(SingleInstance(path).Become());
+    }
+    EXPECT_TRUE(SingleInstance(path).Become());
+}
+
+TEST(SingleInstanceTest, TheLockOfACrashedHolderIsTakenOver) {
+    const test::TempFolder folder;
+    const pid_t holder = fork();
+    ASSERT_GE(holder, 0);
+    if (holder == 0) {
+        SingleInstance instance(ToQt(folder.Path()));
+        _exit(instance.Become() ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(holder, &status, 0), holder);
+    ASSERT_EQ(status, 0);
+    ASSERT_NE(test::ReadText(folder.File("instance.lock")), "");
+    EXPECT_TRUE(SingleInstance(ToQt(folder.Path())).Become());
+}
+
+}  // namespace
+}  // namespace tavrene::ui
