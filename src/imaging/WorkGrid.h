@@ -39,7 +39,9 @@ class WorkGrid {
     int Rows() const { return rows_; }
 
     bool IsInk(int column, int row) const {
-        if (column < 0 || row < 0 || column >= columns_ || row >= rows_)
+        // As unsigned numbers the negative ones lie beyond the far edges.
+        if (static_cast<unsigned>(column) >= static_cast<unsigned>(columns_) ||
+            static_cast<unsigned>(row) >= static_cast<unsigned>(rows_))
             return false;
         return ((words_[WordIndex(column, row)] >> BitOf(column)) & 1U) != 0;
     }

@@ -26,28 +26,31 @@ void BridgedLines::CopyOutline(const imaging::WorkGrid& grid, Along along, int f
     lastLine_ = std::min(lastLine, lines - 1);
     from_ = from;
     to_ = std::min(to, cells - 1);
-    sums_.clear();
+    perLine_ = std::max(0, to_ - from_ + 1) + 1;
+    sums_.resize(static_cast<std::size_t>(std::max(0, lastLine_ - firstLine_ + 1)) *
+                 static_cast<std::size_t>(perLine_));
     for (int line = firstLine_; line <= lastLine_; ++line) {
-        const auto ink = [&grid, along, line](int cell) {
-            return along == Along::Rows ? grid.IsInk(cell, line) : grid.IsInk(line, cell);
-        };
-        int sum = 0;
-        sums_.push_back(sum);
-        bool before = ink(from_ - 1);
-        bool here = ink(from_);
-        for (int cell = from_; cell <= to_; ++cell) {
-            const bool after = ink(cell + 1);
-            sum += here || (before && after) ? 1 : 0;
-            sums_.push_back(sum);
-            before = here;
-            here = after;
-        }
+        if (along == Along::Rows)
+            SumLine(line, [&grid, line](int cell) { return grid.IsInk(cell, line); });
+        else
+            SumLine(line, [&grid, line](int cell) { return grid.IsInk(line, cell); });
     }
 }
 
-const int* BridgedLines::Sums(int line) const {
-    const int perLine = std::max(0, to_ - from_ + 1) + 1;
-    return sums_.data() + static_cast<std::ptrdiff_t>(line - firstLine_) * perLine;
+template <typename Ink>
+void BridgedLines::SumLine(int line, Ink ink) {
+    int* next = sums_.data() + Offset(line);
+    int sum = 0;
+    *next++ = sum;
+    bool before = ink(from_ - 1);
+    bool here = ink(from_);
+    for (int cell = from_; cell <= to_; ++cell) {
+        const bool after = ink(cell + 1);
+        sum += static_cast<int>(here) | (static_cast<int>(before) & static_cast<int>(after));
+        *next++ = sum;
+        before = here;
+        here = after;
+    }
 }
 
 int BridgedLines::Between(int line, int from, int to) const {
@@ -55,7 +58,7 @@ int BridgedLines::Between(int line, int from, int to) const {
     const int last = std::min(to - 1, to_);
     if (line > lastLine_ || last < first)
         return 0;
-    const int* const sums = Sums(line);
+    const int* const sums = sums_.data() + Offset(line);
     return sums[last + 1 - from_] - sums[first - from_];
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "imaging/WorkGrid.h"
@@ -33,12 +34,17 @@ class BridgedLines {
     int Between(int line, int from, int to) const;
 
   private:
-    const int* Sums(int line) const;
+    template <typename Ink>
+    void SumLine(int line, Ink ink);
+    std::ptrdiff_t Offset(int line) const {
+        return static_cast<std::ptrdiff_t>(line - firstLine_) * perLine_;
+    }
 
     int firstLine_ = 0;
     int lastLine_ = -1;
     int from_ = 0;
     int to_ = -1;
+    int perLine_ = 1;
     std::vector<int> sums_;
 };
 
