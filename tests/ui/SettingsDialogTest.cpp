@@ -14,6 +14,7 @@ namespace tavrene::ui {
 namespace {
 
 using test::Find;
+using Names = std::vector<std::string>;
 using Values = std::map<std::string, std::string>;
 
 class SettingsDialogTest : public testing::Test {
@@ -151,6 +152,24 @@ TEST_F(SettingsDialogTest, AFolderThatIsGoneIsShownAsTheNearestOneThatExists) {
     Open();
     EXPECT_EQ(Text("lblFolder"), ToQt(work_.Path()));
     EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
+}
+
+TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStopHasAName) {
+    Open();
+    Names stops;
+    const QWidget* const first = &Find<QWidget>(*dialog_, "Drive1");
+    const QWidget* stop = first;
+    do {
+        const bool box = qobject_cast<const QAbstractButton*>(stop) != nullptr;
+        if ((stop->focusPolicy() & Qt::TabFocus) != 0 && stop->isVisible()) {
+            stops.push_back(FromQt(stop->objectName()));
+            EXPECT_TRUE(box || !stop->accessibleName().isEmpty()) << stops.back();
+        }
+        stop = stop->nextInFocusChain();
+    } while (stop != first);
+    EXPECT_EQ(stops,
+              (Names{"Drive1", "Dir1", "VScroll1", "HScroll1", "VScroll2", "HScroll2", "cmdReset",
+                     "chkDisplayDuringProcess", "chkProcessSingle", "HScroll3", "cmdOK", "cmdCancel"}));
 }
 
 }  // namespace
