@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/Raised.h"
 #include "profiles/ProfileLoader.h"
 #include "recognition/Classification.h"
 #include "recognition/ResultDocument.h"
@@ -16,18 +17,6 @@ namespace {
 using app::Panel;
 using app::ShowInStatusBar;
 using profiles::ProfileRecord;
-
-// Holds a flag for as long as it lives.
-class Raised {
-  public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-  private:
-    bool& flag_;
-};
 
 }  // namespace
 
@@ -64,7 +53,7 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
 
 void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     const app::ToleratedLogFailures tolerated(doors_.log);
-    const Raised running(running_);
+    const app::Raised running(running_);
     stop_ = false;
     filesDone_ = 0;
     currentName_.clear();

@@ -2,22 +2,9 @@
 
 #include <utility>
 
+#include "app/Raised.h"
+
 namespace tavrene::commands {
-namespace {
-
-// Sets the processing flag for as long as it lives, however a run ends.
-class ProcessingMark {
-  public:
-    explicit ProcessingMark(bool& flag) : flag_(flag) { flag_ = true; }
-    ~ProcessingMark() { flag_ = false; }
-    ProcessingMark(const ProcessingMark&) = delete;
-    ProcessingMark& operator=(const ProcessingMark&) = delete;
-
-  private:
-    bool& flag_;
-};
-
-}  // namespace
 
 Processing::Processing(AppState& state, recognition::ProcessRun& run, std::function<void()> runBegins,
                        std::function<void()> closeWindow)
@@ -26,7 +13,7 @@ Processing::Processing(AppState& state, recognition::ProcessRun& run, std::funct
 void Processing::Process() {
     if (!run_.MayStart(state_.profiles))
         return;
-    const ProcessingMark mark(state_.processing);
+    const app::Raised processing(state_.processing);
     runBegins_();
     run_.Run(state_.profiles);
 }
