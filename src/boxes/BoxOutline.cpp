@@ -1,6 +1,7 @@
 #include "boxes/BoxOutline.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tavrene::boxes {
 namespace {
@@ -22,17 +23,71 @@ bool InkBeside(const WorkGrid& grid, int column, int row, int stepX, int stepY) 
            grid.IsInk(column + stepX, row + stepY);
 }
 
-// Whether both arms of the corner at (`column`, `row`) are inked; they point by `inwardX` and `inwardY`.
-bool IsClosed(const WorkGrid& grid, const BoxRect& box, int column, int row, int inwardX, int inwardY) {
+// A corner of a rectangle, and the pixel where the outer edges of the two outlines meet.
+struct Corner {
+    int Column;
+    int Row;
+    int InwardX;
+    int InwardY;
+    int OuterColumn;
+    int OuterRow;
+};
+
+bool AreArmsInked(const WorkGrid& grid, const BoxRect& box, const Corner& corner) {
     for (int along = 0; along <= ArmLength(box.R - box.L); ++along) {
-        if (!InkBeside(grid, column + along * inwardX, row, 0, 1))
+        if (!InkBeside(grid, corner.Column + along * corner.InwardX, corner.Row, 0, 1))
             return false;
     }
     for (int along = 0; along <= ArmLength(box.B - box.T); ++along) {
-        if (!InkBeside(grid, column, row + along * inwardY, 1, 0))
+        if (!InkBeside(grid, corner.Column, corner.Row + along * corner.InwardY, 1, 0))
             return false;
     }
     return true;
+}
+
+// Strokes of a letter may be thick enough to hide its curve, but their outer edges do not meet.
+bool IsOuterPixelInked(const WorkGrid& grid, const Corner& corner) {
+    for (int stepY = -1; stepY <= 1; ++stepY) {
+        if (InkBeside(grid, corner.OuterColumn, corner.OuterRow + stepY, 1, 0))
+            return true;
+    }
+    return false;
+}
+
+// How far the ink reaches outwards from an edge: the middle one of three places along it. `isInk` takes the
+// place along the edge, of `length`, and the distance from it.
+template <typename IsInk>
+int OuterReach(int length, IsInk isInk) {
+    constexpr int farthest = 8;
+    std::array<int, 3> reach{};
+    for (int third = 0; third < 3; ++third) {
+        const int along = length * (third + 2) / 6;
+        int& distance = reach[static_cast<std::size_t>(third)];
+        while (distance < farthest && isInk(along, distance + 1))
+            ++distance;
+    }
+    std::sort(reach.begin(), reach.end());
+    return reach[1];
+}
+
+// Columns and rows of the outer edges of the outline.
+BoxRect OuterEdges(const WorkGrid& grid, const BoxRect& box) {
+    const auto down = [&](int column, int step) {
+        return OuterReach(box.B - box.T, [&, column, step](int along, int distance) {
+            return grid.IsInk(column + step * distance, box.T + along);
+        });
+    };
+    const auto across = [&](int row, int step) {
+        return OuterReach(box.R - box.L, [&, row, step](int along, int distance) {
+            return grid.IsInk(box.L + along, row + step * distance);
+        });
+    };
+    BoxRect outer = box;
+    outer.L = static_cast<std::int16_t>(box.L - down(box.L, -1));
+    outer.R = static_cast<std::int16_t>(box.R + down(box.R, 1));
+    outer.T = static_cast<std::int16_t>(box.T - across(box.T, -1));
+    outer.B = static_cast<std::int16_t>(box.B + across(box.B, 1));
+    return outer;
 }
 
 bool IsEmptyInside(const WorkGrid& grid, const BoxRect& box) {
@@ -89,13 +144,14 @@ BoxRect LaidOnInk(const WorkGrid& grid, const BoxRect& box) {
 
 BoxOutline LookAtOutline(const WorkGrid& grid, const BoxRect& rectangle) {
     const BoxRect box = LaidOnInk(grid, rectangle);
+    const BoxRect outer = OuterEdges(grid, box);
+    const std::array<Corner, 4> corners = {
+        Corner{box.L, box.T, 1, 1, outer.L, outer.T}, Corner{box.R, box.T, -1, 1, outer.R, outer.T},
+        Corner{box.L, box.B, 1, -1, outer.L, outer.B}, Corner{box.R, box.B, -1, -1, outer.R, outer.B}};
     BoxOutline outline;
-    for (const bool isRight : {false, true}) {
-        for (const bool isUpper : {false, true}) {
-            if (!IsClosed(grid, box, isRight ? box.R : box.L, isUpper ? box.B : box.T, isRight ? -1 : 1,
-                          isUpper ? -1 : 1))
-                ++outline.OpenCorners;
-        }
+    for (const Corner& corner : corners) {
+        if (!AreArmsInked(grid, box, corner) || !IsOuterPixelInked(grid, corner))
+            ++outline.OpenCorners;
     }
     outline.IsEmpty = IsEmptyInside(grid, box);
     return outline;
