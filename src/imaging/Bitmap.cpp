@@ -1,15 +1,14 @@
 #include "imaging/Bitmap.h"
 
 #include <FreeImage.h>
-#include <tiffio.h>
 
 #include <cmath>
-#include <cstdarg>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
-#include <string_view>
 #include <utility>
+
+#include "imaging/TiffMessages.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -18,31 +17,6 @@ struct CloseMemory {
     void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
 };
 using Memory = std::unique_ptr<FIMEMORY, CloseMemory>;
-
-// Set when the TIFF library met damaged data. The image library takes what was decoded up to there for the
-// whole page.
-bool tiffIsDamaged = false;
-
-// The image library asks for tags that are not there, which is no damage.
-void NoteTiffError(const char* module, const char*, va_list) {
-    if (module == nullptr || std::string_view(module) != "TIFFFieldWithTag")
-        tiffIsDamaged = true;
-}
-
-// In a Group 4 page every line builds on the one before, so a line of the wrong length spoils the rest; and a
-// file that was cut short behind its picture may have lost its resolution.
-void NoteTiffWarning(const char* module, const char* format, va_list) {
-    if ((module != nullptr && std::string_view(module) == "Fax4Decode") ||
-        std::string_view(format).starts_with("IO error"))
-        tiffIsDamaged = true;
-}
-
-// Damaged scans are told of in the log and on the screen, not on the console.
-void ListenToTiffLibrary() {
-    tiffIsDamaged = false;
-    TIFFSetErrorHandler(NoteTiffError);
-    TIFFSetWarningHandler(NoteTiffWarning);
-}
 
 }  // namespace
 
@@ -115,7 +89,7 @@ Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decod
     const Memory memory(FreeImage_OpenMemory(bytes, static_cast<DWORD>(content.size())));
     const int flags = extent == Decode::HeaderOnly ? FIF_LOAD_NOPIXELS : 0;
     Bitmap bitmap(FreeImage_LoadFromMemory(static_cast<FREE_IMAGE_FORMAT>(format), memory.get(), flags));
-    return tiffIsDamaged ? Bitmap() : std::move(bitmap);
+    return TiffWasDamaged() ? Bitmap() : std::move(bitmap);
 }
 
 app::Bytes EncodeGroup4Tiff(const Bitmap& bitmap) {

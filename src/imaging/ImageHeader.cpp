@@ -135,7 +135,7 @@ bool IsWhole(std::span<const std::byte> content, ImageFormat format) {
         WalkJpegSegments(ByteReader(content, Order::BigEndian), [](std::uint64_t, std::uint64_t) {});
     constexpr std::array kEndOfImage = {std::byte{0xFF}, std::byte{0xD9}};
     const std::span<const std::byte> rest = content.subspan(std::min<std::uint64_t>(scan, content.size()));
-    return !std::ranges::search(rest, kEndOfImage).empty();
+    return std::search(rest.begin(), rest.end(), kEndOfImage.begin(), kEndOfImage.end()) != rest.end();
 }
 
 bool IsTooLarge(std::span<const std::byte> content, ImageFormat format) {
