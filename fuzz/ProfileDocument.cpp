@@ -23,6 +23,7 @@ class OneFile final : public tavrene::app::Files {
 
     bool FileExists(const std::string&) const override { return true; }
     bool FolderExists(const std::string&) const override { return true; }
+    std::string Fingerprint(const std::string&) const override { return {}; }
     void CreateFolder(const std::string&) override {}
     std::vector<std::string> List(const std::string&, std::string_view) const override { return {}; }
     Bytes Read(const std::string&) const override { return content; }

@@ -94,6 +94,14 @@ bool DiskFiles::FolderExists(const std::string& path) const {
     return fs::is_directory(ToPath(path), ignored);
 }
 
+std::string DiskFiles::Fingerprint(const std::string& path) const {
+    struct ::stat status {};
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return {};
+    return std::to_string(status.st_size) + "-" + std::to_string(status.st_mtim.tv_sec) + "." +
+           std::to_string(status.st_mtim.tv_nsec) + "-" + std::to_string(status.st_ino);
+}
+
 void DiskFiles::CreateFolder(const std::string& path) {
     if (::mkdir(path.c_str(), 0777) != 0)
         Refuse("create the folder", path, errno);

@@ -30,6 +30,10 @@ class Files {
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool FolderExists(const std::string& path) const = 0;
 
+    /// A short text on one line that is another one after the file was written or replaced; the content is
+    /// not read. Empty when there is no such file.
+    virtual std::string Fingerprint(const std::string& path) const = 0;
+
     /// Creates one folder; its parent must exist.
     virtual void CreateFolder(const std::string& path) = 0;
 
@@ -58,6 +62,7 @@ class DiskFiles final : public Files {
   public:
     bool FileExists(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
+    std::string Fingerprint(const std::string& path) const override;
     void CreateFolder(const std::string& path) override;
     std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override;
     Bytes Read(const std::string& path) const override;

@@ -15,6 +15,7 @@ class FaultyFiles final : public app::Files {
 
     bool FileExists(const std::string& path) const override { return disk_.FileExists(path); }
     bool FolderExists(const std::string& path) const override { return disk_.FolderExists(path); }
+    std::string Fingerprint(const std::string& path) const override { return disk_.Fingerprint(path); }
     void CreateFolder(const std::string& path) override {
         Check("create", path);
         disk_.CreateFolder(path);
