@@ -60,7 +60,7 @@ TEST(SpreadShiftsTest, RefusesBoxesThatShareOneLine) {
 
 TEST(ReadMarksTest, MeasuresTheInnerPartAgainstTheWholeInterior) {
     TestForm form;
-    form.boxes = {BoxAt(100, 100, 21, 21)};  // interior 20 x 20 = 400, inner part 14 x 14
+    form.boxes = {BoxAt(100, 100, 21, 21)};  // interior 20 x 20 = 400, inner field 14 x 14
     const ProfileRecord profile = form.Record("Form");
     const std::vector<BoxShift> still(1);
     imaging::Page page = form.PageOf({});
