@@ -1,5 +1,6 @@
 #include "profiles/ProfileDocument.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "profiles/XmlFile.h"
@@ -20,9 +21,6 @@ OmrBox ReadBox(const pugi::xml_node& element) {
 }
 
 std::string BoxLine(const OmrBox& box, int id) {
-    if (box.Name.find_first_of("\"<&") != std::string::npos)
-        throw DocumentError("the name of box " + std::to_string(id) + " (" + box.Name +
-                            ") holds a double quote, < or &, which a profile cannot hold");
     std::string line = "<OMR";
     const auto add = [&line](std::string_view name, std::string_view value) {
         line.append(" ").append(name).append("=\"").append(value).append("\"");
@@ -74,7 +72,18 @@ ProfileContent ReadProfileContent(const pugi::xml_document& document) {
     return content;
 }
 
+std::optional<int> FindUnwritableName(std::span<const OmrBox> boxes) {
+    const auto bad = std::find_if(boxes.begin(), boxes.end(), [](const OmrBox& box) {
+        return box.Checked && box.Name.find_first_of("\"<&") != std::string::npos;
+    });
+    return bad == boxes.end() ? std::nullopt : std::optional(static_cast<int>(bad - boxes.begin()) + 1);
+}
+
 std::string ComposeOmrs(std::span<const OmrBox> boxes, std::int16_t count) {
+    if (const std::optional<int> bad = FindUnwritableName(boxes))
+        throw DocumentError("the name of box " + std::to_string(*bad) + " (" +
+                            boxes[static_cast<std::size_t>(*bad) - 1].Name +
+                            ") holds a double quote, < or &, which a profile cannot hold");
     std::string text = "<OMRs Count=\"" + std::to_string(count) + "\">" + kLineEnd;
     int id = 0;
     for (const OmrBox& box : boxes) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <pugixml.hpp>
 #include <span>
 #include <string>
@@ -38,9 +39,13 @@ pugi::xml_document LoadProfileDocument(const app::Files& files, const std::strin
 /// that is missing or no number throws `DocumentError`.
 ProfileContent ReadProfileContent(const pugi::xml_document& document);
 
+/// The 1-based place of the first checked box whose name cannot be written, because it holds a double quote,
+/// `<` or `&`; none when all can.
+std::optional<int> FindUnwritableName(std::span<const OmrBox> boxes);
+
 /// The `OMRs` text: one line a box that is checked, with IDs from 1, each line ended by CR LF. Names go in as
-/// they are, so a name that holds a double quote, `<` or `&` would break the document: throws `DocumentError`
-/// naming that box.
+/// they are, so one that cannot be written would break the document: throws `DocumentError` naming that box
+/// by its place and its name.
 std::string ComposeOmrs(std::span<const OmrBox> boxes, std::int16_t count);
 
 /// A new document from header and `OMRs` text. Throws `DocumentError` when the text cannot be parsed.

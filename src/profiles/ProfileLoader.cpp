@@ -40,6 +40,7 @@ ProfileRecord ReadRecord(const app::Files& files, const std::string& path) {
     ProfileRecord record;
     record.Name = app::BaseName(path);
     record.FileName = app::FileName(path);
+    record.Image = content.Image;
     record.Active = content.Active;
     record.DPI_X = content.DPI_X;
     record.DPI_Y = content.DPI_Y;

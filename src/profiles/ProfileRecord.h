@@ -33,6 +33,7 @@ struct BoxExtent {
 struct ProfileRecord {
     std::string Name;      ///< The file's base name.
     std::string FileName;  ///< As it is spelled on disk.
+    std::string Image;     ///< Path of the specimen image.
     bool Active = false;
     std::int16_t DPI_X = 0;  ///< 0 when the specimen carries no resolution.
     std::int16_t DPI_Y = 0;

@@ -1,0 +1,249 @@
+#include "profiles/BoxEditor.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "app/Numeric.h"
+#include "profiles/OmrsOfBoxes.h"
+
+namespace tavrene::profiles {
+namespace {
+
+constexpr int kRowsBetweenRepaints = 50;
+
+imaging::PageRect PlaceOf(const OmrBox& box) {
+    return {static_cast<double>(box.L), static_cast<double>(box.T), static_cast<double>(box.R - box.L),
+            static_cast<double>(box.B - box.T)};
+}
+
+bool IsSamePlace(const OmrBox& a, const OmrBox& b) {
+    return a.L == b.L && a.T == b.T && a.R == b.R && a.B == b.B;
+}
+
+std::string RowText(const OmrBox& box, int number) {
+    return box.Name.empty() ? UnnamedBox(number) : box.Name;
+}
+
+bool HasSize(const RectReport& report) {
+    return report.width + report.height > 0;
+}
+
+}  // namespace
+
+BoxEditor::BoxEditor(OpenProfile& profile, app::Operator& person, const EditorScreen& screen)
+    : profile_(profile), person_(person), screen_(screen) {}
+
+void BoxEditor::Clear() {
+    screen_.rows.ClearRows();
+    screen_.rows.RemoveExtraColumns();
+    screen_.rects.ClearRects();
+    profile_.BoxList.clear();
+    profile_.Count = 0;
+    profile_.CurrentBox = 0;
+    profile_.NextBoxId = 1;
+    ClearChanged();
+    history_.Clear();
+}
+
+void BoxEditor::BuildBoxList(const ProfileContent& content) {
+    Clear();
+    profile_.BoxList = content.Boxes;
+    profile_.Count = content.Count;
+    person_.SetProgressRange(std::max<int>(content.Count, 0));
+    int number = 0;
+    for (const OmrBox& box : profile_.BoxList) {
+        ++number;
+        screen_.rows.AddRow(number, RowText(box, number), "");
+        screen_.boxes.PutBox(number, PlaceOf(box));
+        person_.SetProgress(number);
+        if (number % kRowsBetweenRepaints == 0)
+            screen_.rows.RefreshRows();
+    }
+    screen_.rows.RefreshRows();
+    person_.SetProgress(0);
+    profile_.NextBoxId = number + 1;
+    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+}
+
+void BoxEditor::SetTool(BoxTool tool) {
+    addMode_ = tool == BoxTool::Add;
+    screen_.boxes.SetTool(tool);
+}
+
+void BoxEditor::Select(int number) {
+    profile_.CurrentBox = number;
+    screen_.boxes.SelectBox(number);
+    screen_.rows.SelectRow(number);
+}
+
+void BoxEditor::RowClicked(int number) {
+    if (IsKept(profile_, number))
+        Select(number);
+}
+
+void BoxEditor::RowRenamed(int number, const std::string& name) {
+    if (!profile_.IsOpen || !IsKept(profile_, number) || Box(number).Name == name)
+        return;
+    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
+    edit.after->Name = name;
+    Box(number).Name = name;
+    Record(std::move(edit));
+}
+
+void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
+    const double scale = 100 / screen_.view.Zoom();
+    const ScrollOffset scroll = screen_.boxes.Scroll();
+    box.L = app::RoundToInt16((scroll.x + report.left) * scale);
+    box.T = app::RoundToInt16((scroll.y + report.top) * scale);
+    box.R = app::RoundToInt16((scroll.x + report.left + report.width) * scale);
+    box.B = app::RoundToInt16((scroll.y + report.top + report.height) * scale);
+}
+
+bool BoxEditor::AddDrawnBox(const RectReport& report) {
+    if (!HasSize(report) || profile_.Count == std::numeric_limits<std::int16_t>::max()) {
+        screen_.boxes.RemoveBox(report.group);
+        return false;
+    }
+    OmrBox box;
+    box.Name = UnnamedBox(report.group);
+    StoreCoordinates(report, box);
+    profile_.BoxList.push_back(box);
+    const std::int16_t before = profile_.Count++;
+    screen_.boxes.PutBox(report.group, PlaceOf(box));
+    screen_.rows.AddRow(report.group, box.Name, "");
+    profile_.NextBoxId = report.group + 1;
+    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+    Record({report.group, std::nullopt, box, before, profile_.Count});
+    return true;
+}
+
+void BoxEditor::RectSelected(const RectReport& report) {
+    const bool isDrawn = addMode_ && static_cast<std::size_t>(report.group) == profile_.BoxList.size() + 1;
+    if (isDrawn && (!MayStore() || !AddDrawnBox(report)))
+        return;
+    if (!IsKept(profile_, report.group))
+        return;
+    profile_.CurrentBox = report.group;
+    screen_.rows.SelectRow(report.group);
+    if (isDrawn || !HasSize(report) || !MayStore())
+        return;
+    BoxEdit edit{report.group, Box(report.group), Box(report.group), profile_.Count, profile_.Count};
+    StoreCoordinates(report, *edit.after);
+    if (IsSamePlace(*edit.before, *edit.after))
+        return;
+    Box(report.group) = *edit.after;
+    screen_.boxes.PutBox(report.group, PlaceOf(*edit.after));
+    Record(std::move(edit));
+}
+
+void BoxEditor::RectMoved(int group) {
+    if (MayStore() && IsKept(profile_, group))
+        profile_.ProfileChanged = true;
+}
+
+int BoxEditor::NextKept(int number) const {
+    const int last = static_cast<int>(profile_.BoxList.size());
+    for (int next = number + 1; next <= last; ++next) {
+        if (IsKept(profile_, next))
+            return next;
+    }
+    for (int next = 1; next <= last; ++next) {
+        if (IsKept(profile_, next))
+            return next;
+    }
+    return 0;
+}
+
+void BoxEditor::DeleteBox() {
+    const int number = profile_.CurrentBox;
+    if (!profile_.IsOpen || !IsKept(profile_, number))
+        return;
+    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
+    edit.after->Checked = false;
+    edit.countAfter = app::Max(0, static_cast<std::int16_t>(profile_.Count - 1));
+    Box(number).Checked = false;
+    profile_.Count = edit.countAfter;
+    Record(std::move(edit));
+    screen_.boxes.RemoveBox(number);
+    screen_.rows.RemoveRow(number);
+    Select(profile_.Count >= 1 ? NextKept(number) : 0);
+}
+
+void BoxEditor::Nudge(int dx, int dy) {
+    const int number = profile_.CurrentBox;
+    if (!MayStore() || !IsKept(profile_, number))
+        return;
+    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
+    OmrBox& box = *edit.after;
+    box.L = app::HoldInInt16(box.L + dx);
+    box.T = app::HoldInInt16(box.T + dy);
+    box.R = app::HoldInInt16(box.R + dx);
+    box.B = app::HoldInInt16(box.B + dy);
+    // At the end of the number range a box would shrink instead of moving on.
+    if (box.R - box.L != edit.before->R - edit.before->L || box.B - box.T != edit.before->B - edit.before->T)
+        return;
+    Box(number) = box;
+    Record(std::move(edit));
+    screen_.boxes.PutBox(number, PlaceOf(Box(number)));
+    Select(number);
+}
+
+void BoxEditor::Undo() {
+    if (!CanUndo())
+        return;
+    const BoxEdit& edit = *history_.StepBack();
+    TakeState(edit.number, edit.before, edit.countBefore);
+}
+
+void BoxEditor::Redo() {
+    if (!CanRedo())
+        return;
+    const BoxEdit& edit = *history_.StepForward();
+    TakeState(edit.number, edit.after, edit.countAfter);
+}
+
+void BoxEditor::Record(BoxEdit edit) {
+    history_.Record(std::move(edit));
+    profile_.ProfileChanged = true;
+}
+
+// Edits are taken back in reverse order, so an added box that goes is the last of the list.
+void BoxEditor::TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count) {
+    const bool hadRow = IsKept(profile_, number);
+    profile_.BoxList.resize(std::max(profile_.BoxList.size(), static_cast<std::size_t>(number)));
+    if (state)
+        Box(number) = *state;
+    else
+        profile_.BoxList.pop_back();
+    profile_.Count = count;
+    profile_.NextBoxId = static_cast<int>(profile_.BoxList.size()) + 1;
+    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+    profile_.ProfileChanged = !history_.IsSavedState();
+    ShowBox(number, hadRow);
+}
+
+void BoxEditor::ShowBox(int number, bool hadRow) {
+    if (!IsKept(profile_, number)) {
+        if (hadRow) {
+            screen_.boxes.RemoveBox(number);
+            screen_.rows.RemoveRow(number);
+        }
+        Select(NextKept(number));
+        return;
+    }
+    const OmrBox& box = Box(number);
+    screen_.boxes.PutBox(number, PlaceOf(box));
+    if (hadRow)
+        screen_.rows.RenameRow(number, RowText(box, number));
+    else
+        screen_.rows.InsertRow(number, RowText(box, number));
+    Select(number);
+}
+
+void BoxEditor::ClearChanged() {
+    profile_.ProfileChanged = false;
+    history_.MarkSaved();
+}
+
+}  // namespace tavrene::profiles

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/Operator.h"
+#include "profiles/BoxHistory.h"
+#include "profiles/EditorScreen.h"
+#include "profiles/OpenProfile.h"
+#include "profiles/ProfileDocument.h"
+
+namespace tavrene::profiles {
+
+/// Corrects the boxes of the open profile through two linked views, the box list and the image view. Every
+/// edit marks the profile as changed and can be taken back. Without an open profile nothing acts.
+class BoxEditor {
+  public:
+    /// The references must outlive the editor.
+    BoxEditor(OpenProfile& profile, app::Operator& person, const EditorScreen& screen);
+
+    /// Whether what is selected or moved in the image view belongs to this editor; while it does not (a run
+    /// goes on, the view serves the review), selecting stores nothing. Without a rule it always does.
+    void SetMayStore(std::function<bool()> mayStore) { mayStore_ = std::move(mayStore); }
+
+    /// Takes all boxes off the screen and out of the profile, and forgets the edits.
+    void Clear();
+
+    /// Fills the box list, its rows and the image view from what the document holds; the view is at zoom 100.
+    void BuildBoxList(const ProfileContent& content);
+
+    void SetTool(BoxTool tool);
+
+    /// Events of the box list and the image view.
+    void RowClicked(int number);
+    void RowRenamed(int number, const std::string& name);
+    void RectSelected(const RectReport& report);
+    void RectMoved(int group);
+
+    /// Deletes the current box; the next one that is left becomes current.
+    void DeleteBox();
+
+    /// Moves the current box by whole pixels of the image, to the right and down.
+    void Nudge(int dx, int dy);
+
+    void Undo();
+    void Redo();
+    bool CanUndo() const { return profile_.IsOpen && history_.CanStepBack(); }
+    bool CanRedo() const { return profile_.IsOpen && history_.CanStepForward(); }
+
+    /// The boxes at hand are saved, or their changes given up.
+    void ClearChanged();
+
+    /// Selects a box in both views and makes it current.
+    void Select(int number);
+
+  private:
+    OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
+    bool MayStore() const { return profile_.IsOpen && (!mayStore_ || mayStore_()); }
+    bool AddDrawnBox(const RectReport& report);
+    void StoreCoordinates(const RectReport& report, OmrBox& box) const;
+    int NextKept(int number) const;
+    void Record(BoxEdit edit);
+    void TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count);
+    void ShowBox(int number, bool hadRow);
+
+    OpenProfile& profile_;
+    app::Operator& person_;
+    EditorScreen screen_;
+    std::function<bool()> mayStore_;
+    BoxHistory history_;
+    bool addMode_ = false;
+};
+
+}  // namespace tavrene::profiles

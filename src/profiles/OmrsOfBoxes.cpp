@@ -1,0 +1,27 @@
+#include "profiles/OmrsOfBoxes.h"
+
+#include "app/Numeric.h"
+#include "imaging/WorkGrid.h"
+
+namespace tavrene::profiles {
+
+std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int height) {
+    std::vector<OmrBox> omrs;
+    omrs.reserve(found.size());
+    for (const boxes::BoxRect& box : found) {
+        OmrBox omr;
+        omr.Name = UnnamedBox(static_cast<int>(omrs.size()) + 1);
+        omr.L = box.L;
+        omr.T = app::HoldInInt16(imaging::FlipVertically(height, static_cast<int>(box.B)));
+        omr.R = box.R;
+        omr.B = app::HoldInInt16(imaging::FlipVertically(height, static_cast<int>(box.T)));
+        omrs.push_back(omr);
+    }
+    return omrs;
+}
+
+std::string UnnamedBox(int number) {
+    return "Un-named-" + std::to_string(number);
+}
+
+}  // namespace tavrene::profiles

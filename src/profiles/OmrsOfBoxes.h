@@ -1,0 +1,18 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "boxes/BoxAnalysis.h"
+#include "profiles/ProfileRecord.h"
+
+namespace tavrene::profiles {
+
+/// The boxes that box finding identified on an image of `height` pixels as a new profile holds them: turned
+/// from the grid frame into the page frame, the upper edge as `T`, named by their numbers.
+std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int height);
+
+/// The name of a box that nobody named: "Un-named-7".
+std::string UnnamedBox(int number);
+
+}  // namespace tavrene::profiles

@@ -1,0 +1,291 @@
+#include "profiles/ProfileStore.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <variant>
+
+#include "boxes/ProfileImagePipeline.h"
+#include "profiles/OmrsOfBoxes.h"
+#include "profiles/ProfileDocument.h"
+#include "profiles/ProfileLoader.h"
+#include "profiles/Specimen.h"
+#include "profiles/XmlFile.h"
+
+namespace tavrene::profiles {
+namespace {
+
+using app::Answer;
+using app::Panel;
+
+constexpr double kFittingWidth = 750;
+constexpr double kFittingStep = 0.96;
+
+[[noreturn]] void RefuseToOpen(const std::string& path, const DocumentError& error) {
+    throw DocumentError("The profile " + path + " cannot be opened: " + error.what() + ".");
+}
+
+pugi::xml_document LoadNamed(const app::Files& files, const std::string& path) {
+    try {
+        return LoadProfileDocument(files, path);
+    } catch (const DocumentError& error) {
+        RefuseToOpen(path, error);
+    }
+}
+
+// Says once that lines of the log were lost, at the end of an operation that did its work without them.
+class LostLineNote {
+  public:
+    LostLineNote(app::ActivityLog& log, std::vector<std::string>& notes) : tolerated_(log), notes_(notes) {}
+    ~LostLineNote() {
+        const std::string note = "The profile log could not be written.";
+        if (tolerated_.LostLines() > 0 && std::find(notes_.begin(), notes_.end(), note) == notes_.end())
+            notes_.push_back(note);
+    }
+    LostLineNote(const LostLineNote&) = delete;
+    LostLineNote& operator=(const LostLineNote&) = delete;
+
+  private:
+    app::ToleratedLogFailures tolerated_;
+    std::vector<std::string>& notes_;
+};
+
+}  // namespace
+
+ProfileStore::ProfileStore(const StoreDoors& doors, OpenProfile& profile, std::vector<ProfileRecord>& records,
+                           BoxEditor& editor, const EditorScreen& screen)
+    : doors_(doors),
+      profile_(profile),
+      records_(records),
+      editor_(editor),
+      screen_(screen),
+      thumbnails_(doors.files, doors.log, doors.person, doors.folders.Profiles) {}
+
+bool ProfileStore::MayLeave() {
+    if (!profile_.ProfileChanged)
+        return true;
+    switch (doors_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?")) {
+        case Answer::Yes:
+            return Save();
+        case Answer::No:
+            editor_.ClearChanged();
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool ProfileStore::Create(const std::string& path, const std::string& imagePath, const boxes::BoxSizes& sizes,
+                          const boxes::PairReach& reach) {
+    const LostLineNote lostLines(doors_.log, notes_);
+    const std::string name = app::BaseName(path);
+    const std::optional<boxes::FoundBoxes> found =
+        boxes::FindBoxesOnImage(imagePath, name, sizes, reach,
+                                {doors_.files, doors_.person, doors_.log, doors_.clock, doors_.folders.Temp});
+    if (!found)
+        return false;
+    const std::vector<OmrBox> omrs = OmrsOfBoxes(found->Boxes, found->Height);
+    pugi::xml_document document =
+        CreateProfileDocument({name, imagePath, found->DPI_X, found->DPI_Y, true},
+                              ComposeOmrs(omrs, static_cast<std::int16_t>(omrs.size())));
+    SaveProfileDocument(doors_.files, path, document);
+    doors_.log.LogProfileEvent("Created Profile: " + name);
+    OpenCreated(path, std::move(document));
+    RebuildThumbnails();
+    if (profile_.CurrentProfile == 0)
+        notes_.emplace_back("The new profile lies outside the Profiles folder, so no run will use it.");
+    return true;
+}
+
+void ProfileStore::OpenCreated(const std::string& path, pugi::xml_document document) {
+    const ProfileContent content = ReadProfileContent(document);
+    Close();
+    profile_.Path = path;
+    profile_.Name = app::BaseName(path);
+    profile_.Image = content.Image;
+    profile_.DPI_X = content.DPI_X;
+    profile_.DPI_Y = content.DPI_Y;
+    profile_.Active = content.Active;
+    profile_.Document = std::move(document);
+    profile_.Fingerprint = doors_.files.Fingerprint(path);
+    ShowSpecimen(content.Image);
+    profile_.IsOpen = true;
+    editor_.BuildBoxList(content);
+}
+
+void ProfileStore::Load(const std::string& path) {
+    const LostLineNote lostLines(doors_.log, notes_);
+    const int number = NumberOf(path);
+    Close();
+    profile_.Path = path;
+    profile_.Name = app::BaseName(path);
+    profile_.CurrentProfile = number;
+    profile_.Fingerprint = doors_.files.Fingerprint(path);
+    profile_.Document = LoadNamed(doors_.files, path);
+    doors_.log.LogProfileEvent("Loaded Profile: " + profile_.Name);
+    profile_.Image = profile_.Document.first_child().attribute("Image").value();
+    doors_.person.SetPanel(Panel::Message,
+                           "Profile [" + profile_.Name + "], Image [" + app::FileName(profile_.Image) + "]");
+    ProfileContent content;
+    try {
+        content = ReadProfileContent(profile_.Document);
+    } catch (const DocumentError& error) {
+        ShowSpecimen(profile_.Image);
+        RefuseToOpen(path, error);
+    }
+    profile_.DPI_X = content.DPI_X;
+    profile_.DPI_Y = content.DPI_Y;
+    profile_.Active = content.Active;
+    doors_.person.SetPanel(Panel::ElapsedTime, "OMRs:" + std::to_string(content.Count));
+    ShowSpecimen(profile_.Image);
+    profile_.IsOpen = true;
+    editor_.BuildBoxList(content);
+    FitView();
+}
+
+void ProfileStore::ShowSpecimen(const std::string& image) {
+    const auto read = ReadSpecimen(doors_.files, image);
+    const imaging::Page* const page = std::get_if<imaging::Page>(&read);
+    profile_.ImageWidth = page == nullptr ? 0 : page->bitmap.Width();
+    profile_.ImageHeight = page == nullptr ? 0 : page->bitmap.Height();
+    screen_.view.SetZoom(100);
+    if (page == nullptr && std::get<imaging::PageFault>(read) == imaging::PageFault::NotABitmap) {
+        screen_.view.Clear();
+        notes_.push_back(
+            "The specimen image " + image +
+            (doors_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
+        return;
+    }
+    if (page == nullptr || SpecimenFormat(image) == imaging::ImageFormat::Tiff) {
+        screen_.view.ShowFile(image);
+        return;
+    }
+    const std::string copy = doors_.folders.Temp + "temp.tif";
+    doors_.files.Write(copy, imaging::EncodeGroup4Tiff(page->bitmap), app::Keep::AsScratch);
+    screen_.view.ShowFile(copy);
+}
+
+void ProfileStore::FitView() {
+    while (profile_.ImageWidth * screen_.view.Zoom() / 100 > kFittingWidth)
+        screen_.view.SetZoom(screen_.view.Zoom() * kFittingStep);
+}
+
+bool ProfileStore::Save() {
+    if (!profile_.IsOpen)
+        return false;
+    const LostLineNote lostLines(doors_.log, notes_);
+    const std::string onDisk = doors_.files.Fingerprint(profile_.Path);
+    if (!onDisk.empty() && onDisk != profile_.Fingerprint &&
+        doors_.person.AskYesNo("The file " + profile_.Path +
+                               " was changed by somebody else after it was opened here. Save over it?") !=
+            Answer::Yes)
+        return false;
+    WriteDocument();
+    if (onDisk.empty())
+        notes_.push_back("The file " + profile_.Path + " had been deleted and was written anew.");
+    doors_.log.LogProfileEvent("Saved Profile: " + profile_.Name);
+    editor_.ClearChanged();
+    RebuildThumbnails();
+    return true;
+}
+
+void ProfileStore::WriteDocument() {
+    pugi::xml_document document;
+    document.reset(profile_.Document);
+    try {
+        UpdateProfileDocument(document, profile_.Active, ComposeOmrs(profile_.BoxList, profile_.Count));
+    } catch (const DocumentError& error) {
+        if (const std::optional<int> bad = FindUnwritableName(profile_.BoxList))
+            editor_.Select(*bad);
+        throw DocumentError("The profile " + profile_.Path + " is not saved: " + error.what() + ".");
+    }
+    SaveProfileDocument(doors_.files, profile_.Path, document);
+    profile_.Document = std::move(document);
+    profile_.Fingerprint = doors_.files.Fingerprint(profile_.Path);
+}
+
+bool ProfileStore::Delete() {
+    if (profile_.Path.empty() || doors_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
+        return false;
+    const LostLineNote lostLines(doors_.log, notes_);
+    if (doors_.files.FileExists(profile_.Path))
+        doors_.files.Delete(profile_.Path);
+    doors_.log.LogProfileEvent("Deleted Profile: " + profile_.Name);
+    Close();
+    RebuildThumbnails();
+    if (strip_.empty())
+        thumbnails_.DeleteFile();
+    return true;
+}
+
+void ProfileStore::RebuildThumbnails() {
+    const LostLineNote lostLines(doors_.log, notes_);
+    records_ = LoadActiveProfiles(doors_.files, doors_.log, doors_.person, doors_.folders.Profiles);
+    strip_ = ListEntries();
+    thumbnails_.Rebuild(strip_, screen_.strip);
+    profile_.CurrentProfile = NumberOf(profile_.Path);
+    screen_.strip.SelectThumbnail(profile_.CurrentProfile);
+}
+
+// Every profile file has a place in the strip, also one that recognition leaves out. Records come in the
+// order of the listing.
+std::vector<StripEntry> ProfileStore::ListEntries() const {
+    std::vector<StripEntry> entries;
+    auto record = records_.begin();
+    for (std::string& fileName : doors_.files.List(doors_.folders.Profiles, "*.Tvp")) {
+        const bool isReadable = record != records_.end() && record->FileName == fileName;
+        entries.push_back({std::move(fileName), isReadable, isReadable ? record->Image : std::string()});
+        if (isReadable)
+            ++record;
+    }
+    return entries;
+}
+
+bool ProfileStore::ThumbnailSelected(int k) {
+    if (PathOf(k).empty())
+        return false;
+    const std::string path = PathOf(k);
+    if (!MayLeave()) {
+        screen_.strip.SelectThumbnail(profile_.CurrentProfile);
+        return false;
+    }
+    if (!doors_.files.FileExists(path)) {
+        RebuildThumbnails();
+        doors_.person.ShowMessage("", "The profile " + path + " is not there any more.");
+        return false;
+    }
+    screen_.strip.SelectThumbnail(NumberOf(path));
+    Load(path);
+    return true;
+}
+
+std::string ProfileStore::ThumbnailHover(int k) const {
+    return app::BaseName(PathOf(k));
+}
+
+std::string ProfileStore::PathOf(int k) const {
+    if (k < 1 || static_cast<std::size_t>(k) > strip_.size())
+        return {};
+    return doors_.folders.Profiles + strip_[static_cast<std::size_t>(k) - 1].FileName;
+}
+
+int ProfileStore::NumberOf(const std::string& path) const {
+    const std::filesystem::path wanted = app::ToPath(path).lexically_normal();
+    for (int k = 1; static_cast<std::size_t>(k) <= strip_.size(); ++k) {
+        if (app::ToPath(PathOf(k)).lexically_normal() == wanted)
+            return k;
+    }
+    return 0;
+}
+
+void ProfileStore::Close() {
+    editor_.Clear();
+    screen_.view.Clear();
+    profile_ = OpenProfile();
+}
+
+std::vector<std::string> ProfileStore::TakeNotes() {
+    return std::exchange(notes_, {});
+}
+
+}  // namespace tavrene::profiles
