@@ -48,6 +48,20 @@ boxes::BoxAnalysis AnalysePage(const BoxPage& page) {
     return analysis;
 }
 
+std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const std::string& part) {
+    std::vector<ScoreRow> rows;
+    for (const BoxPagePlan& plan : plans) {
+        if (plan.Name().find(part) == std::string::npos)
+            continue;
+        const std::string name = plan.Class + ", " + std::to_string(plan.Style.Thickness) + " px";
+        if (rows.empty() || rows.back().Name != name)
+            rows.push_back({name, {}});
+        const BoxPage page = PaintPage(plan);
+        rows.back().Sum.Add(ScorePage(page.Truth, AnalysePage(page).Boxes));
+    }
+    return rows;
+}
+
 PageScore ScorePage(const std::vector<TrueBox>& truth, const std::vector<boxes::BoxRect>& found) {
     PageScore score;
     score.False = found;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "boxes/BoxPages.h"
@@ -35,6 +36,15 @@ boxes::BoxAnalysis AnalysePage(const BoxPage& page);
 
 /// The state after the first `steps` steps, 0 to 11, without box assembly.
 boxes::BoxAnalysis AnalyseSteps(const BoxPage& page, int steps);
+
+/// One row of the score table: the pages of one class and outline thickness.
+struct ScoreRow {
+    std::string Name;  ///< "clean, 2 px".
+    Tally Sum;
+};
+
+/// Paints and scores pages; the rows come in the order of the plans. `part` keeps those whose name holds it.
+std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const std::string& part = {});
 
 /// Each true box takes at most one found box, the nearest.
 PageScore ScorePage(const std::vector<TrueBox>& truth, const std::vector<boxes::BoxRect>& found);

@@ -1,5 +1,6 @@
 #include "boxes/BoxFilter.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <set>
@@ -37,32 +38,38 @@ SizeTable CountSizes(const std::vector<BoxRect>& boxes) {
     return table;
 }
 
-struct Choice {
-    BoxSize Size;
-    int Votes = 0;
+// Votes within two pixels of a size: as they are, and weighted, the nearer ones more.
+struct Support {
+    int Plain = 0;
+    int Weighted = 0;
 };
 
-int VotesAround(const SizeTable& table, BoxSize size) {
-    int votes = 0;
+Support SupportOf(const SizeTable& table, BoxSize size) {
+    Support support;
     for (int width = size.Width - kCandidateReach; width <= size.Width + kCandidateReach; ++width) {
         const auto end = table.upper_bound({width, size.Height + kCandidateReach});
-        for (auto entry = table.lower_bound({width, size.Height - kCandidateReach}); entry != end; ++entry)
-            votes += entry->second;
+        for (auto entry = table.lower_bound({width, size.Height - kCandidateReach}); entry != end; ++entry) {
+            const int distance =
+                std::max(std::abs(width - size.Width), std::abs(entry->first.second - size.Height));
+            support.Plain += entry->second;
+            support.Weighted += entry->second * (2 * kCandidateReach - distance);
+        }
     }
-    return votes;
+    return support;
 }
 
-// The size with the most votes within two pixels of it; among equals the one with the most of its own.
-Choice MostVoted(const SizeTable& table) {
+struct Choice {
+    BoxSize Size;
+    Support Votes;
+};
+
+Choice MostCommonSize(const SizeTable& table) {
     Choice best;
-    int bestOwn = 0;
-    for (const auto& [key, own] : table) {
+    for (const auto& [key, votes] : table) {
         const BoxSize size{key.first, key.second};
-        const int votes = VotesAround(table, size);
-        if (std::tie(votes, own) > std::tie(best.Votes, bestOwn)) {
-            best = {size, votes};
-            bestOwn = own;
-        }
+        const Support support = SupportOf(table, size);
+        if (support.Weighted > best.Votes.Weighted)
+            best = {size, support};
     }
     return best;
 }
@@ -99,12 +106,13 @@ BoxSize SizeOf(const BoxRect& box) {
 
 ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes) {
     SizeTable table = CountSizes(boxes);
-    const Choice common = MostVoted(table);
+    const Choice common = MostCommonSize(table);
     std::erase_if(table, [&](const auto& entry) {
         return Within({entry.first.first, entry.first.second}, common.Size, kKeepReach);
     });
-    const Choice second = MostVoted(table);
-    const bool isReal = second.Votes >= kSecondSizeVotes && second.Votes * kSecondSizeShare >= common.Votes;
+    const Choice second = MostCommonSize(table);
+    const int votes = second.Votes.Plain;
+    const bool isReal = votes >= kSecondSizeVotes && votes * kSecondSizeShare >= common.Votes.Plain;
     return {common.Size, isReal ? second.Size : common.Size};
 }
 

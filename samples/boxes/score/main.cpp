@@ -2,7 +2,6 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
-#include <map>
 #include <optional>
 #include <string>
 
@@ -16,6 +15,8 @@ using namespace tavrene::samples;
 constexpr const char* kUsage =
     "Scores box finding on painted forms whose boxes are known.\n"
     "  tavrene-score-boxes [--sample N] [--pages TEXT]        table by class and thickness\n"
+    "  tavrene-score-boxes --ledger [--sample N]              the same as lines for the tests: class, true\n"
+    "                                                         boxes, found, false, parted by tabs\n"
     "  tavrene-score-boxes --list [TEXT]                      score of every page, with its number\n"
     "  tavrene-score-boxes --picture N FILE.png [--step K]    page N: right boxes green, missed blue,\n"
     "                                                         false red; with --step the segments after\n"
@@ -26,6 +27,7 @@ struct Options {
     int Sample = 1;
     std::string Pages;
     bool List = false;
+    bool Ledger = false;
     std::optional<std::size_t> Picture;
     std::string PictureFile;
     std::optional<int> Step;
@@ -46,6 +48,8 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
         } else if (argument == "--picture" && left >= 2) {
             options.Picture = static_cast<std::size_t>(std::atoi(arguments[++index]));
             options.PictureFile = arguments[++index];
+        } else if (argument == "--ledger") {
+            options.Ledger = true;
         } else if (argument == "--list") {
             options.List = true;
             if (left >= 1)
@@ -84,20 +88,15 @@ void ListPages(const std::vector<BoxPagePlan>& plans, const std::string& part) {
     }
 }
 
-void PrintTable(const std::vector<BoxPagePlan>& plans, const std::string& part) {
-    std::vector<std::string> order;
-    std::map<std::string, Tally> rows;
-    for (const BoxPagePlan& plan : plans) {
-        if (plan.Name().find(part) == std::string::npos)
-            continue;
-        const std::string row = plan.Class + ", " + std::to_string(plan.Style.Thickness) + " px";
-        if (!rows.contains(row))
-            order.push_back(row);
-        rows[row].Add(Score(plan));
-    }
+void PrintTable(const std::vector<ScoreRow>& rows) {
     PrintHead();
-    for (const std::string& row : order)
-        PrintTally(row, rows[row]);
+    for (const ScoreRow& row : rows)
+        PrintTally(row.Name, row.Sum);
+}
+
+void PrintLedger(const std::vector<ScoreRow>& rows) {
+    for (const ScoreRow& row : rows)
+        std::printf("%s\t%zu\t%zu\t%zu\n", row.Name.c_str(), row.Sum.True, row.Sum.Right, row.Sum.False);
 }
 
 void Run(const Options& options) {
@@ -108,8 +107,10 @@ void Run(const Options& options) {
                     options.PictureFile);
     } else if (options.List) {
         ListPages(plans, options.Pages);
+    } else if (options.Ledger) {
+        PrintLedger(ScoreTable(plans, options.Pages));
     } else {
-        PrintTable(plans, options.Pages);
+        PrintTable(ScoreTable(plans, options.Pages));
     }
 }
 

@@ -1,0 +1,255 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "boxes/BoxAssembly.h"
+#include "boxes/BoxCorners.h"
+#include "boxes/BoxFilter.h"
+#include "boxes/BoxSort.h"
+#include "boxes/CreatedSide.h"
+
+namespace tavrene::test {
+namespace {
+
+using boxes::BoxAnalysis;
+using boxes::BoxRect;
+using boxes::BoxSizes;
+using boxes::LineSeg;
+using boxes::Orientation;
+using imaging::WorkGrid;
+
+constexpr BoxSizes kSizes{20, 40, 20, 40};
+
+// A segment that is drawn on the page as well.
+class Sheet {
+  public:
+    Sheet() : analysis(WorkGrid(300, 320, 300), kSizes, boxes::ReachFor(kSizes)) {}
+
+    LineSeg& Across(int row, int left, int right) {
+        for (int column = left; column <= right; ++column)
+            analysis.SaveGrid.SetInk(column, row);
+        return Add(Orientation::Horizontal, left, row, right, row);
+    }
+
+    LineSeg& Down(int column, int bottom, int top) {
+        for (int row = bottom; row <= top; ++row)
+            analysis.SaveGrid.SetInk(column, row);
+        return Add(Orientation::Vertical, column, bottom, column, top);
+    }
+
+    std::vector<BoxRect> Boxes() {
+        boxes::IdentifyBoxes(analysis);
+        return analysis.Boxes;
+    }
+
+    BoxAnalysis analysis;
+
+  private:
+    LineSeg& Add(Orientation orientation, int left, int bottom, int right, int top) {
+        LineSeg segment;
+        segment.Orientation = orientation;
+        segment.L = static_cast<std::int16_t>(left);
+        segment.T = static_cast<std::int16_t>(bottom);
+        segment.R = static_cast<std::int16_t>(right);
+        segment.B = static_cast<std::int16_t>(top);
+        return analysis.Segments.emplace_back(segment);
+    }
+};
+
+void ExpectBox(const BoxRect& box, int left, int lower, int right, int upper) {
+    EXPECT_EQ(box.L, left);
+    EXPECT_EQ(box.T, lower);
+    EXPECT_EQ(box.R, right);
+    EXPECT_EQ(box.B, upper);
+}
+
+TEST(Assembly, FourSidesMakeABox) {
+    Sheet sheet;
+    sheet.Across(110, 50, 80);
+    sheet.Across(140, 50, 80);
+    sheet.Down(50, 110, 140);
+    sheet.Down(80, 110, 140);
+    const std::vector<BoxRect> found = sheet.Boxes();
+    ASSERT_EQ(found.size(), 1U);
+    ExpectBox(found[0], 50, 110, 80, 140);
+    for (const LineSeg& side : sheet.analysis.Segments)
+        EXPECT_EQ(side.BoxId, 0) << "the segment that the box was built from counts as well";
+}
+
+TEST(Assembly, AMissingSideIsCreatedWhicheverItIs) {
+    for (int missing = 0; missing < 4; ++missing) {
+        SCOPED_TRACE(missing);
+        Sheet sheet;
+        sheet.Across(110, 50, 80);
+        sheet.Across(140, 50, 80);
+        sheet.Down(50, 110, 140);
+        sheet.Down(80, 110, 140);
+        sheet.analysis.Segments.erase(sheet.analysis.Segments.begin() + missing);
+        const std::vector<BoxRect> found = sheet.Boxes();
+        ASSERT_EQ(found.size(), 1U);
+        ExpectBox(found[0], 50, 110, 80, 140);
+        EXPECT_EQ(sheet.analysis.Segments.back().Link, -1);
+    }
+}
+
+TEST(Assembly, CornersAreSharedWithinTwoPixels) {
+    for (const int off : {2, 3}) {
+        SCOPED_TRACE(off);
+        Sheet sheet;
+        sheet.Across(110, 50, 80);
+        sheet.Down(50 + off, 110 + off, 140);
+        EXPECT_EQ(boxes::ShareCorner(sheet.analysis.Segments[0], sheet.analysis.Segments[1]), off == 2);
+    }
+}
+
+TEST(Assembly, TheSecondSearchNeedsTwoOtherSides) {
+    // Corner hits on one pair only: the first search takes that side, and the second one is left with one.
+    Sheet sheet;
+    sheet.Across(140, 50, 80);
+    sheet.analysis.Segments.clear();
+    sheet.Across(110, 50, 80).CornerHits = 1;
+    sheet.Down(50, 110, 140).CornerHits = 1;
+    sheet.Down(80, 110, 140);
+    EXPECT_TRUE(sheet.Boxes().empty());
+    for (const LineSeg& side : sheet.analysis.Segments)
+        EXPECT_EQ(side.BoxId, -1) << "sides of a box that fails are free again";
+
+    for (LineSeg& side : sheet.analysis.Segments)
+        side.CornerHits = 0;
+    EXPECT_EQ(sheet.Boxes().size(), 1U);
+}
+
+TEST(Assembly, BoxesBelowTheSmallestSizeAreDropped) {
+    for (const int width : {19, 20}) {
+        SCOPED_TRACE(width);
+        Sheet sheet;
+        sheet.Across(110, 50, 50 + width);
+        sheet.Across(140, 50, 50 + width);
+        sheet.Down(50, 110, 140);
+        sheet.Down(50 + width, 110, 140);
+        EXPECT_EQ(sheet.Boxes().size(), width == 20 ? 1U : 0U);
+    }
+}
+
+TEST(Assembly, ABowlOrABarredLetterIsNoBox) {
+    Sheet open;
+    open.Across(110, 56, 74);
+    open.Across(140, 56, 74);
+    open.Down(50, 116, 134);
+    open.Down(80, 116, 134);
+    for (LineSeg& side : open.analysis.Segments) {
+        // Found segments that reach the corners, on a page where the ink does not.
+        if (side.IsVertical()) {
+            side.T = 110;
+            side.B = 140;
+        } else {
+            side.L = 50;
+            side.R = 80;
+        }
+    }
+    EXPECT_TRUE(open.Boxes().empty());
+
+    Sheet barred;
+    barred.Across(110, 50, 80);
+    barred.Across(140, 50, 80);
+    barred.Down(50, 110, 140);
+    barred.Down(80, 110, 140);
+    for (int row = 123; row <= 127; ++row) {
+        for (int column = 50; column <= 80; ++column)
+            barred.analysis.SaveGrid.SetInk(column, row);
+    }
+    EXPECT_TRUE(barred.Boxes().empty());
+}
+
+TEST(CreatedSide, IsMadeAnewWhereTheInkRunsOnTooFar) {
+    Sheet sheet;
+    for (int row = 60; row < 160; ++row)
+        sheet.analysis.WorkGrid.SetInk(80, row);
+    sheet.Down(50, 110, 140);
+    const boxes::ExpectedSide expected{{80, 107}, {80, 143}};
+    const LineSeg side = boxes::CreateSide(sheet.analysis, sheet.analysis.Segments[0], expected, 3);
+    EXPECT_EQ(boxes::OverlongInk(sheet.analysis, side), 100);
+    EXPECT_EQ(side.L, 80);
+    EXPECT_EQ(side.T, 110) << "as long as the side that it faces";
+    EXPECT_EQ(side.B, 140);
+    EXPECT_EQ(side.BoxId, 3);
+
+    for (int row = 60; row < 160; ++row)
+        sheet.analysis.WorkGrid.SetInk(80, row, row >= 105 && row < 145);
+    const LineSeg fitting = boxes::CreateSide(sheet.analysis, sheet.analysis.Segments[0], expected, 3);
+    EXPECT_EQ(boxes::OverlongInk(sheet.analysis, fitting), 0) << "40 pixels are not more than the largest";
+    EXPECT_EQ(fitting.T, 107);
+}
+
+BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
+    BoxRect box;
+    box.L = static_cast<std::int16_t>(left);
+    box.T = static_cast<std::int16_t>(lower);
+    box.R = static_cast<std::int16_t>(left + width);
+    box.B = static_cast<std::int16_t>(lower + height);
+    box.Kind = mark == 0 ? std::int16_t{0} : std::int16_t{1};
+    box.Mark = static_cast<std::int16_t>(mark);
+    box.Valid = -1;
+    return box;
+}
+
+std::vector<BoxRect> Filtered(std::vector<BoxRect> boxes) {
+    BoxAnalysis analysis(WorkGrid(10, 32, 10), kSizes, boxes::ReachFor(kSizes));
+    analysis.Boxes = std::move(boxes);
+    boxes::FilterBoxes(analysis);
+    return analysis.Boxes;
+}
+
+TEST(Filter, KeepsTheTwoSizesOfAForm) {
+    std::vector<BoxRect> all;
+    for (int index = 0; index < 8; ++index)
+        all.push_back(Rect(10 + 50 * index, 20, 30, 30));
+    for (int index = 0; index < 3; ++index)
+        all.push_back(Rect(10 + 50 * index, 80, 22, 24));
+    const std::vector<BoxRect> expected = all;
+    all.push_back(Rect(10, 140, 38, 24));
+    EXPECT_EQ(Filtered(all), expected) << "a single odd one is no third size";
+    EXPECT_EQ(boxes::ChooseReferenceSizes(all).Second, (boxes::BoxSize{22, 24}));
+    all.resize(10);
+    EXPECT_EQ(boxes::ChooseReferenceSizes(all).Second, (boxes::BoxSize{30, 30})) << "two are no second size";
+}
+
+TEST(Filter, ThreePixelsOffNeedAClosedOutline) {
+    std::vector<BoxRect> all(5, BoxRect{});
+    for (int index = 0; index < 5; ++index)
+        all[static_cast<std::size_t>(index)] = Rect(10 + 50 * index, 20, 30, 30);
+    std::vector<BoxRect> expected = all;
+    expected.push_back(Rect(10, 80, 33, 30));
+    expected.push_back(Rect(60, 80, 32, 28, -1));
+    all = expected;
+    all.push_back(Rect(110, 80, 33, 30, -1));
+    all.push_back(Rect(160, 80, 34, 30));
+    EXPECT_EQ(Filtered(all), expected);
+}
+
+TEST(Filter, OfIdenticalBoxesTheLastOneStays) {
+    std::vector<BoxRect> all = {Rect(10, 20, 30, 30), Rect(60, 20, 30, 30), Rect(10, 20, 30, 30),
+                                Rect(110, 20, 30, 30)};
+    const std::vector<BoxRect> found = Filtered(all);
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(found[0].L, 60);
+    EXPECT_EQ(found[1].L, 10);
+}
+
+TEST(Sort, TopOfThePageFirstThenFromLeftToRight) {
+    std::vector<BoxRect> boxes = {Rect(300, 50, 30, 30), Rect(100, 50, 30, 30), Rect(200, 50, 30, 30),
+                                  Rect(350, 90, 30, 30)};
+    for (int index = 0; index < 40; ++index)
+        boxes.push_back(Rect(index * 37 % 41 * 9, index % 5, 30, 30));
+    boxes::SortBoxes(boxes, 400);
+    EXPECT_EQ(boxes[0].L, 350);
+    EXPECT_EQ(boxes[1].L, 100);
+    EXPECT_EQ(boxes[2].L, 200);
+    EXPECT_EQ(boxes[3].L, 300);
+    EXPECT_TRUE(std::is_sorted(boxes.begin(), boxes.end(), [](const BoxRect& a, const BoxRect& b) {
+        return a.T != b.T ? a.T > b.T : a.L < b.L;
+    }));
+}
+
+}  // namespace
+}  // namespace tavrene::test
