@@ -93,19 +93,21 @@ std::vector<imaging::TiffPage> Thumbnails::PagesOf(std::span<const StripEntry> p
 }
 
 imaging::TiffPage Thumbnails::MakePage(const StripEntry& profile, const std::string& label) {
-    std::string reason = "its document cannot be read";
-    if (profile.IsReadable) {
-        try {
-            const auto read = ReadSpecimen(files_, profile.Image);
-            if (const imaging::Page* const page = std::get_if<imaging::Page>(&read))
-                return {imaging::ReducedPicture(page->bitmap, kWidth, kMaxHeight), label};
-            reason = "its specimen image " + profile.Image + " cannot be read";
-        } catch (const std::exception& error) {
-            reason = error.what();
-        }
+    const auto placeholder = [] {
+        return imaging::TiffPage{imaging::PlaceholderPicture(kWidth, kPlaceholderHeight), {}};
+    };
+    if (!profile.IsReadable)  // the loader has logged why
+        return placeholder();
+    std::string reason = "its specimen image " + profile.Image + " cannot be read";
+    try {
+        const auto read = ReadSpecimen(files_, profile.Image);
+        if (const imaging::Page* const page = std::get_if<imaging::Page>(&read))
+            return {imaging::ReducedPicture(page->bitmap, kWidth, kMaxHeight), label};
+    } catch (const std::exception& error) {
+        reason = error.what();
     }
     log_.LogProfileEvent("No thumbnail for profile " + profile.FileName + ": " + reason);
-    return {imaging::PlaceholderPicture(kWidth, kPlaceholderHeight), {}};
+    return placeholder();
 }
 
 void Thumbnails::WriteFile() {

@@ -43,8 +43,11 @@ class RunWorld : public ::testing::Test {
 
     /// The lines of the day's process log without their time stamps.
     std::vector<std::string> ProcessLog() const {
+        return LogLines(ReadText(folders_.Log + "TavreneBoxes-Process-20240305.Log"));
+    }
+
+    static std::vector<std::string> LogLines(const std::string& text) {
         std::vector<std::string> lines;
-        const std::string text = ReadText(folders_.Log + "TavreneBoxes-Process-20240305.Log");
         for (std::size_t start = 0; start < text.size();) {
             const std::size_t end = text.find("\r\n", start);
             lines.push_back(text.substr(start + 12, end - start - 12));

@@ -1,0 +1,227 @@
+#include "profiles/BoxEditor.h"
+#include "support/FakeDesk.h"
+#include "support/FakeOperator.h"
+#include "support/TestForm.h"
+
+namespace tavrene::profiles {
+namespace {
+
+using test::TestForm;
+
+std::int16_t Ordinate(int value) {
+    return static_cast<std::int16_t>(value);
+}
+
+class BoxEditorTest : public ::testing::Test {
+  protected:
+    BoxEditorTest() { Open(TestForm::Grid(3, 2).boxes); }
+
+    void Open(std::vector<OmrBox> boxes) {
+        ProfileContent content;
+        content.Count = Ordinate(static_cast<int>(boxes.size()));
+        content.Boxes = std::move(boxes);
+        screen_.SetZoom(100);
+        profile_.IsOpen = true;
+        editor_.BuildBoxList(content);
+    }
+
+    void Draw(double left, double top, double width, double height) {
+        editor_.RectSelected({desk_.nextGroup, left, top, width, height});
+    }
+
+    // The row holds the new label before the editor hears of it.
+    void Rename(int number, const std::string& name) {
+        desk_.rows[number] = name;
+        editor_.RowRenamed(number, name);
+    }
+
+    void Delete(int number) {
+        editor_.RowClicked(number);
+        editor_.DeleteBox();
+    }
+
+    OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
+
+    std::vector<int> Place(int number) {
+        return {Box(number).L, Box(number).T, Box(number).R, Box(number).B};
+    }
+
+    test::Transcript transcript_;
+    test::FakeOperator person_{transcript_};
+    test::FakeScreen screen_{transcript_};
+    test::FakeDesk desk_{transcript_};
+    OpenProfile profile_;
+    BoxEditor editor_{profile_, person_, {screen_, screen_, desk_, desk_, desk_}};
+};
+
+TEST_F(BoxEditorTest, BuildsBothViewsAndPaintsBoxesOnePixelShort) {
+    std::vector<OmrBox> boxes = TestForm::Grid(10, 12).boxes;
+    boxes[1].Name.clear();
+    transcript_.Clear();
+    Open(boxes);
+    EXPECT_EQ(desk_.rows.at(1), "Q1");
+    EXPECT_EQ(desk_.rows.at(2), "Un-named-2");
+    EXPECT_EQ(desk_.rows.size(), 120U);
+    EXPECT_EQ(PaintedPart(desk_.boxes.at(2)), (imaging::PageRect{114, 70, 24, 23}));
+    EXPECT_EQ(profile_.NextBoxId, 121);
+    EXPECT_EQ(transcript_.LinesOf("rows: "),
+              (std::vector<std::string>{"clear", "one column", "refresh", "refresh", "refresh"}));
+    EXPECT_EQ(transcript_.LinesOf("range: "), std::vector<std::string>{"120"});
+    EXPECT_EQ(transcript_.LinesOf("progress: ").back(), "0");
+    EXPECT_EQ(transcript_.LinesOf("progress: ").at(119), "120");
+}
+
+TEST_F(BoxEditorTest, SelectingChangesNothingAtAnyZoomAndScroll) {
+    const std::vector<OmrBox> before = profile_.BoxList;
+    for (const double zoom : {2.0, 25.0, 33.0, 92.16, 100.0, 250.0, 6500.0}) {
+        screen_.SetZoom(zoom);
+        desk_.scroll = {zoom * 0.37, 12.5};
+        for (int number = 1; number <= 6; ++number) {
+            editor_.RectSelected(desk_.Report(number, zoom));
+            EXPECT_EQ(desk_.selectedRow, number);
+            EXPECT_EQ(profile_.CurrentBox, number);
+            editor_.RowClicked(number);
+            EXPECT_EQ(desk_.selectedBox, number);
+        }
+    }
+    EXPECT_EQ(profile_.BoxList, before);
+    EXPECT_FALSE(profile_.ProfileChanged);
+    EXPECT_FALSE(editor_.CanUndo());
+}
+
+TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
+    screen_.SetZoom(50);
+    editor_.RectMoved(2);
+    editor_.RectSelected({2, 10, 20, 15, 12});
+    EXPECT_EQ(Place(2), (std::vector<int>{20, 40, 50, 64}));
+    desk_.scroll = {100, 7};
+    screen_.SetZoom(200);
+    editor_.RectSelected({3, -90, 1, 25, 20});  // 5, 4, 17.5, 14: halves go to the even neighbour
+    EXPECT_EQ(Place(3), (std::vector<int>{5, 4, 18, 14}));
+    editor_.RectSelected({4, 10, 20, 0, 0});
+    EXPECT_EQ(Place(4), (std::vector<int>{60, 124, 84, 148}));
+    EXPECT_TRUE(profile_.ProfileChanged);
+    editor_.RectSelected({99, 10, 20, 15, 12});
+    editor_.RectSelected({0, 10, 20, 15, 12});
+    EXPECT_EQ(profile_.BoxList.size(), 6U);
+    EXPECT_EQ(profile_.Count, 6);
+}
+
+TEST_F(BoxEditorTest, StoresNothingWhileTheViewServesAnotherActivity) {
+    editor_.SetMayStore([] { return false; });
+    editor_.RectMoved(2);
+    editor_.RectSelected({2, 10, 20, 15, 12});
+    editor_.Nudge(1, 1);
+    EXPECT_EQ(Place(2), (std::vector<int>{114, 70, 138, 94}));
+    EXPECT_FALSE(profile_.ProfileChanged);
+    EXPECT_EQ(desk_.selectedRow, 2);
+}
+
+TEST_F(BoxEditorTest, DrawsNewBoxesInAddModeOnly) {
+    Draw(10, 20, 15, 12);
+    EXPECT_EQ(profile_.Count, 6);
+    editor_.SetTool(BoxTool::Add);
+    Draw(10, 20, 0, 0);
+    EXPECT_EQ(profile_.Count, 6);
+    EXPECT_EQ(profile_.NextBoxId, 7);
+    EXPECT_FALSE(profile_.ProfileChanged);
+    Draw(10, 20, 15, 12);
+    EXPECT_EQ(profile_.Count, 7);
+    EXPECT_EQ(Place(7), (std::vector<int>{10, 20, 25, 32}));
+    EXPECT_EQ(desk_.rows.at(7), "Un-named-7");
+    EXPECT_EQ(desk_.nextGroup, 8);
+    EXPECT_EQ(profile_.CurrentBox, 7);
+    editor_.RectSelected({3, 1, 2, 3, 4});  // an old box selected with the drawing tool still on
+    EXPECT_EQ(Place(3), (std::vector<int>{1, 2, 4, 6}));
+    EXPECT_EQ(profile_.Count, 7);
+}
+
+TEST_F(BoxEditorTest, DeletingMakesTheNextBoxCurrent) {
+    Delete(4);
+    EXPECT_EQ(profile_.CurrentBox, 5);
+    EXPECT_EQ(desk_.selectedBox, 5);
+    Delete(6);
+    EXPECT_EQ(profile_.CurrentBox, 1);
+    EXPECT_EQ(desk_.rows.size(), 4U);
+    EXPECT_EQ(desk_.boxes.count(4) + desk_.boxes.count(6), 0U);
+    editor_.RowClicked(4);  // gone
+    EXPECT_EQ(profile_.CurrentBox, 1);
+    for (int k = 0; k < 5; ++k)
+        editor_.DeleteBox();
+    EXPECT_EQ(profile_.Count, 0);
+    EXPECT_EQ(profile_.CurrentBox, 0);
+    EXPECT_TRUE(desk_.rows.empty());
+    EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
+}
+
+TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxInsideTheNumberRange) {
+    editor_.Nudge(1, 0);  // no current box
+    EXPECT_FALSE(profile_.ProfileChanged);
+    editor_.RowClicked(1);
+    editor_.Nudge(-10, 1);
+    EXPECT_EQ(Place(1), (std::vector<int>{50, 71, 74, 95}));
+    EXPECT_EQ(desk_.boxes.at(1), (imaging::PageRect{50, 71, 24, 24}));
+    Box(1).R = 32767;
+    Box(1).L = 32740;
+    editor_.Nudge(1, 0);
+    EXPECT_EQ(Place(1), (std::vector<int>{32740, 71, 32767, 95}));
+}
+
+struct DeskState {
+    std::vector<OmrBox> boxes;
+    int count;
+    int next;
+    bool changed;
+    std::map<int, std::string> rows;
+    bool operator==(const DeskState&) const = default;
+};
+
+TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {
+    const auto state = [this] {
+        EXPECT_EQ(desk_.nextGroup, profile_.NextBoxId);
+        EXPECT_EQ(desk_.boxes.size(), desk_.rows.size());
+        return DeskState{profile_.BoxList, profile_.Count, profile_.NextBoxId, profile_.ProfileChanged,
+                         desk_.rows};
+    };
+    editor_.SetTool(BoxTool::Add);
+    const std::vector<std::function<void()>> edits = {
+        [this] { Rename(2, "yes & no"); },  [this] { Delete(2); },
+        [this] { Draw(300, 300, 20, 20); }, [this] {
+                                                          editor_.RectSelected({3, 9, 8, 30, 31}); },
+        [this] { editor_.Nudge(0, 10); },   [this] { Delete(7); },
+        [this] { Rename(1, ""); }};
+    std::vector<DeskState> states = {state()};
+    for (const auto& edit : edits) {
+        edit();
+        states.push_back(state());
+    }
+    EXPECT_EQ(states.back().count, 5);
+    const auto isSame = [](DeskState a, DeskState b) {
+        a.rows[1] = b.rows[1] = "";  // an empty name is shown by its number after it was taken back
+        return a == b;
+    };
+    for (std::size_t k = edits.size(); k-- > 0;) {
+        editor_.Undo();
+        EXPECT_TRUE(isSame(state(), states[k])) << k;
+    }
+    EXPECT_FALSE(editor_.CanUndo());
+    for (std::size_t k = 1; k <= edits.size(); ++k) {
+        editor_.Redo();
+        EXPECT_TRUE(isSame(state(), states[k])) << k;
+    }
+    EXPECT_FALSE(editor_.CanRedo());
+
+    editor_.ClearChanged();  // saved here
+    editor_.Undo();
+    EXPECT_TRUE(profile_.ProfileChanged);
+    editor_.Redo();
+    EXPECT_FALSE(profile_.ProfileChanged);
+    editor_.Undo();
+    Rename(1, "other");
+    EXPECT_FALSE(editor_.CanRedo());
+    editor_.Undo();
+    EXPECT_TRUE(profile_.ProfileChanged);  // the saved state cannot be reached any more
+}
+
+}  // namespace
+}  // namespace tavrene::profiles
