@@ -1,0 +1,121 @@
+#include "recognition/ProfileAdvice.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <utility>
+
+#include "app/Numeric.h"
+#include "recognition/SampleBoxes.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using profiles::OmrBox;
+using profiles::OpenProfile;
+using Boxes = std::vector<OmrBox>;
+
+// The sampled boxes carry the slope of the whole page; from a narrow base a small error grows this much.
+constexpr int kLargestGrowth = 4;
+
+Boxes KeptBoxes(const OpenProfile& profile) {
+    Boxes kept;
+    std::copy_if(profile.BoxList.begin(), profile.BoxList.end(), std::back_inserter(kept),
+                 [](const OmrBox& box) { return box.Checked; });
+    return kept;
+}
+
+Boxes SampledBoxes(const Boxes& boxes) {
+    Boxes sampled;
+    for (const std::size_t index : SampleBoxes(boxes.size()))
+        sampled.push_back(boxes[index]);
+    return sampled;
+}
+
+std::int16_t Left(const OmrBox& box) {
+    return box.L;
+}
+
+// The lower edge, whatever order the document has.
+std::int16_t Lower(const OmrBox& box) {
+    return std::max(box.T, box.B);
+}
+
+using Ordinate = std::int16_t (*)(const OmrBox&);
+
+int SpreadOf(const Boxes& boxes, Ordinate ordinate) {
+    const auto [low, high] = std::minmax_element(
+        boxes.begin(), boxes.end(),
+        [ordinate](const OmrBox& a, const OmrBox& b) { return ordinate(a) < ordinate(b); });
+    return ordinate(*high) - ordinate(*low);
+}
+
+void AdviseOnSpread(const Boxes& boxes, std::vector<std::string>& advice) {
+    const Boxes sampled = SampledBoxes(boxes);
+    const std::pair<Ordinate, std::string> axes[] = {{Left, "column"}, {Lower, "row"}};
+    for (const auto& [ordinate, line] : axes) {
+        const int spread = SpreadOf(sampled, ordinate);
+        if (spread == 0)
+            advice.push_back("Every form of this profile will fail: the boxes by which a page is aligned (" +
+                             std::to_string(sampled.size()) + " of " + std::to_string(boxes.size()) +
+                             ") all lie in one " + line + ". Add a box in another " + line + ".");
+        else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
+            advice.push_back(
+                "Forms may be misread: the boxes by which a page is aligned lie close together, "
+                "all near one " +
+                line + ". Add or delete boxes so that others are chosen.");
+    }
+}
+
+// The area inside the outline, counted in 16 bits as reading does.
+bool HasNoArea(const OmrBox& box) {
+    const int width = box.R - box.L - 1;
+    const int height = std::abs(box.B - box.T) - 1;
+    return width <= 0 || height <= 0 || app::WrapToInt16(std::int64_t{width} * height) == 0;
+}
+
+void AdviseOnPlaces(const OpenProfile& profile, std::vector<std::string>& advice) {
+    const auto report = [&](auto isBad, const std::string& trouble) {
+        for (const OmrBox& box : profile.BoxList) {
+            if (box.Checked && isBad(box)) {
+                advice.push_back("Box " + box.Name + trouble);
+                return;
+            }
+        }
+    };
+    report(HasNoArea,
+           " has no area that can be read, so every form of this profile will fail. Change its size or "
+           "delete it.");
+    if (profile.ImageWidth == 0)
+        return;
+    report(
+        [&](const OmrBox& box) {
+            return box.L < 0 || box.T < 0 || box.R > profile.ImageWidth || box.B > profile.ImageHeight;
+        },
+        " lies outside the specimen image, so it cannot be found on a form. Move it or delete it.");
+}
+
+}  // namespace
+
+std::vector<std::string> AdviseOn(const OpenProfile& profile) {
+    std::vector<std::string> advice;
+    if (!profile.IsOpen)
+        return advice;
+    const Boxes boxes = KeptBoxes(profile);
+    if (static_cast<std::size_t>(std::max<int>(profile.Count, 0)) != boxes.size())
+        advice.push_back("The document does not agree with itself: it counts " +
+                         std::to_string(profile.Count) + " boxes but holds " + std::to_string(boxes.size()) +
+                         "; a run reads the smaller number. Create the profile anew.");
+    if (boxes.empty()) {
+        advice.emplace_back(
+            "This profile has no boxes, so a run will look at no profile behind it in the list, even when it "
+            "is "
+            "not active. Add boxes or delete it.");
+        return advice;
+    }
+    AdviseOnSpread(boxes, advice);
+    AdviseOnPlaces(profile, advice);
+    return advice;
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tavrene::commands {
+
+/// What a file dialog starts with. `filter` has the form "text|patterns", the patterns separated by `;`.
+struct FileQuestion {
+    std::string startFolder;  ///< Ends in a separator.
+    std::string fileName;     ///< Proposed name; empty for none.
+    std::string filter;
+};
+
+/// The two dialogs in which the person chooses a file; both give a whole path, or nothing when cancelled.
+class FileDialogs {
+  public:
+    virtual ~FileDialogs() = default;
+
+    /// A file to be written: the path carries the filter's extension, also where the person typed none, and
+    /// the person has agreed to replace a file that is there.
+    virtual std::optional<std::string> AskSaveFile(const FileQuestion& question) = 0;
+
+    /// A file that exists.
+    virtual std::optional<std::string> AskOpenFile(const FileQuestion& question) = 0;
+};
+
+}  // namespace tavrene::commands

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+#include "app/Operator.h"
+#include "profiles/ProfileStore.h"
+#include "ui/commands/AppState.h"
+#include "ui/commands/FileDialogs.h"
+
+namespace tavrene::commands {
+
+/// What the profile commands act on; everything must outlive them.
+struct ProfileDoors {
+    profiles::ProfileStore& store;
+    profiles::OpenProfile& profile;
+    app::Operator& person;
+    FileDialogs& dialogs;
+    imaging::PageView& view;
+};
+
+/// The commands `New`, `Save` and `Delete` and the events of the thumbnail strip. After the texts of a
+/// command the `Message` panel says what else there is to know about the profile, what will go wrong in a run
+/// with it above all.
+class ProfileCommands {
+  public:
+    ProfileCommands(const AppState& state, const ProfileDoors& doors) : state_(state), doors_(doors) {}
+
+    void New();
+    void Save();
+    void Delete();
+
+    /// Fills strip and profile list; the step of loading the window.
+    void LoadStrip();
+    void ThumbnailSelected(int k);
+
+    /// The prompt before the open profile is left; false when the command at hand is to be abandoned.
+    bool MayLeave();
+
+    /// The check box `chkActive` was switched.
+    void SetActive(bool active);
+
+    /// Whether `Save`, the editing tools and `chkActive` have something to act on, and whether `Delete` has.
+    bool CanEdit() const { return doors_.profile.IsOpen; }
+    bool CanDelete() const { return !doors_.profile.Path.empty(); }
+
+  private:
+    void ForgetNotes();
+    void TellMore();
+
+    const AppState& state_;
+    ProfileDoors doors_;
+};
+
+}  // namespace tavrene::commands
