@@ -108,6 +108,7 @@ std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::Wor
                                          const std::vector<TruthRecord>& truth) {
     const std::string log = TextOfLogs(files, folders.Log);
     std::vector<Comparison> comparisons;
+    comparisons.reserve(truth.size());
     for (const TruthRecord& record : truth)
         comparisons.push_back(CompareOne(files, folders, log, record));
     return comparisons;

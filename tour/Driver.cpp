@@ -54,9 +54,9 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
-    if (auto* const reports = window_.findChild<QDialog*>("FileReports"); reports->isVisible()) {
-        Shoot(*reports, "5-messages-about-files");
-        reports->close();
+    if (auto& reports = Find<QDialog>(window_, "FileReports"); reports.isVisible()) {
+        Shoot(reports, "5-messages-about-files");
+        reports.close();
     }
     ShootSettingsDialog();
     window_.close();

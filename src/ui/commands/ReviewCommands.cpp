@@ -1,0 +1,132 @@
+#include "ui/commands/ReviewCommands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "profiles/ProfileLoader.h"
+
+namespace tavrene::commands {
+
+using app::Panel;
+using review::Decision;
+
+ReviewCommands::ReviewCommands(const AppState& state, const review::ReviewDoors& doors,
+                               std::function<void()> closeProfile)
+    : state_(state),
+      doors_(doors),
+      closeProfile_(std::move(closeProfile)),
+      list_(doors_, state_.folders),
+      form_(doors_, state_.settings, state_.folders, state_.profiles, list_),
+      decisions_(doors_, state_.folders, list_) {}
+
+void ReviewCommands::Toggle(const SavePrompts& prompts) {
+    if (!prompts.ProfileThenForm())
+        return;
+    form_.Close();
+    inReview_ = !inReview_;
+    if (inReview_) {
+        closeProfile_();
+        ClearScreen();
+        ShowList();
+    } else {
+        LeaveReview();
+    }
+}
+
+void ReviewCommands::ShowList() {
+    decisions_.FinishInterrupted();
+    list_.Fill(state_.profiles);
+}
+
+void ReviewCommands::LeaveReview() {
+    doors_.person.SetPanel(Panel::File, profiles::ProfileCounts(state_.profiles));
+    doors_.person.SetPanel(Panel::Message, "");
+    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    ClearScreen();
+}
+
+void ReviewCommands::ClearScreen() {
+    doors_.view.Clear();
+    doors_.rects.ClearRects();
+    doors_.rows.ClearRows();
+    doors_.rows.RemoveExtraColumns();
+    doors_.choice.SetChoice("");
+}
+
+void ReviewCommands::Refill() {
+    if (inReview_)
+        ShowList();
+}
+
+std::optional<std::size_t> ReviewCommands::OpenLine() {
+    return HasForm() ? list_.IndexOf(form_.Form()->Document) : std::nullopt;
+}
+
+bool ReviewCommands::MayLeave() {
+    return !HasForm() || decisions_.OfferSave(*form_.Form());
+}
+
+void ReviewCommands::Open(std::size_t line) {
+    if (!inReview_ || line >= list_.Lines().size())
+        return;
+    const std::string document = list_.Lines()[line].Document;
+    if (!MayLeave()) {
+        if (const std::optional<std::size_t> open = OpenLine())
+            doors_.lines.SelectLine(*open);
+        return;
+    }
+    doors_.lines.SelectLine(line);
+    form_.Open(document);
+}
+
+void ReviewCommands::OpenNeighbour(std::optional<std::size_t> selected, int step) {
+    const std::optional<std::size_t> from = OpenLine() ? OpenLine() : selected;
+    const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + step : 0;
+    if (line >= 0)
+        Open(static_cast<std::size_t>(line));
+}
+
+void ReviewCommands::BoxSelected(int row) {
+    if (HasForm())
+        doors_.changingRects.EmphasiseRects(row);
+}
+
+void ReviewCommands::NextDoubtful(int row) {
+    if (!HasForm())
+        return;
+    const int next = form_.NextDoubtful(row);
+    if (next == 0) {
+        doors_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
+        return;
+    }
+    doors_.inkRows.SelectRow(next);
+    doors_.changingRects.EmphasiseRects(next);
+}
+
+void ReviewCommands::Okay() {
+    if (HasForm())
+        decisions_.Save(*form_.Form());
+}
+
+void ReviewCommands::Accept() {
+    if (MayLeave())
+        Decide(Decision::Accept);
+}
+
+void ReviewCommands::Reject() {
+    Decide(Decision::Reject);
+}
+
+// The next line moves up into the place of the one that leaves.
+void ReviewCommands::Decide(Decision decision) {
+    if (!HasForm())
+        return;
+    const std::size_t line = OpenLine().value_or(0);
+    decisions_.Decide(*form_.Form(), decision, [this, line] {
+        form_.Close();
+        if (!list_.Lines().empty())
+            doors_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+    });
+}
+
+}  // namespace tavrene::commands
