@@ -64,12 +64,12 @@ imaging::PageRect OnPage(const imaging::WorkGrid& grid, const GridRect& place) {
             static_cast<double>(place.col1 - place.col0), static_cast<double>(place.row1 - place.row0)};
 }
 
-double FillOf(const imaging::WorkGrid& grid, const GridRect& place, const std::string& name) {
+std::optional<double> FillOf(const imaging::WorkGrid& grid, const GridRect& place) {
     const std::int64_t width = std::int64_t{place.col1} - place.col0 - 1;
     const std::int64_t height = std::int64_t{place.row1} - place.row0 - 1;
     const std::int16_t area = app::WrapToInt16(width * height);
     if (area == 0)
-        throw ReadingError("the box " + name + " has no area that could be read");
+        return std::nullopt;
     const std::int64_t ink = CountInk(
         grid, {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder});
     return static_cast<double>(ink * 100) / area;
@@ -99,16 +99,22 @@ int CountInk(const imaging::WorkGrid& grid, const GridRect& rect) {
     return count;
 }
 
+BoxMeasure MeasureBox(const imaging::Page& page, const ProfileRecord& profile, std::size_t index,
+                      const BoxShift& shift) {
+    const GridRect place = PlaceOf(page.grid, profile.Boxes[index], ScaleBetween(page, profile), shift);
+    return {OnPage(page.grid, place), FillOf(page.grid, place)};
+}
+
 std::vector<MarkReading> ReadMarks(const imaging::Page& page, const ProfileRecord& profile,
                                    std::span<const BoxShift> shifts, std::int16_t fillThreshold) {
-    const FormScale scale = ScaleBetween(page, profile);
     std::vector<MarkReading> readings;
     readings.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
-        const OmrBox& box = profile.Boxes[k];
-        const GridRect place = PlaceOf(page.grid, box, scale, shifts[k]);
-        const double fill = FillOf(page.grid, place, box.Name);
-        readings.push_back({box.Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
+        const std::string& name = profile.Boxes[k].Name;
+        const BoxMeasure measure = MeasureBox(page, profile, k, shifts[k]);
+        if (!measure.fill)
+            throw ReadingError("the box " + name + " has no area that could be read");
+        readings.push_back({name, shifts[k], measure.rect, *measure.fill, *measure.fill >= fillThreshold});
     }
     return readings;
 }

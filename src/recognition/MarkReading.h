@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -37,6 +39,16 @@ void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> sh
 /// Ink cells in the rectangle (grid frame, inclusive) after it is clamped to the picture; 0 when that leaves
 /// nothing.
 int CountInk(const imaging::WorkGrid& grid, const GridRect& rect);
+
+/// Where a box lies on a page, and how much of it is ink.
+struct BoxMeasure {
+    imaging::PageRect rect;      ///< Page frame, image pixels.
+    std::optional<double> fill;  ///< As in `MarkReading`; none for a box without interior.
+};
+
+/// Measures box `index` (from 0) of the profile at its shifted place.
+BoxMeasure MeasureBox(const imaging::Page& page, const profiles::ProfileRecord& profile, std::size_t index,
+                      const BoxShift& shift);
 
 /// Reads every box of the profile, in its order, at its shifted place. Checked when the fill reaches
 /// `fillThreshold` percent. Throws `ReadingError` for a box without interior.

@@ -1,5 +1,6 @@
 #include "recognition/ResultDocument.h"
 
+#include <charconv>
 #include <string_view>
 
 #include "profiles/XmlFile.h"
@@ -10,6 +11,59 @@ namespace {
 using profiles::Declaration;
 using profiles::DocumentError;
 
+constexpr const char* kSet = "1";
+constexpr const char* kNotSet = "0";
+
+void SetAttribute(pugi::xml_node element, const char* name, const char* value) {
+    pugi::xml_attribute attribute = element.attribute(name);
+    if (!attribute)
+        attribute = element.append_attribute(name);
+    attribute.set_value(value);
+}
+
+bool IsSet(const pugi::xml_attribute& attribute) {
+    return attribute.value() == std::string_view(kSet);
+}
+
+void AppendReading(pugi::xml_node omrs, const MarkReading& reading) {
+    pugi::xml_node mark = omrs.append_child("OMR");
+    mark.append_attribute("Name") = reading.Name.c_str();
+    const std::string shift = std::to_string(reading.Shift.dx) + "," + std::to_string(reading.Shift.dy);
+    mark.append_attribute("Shift") = shift.c_str();
+    mark.append_attribute("Checked") = reading.Checked ? kSet : kNotSet;
+}
+
+// "dx,dy" and nothing else.
+std::optional<BoxShift> ParseShift(std::string_view text) {
+    BoxShift shift;
+    const char* const end = text.data() + text.size();
+    const auto [comma, first] = std::from_chars(text.data(), end, shift.dx);
+    if (first != std::errc() || comma == end || *comma != ',')
+        return std::nullopt;
+    const auto [rest, second] = std::from_chars(comma + 1, end, shift.dy);
+    if (second != std::errc() || rest != end)
+        return std::nullopt;
+    return shift;
+}
+
+std::vector<ResultMark> MarksIn(const pugi::xml_node& root) {
+    std::vector<ResultMark> marks;
+    for (const pugi::xml_node mark : profiles::RequiredChild(root, "OMRs").children("OMR"))
+        marks.push_back({mark.attribute("Name").value(), IsSet(mark.attribute("Checked")),
+                         ParseShift(mark.attribute("Shift").value())});
+    return marks;
+}
+
+void CheckResult(const pugi::xml_node& root) {
+    if (root.name() != std::string_view("Tavrene"))
+        throw DocumentError("the root element is not Tavrene");
+    profiles::RequiredChild(root, "OMRs");
+    // A path would lead out of the folder that the document lies in.
+    const std::string image = root.attribute("Image").value();
+    if (app::FileName(image) != image)
+        throw DocumentError("the attribute Image is \"" + image + "\", which is no plain file name");
+}
+
 pugi::xml_document Compose(const ResultHeader& header, std::span<const MarkReading> readings) {
     pugi::xml_document document;
     pugi::xml_node root = document.append_child("Tavrene");
@@ -19,13 +73,8 @@ pugi::xml_document Compose(const ResultHeader& header, std::span<const MarkReadi
     root.append_attribute("Confidence") = header.Confidence;
     pugi::xml_node omrs = root.append_child("OMRs");
     omrs.append_attribute("Count") = static_cast<unsigned long long>(readings.size());
-    for (const MarkReading& reading : readings) {
-        pugi::xml_node mark = omrs.append_child("OMR");
-        mark.append_attribute("Name") = reading.Name.c_str();
-        const std::string shift = std::to_string(reading.Shift.dx) + "," + std::to_string(reading.Shift.dy);
-        mark.append_attribute("Shift") = shift.c_str();
-        mark.append_attribute("Checked") = reading.Checked ? "1" : "0";
-    }
+    for (const MarkReading& reading : readings)
+        AppendReading(omrs, reading);
     return document;
 }
 
@@ -41,13 +90,7 @@ void SaveResultDocument(app::Files& files, const std::string& path, const Result
 }
 
 std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::string& path) {
-    const pugi::xml_document document = profiles::ReadXml(files, path, Declaration::Allowed);
-    const pugi::xml_node omrs = profiles::RequiredChild(document.document_element(), "OMRs");
-    std::vector<ResultMark> marks;
-    for (const pugi::xml_node mark : omrs.children("OMR"))
-        marks.push_back(
-            {mark.attribute("Name").value(), mark.attribute("Checked").value() == std::string_view("1")});
-    return marks;
+    return MarksIn(profiles::ReadXml(files, path, Declaration::Allowed).document_element());
 }
 
 std::string ImageOfResult(const app::Files& files, const std::string& path) {
@@ -59,6 +102,73 @@ std::string ImageOfResult(const app::Files& files, const std::string& path) {
     } catch (const std::runtime_error&) {
         return {};
     }
+}
+
+ResultDocument ResultDocument::Load(const app::Files& files, const std::string& path) {
+    ResultDocument result;
+    try {
+        result.document_ = profiles::ReadXml(files, path, Declaration::Allowed);
+        CheckResult(result.Root());
+    } catch (const DocumentError& error) {
+        throw DocumentError(app::FileName(path) + ": " + error.what());
+    }
+    return result;
+}
+
+ResultDocument ResultDocument::Clone() const {
+    ResultDocument copy;
+    copy.document_.reset(document_);
+    return copy;
+}
+
+bool ResultDocument::IsReviewed() const {
+    return IsSet(Root().attribute("Reviewed"));
+}
+
+std::vector<ResultMark> ResultDocument::Marks() const {
+    return MarksIn(Root());
+}
+
+void ResultDocument::SetChecked(std::span<const ResultMark> marks) {
+    auto mark = marks.begin();
+    for (const pugi::xml_node element : Root().child("OMRs").children("OMR")) {
+        if (mark == marks.end())
+            return;
+        SetAttribute(element, "Checked", mark->Checked ? kSet : kNotSet);
+        ++mark;
+    }
+}
+
+void ResultDocument::ReplaceMarks(std::span<const ResultMark> marks) {
+    pugi::xml_node omrs = NewMarks(marks.size());
+    for (const ResultMark& mark : marks) {
+        pugi::xml_node element = omrs.append_child("OMR");
+        element.append_attribute("Name") = mark.Name.c_str();
+        element.append_attribute("Checked") = mark.Checked ? kSet : kNotSet;
+    }
+}
+
+void ResultDocument::Rewrite(const std::string& profile, std::span<const MarkReading> readings) {
+    SetProfile(profile);
+    SetReviewed(false);
+    pugi::xml_node omrs = NewMarks(readings.size());
+    for (const MarkReading& reading : readings)
+        AppendReading(omrs, reading);
+}
+
+void ResultDocument::Save(app::Files& files, const std::string& path) const {
+    profiles::WriteXml(files, path, document_, profiles::XmlLayout::Indented);
+}
+
+void ResultDocument::SetRoot(const char* attribute, const char* value) {
+    SetAttribute(Root(), attribute, value);
+}
+
+pugi::xml_node ResultDocument::NewMarks(std::size_t count) {
+    Root().remove_child("OMRs");
+    pugi::xml_node omrs = Root().append_child("OMRs");
+    omrs.append_attribute("Count") = static_cast<unsigned long long>(count);
+    return omrs;
 }
 
 }  // namespace tavrene::recognition

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <pugixml.hpp>
 #include <span>
 #include <string>
 #include <vector>
@@ -22,6 +24,46 @@ struct ResultHeader {
 struct ResultMark {
     std::string Name;
     bool Checked = false;
+    std::optional<BoxShift> Shift = std::nullopt;  ///< None when it is missing or cannot be read.
+};
+
+/// An open result document. Whatever else somebody wrote into it is kept when it is saved.
+class ResultDocument {
+  public:
+    /// Reads a document. Throws `app::FileError`, or `profiles::DocumentError` with a text that names the
+    /// file: it is no result document, has no `OMRs`, or its `Image` is not the plain name of a file.
+    static ResultDocument Load(const app::Files& files, const std::string& path);
+
+    ResultDocument Clone() const;
+
+    std::string Profile() const { return Root().attribute("Profile").value(); }
+    std::string Image() const { return Root().attribute("Image").value(); }
+    std::string Confidence() const { return Root().attribute("Confidence").value(); }
+    bool IsReviewed() const;
+    std::vector<ResultMark> Marks() const;
+
+    void SetProfile(const std::string& name) { SetRoot("Profile", name.c_str()); }
+    void SetReviewed(bool reviewed) { SetRoot("Reviewed", reviewed ? "1" : "0"); }
+
+    /// Puts the state of each mark into the box at the same place; names and shifts stay.
+    void SetChecked(std::span<const ResultMark> marks);
+
+    /// Replaces all boxes by those of `marks`, without shifts.
+    void ReplaceMarks(std::span<const ResultMark> marks);
+
+    /// Makes it the result of another reading: profile and boxes are new, image and confidence stay, and
+    /// nobody has reviewed it.
+    void Rewrite(const std::string& profile, std::span<const MarkReading> readings);
+
+    /// Throws `app::FileError`; the file then holds what it held before.
+    void Save(app::Files& files, const std::string& path) const;
+
+  private:
+    pugi::xml_node Root() const { return document_.document_element(); }
+    void SetRoot(const char* attribute, const char* value);
+    pugi::xml_node NewMarks(std::size_t count);
+
+    pugi::xml_document document_;
 };
 
 /// The file that belongs to an image of the same folder (path ending in a separator): its base name with

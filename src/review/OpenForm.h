@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "imaging/PageRects.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/ResultDocument.h"
+
+namespace tavrene::review {
+
+/// One box of the open form as the screen shows it.
+struct FormBox {
+    std::optional<imaging::PageRect> rect;  ///< None where the profile or the image does not tell its place.
+    std::optional<double> ink;              ///< Percent, as measured at opening.
+};
+
+/// The form under review.
+struct OpenForm {
+    std::string Name;      ///< Base name of the document.
+    std::string Document;  ///< File name of the document.
+    recognition::ResultDocument Result;
+
+    /// The profile now chosen for it, as it was when it was chosen: a reload of the profiles changes nothing.
+    profiles::ProfileRecord Profile;
+    std::string SavedProfile;  ///< The profile it had when it was opened or last saved.
+
+    /// The current marks and what is shown of them: one each for every box of the document, in its order.
+    std::vector<recognition::ResultMark> Marks;
+    std::vector<FormBox> Boxes;
+
+    /// Places of the profile's boxes that the document lacks; empty without an image to draw them on.
+    std::vector<imaging::PageRect> SkippedRects;
+    int Skipped = 0;
+
+    int CheckedCount = 0;
+    bool Changed = false;  ///< A mark or the profile was altered and is not saved.
+};
+
+}  // namespace tavrene::review

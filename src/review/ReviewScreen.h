@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "app/ActivityLog.h"
+#include "app/Files.h"
+#include "app/Operator.h"
+#include "imaging/PageRects.h"
+#include "imaging/PageView.h"
+#include "profiles/BoxRows.h"
+
+namespace tavrene::review {
+
+/// One processed form of the review list.
+struct ReviewLine {
+    std::string Name;      ///< Base name of the document; the line's text.
+    std::string Document;  ///< File name of the document as it is spelled on disk.
+    bool Reviewed = false;
+    std::string Confidence;  ///< As it stands in the document.
+    bool operator==(const ReviewLine&) const = default;
+};
+
+/// The review list (`lvwReview`). Lines are counted from 0 and stand in the order given.
+class ReviewLines {
+  public:
+    virtual ~ReviewLines() = default;
+
+    /// Replaces all lines; none is selected.
+    virtual void ShowLines(std::span<const ReviewLine> lines) = 0;
+    virtual void ChangeLine(std::size_t index, const ReviewLine& line) = 0;
+    virtual void RemoveLine(std::size_t index) = 0;
+
+    /// Makes it the current line and brings it into view; opens nothing.
+    virtual void SelectLine(std::size_t index) = 0;
+};
+
+/// The choice of the profile to read a form against (`cboProfiles`).
+class ProfileChoice {
+  public:
+    virtual ~ProfileChoice() = default;
+    virtual void ShowProfiles(std::span<const std::string> names) = 0;
+
+    /// Shows a profile as the chosen one, which reads nothing, and offers the choice; an empty name shows
+    /// none and takes the offer away.
+    virtual void SetChoice(std::string_view name) = 0;
+};
+
+/// What review needs of the box list beside its rows. Rows are named by their number, from 1.
+class ReviewRows {
+  public:
+    virtual ~ReviewRows() = default;
+
+    /// A read-only column behind "Val", titled "Ink"; gone with the other extra columns.
+    virtual void AddInkColumn() = 0;
+
+    /// The ink of a row, empty where it is not known; a doubtful row stands out.
+    virtual void SetInk(int number, std::string_view ink, bool doubtful) = 0;
+    virtual void SetVal(int number, std::string_view value) = 0;
+
+    /// Makes it the current row and scrolls it into view; flips nothing.
+    virtual void SelectRow(int number) = 0;
+};
+
+/// What review needs of the drawn boxes beside drawing them.
+class ReviewRects {
+  public:
+    virtual ~ReviewRects() = default;
+
+    /// Redraws the rectangles of a group in another style.
+    virtual void ChangeRects(int group, imaging::RectStyle style) = 0;
+
+    /// Brings the rectangles of a group into view and makes them the only ones that stand out.
+    virtual void EmphasiseRects(int group) = 0;
+};
+
+/// What review needs of the world; everything must outlive it.
+struct ReviewDoors {
+    app::Files& files;
+    app::ActivityLog& log;
+    app::Operator& person;
+    imaging::PageView& view;
+    imaging::PageRects& rects;
+    ReviewRects& changingRects;
+    profiles::BoxRows& rows;
+    ReviewRows& inkRows;
+    ReviewLines& lines;
+    ProfileChoice& choice;
+};
+
+}  // namespace tavrene::review
