@@ -1,0 +1,194 @@
+#include "ReviewWorld.h"
+
+namespace tavrene {
+namespace {
+
+using app::Answer;
+using app::Panel;
+using test::Names;
+using test::ReadText;
+using test::TestForm;
+using test::WriteText;
+
+class BadFormsTest : public test::ReviewWorld {
+  protected:
+    void Document(const std::string& name, const std::string& text) {
+        WriteText(folders_.ProcessOut + name, text);
+    }
+
+    // Log lines since `first`.
+    Names LogFrom(std::size_t first) const {
+        const Names lines = ProcessLog();
+        return {lines.begin() + static_cast<std::ptrdiff_t>(std::min(first, lines.size())), lines.end()};
+    }
+};
+
+TEST_F(BadFormsTest, AnEmptyFolderIsAnEmptyList) {
+    EnterReview();
+    EXPECT_TRUE(list_.lines.empty());
+    EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 0");
+    Open(0);
+    Do([this] { review_.OpenNeighbour({}, -1); });
+    EXPECT_TRUE(transcript_.Lines().empty());
+}
+
+TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
+    AddScan("good.tif");
+    AddScan("unclassified.gif");
+    Process();
+    const std::string good = Result("good.xml");
+    Document("1-empty.xml", "");
+    Document("2-cut.xml", good.substr(0, good.size() / 2));
+    Document("3-text.XML", "Dear Sir or Madam");
+    Document("4-no-boxes.xml", "<Tavrene Profile=\"Form\" Image=\"good.tif\"/>");
+    Document("5-other.xml", "<html/>");
+    Document("6-path.xml", "<Tavrene Image=\"../ProcessIn/good.tif\"><OMRs/></Tavrene>");
+    Document("7-gone.xml", "<Tavrene Image=\"gone.tif\" Reviewed=\"1\"><OMRs/></Tavrene>");
+    Document("8-none.xml", "<Tavrene><OMRs/></Tavrene>");
+    Document("9-marked.xml", "<Tavrene Image=\"good.tif\" Reviewed=\"2\"><OMRs/></Tavrene>");
+    const std::size_t before = ProcessLog().size();
+    EnterReview();
+    EXPECT_EQ(list_.lines, (Names{"9-marked ", "good 100"}));
+    EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 2");
+    EXPECT_EQ(person_.PanelText(Panel::Message),
+              "Warning: Images referred in <2> Forms were missing and hence not loaded. Please refer process "
+              "log.");
+    const Names log = LogFrom(before);
+    ASSERT_EQ(log.size(), 8U);
+    EXPECT_EQ(log[0], "Review: Form left out: 1-empty.xml: the file is empty");
+    EXPECT_TRUE(log[1].starts_with("Review: Form left out: 2-cut.xml: it is not XML"));
+    EXPECT_TRUE(log[2].starts_with("Review: Form left out: 3-text.XML: "));
+    EXPECT_EQ(log[3], "Review: Form left out: 4-no-boxes.xml: the element OMRs is missing");
+    EXPECT_EQ(log[4], "Review: Form left out: 5-other.xml: the root element is not Tavrene");
+    EXPECT_EQ(log[5],
+              "Review: Form left out: 6-path.xml: the attribute Image is "
+              "\"../ProcessIn/good.tif\", which is no plain file name");
+    EXPECT_EQ(log[6], "Review: Image <" + folders_.ProcessOut + "gone.tif> does not exist.");
+    EXPECT_EQ(log[7], "Review: Image <" + folders_.ProcessOut + "> does not exist.");
+
+    // A folder and a log that are gone cost the list, not the program.
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "append"; };
+    Do([this] { review_.Refill(); });
+    EXPECT_EQ(list_.lines.size(), 2U);
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "list"; };
+    Do([this] { review_.Refill(); });
+    EXPECT_TRUE(list_.lines.empty());
+    EXPECT_EQ(Messages().size(), 1U);
+}
+
+TEST_F(BadFormsTest, BoxesAndShiftsThatMakeNoSense) {
+    AddScan("a.tif", {.checked = {3}, .dx = 3, .dy = -2});
+    Process();
+    Document(
+        "a.xml",
+        "<Tavrene Profile=\"Form\" Image=\"a.tif\" Reviewed=\"2\" Confidence=\"much\"><OMRs Count=\"99\">"
+        "<OMR Name=\"Q1\" Shift=\"abc\" Checked=\"1\"/><OMR Name=\"Q2\" Shift=\"1\" Checked=\"yes\"/>"
+        "<OMR Name=\"Q4\" Shift=\"1,2,3\"/><OMR Name=\"Q3\" Shift=\"3,-2\" Checked=\"1\"/>"
+        "<OMR Name=\"Q3\" Checked=\"1\"/><OMR Checked=\"0\"/></OMRs><Note>kept</Note></Tavrene>");
+    EnterReview();
+    Open(0);
+    EXPECT_EQ(transcript_.LinesOf("row: "),
+              (Names{"1 Q1|1", "2 Q2|0", "3 Q4|0", "4 Q3|1", "5 Q3|1", "6 |0"}));
+    EXPECT_EQ(transcript_.LinesOf("rect: "), (Names{"1 63,72 24x24 checked", "2 117,72 24x24 unchecked",
+                                                    "3 117,126 24x24 unchecked", "4 63,126 24x24 checked"}));
+    EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:4");
+    Flip(5);
+    Flip(7);
+    Flip(0);
+    EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "Checked:2 of 6");
+    Okay();
+    EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 1 of 1");
+    const std::string saved = Result("a.xml");
+    EXPECT_NE(saved.find("Reviewed=\"1\" Confidence=\"much\""), std::string::npos);
+    EXPECT_NE(saved.find("<OMR Name=\"Q3\" Shift=\"3,-2\" Checked=\"1\" />\n\t\t<OMR Name=\"Q3\" "
+                         "Checked=\"0\" />"),
+              std::string::npos);
+    EXPECT_NE(saved.find("<Note>kept</Note>"), std::string::npos);
+}
+
+TEST_F(BadFormsTest, EqualNamesStayApart) {
+    form_.boxes[1].Name = "Q1";
+    AddProfile("Form", form_);
+    AddScan("a.tif", {.checked = {2}});
+    ProcessAndReview();
+    Open(0);
+    EXPECT_EQ(transcript_.LinesOf("rect: ")[1], "2 114,70 24x24 checked");
+    Flip(1);
+    Flip(2);
+    Okay();
+    EXPECT_NE(Result("a.xml").find("Q1\" Shift=\"0,0\" Checked=\"1\" />\n\t\t<OMR Name=\"Q1\" "
+                                   "Shift=\"0,0\" Checked=\"0\""),
+              std::string::npos);
+}
+
+TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {
+    AddScan("a.tif");
+    AddScan("b.tif", {.checked = {1}});
+    ProcessAndReview();
+    files_.Delete(folders_.ProcessOut + "a.tif");
+    WriteText(folders_.ProcessOut + "b.tif", "no image");
+    std::size_t before = ProcessLog().size();
+    Open(0);
+    EXPECT_EQ(LogFrom(before), Names{"File a.tif referred by a.xml was not found."});
+    EXPECT_FALSE(review_.HasForm());
+    EXPECT_TRUE(transcript_.LinesOf("ask: ").empty());
+
+    Open(1);  // the marks can be seen and corrected all the same
+    EXPECT_EQ(transcript_.LinesOf("report: "), Names{"[b.tif] Image not in bitmap format"});
+    EXPECT_EQ(transcript_.LinesOf("view: "), Names{"clear"});
+    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 ", "2 ", "3 ", "4 "}));
+    EXPECT_TRUE(transcript_.LinesOf("rect: ").empty());
+    Flip(1);
+    Okay();
+    EXPECT_NE(Result("b.xml").find("Q1\" Shift=\"0,0\" Checked=\"0\""), std::string::npos);
+
+    // It cannot be read anew.
+    const std::string saved = Result("b.xml");
+    form_.boxes[0].Name = "New";
+    AddProfile("Form", form_);
+    LoadProfiles();
+    person_.answers = {Answer::Yes, Answer::No};
+    Open(1);
+    EXPECT_FALSE(review_.HasForm());
+    Open(1);
+    EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "Checked:0 of 4 Skip:1");
+    AddProfile("Other", form_);
+    LoadProfiles();
+    Choose("Other");
+    EXPECT_EQ(transcript_.LinesOf("choice: "), Names{"Form"});
+    EXPECT_EQ(Result("b.xml"), saved);
+}
+
+TEST_F(BadFormsTest, AProfileThatGoesWhileItsFormIsOpenCanStillBeSavedTo) {
+    AddScan("a.tif", {.checked = {1}});
+    ProcessAndReview();
+    Open(0);
+    files_.Delete(folders_.Profiles + "Form.Tvp");
+    AddProfile("Renamed", form_);
+    LoadProfiles();
+    Flip(2);
+    Okay();
+    EXPECT_NE(Result("a.xml").find("Profile=\"Form\" Image=\"a.tif\" Reviewed=\"1\""), std::string::npos);
+    Choose("Renamed");
+    Okay();
+    EXPECT_NE(Result("a.xml").find("Profile=\"Renamed\" Image=\"a.tif\" Reviewed=\"1\""), std::string::npos);
+}
+
+TEST_F(BadFormsTest, DocumentsThatGoOrBreakWhileTheyAreListed) {
+    AddScan("a.tif");
+    AddScan("b.tif");
+    ProcessAndReview();
+    files_.Delete(folders_.ProcessOut + "a.xml");
+    Document("b.xml", "<Tavrene");
+    Open(0);
+    ASSERT_EQ(Messages().size(), 1U);
+    EXPECT_NE(Messages()[0].find("ProcessOut/a.xml"), std::string::npos);
+    Open(1);
+    ASSERT_EQ(Messages().size(), 1U);
+    EXPECT_TRUE(Messages()[0].starts_with("b.xml: it is not XML"));
+    EXPECT_FALSE(review_.HasForm());
+    EXPECT_EQ(Result("b.xml"), "<Tavrene");
+}
+
+}  // namespace
+}  // namespace tavrene

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "review/ReviewScreen.h"
+#include "support/Transcript.h"
+
+namespace tavrene::test {
+
+/// What review adds to the screen: the list of forms, the choice of profiles, the ink column and the changing
+/// rectangles. All but the lines themselves go into the transcript ("select: ", "choice: ", "ink: ", "val: ",
+/// "style: ", "look at: ").
+class FakeReviewScreen final : public review::ReviewLines,
+                               public review::ProfileChoice,
+                               public review::ReviewRows,
+                               public review::ReviewRects {
+  public:
+    explicit FakeReviewScreen(Transcript& transcript) : transcript_(transcript) {}
+
+    /// The lines as they stand: "form 100", with a leading "+ " where the tick is set.
+    std::vector<std::string> lines;
+    std::vector<std::string> offered;  ///< Names in the profile choice.
+
+    void ShowLines(std::span<const review::ReviewLine> all) override {
+        lines.clear();
+        for (const review::ReviewLine& line : all)
+            lines.push_back(TextOf(line));
+    }
+    void ChangeLine(std::size_t index, const review::ReviewLine& line) override {
+        lines.at(index) = TextOf(line);
+    }
+    void RemoveLine(std::size_t index) override {
+        lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(index));
+    }
+    void SelectLine(std::size_t index) override { transcript_.Add("select: " + lines.at(index)); }
+
+    void ShowProfiles(std::span<const std::string> names) override { offered = {names.begin(), names.end()}; }
+    void SetChoice(std::string_view name) override { transcript_.Add("choice: " + std::string(name)); }
+
+    void AddInkColumn() override { transcript_.Add("rows: column Ink"); }
+    void SetInk(int number, std::string_view ink, bool doubtful) override {
+        transcript_.Add("ink: " + std::to_string(number) + " " + std::string(ink) + (doubtful ? " ?" : ""));
+    }
+    void SetVal(int number, std::string_view value) override {
+        transcript_.Add("val: " + std::to_string(number) + " " + std::string(value));
+    }
+    void SelectRow(int number) override { transcript_.Add("select row: " + std::to_string(number)); }
+
+    void ChangeRects(int group, imaging::RectStyle style) override {
+        transcript_.Add("style: " + std::to_string(group) +
+                        (style == imaging::RectStyle::Checked ? " checked" : " unchecked"));
+    }
+    void EmphasiseRects(int group) override { transcript_.Add("look at: " + std::to_string(group)); }
+
+  private:
+    static std::string TextOf(const review::ReviewLine& line) {
+        return (line.Reviewed ? "+ " : "") + line.Name + " " + line.Confidence;
+    }
+
+    Transcript& transcript_;
+};
+
+}  // namespace tavrene::test
