@@ -29,12 +29,9 @@ void KeepCopy(const Page& page, imaging::ImageFormat format, const PipelineDoors
 
 // The page, or nothing after the operator has been told why there is none.
 std::optional<Page> ReadForm(const std::string& imagePath, const PipelineDoors& doors) {
-    const std::optional<imaging::ImageFormat> format = imaging::FormatOfExtension(imagePath);
-    std::variant<Page, PageFault> read = PageFault::NotABitmap;
-    if (format)
-        read = imaging::ReadPage(doors.files, imagePath, *format);
+    std::variant<Page, PageFault> read = imaging::ReadSpecimen(doors.files, imagePath);
     if (Page* const page = std::get_if<Page>(&read)) {
-        KeepCopy(*page, *format, doors);
+        KeepCopy(*page, imaging::SpecimenFormat(imagePath), doors);
         return std::move(*page);
     }
     const bool hasColors = std::get<PageFault>(read) == PageFault::TooManyColors;

@@ -98,6 +98,15 @@ std::optional<ImageFormat> FormatOfExtension(std::string_view path) {
     return std::nullopt;
 }
 
+ImageFormat SpecimenFormat(std::string_view path) {
+    const ImageFormat format = FormatOfExtension(path).value_or(ImageFormat::Tiff);
+    return format == ImageFormat::Jpeg || format == ImageFormat::Png ? format : ImageFormat::Tiff;
+}
+
+std::variant<Page, PageFault> ReadSpecimen(const app::Files& files, const std::string& path) {
+    return ReadPage(files, path, SpecimenFormat(path));
+}
+
 std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
     const app::Bytes content = ContentOrNothing(files, path);
     Page page;

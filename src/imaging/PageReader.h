@@ -29,8 +29,15 @@ enum class PageFault { NotABitmap, TooManyColors };
 /// them.
 std::optional<ImageFormat> FormatOfExtension(std::string_view path);
 
+/// The file type by which the specimen image of a profile is read: JPEG or PNG by its extension, TIFF
+/// otherwise.
+ImageFormat SpecimenFormat(std::string_view path);
+
 /// Reads a file as a page. PNG, GIF and JPEG are reduced to two colours at level 128, a transparent picture
 /// laid on white first; the other types must have two colours. Ink is what is dark, for every type.
 std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
+
+/// Reads a specimen image as a page.
+std::variant<Page, PageFault> ReadSpecimen(const app::Files& files, const std::string& path);
 
 }  // namespace tavrene::imaging

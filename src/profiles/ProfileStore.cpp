@@ -6,10 +6,10 @@
 #include <variant>
 
 #include "boxes/ProfileImagePipeline.h"
+#include "imaging/PageReader.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "profiles/ProfileDocument.h"
 #include "profiles/ProfileLoader.h"
-#include "profiles/Specimen.h"
 #include "profiles/XmlFile.h"
 
 namespace tavrene::profiles {
@@ -144,7 +144,7 @@ void ProfileStore::Load(const std::string& path) {
 }
 
 void ProfileStore::ShowSpecimen(const std::string& image) {
-    const auto read = ReadSpecimen(doors_.files, image);
+    const auto read = imaging::ReadSpecimen(doors_.files, image);
     const imaging::Page* const page = std::get_if<imaging::Page>(&read);
     profile_.ImageWidth = page == nullptr ? 0 : page->bitmap.Width();
     profile_.ImageHeight = page == nullptr ? 0 : page->bitmap.Height();
@@ -156,7 +156,7 @@ void ProfileStore::ShowSpecimen(const std::string& image) {
             (doors_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
         return;
     }
-    if (page == nullptr || SpecimenFormat(image) == imaging::ImageFormat::Tiff) {
+    if (page == nullptr || imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff) {
         screen_.view.ShowFile(image);
         return;
     }

@@ -6,7 +6,6 @@
 #include <variant>
 
 #include "imaging/PageReader.h"
-#include "profiles/Specimen.h"
 
 namespace tavrene::profiles {
 namespace {
@@ -100,7 +99,7 @@ imaging::TiffPage Thumbnails::MakePage(const StripEntry& profile, const std::str
         return placeholder();
     std::string reason = "its specimen image " + profile.Image + " cannot be read";
     try {
-        const auto read = ReadSpecimen(files_, profile.Image);
+        const auto read = imaging::ReadSpecimen(files_, profile.Image);
         if (const imaging::Page* const page = std::get_if<imaging::Page>(&read))
             return {imaging::ReducedPicture(page->bitmap, kWidth, kMaxHeight), label};
     } catch (const std::exception& error) {
