@@ -36,7 +36,7 @@ bool Decisions::OfferSave(OpenForm& form) {
 // What an earlier decision left half done is ended first: there is one note for all moves.
 FormMove Decisions::MoveForm(const OpenForm& form, Decision decision) {
     FinishInterrupted();
-    const FormMove move{decision, form.Result.Image(), form.Document};
+    FormMove move{decision, form.Result.Image(), form.Document};
     mover_.Move(move);
     list_.Remove(move.Document);
     return move;

@@ -6,8 +6,6 @@ namespace {
 using app::Answer;
 using app::Panel;
 using test::Names;
-using test::ReadText;
-using test::TestForm;
 using test::WriteText;
 
 class BadFormsTest : public test::ReviewWorld {

@@ -7,7 +7,6 @@ using app::Answer;
 using app::Panel;
 using test::Names;
 using test::ReadText;
-using test::TestForm;
 using test::WriteText;
 
 const Names kPair = {"a.tif", "a.xml"};
