@@ -76,12 +76,13 @@ BoxRect RectangleOf(const std::vector<LineSeg>& segments, const SideNumbers& sid
     return box;
 }
 
-// One open corner may be a worn print, two of them or ink inside are a letter.
+// One open corner may be a worn print, two of them or ink inside are a letter. A box beside its print would
+// never be found again on a scan.
 bool LooksLikeBox(BoxRect& box, const imaging::WorkGrid& page) {
     const BoxOutline outline = LookAtOutline(page, box);
     box.Kind = static_cast<std::int16_t>(outline.OpenCorners);
     box.Mark = outline.OpenCorners == 0 ? std::int16_t{0} : std::int16_t{-1};
-    return outline.OpenCorners < 2 && outline.IsEmpty;
+    return outline.OpenCorners < 2 && outline.IsEmpty && outline.IsOnPrint;
 }
 
 bool ReachesSmallestSize(const BoxRect& box, const BoxSizes& sizes) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace tavrene::boxes {
 namespace {
@@ -54,40 +55,75 @@ bool IsOuterPixelInked(const WorkGrid& grid, const Corner& corner) {
     return false;
 }
 
-// How far the ink reaches outwards from an edge: the middle one of three places along it. `isInk` takes the
-// place along the edge, of `length`, and the distance from it.
+// How far the ink reaches from an edge to one side: the middle one of five places along it, so that neither a
+// break nor the corners decide. `isInk` takes the place along the edge, of `length`, and the distance from
+// it.
 template <typename IsInk>
-int OuterReach(int length, IsInk isInk) {
+int InkReach(int length, IsInk isInk) {
     constexpr int farthest = 8;
-    std::array<int, 3> reach{};
-    for (int third = 0; third < 3; ++third) {
-        const int along = length * (third + 2) / 6;
-        int& distance = reach[static_cast<std::size_t>(third)];
+    std::array<int, 5> reach{};
+    for (int place = 0; place < 5; ++place) {
+        const int along = length * (place + 1) / 6;
+        int& distance = reach[static_cast<std::size_t>(place)];
         while (distance < farthest && isInk(along, distance + 1))
             ++distance;
     }
     std::sort(reach.begin(), reach.end());
-    return reach[1];
+    return reach[2];
 }
 
-// Columns and rows of the outer edges of the outline.
-BoxRect OuterEdges(const WorkGrid& grid, const BoxRect& box) {
-    const auto down = [&](int column, int step) {
-        return OuterReach(box.B - box.T, [&, column, step](int along, int distance) {
+// How far the ink reaches from each edge, outwards (`direction` 1) or inwards (-1).
+struct EdgeReach {
+    int Left;
+    int Right;
+    int Lower;
+    int Upper;
+};
+
+EdgeReach ReachFromEdges(const WorkGrid& grid, const BoxRect& box, int direction) {
+    const auto sideways = [&](int column, int step) {
+        return InkReach(box.B - box.T, [&, column, step](int along, int distance) {
             return grid.IsInk(column + step * distance, box.T + along);
         });
     };
-    const auto across = [&](int row, int step) {
-        return OuterReach(box.R - box.L, [&, row, step](int along, int distance) {
+    const auto upwards = [&](int row, int step) {
+        return InkReach(box.R - box.L, [&, row, step](int along, int distance) {
             return grid.IsInk(box.L + along, row + step * distance);
         });
     };
+    return {sideways(box.L, -direction), sideways(box.R, direction), upwards(box.T, -direction),
+            upwards(box.B, direction)};
+}
+
+BoxRect Grown(const BoxRect& box, const EdgeReach& reach) {
     BoxRect outer = box;
-    outer.L = static_cast<std::int16_t>(box.L - down(box.L, -1));
-    outer.R = static_cast<std::int16_t>(box.R + down(box.R, 1));
-    outer.T = static_cast<std::int16_t>(box.T - across(box.T, -1));
-    outer.B = static_cast<std::int16_t>(box.B + across(box.B, 1));
+    outer.L = static_cast<std::int16_t>(box.L - reach.Left);
+    outer.R = static_cast<std::int16_t>(box.R + reach.Right);
+    outer.T = static_cast<std::int16_t>(box.T - reach.Lower);
+    outer.B = static_cast<std::int16_t>(box.B + reach.Upper);
     return outer;
+}
+
+// One edge of a rectangle against its printed line: how far it was moved outwards to lie on the ink, and how
+// far the ink reaches from there.
+struct EdgeOnLine {
+    int Moved;
+    int Outwards;
+    int Inwards;
+
+    int Thickness() const { return Outwards + Inwards + 1; }
+    bool IsNearMiddle() const { return std::abs(2 * Moved + Outwards - Inwards) <= 2 * 2; }
+};
+
+// Where a line is thicker than the thinnest one of the box, text or a ruling touches it and nothing can be
+// told.
+bool AreEdgesNearMiddle(const std::array<EdgeOnLine, 4>& edges) {
+    int outline = edges[0].Thickness();
+    for (const EdgeOnLine& edge : edges)
+        outline = std::min(outline, edge.Thickness());
+    return std::all_of(edges.begin(), edges.end(), [outline](const EdgeOnLine& edge) {
+        return edge.Thickness() > outline + 1 || edge.IsNearMiddle();
+    });
 }
 
 bool IsEmptyInside(const WorkGrid& grid, const BoxRect& box) {
@@ -144,7 +180,8 @@ BoxRect LaidOnInk(const WorkGrid& grid, const BoxRect& box) {
 
 BoxOutline LookAtOutline(const WorkGrid& grid, const BoxRect& rectangle) {
     const BoxRect box = LaidOnInk(grid, rectangle);
-    const BoxRect outer = OuterEdges(grid, box);
+    const EdgeReach outwards = ReachFromEdges(grid, box, 1);
+    const BoxRect outer = Grown(box, outwards);
     const std::array<Corner, 4> corners = {
         Corner{box.L, box.T, 1, 1, outer.L, outer.T}, Corner{box.R, box.T, -1, 1, outer.R, outer.T},
         Corner{box.L, box.B, 1, -1, outer.L, outer.B}, Corner{box.R, box.B, -1, -1, outer.R, outer.B}};
@@ -154,6 +191,11 @@ BoxOutline LookAtOutline(const WorkGrid& grid, const BoxRect& rectangle) {
             ++outline.OpenCorners;
     }
     outline.IsEmpty = IsEmptyInside(grid, box);
+    const EdgeReach inwards = ReachFromEdges(grid, box, -1);
+    outline.IsOnPrint = AreEdgesNearMiddle({EdgeOnLine{rectangle.L - box.L, outwards.Left, inwards.Left},
+                                            EdgeOnLine{box.R - rectangle.R, outwards.Right, inwards.Right},
+                                            EdgeOnLine{rectangle.T - box.T, outwards.Lower, inwards.Lower},
+                                            EdgeOnLine{box.B - rectangle.B, outwards.Upper, inwards.Upper}});
     return outline;
 }
 

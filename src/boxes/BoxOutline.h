@@ -7,8 +7,9 @@ namespace tavrene::boxes {
 /// What the page shows along the edges of a rectangle. A printed box is closed at its corners and empty;
 /// letters that look like one to line finding have round corners or a stroke across.
 struct BoxOutline {
-    int OpenCorners = 0;  ///< 0 to 4: corners with background within the first pixels of their two arms.
-    bool IsEmpty = true;  ///< Little ink well inside the edges.
+    int OpenCorners = 0;    ///< 0 to 4: corners with background within the first pixels of their two arms.
+    bool IsEmpty = true;    ///< Little ink well inside the edges.
+    bool IsOnPrint = true;  ///< No edge lies farther than two pixels from the middle of its printed line.
 };
 
 /// Looks at `grid` up to one pixel beside the rectangle's edges. The rectangle may lie partly outside.
