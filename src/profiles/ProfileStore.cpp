@@ -165,9 +165,12 @@ void ProfileStore::ShowSpecimen(const std::string& image) {
     screen_.view.ShowFile(copy);
 }
 
+// The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.
 void ProfileStore::FitView() {
-    while (profile_.ImageWidth * screen_.view.Zoom() / 100 > kFittingWidth)
-        screen_.view.SetZoom(screen_.view.Zoom() * kFittingStep);
+    for (double zoom = 100; profile_.ImageWidth * zoom / 100 > kFittingWidth;) {
+        zoom *= kFittingStep;
+        screen_.view.SetZoom(zoom);
+    }
 }
 
 bool ProfileStore::Save() {

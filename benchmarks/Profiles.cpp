@@ -1,0 +1,102 @@
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <stdexcept>
+
+#include "Floor.h"
+#include "FormPage.h"
+#include "profiles/ProfileStore.h"
+
+namespace tavrene::bench {
+namespace {
+
+// The editor's side of a window that nobody looks at.
+class NobodysDesk final : public profiles::EditableBoxes,
+                          public profiles::EditableRows,
+                          public profiles::ThumbnailStrip {
+  public:
+    void PutBox(int, const imaging::PageRect&) override {}
+    void RemoveBox(int) override {}
+    void SelectBox(int) override {}
+    void SetTool(profiles::BoxTool) override {}
+    void SetNextGroup(int) override {}
+    profiles::ScrollOffset Scroll() const override { return {}; }
+    void ClearRows() override {}
+    void AddValColumn() override {}
+    void RemoveExtraColumns() override {}
+    void AddRow(int, std::string_view, std::string_view) override {}
+    void InsertRow(int, std::string_view) override {}
+    void RemoveRow(int) override {}
+    void RenameRow(int, std::string_view) override {}
+    void SelectRow(int) override {}
+    void RefreshRows() override {}
+    void ShowThumbnails(std::span<const profiles::StripThumbnail>) override {}
+    void SelectThumbnail(int) override {}
+};
+
+// A folder of profiles, each with a specimen file of its own, and the store over it.
+struct Desk {
+    explicit Desk(int count) {
+        for (int number = 0; number < count; ++number)
+            AddProfile("Form " + std::to_string(1000 + number));
+        store.RebuildThumbnails();
+        store.ThumbnailSelected((count + 1) / 2);
+        if (!profile.IsOpen)
+            throw std::runtime_error("no profile could be opened");
+    }
+    void AddProfile(const std::string& name) {
+        const std::string image = work.folders.ProfileImages + name + ".tif";
+        std::filesystem::copy_file(TheFormPage().file, image);
+        const std::vector<profiles::OmrBox>& boxes = TheFormPage().profile.Boxes;
+        const auto found = static_cast<std::int16_t>(boxes.size());
+        profiles::SaveProfileDocument(
+            work.files, work.folders.Profiles + name + ".Tvp",
+            profiles::CreateProfileDocument({name, image, 300, 300, true}, ComposeOmrs(boxes, found)));
+    }
+
+    Workplace work;
+    NobodysDesk desk;
+    profiles::OpenProfile profile;
+    std::vector<profiles::ProfileRecord> records;
+    profiles::EditorScreen screen{work.nobody, work.nobody, desk, desk, desk};
+    profiles::BoxEditor editor{profile, work.nobody, screen};
+    profiles::ProfileStore store{
+        {work.files, work.nobody, work.log, work.clock, work.folders}, profile, records, editor, screen};
+};
+
+constexpr int kProfiles = 500;
+
+// Made once, as making five hundred thumbnails takes its time.
+Desk& FullDesk() {
+    static Desk desk(kProfiles);
+    return desk;
+}
+
+// An edit is saved and the strip rebuilt; the specimens are as they were.
+void BM_SaveAmong500Profiles(benchmark::State& state) {
+    Desk& desk = FullDesk();
+    for (auto _ : state) {
+        desk.editor.RowRenamed(1, desk.profile.BoxList[0].Name + "x");
+        if (!desk.store.Save())
+            state.SkipWithError("nothing was saved");
+    }
+}
+
+// The same after the open profile's specimen was scanned anew, so that one page is made and the file written.
+void BM_SaveNewSpecimenAmong500(benchmark::State& state) {
+    Desk& desk = FullDesk();
+    for (auto _ : state) {
+        state.PauseTiming();
+        std::filesystem::remove(desk.profile.Image);
+        std::filesystem::copy_file(TheFormPage().file, desk.profile.Image);
+        state.ResumeTiming();
+        if (!desk.store.Save())
+            state.SkipWithError("nothing was saved");
+    }
+}
+
+BENCHMARK(BM_SaveAmong500Profiles)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SaveNewSpecimenAmong500)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tavrene::bench
