@@ -231,9 +231,11 @@ void ProfileStore::RebuildThumbnails() {
 }
 
 // Every profile file has a place in the strip, also one that recognition leaves out. Records come in the
-// order of the listing.
+// order of the listing; why a folder cannot be listed, their loader has logged.
 std::vector<StripEntry> ProfileStore::ListEntries() const {
     std::vector<StripEntry> entries;
+    if (!doors_.files.FolderExists(doors_.folders.Profiles))
+        return entries;
     auto record = records_.begin();
     for (std::string& fileName : doors_.files.List(doors_.folders.Profiles, "*.Tvp")) {
         const bool isReadable = record != records_.end() && record->FileName == fileName;

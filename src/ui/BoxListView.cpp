@@ -1,6 +1,9 @@
 #include "ui/BoxListView.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
 
 #include "ui/QtText.h"
 
@@ -11,7 +14,44 @@ constexpr int kValColumn = 1;
 constexpr int kValWidth = 52;
 constexpr int kRowMargin = 6;
 
+int NumberOf(const QTreeWidgetItem& row) {
+    return row.data(0, Qt::UserRole).toInt();
+}
+
+void ShowName(QTreeWidgetItem& row, const QString& name) {
+    row.setText(0, name);
+    row.setToolTip(0, name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>");
+}
+
 }  // namespace
+
+// Edits names and tells of those that were changed by hand.
+class BoxListView::NameDelegate final : public QStyledItemDelegate {
+  public:
+    explicit NameDelegate(BoxListView& list) : QStyledItemDelegate(&list), list_(list) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
+        auto* const editor = new QLineEdit(parent);
+        editor->setObjectName("BoxName");
+        editor->setAccessibleName("Name of the check box");
+        editor->setFrame(false);
+        editor->setAutoFillBackground(true);
+        list_.nameEditor_ = editor;
+        return editor;
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+        const QString name = qobject_cast<QLineEdit*>(editor)->text();
+        if (name == index.data().toString())
+            return;
+        const int number = index.data(Qt::UserRole).toInt();
+        model->setData(index, name);
+        list_.listener_.renamed(number, name);
+    }
+
+  private:
+    BoxListView& list_;
+};
 
 BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     setObjectName("lvwSettings");
@@ -24,6 +64,27 @@ BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionsMovable(false);
+    setItemDelegateForColumn(0, new NameDelegate(*this));
+    SetEditable(false);
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* row) { TellClicked(row); });
+}
+
+void BoxListView::SetEditable(bool editable) {
+    setEditTriggers(editable ? QAbstractItemView::DoubleClicked : QAbstractItemView::NoEditTriggers);
+}
+
+void BoxListView::EditName(int number) {
+    if (QTreeWidgetItem* const row = RowOf(number)) {
+        setFocus();
+        editItem(row);
+    }
+}
+
+void BoxListView::FinishEdit() {
+    if (QWidget* const editor = nameEditor_; editor != nullptr && state() == EditingState) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 void BoxListView::ClearRows() {
@@ -44,14 +105,73 @@ void BoxListView::RemoveExtraColumns() {
 }
 
 void BoxListView::AddRow(int number, std::string_view name, std::string_view value) {
-    auto* const row = new QTreeWidgetItem(this, {ToQt(name)});
+    InsertRow(number, name);
+    if (columnCount() <= kValColumn)
+        return;
+    QTreeWidgetItem& row = *topLevelItem(PlaceFor(number) - 1);
+    row.setText(kValColumn, ToQt(value));
+    row.setTextAlignment(kValColumn, Qt::AlignCenter);
+}
+
+void BoxListView::InsertRow(int number, std::string_view name) {
+    auto* const row = new QTreeWidgetItem;
+    ShowName(*row, ToQt(name));
     row->setData(0, Qt::UserRole, number);
     row->setSizeHint(0, {0, fontMetrics().height() + kRowMargin});
-    row->setToolTip(0, row->text(0).toHtmlEscaped());
-    if (columnCount() > kValColumn) {
-        row->setText(kValColumn, ToQt(value));
-        row->setTextAlignment(kValColumn, Qt::AlignCenter);
+    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    insertTopLevelItem(PlaceFor(number), row);
+}
+
+void BoxListView::RemoveRow(int number) {
+    delete RowOf(number);
+}
+
+void BoxListView::RenameRow(int number, std::string_view name) {
+    if (QTreeWidgetItem* const row = RowOf(number))
+        ShowName(*row, ToQt(name));
+}
+
+void BoxListView::SelectRow(int number) {
+    QTreeWidgetItem* const row = RowOf(number);
+    clearSelection();
+    setCurrentItem(row);
+    if (row != nullptr)
+        scrollToItem(row);
+}
+
+void BoxListView::RefreshRows() {
+    viewport()->repaint();
+}
+
+// The place behind all rows of this number and below; rows stand in the order of their numbers.
+int BoxListView::PlaceFor(int number) const {
+    int first = 0;
+    int last = topLevelItemCount();
+    while (first < last) {
+        const int middle = (first + last) / 2;
+        if (NumberOf(*topLevelItem(middle)) <= number)
+            first = middle + 1;
+        else
+            last = middle;
     }
+    return first;
+}
+
+QTreeWidgetItem* BoxListView::RowOf(int number) const {
+    QTreeWidgetItem* const row = topLevelItem(PlaceFor(number) - 1);
+    return row != nullptr && NumberOf(*row) == number ? row : nullptr;
+}
+
+void BoxListView::TellClicked(const QTreeWidgetItem* row) {
+    if (row != nullptr && listener_.clicked)
+        listener_.clicked(NumberOf(*row));
+}
+
+void BoxListView::keyPressEvent(QKeyEvent* event) {
+    const QTreeWidgetItem* const before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    if (currentItem() != before)
+        TellClicked(currentItem());
 }
 
 }  // namespace tavrene::ui

@@ -1,11 +1,12 @@
 #include "ui/ImageView.h"
 
 #include <QGraphicsItemGroup>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include "ui/PageImage.h"
-#include "ui/RectItem.h"
 #include "ui/commands/Zoom.h"
 
 namespace tavrene::ui {
@@ -28,7 +29,8 @@ void PaintEmptyHint(QPainter& painter, const QRect& area, const QPalette& palett
                      "No page is shown");
     painter.restore();
     painter.drawText(area.adjusted(16, half + 4, -16, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                     "Press Process to read the scans that wait in the folder ProcessIn.");
+                     "Choose a profile on the left, make one with New,\n"
+                     "or press Process to read the scans that wait in the folder ProcessIn.");
 }
 
 }  // namespace
@@ -46,6 +48,8 @@ ImageView::ImageView(const app::Files& files, QWidget* parent)
     setRenderHint(QPainter::SmoothPixmapTransform);
     setTransformationAnchor(QGraphicsView::AnchorViewCenter);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    viewport()->setMouseTracking(true);
+    boxes_ = std::make_unique<BoxLayer>(*this);
     SetPage({});
 }
 
@@ -56,6 +60,7 @@ void ImageView::SetPage(const QImage& image) {
     if (otherSize) {
         horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
         verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+        isUnseen_ = true;
     }
     viewport()->update();
 }
@@ -72,6 +77,10 @@ void ImageView::Clear() {
 void ImageView::SetZoom(double percent) {
     zoom_ = percent;
     setTransform(QTransform::fromScale(percent / 100, percent / 100));
+    if (isUnseen_) {
+        horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
+        verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+    }
 }
 
 void ImageView::Refresh() {
@@ -79,10 +88,29 @@ void ImageView::Refresh() {
 }
 
 void ImageView::DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
-    (new RectItem(group, rect, style))->setParentItem(rects_);
+    AddRect(group, rect, style);
+}
+
+RectItem* ImageView::AddRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
+    auto* const item = new RectItem(group, rect, style);
+    item->setParentItem(rects_);
+    return item;
+}
+
+void ImageView::MakeReachable(const QRectF& rect) {
+    if (!sceneRect().contains(rect))
+        scene()->setSceneRect(sceneRect().united(rect));
+}
+
+void ImageView::SetTool(PageTool* tool) {
+    CancelTool();
+    tool_ = tool;
+    viewport()->setCursor(Qt::ArrowCursor);
+    ShowCursorAt(mapToScene(viewport()->mapFromGlobal(QCursor::pos())));
 }
 
 void ImageView::ClearRects() {
+    boxes_->Clear();
     qDeleteAll(rects_->childItems());
 }
 
@@ -113,10 +141,86 @@ void ImageView::FitWidth() {
 
 void ImageView::paintEvent(QPaintEvent* event) {
     QGraphicsView::paintEvent(event);
-    if (HasPage())
+    isUnseen_ = false;
+    if (HasPage() || !rects_->childItems().isEmpty())
         return;
     QPainter painter(viewport());
     PaintEmptyHint(painter, viewport()->rect(), palette());
+}
+
+QPointF ImageView::PagePoint(const QMouseEvent& event) const {
+    return viewportTransform().inverted().map(event.position());
+}
+
+void ImageView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        panFrom_ = event->position().toPoint();
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    } else if (event->button() == Qt::LeftButton && tool_ != nullptr) {
+        tool_->Press(PagePoint(*event));
+    }
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    if (panFrom_)
+        Pan(event->position().toPoint());
+    else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
+        tool_->Drag(PagePoint(*event));
+    else
+        ShowCursorAt(PagePoint(*event));
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton)
+        panFrom_.reset();
+    else if (event->button() == Qt::LeftButton && tool_ != nullptr)
+        tool_->Release(PagePoint(*event));
+    ShowCursorAt(PagePoint(*event));
+}
+
+void ImageView::Pan(const QPoint& position) {
+    const QPoint by = position - *panFrom_;
+    panFrom_ = position;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - by.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - by.y());
+}
+
+void ImageView::ShowCursorAt(const QPointF& point) {
+    if (!panFrom_)
+        viewport()->setCursor(tool_ == nullptr ? QCursor(Qt::ArrowCursor) : tool_->CursorAt(point));
+}
+
+void ImageView::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    // Fine wheels and touch pads turn in small parts of a step.
+    wheelTurned_ += event->angleDelta().y();
+    const int steps = wheelTurned_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelTurned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    const QPointF held = viewportTransform().inverted().map(event->position());
+    for (int step = 0; step < std::abs(steps); ++step)
+        steps > 0 ? ZoomIn() : ZoomOut();
+    const QPointF away = viewportTransform().map(held) - event->position();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(away.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(away.y()));
+}
+
+void ImageView::keyPressEvent(QKeyEvent* event) {
+    static const std::map<int, QPoint> arrows = {
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    if (event->key() == Qt::Key_Escape && CancelTool())
+        return;
+    const auto arrow = arrows.find(event->key());
+    const bool isPlain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    if (arrow != arrows.end() && isPlain && takeArrow_) {
+        const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
+        if (takeArrow_(by.x(), by.y()))
+            return;
+    }
+    QGraphicsView::keyPressEvent(event);
 }
 
 }  // namespace tavrene::ui

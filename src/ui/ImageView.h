@@ -1,16 +1,23 @@
 #pragma once
 
 #include <QGraphicsView>
+#include <functional>
+#include <memory>
+#include <optional>
 
 #include "app/Files.h"
 #include "imaging/PageRects.h"
 #include "imaging/PageView.h"
+#include "ui/BoxLayer.h"
 #include "ui/PageItem.h"
+#include "ui/PageTool.h"
+#include "ui/RectItem.h"
 
 namespace tavrene::ui {
 
 /// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
-/// pixels.
+/// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
+/// pointer, and the page can be dragged by the middle button.
 class ImageView final : public QGraphicsView, public imaging::PageView, public imaging::PageRects {
   public:
     /// `files` must outlive the view.
@@ -29,6 +36,25 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     void DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override;
     void ClearRects() override;
 
+    /// The boxes that can be edited; they go with the other rectangles.
+    BoxLayer& Boxes() { return *boxes_; }
+
+    /// Adds a rectangle that is the caller's to change; `ClearRects` takes it away.
+    RectItem* AddRect(int group, const imaging::PageRect& rect, imaging::RectStyle style);
+
+    /// Lets the view scroll to a place beside the page.
+    void MakeReachable(const QRectF& rect);
+
+    /// The tool of the left button; null for none. It must outlive its use.
+    void SetTool(PageTool* tool);
+
+    /// Gives up what the tool is doing; false when it does nothing.
+    bool CancelTool() { return tool_ != nullptr && tool_->Cancel(); }
+
+    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; when it does
+    /// not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(int dx, int dy)> handler) { takeArrow_ = std::move(handler); }
+
     /// Zooms in and out by the steps of the zoom commands, and to what fits; nothing without a page.
     void ZoomIn();
     void ZoomOut();
@@ -38,15 +64,30 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     bool HasPage() const { return !page_->Size().isEmpty(); }
     void SetPage(const QImage& image);
+    QPointF PagePoint(const QMouseEvent& event) const;
+    void Pan(const QPoint& position);
+    void ShowCursorAt(const QPointF& point);
 
     const app::Files& files_;
     PageItem* page_;
     QGraphicsItem* rects_;  ///< Parent of all rectangles, so that they go in one step.
+    std::unique_ptr<BoxLayer> boxes_;
+    PageTool* tool_ = nullptr;
+    std::function<bool(int, int)> takeArrow_;
+    std::optional<QPoint> panFrom_;
     double zoom_ = 100;
+    int wheelTurned_ = 0;   ///< What is left of the wheel's way to the next step.
+    bool isUnseen_ = true;  ///< The page has not been painted yet, so the person has scrolled nowhere.
 };
 
 }  // namespace tavrene::ui

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "imaging/Bitmap.h"
-#include "ui/ProfilePane.h"
 #include "ui/QtText.h"
 #include "ui/SettingsDialog.h"
 #include "ui/commands/SettingsCommand.h"
@@ -39,14 +38,24 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
       splitter_(new QSplitter(this)),
       view_(new ImageView(doors.files, this)),
       boxes_(new BoxListView(this)),
+      profiles_(new ProfilePane(this)),
       operator_(*this, *panels_),
+      dialogs_(*this),
       log_(doors.files, doors.clock, operator_, state_.folders.Log),
       run_({doors.files, log_, operator_, doors.clock, *view_, *view_, *boxes_}, state_.settings,
            state_.folders),
       gate_(operator_, state_.processing),
+      desk_(state_, {doors.files, operator_, log_, doors.clock, gate_, dialogs_},
+            {*view_, *boxes_, *profiles_}),
+      prompts_([this] { return desk_.MayLeave(); }, {}),
       processing_(
-          state_, run_, [this] { UpdateCommands(); }, [this] { close(); }),
-      toolbars_(*this, [this](Command command) { gate_.Run(command); }) {
+          state_, run_,
+          [this] {
+              desk_.Close();
+              UpdateCommands();
+          },
+          [this] { close(); }),
+      toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
     setWindowTitle(ToQt(app::kApplicationName));
     BuildLayout();
@@ -62,15 +71,14 @@ void MainWindow::BuildLayout() {
     splitter_->setObjectName("Splitter1");
     splitter_->setChildrenCollapsible(false);
     splitter_->setHandleWidth(1);
-    auto* const profiles = new ProfilePane(this);
-    profiles->setMinimumWidth(150);
+    profiles_->setMinimumWidth(150);
     boxes_->setMinimumWidth(180);
     view_->setMinimumWidth(300);
-    splitter_->addWidget(profiles);
+    splitter_->addWidget(profiles_);
     splitter_->addWidget(view_);
     splitter_->addWidget(boxes_);
     splitter_->setStretchFactor(1, 1);
-    splitter_->setSizes({180, 640, 220});
+    splitter_->setSizes({190, 630, 220});
     setCentralWidget(splitter_);
     setStatusBar(panels_);
     setMinimumSize(800, 560);
@@ -86,7 +94,10 @@ void MainWindow::ConnectViewCommands() {
 }
 
 void MainWindow::ConnectCommands() {
-    gate_.SetHandler(Command::Process, [this] { processing_.Process(); });
+    gate_.SetHandler(Command::Process, [this] {
+        if (prompts_.ProfileThenForm())
+            processing_.Process();
+    });
     gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
     gate_.SetHandler(Command::About, [this] { ShowAbout(); });
@@ -97,12 +108,19 @@ void MainWindow::ConnectCommands() {
     });
 }
 
+void MainWindow::RunCommand(Command command) {
+    desk_.FinishEdits();
+    gate_.Run(command);
+}
+
 void MainWindow::UpdateCommands() {
     toolbars_.Update([this](Command command) { return gate_.Offers(command); });
+    desk_.Update(toolbars_);
 }
 
 void MainWindow::Load() {
-    commands::LoadWindow(state_, {doors_.files, log_, operator_, &imaging::ImageLibraryVersion}, gate_);
+    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+                         gate_);
 }
 
 void MainWindow::ShowSettings() {
@@ -120,8 +138,9 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
+    desk_.FinishEdits();
     gate_.Guard([this, event] {
-        if (!processing_.MayClose())
+        if (!processing_.MayClose() || !prompts_.FormThenProfile())
             return;
         RememberShape();
         event->accept();

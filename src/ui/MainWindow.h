@@ -9,12 +9,16 @@
 #include "recognition/ProcessRun.h"
 #include "ui/BoxListView.h"
 #include "ui/ImageView.h"
+#include "ui/ProfileDesk.h"
+#include "ui/ProfilePane.h"
+#include "ui/QtFileDialogs.h"
 #include "ui/QtOperator.h"
 #include "ui/StatusPanels.h"
 #include "ui/Toolbars.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/Processing.h"
+#include "ui/commands/SavePrompts.h"
 
 class QSplitter;
 
@@ -45,6 +49,7 @@ class MainWindow final : public QMainWindow {
     void BuildLayout();
     void ConnectViewCommands();
     void ConnectCommands();
+    void RunCommand(commands::Command command);
     void UpdateCommands();
     void ShowSettings();
     void ShowAbout();
@@ -57,10 +62,14 @@ class MainWindow final : public QMainWindow {
     QSplitter* splitter_;
     ImageView* view_;
     BoxListView* boxes_;
+    ProfilePane* profiles_;
     QtOperator operator_;
+    QtFileDialogs dialogs_;
     app::ActivityLog log_;
     recognition::ProcessRun run_;
     commands::CommandGate gate_;
+    ProfileDesk desk_;
+    commands::SavePrompts prompts_;
     commands::Processing processing_;
     Toolbars toolbars_;
 };

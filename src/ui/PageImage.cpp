@@ -6,8 +6,6 @@
 #include "imaging/ScreenCopy.h"
 
 namespace tavrene::ui {
-namespace {
-
 QImage ToImage(const imaging::Bitmap& picture) {
     const bool grey = picture.BitsPerPixel() == 8;
     QImage image(picture.Width(), picture.Height(), grey ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
@@ -19,8 +17,6 @@ QImage ToImage(const imaging::Bitmap& picture) {
         std::memcpy(image.scanLine(y), picture.ScanLine(picture.Height() - 1 - y).data(), bytes);
     return image;
 }
-
-}  // namespace
 
 QImage ReadPageImage(const app::Files& files, const std::string& path) {
     const auto format = imaging::FormatOfExtension(path);

@@ -3,8 +3,12 @@
 #include <QImage>
 
 #include "app/Files.h"
+#include "imaging/Bitmap.h"
 
 namespace tavrene::ui {
+
+/// A picture of 8 bits of grey or 32 bits of colour.
+QImage ToImage(const imaging::Bitmap& picture);
 
 /// The picture of an image file as the screen takes it; null when the file cannot be read or is of no known
 /// type.

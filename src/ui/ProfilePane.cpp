@@ -1,31 +1,26 @@
 #include "ui/ProfilePane.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace tavrene::ui {
 
-ProfilePane::ProfilePane(QWidget* parent) : QFrame(parent) {
+ProfilePane::ProfilePane(QWidget* parent)
+    : QFrame(parent), strip_(new ThumbnailStripView(this)), active_(new QCheckBox("Profile active")) {
     setObjectName("ProfilePane");
-    auto* const hint = new QLabel("No profile is open");
-    hint->setObjectName("ImgThumbnail1");
-    hint->setAccessibleName("Profile specimens");
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setWordWrap(true);
-    QPalette calm = hint->palette();
-    QColor text = calm.color(QPalette::WindowText);
-    text.setAlphaF(0.55F);
-    calm.setColor(QPalette::WindowText, text);
-    hint->setPalette(calm);
-    auto* const active = new QCheckBox("Profile active");
-    active->setObjectName("chkActive");
-    active->setToolTip("Whether the open profile takes part in processing");
-    active->setAccessibleName("Profile active");
-    active->setEnabled(false);
+    active_->setObjectName("chkActive");
+    active_->setToolTip(
+        "Whether the open profile takes part in processing; reaches the file with the next save");
+    active_->setAccessibleName("Profile active");
+    active_->setEnabled(false);
+    active_->setContentsMargins(0, 0, 0, 0);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(10, 10, 10, 10);
-    layout->addWidget(hint, 1);
-    layout->addWidget(active);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(strip_, 1);
+    auto* const below = new QVBoxLayout;
+    below->setContentsMargins(10, 8, 10, 10);
+    below->addWidget(active_);
+    layout->addLayout(below);
 }
 
 }  // namespace tavrene::ui

@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QFrame>
 
+#include "ui/ThumbnailStripView.h"
+
 namespace tavrene::ui {
 
 /// The profile side of the window: the strip of specimens (`ImgThumbnail1`) and the open profile's
@@ -10,6 +12,13 @@ namespace tavrene::ui {
 class ProfilePane final : public QFrame {
   public:
     explicit ProfilePane(QWidget* parent);
+
+    ThumbnailStripView& Strip() { return *strip_; }
+    QCheckBox& Active() { return *active_; }
+
+  private:
+    ThumbnailStripView* strip_;
+    QCheckBox* active_;
 };
 
 }  // namespace tavrene::ui

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "app/SettingsStore.h"
+#include "ui/BusyCursor.h"
 #include "ui/QtText.h"
 
 namespace tavrene::ui {
@@ -12,6 +13,7 @@ int ShowBox(QWidget& window, QMessageBox::Icon icon, std::string_view title, std
             QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, ToQt(title.empty() ? app::kApplicationName : title), ToQt(text), buttons, &window);
     box.setTextFormat(Qt::PlainText);
+    const UsualCursor usual;
     return box.exec();
 }
 

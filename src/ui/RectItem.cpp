@@ -55,6 +55,11 @@ void BreakUp(QPen& pen, double side, double dots, double inked) {
 RectItem::RectItem(int group, const imaging::PageRect& rect, imaging::RectStyle style)
     : group_(group), rect_(rect.left, rect.top, rect.width, rect.height), style_(style) {}
 
+void RectItem::SetRect(const imaging::PageRect& rect) {
+    prepareGeometryChange();
+    rect_ = QRectF(rect.left, rect.top, rect.width, rect.height);
+}
+
 QRectF RectItem::boundingRect() const {
     // The seam reaches beyond the rectangle by two pixels of the screen, which are many of the page when it
     // is small.

@@ -15,6 +15,8 @@ class RectItem final : public QGraphicsItem {
 
     int Group() const { return group_; }
 
+    void SetRect(const imaging::PageRect& rect);
+
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 

@@ -20,6 +20,9 @@ class Toolbars {
     /// Enables the commands that `offers` names and disables all others.
     void Update(const std::function<bool(commands::Command)>& offers);
 
+    /// Shows a toggle button pressed or released; nothing is run.
+    void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
+
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);

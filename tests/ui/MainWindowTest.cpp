@@ -1,5 +1,4 @@
 #include <QGraphicsView>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -7,11 +6,8 @@
 #include <QScrollBar>
 #include <QTreeWidget>
 
-#include "support/RunWorld.h"
-#include "ui/Controls.h"
-#include "ui/MainWindow.h"
-#include "ui/QtSettingsStore.h"
 #include "ui/RectItem.h"
+#include "ui/WindowWorld.h"
 
 namespace tavrene::ui {
 namespace {
@@ -20,38 +16,18 @@ using test::Button;
 using test::Find;
 using Names = std::vector<std::string>;
 
-class MainWindowTest : public test::RunWorld {
+class MainWindowTest : public test::WindowWorld {
   protected:
-    MainWindowTest() {
-        settings_.DisplayDuringProcess = true;
-        AddProfile("Form", form_);
-    }
+    MainWindowTest() { AddProfile("Form", form_); }
 
-    MainWindow& Open() {
-        window_ = std::make_unique<MainWindow>(settings_, WindowDoors{store_, files_, clock_});
-        window_->Load();
-        window_->show();
-        QApplication::processEvents();
-        return *window_;
-    }
     void AddScans(int count) {
         for (int i = 1; i <= count; ++i)
             form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
     }
-    void Click(const char* key) { Button(*window_, "MainToolbar", key).click(); }
-    void PressEscape() {
-        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QApplication::sendEvent(&View(), &escape);
-    }
-    QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }
-    std::string Panel(const char* key) { return FromQt(Find<QLabel>(*window_, key).text()); }
     int Progress() { return Find<QProgressBar>(*window_, "ProgressBar1").value(); }
     double Zoom() { return View().transform().m11(); }
 
-    test::TempFolder config_;
-    QtSettingsStore store_{ToQt(config_.Path())};
     test::TestForm form_ = test::TestForm::Grid(2, 2);
-    std::unique_ptr<MainWindow> window_;
 };
 
 Names ButtonsOf(const QToolBar& toolbar) {
@@ -73,10 +49,10 @@ TEST_F(MainWindowTest, HasTheListedButtonsAndAMenuForEachOfThem) {
     auto& main = Find<QToolBar>(*window_, "MainToolbar");
     EXPECT_EQ(
         ButtonsOf(main),
-        (Names{"New|Create New Profile|off", "Save|Save Current Profile|off",
-               "Delete|Delete Current Profile|off", "-", "ZoomToOrig|Zoom To Original|on",
-               "ZoomIn|Zoom In|on", "ZoomOut|Zoom Out|on", "FitPage|Fit Page|on", "FitWidth|Fit Width|on",
-               "-", "Process|Start OMR recognition process of images from configured directory|on",
+        (Names{"New|Create New Profile|on", "Save|Save Current Profile|on",
+               "Delete|Delete Current Profile|on", "-", "ZoomToOrig|Zoom To Original|on", "ZoomIn|Zoom In|on",
+               "ZoomOut|Zoom Out|on", "FitPage|Fit Page|on", "FitWidth|Fit Width|on", "-",
+               "Process|Start OMR recognition process of images from configured directory|on",
                "Stop|Stop Process|on", "-", "Review|Review Processed Forms|off", "Okay|Reviewed OK|hidden",
                "AcceptForm|Accept Form (Move to Final Folder)|hidden",
                "RejectForm|Reject Form (Move to Reject Folder)|hidden"}));
@@ -181,7 +157,7 @@ TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
     test::WhileRunning escape([&] {
         if (Progress() != 2)
             return;
-        PressEscape();
+        Press(View(), Qt::Key_Escape);
         openAfterEscape = window_->isVisible();
     });
     Click("Process");
@@ -193,7 +169,7 @@ TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
 
 TEST_F(MainWindowTest, EscapeClosesTheIdleWindowWhichRemembersItsShape) {
     Open().resize(1111, 777);
-    PressEscape();
+    Press(View(), Qt::Key_Escape);
     EXPECT_FALSE(window_->isVisible());
     Open();
     EXPECT_EQ(window_->size(), QSize(1111, 777));

@@ -15,8 +15,8 @@ bool ActsDuringRun(Command command) {
 CommandGate::CommandGate(app::Operator& person, const bool& processing)
     : person_(person), processing_(processing) {}
 
-void CommandGate::SetHandler(Command command, std::function<void()> handler) {
-    handlers_[command] = std::move(handler);
+void CommandGate::SetHandler(Command command, std::function<void()> handler, std::function<bool()> canRun) {
+    handlers_[command] = {std::move(handler), std::move(canRun)};
 }
 
 void CommandGate::SetAfterwards(std::function<void()> afterwards) {
@@ -24,7 +24,8 @@ void CommandGate::SetAfterwards(std::function<void()> afterwards) {
 }
 
 bool CommandGate::Offers(Command command) const {
-    if (!handlers_.contains(command))
+    const auto handler = handlers_.find(command);
+    if (handler == handlers_.end() || (handler->second.canRun && !handler->second.canRun()))
         return false;
     return !processing_ || ActsDuringRun(command) || InfoOf(command).group == ButtonGroup::Processing;
 }
@@ -33,7 +34,7 @@ void CommandGate::Run(Command command) {
     const auto handler = handlers_.find(command);
     if (handler == handlers_.end() || (processing_ && !ActsDuringRun(command)))
         return;
-    Guard(handler->second);
+    Guard(handler->second.run);
 }
 
 void CommandGate::Guard(const std::function<void()>& event) {
@@ -44,6 +45,11 @@ void CommandGate::Guard(const std::function<void()>& event) {
     }
     if (afterwards_)
         afterwards_();
+}
+
+void CommandGate::Take(const std::function<void()>& event) {
+    if (!processing_)
+        Guard(event);
 }
 
 }  // namespace tavrene::commands

@@ -23,6 +23,9 @@ enum class Command {
     SelectBox,
     AddBox,
     DeleteBox,
+    RenameBox,
+    Undo,
+    Redo,
     Settings,
     Exit,
     About

@@ -2,8 +2,6 @@
 
 #include <exception>
 
-#include "profiles/ProfileLoader.h"
-
 namespace tavrene::commands {
 namespace {
 
@@ -32,10 +30,7 @@ void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate) {
         gate.Guard([&] { doors.log.LogProfileEvent(kText); });
         gate.Guard([&] { doors.person.ShowMessage("", kText); });
     }
-    gate.Guard([&] {
-        state.profiles =
-            profiles::LoadActiveProfiles(doors.files, doors.log, doors.person, state.folders.Profiles);
-    });
+    gate.Guard(doors.loadProfiles);
     state.reach.PairReachX = state.settings.BoxMaxWidth + kReachBeyondBox;
     state.reach.PairReachY = state.settings.BoxMaxHeight + kReachBeyondBox;
 }

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "app/ActivityLog.h"
-#include "app/Files.h"
 #include "app/Operator.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
@@ -13,10 +12,10 @@ namespace tavrene::commands {
 
 /// What loading the window needs of the world.
 struct LoadDoors {
-    app::Files& files;
     app::ActivityLog& log;
     app::Operator& person;
     std::function<std::string()> imageLibraryVersion;  ///< Empty text or an exception: it cannot be called.
+    std::function<void()> loadProfiles;                ///< Fills the profile list and the thumbnail strip.
 };
 
 /// The state with which the window starts: settings and the folder paths derived from them.

@@ -41,9 +41,6 @@ class ScriptedDialogs final : public FileDialogs {
 class ProfileCommandsTest : public test::DeskWorld {
   protected:
     ProfileCommandsTest() {
-        settings_.BoxMinWidth = settings_.BoxMinHeight = 16;
-        settings_.BoxMaxWidth = 38;
-        settings_.BoxMaxHeight = 34;
         state_.settings = settings_;
         state_.folders = folders_;
         state_.reach = {44, 40};

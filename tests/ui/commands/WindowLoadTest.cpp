@@ -20,7 +20,13 @@ class WindowLoadTest : public test::RunWorld {
     AppState Load(std::function<std::string()> version) {
         AppState state = InitialState(settings_);
         CommandGate gate(person_, state.processing);
-        LoadWindow(state, {files_, log_, person_, std::move(version)}, gate);
+        LoadWindow(state,
+                   {log_, person_, std::move(version),
+                    [&] {
+                        state.profiles =
+                            profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
+                    }},
+                   gate);
         return state;
     }
 

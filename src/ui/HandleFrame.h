@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QGraphicsItem>
+#include <QRectF>
+#include <vector>
+
+namespace tavrene::ui {
+
+/// Edges of a rectangle that a handle moves, or-ed together.
+enum Edge : unsigned { kNoEdge = 0, kLeftEdge = 1, kTopEdge = 2, kRightEdge = 4, kBottomEdge = 8 };
+
+struct Handle {
+    unsigned edges = kNoEdge;
+    QPointF centre;  ///< Page frame.
+};
+
+/// The handles of a rectangle in the page frame that is shown at `scale` pixels of the screen an image pixel.
+/// On a small rectangle they stand off and leave out the middles of its sides, so that it can still be taken
+/// by its inside.
+std::vector<Handle> HandlesOf(const QRectF& rect, double scale);
+
+/// The edges of the handle under a point of the page frame; none where there is no handle.
+unsigned EdgesAt(const QRectF& rect, double scale, const QPointF& point);
+
+/// The rectangle with these edges put to a point; it keeps a width and height of at least one pixel.
+QRectF WithEdgesAt(QRectF rect, unsigned edges, const QPointF& point);
+
+/// The mark of the selected box: a stronger outline with handles.
+class HandleFrame final : public QGraphicsItem {
+  public:
+    HandleFrame();
+
+    /// `rect` in the page frame; an empty one hides the mark.
+    void SetRect(const QRectF& rect);
+
+    QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+  private:
+    QRectF rect_;
+};
+
+}  // namespace tavrene::ui

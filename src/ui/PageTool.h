@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QCursor>
+#include <QPointF>
+
+namespace tavrene::ui {
+
+/// What the left mouse button does on the page. Points are in the page frame, image pixels and parts of them.
+class PageTool {
+  public:
+    PageTool() = default;
+    virtual ~PageTool() = default;
+    PageTool(const PageTool&) = delete;
+    PageTool& operator=(const PageTool&) = delete;
+
+    virtual void Press(const QPointF& point) = 0;
+    virtual void Drag(const QPointF& point) = 0;
+    virtual void Release(const QPointF& point) = 0;
+
+    /// Gives up a drag as if it had never begun; false when none goes on.
+    virtual bool Cancel() = 0;
+
+    /// What the pointer looks like over that point while no button is down.
+    virtual QCursor CursorAt(const QPointF& point) const = 0;
+};
+
+}  // namespace tavrene::ui

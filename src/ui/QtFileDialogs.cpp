@@ -1,0 +1,75 @@
+#include "ui/QtFileDialogs.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <utility>
+
+#include "ui/BusyCursor.h"
+#include "ui/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+// "Text|*.A;*.B" as the dialog takes it: the text for the person, then its patterns in brackets, which the
+// dialog hides.
+QString NameFilter(const std::string& filter) {
+    const QStringList parts = ToQt(filter).split('|');
+    return parts.front() + " (" + parts.back().split(';').join(' ') + ")";
+}
+
+// The last extension that a filter names, with its dot.
+QString ExtensionOf(const std::string& filter) {
+    return ToQt(filter).section('*', -1);
+}
+
+class FileDialog final : public QFileDialog {
+  public:
+    FileDialog(QWidget& window, const QString& title, const commands::FileQuestion& question)
+        : QFileDialog(&window, title, ToQt(question.startFolder)) {
+        setObjectName("FileDialog");
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::HideNameFilterDetails);
+        setNameFilter(NameFilter(question.filter));
+        selectFile(ToQt(question.fileName));
+    }
+
+    /// Files to be written get this extension. Added before the dialog looks whether the file is there
+    /// already.
+    void SetExtension(const QString& extension) { extension_ = extension; }
+
+    std::optional<std::string> Ask() {
+        const UsualCursor usual;
+        if (exec() != QDialog::Accepted)
+            return std::nullopt;
+        return FromQt(selectedFiles().front());
+    }
+
+    void accept() override {
+        const QStringList files = selectedFiles();
+        if (!extension_.isEmpty() && !files.isEmpty() && !QFileInfo(files.front()).isDir() &&
+            !files.front().endsWith(extension_, Qt::CaseInsensitive))
+            selectFile(files.front() + extension_);
+        QFileDialog::accept();
+    }
+
+  private:
+    QString extension_;
+};
+
+}  // namespace
+
+std::optional<std::string> QtFileDialogs::AskSaveFile(const commands::FileQuestion& question) {
+    FileDialog dialog(window_, "New Profile", question);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.SetExtension(ExtensionOf(question.filter));
+    return dialog.Ask();
+}
+
+std::optional<std::string> QtFileDialogs::AskOpenFile(const commands::FileQuestion& question) {
+    FileDialog dialog(window_, "Image of the Blank Form", question);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.Ask();
+}
+
+}  // namespace tavrene::ui
