@@ -16,12 +16,6 @@ using Names = std::vector<std::string>;
 
 class ProfileStoreTest : public test::DeskWorld {
   protected:
-    ProfileStoreTest() {
-        settings_.BoxMinWidth = settings_.BoxMinHeight = 16;
-        settings_.BoxMaxWidth = 38;
-        settings_.BoxMaxHeight = 34;
-    }
-
     void AddProfiles(const Names& names) {
         for (const std::string& name : names)
             AddSpecimenProfile(name, form_);

@@ -9,6 +9,13 @@ namespace tavrene::test {
 /// A working folder with a profile store and its editor at the desk.
 class DeskWorld : public RunWorld {
   protected:
+    DeskWorld() {
+        settings_.BoxMinWidth = app::kDefaultBoxMinWidth;
+        settings_.BoxMaxWidth = app::kDefaultBoxMaxWidth;
+        settings_.BoxMinHeight = app::kDefaultBoxMinHeight;
+        settings_.BoxMaxHeight = app::kDefaultBoxMaxHeight;
+    }
+
     /// A profile of `form` whose specimen image, painted blank, lies in the `ProfileImages` folder.
     std::string AddSpecimenProfile(const std::string& name, const TestForm& form, bool active = true) {
         const std::string image = folders_.ProfileImages + name + ".tif";
