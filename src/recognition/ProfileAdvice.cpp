@@ -50,20 +50,32 @@ int SpreadOf(const Boxes& boxes, Ordinate ordinate) {
     return ordinate(*high) - ordinate(*low);
 }
 
+std::string NoSlope(const std::string& line, std::size_t sampled, std::size_t all) {
+    std::string text = "Every form of this profile will fail: the boxes by which a page is aligned (";
+    text.append(std::to_string(sampled)).append(" of ").append(std::to_string(all));
+    return text.append(") all lie in one ")
+        .append(line)
+        .append(". Add a box in another ")
+        .append(line)
+        .append(".");
+}
+
+std::string SteepSlope(const std::string& line) {
+    std::string text = "Forms may be misread: the boxes by which a page is aligned lie close together, ";
+    return text.append("all near one ")
+        .append(line)
+        .append(". Add or delete boxes so that others are chosen.");
+}
+
 void AdviseOnSpread(const Boxes& boxes, std::vector<std::string>& advice) {
     const Boxes sampled = SampledBoxes(boxes);
     const std::pair<Ordinate, std::string> axes[] = {{Left, "column"}, {Lower, "row"}};
     for (const auto& [ordinate, line] : axes) {
         const int spread = SpreadOf(sampled, ordinate);
         if (spread == 0)
-            advice.push_back("Every form of this profile will fail: the boxes by which a page is aligned (" +
-                             std::to_string(sampled.size()) + " of " + std::to_string(boxes.size()) +
-                             ") all lie in one " + line + ". Add a box in another " + line + ".");
+            advice.push_back(NoSlope(line, sampled.size(), boxes.size()));
         else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
-            advice.push_back(
-                "Forms may be misread: the boxes by which a page is aligned lie close together, "
-                "all near one " +
-                line + ". Add or delete boxes so that others are chosen.");
+            advice.push_back(SteepSlope(line));
     }
 }
 

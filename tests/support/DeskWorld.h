@@ -16,15 +16,6 @@ class DeskWorld : public RunWorld {
         settings_.BoxMaxHeight = app::kDefaultBoxMaxHeight;
     }
 
-    /// A profile of `form` whose specimen image, painted blank, lies in the `ProfileImages` folder.
-    std::string AddSpecimenProfile(const std::string& name, const TestForm& form, bool active = true) {
-        const std::string image = folders_.ProfileImages + name + ".tif";
-        form.SaveScan(image, {});
-        const std::string path = folders_.Profiles + name + ".Tvp";
-        WriteText(path, form.ProfileText(folders_.ProfileImages + name, active));
-        return path;
-    }
-
     bool Create(const std::string& name, const std::string& image) {
         return store_.Create(folders_.Profiles + name, image, boxes::SizesOf(settings_),
                              boxes::ReachFor(boxes::SizesOf(settings_)));

@@ -39,6 +39,15 @@ class RunWorld : public ::testing::Test {
         WriteText(folders_.Profiles + name + ".Tvp", form.ProfileText(name));
     }
 
+    /// A profile of `form` whose specimen image, painted blank, lies in the `ProfileImages` folder.
+    std::string AddSpecimenProfile(const std::string& name, const TestForm& form, bool active = true) {
+        const std::string image = folders_.ProfileImages + name + ".tif";
+        form.SaveScan(image, {});
+        std::string path = folders_.Profiles + name + ".Tvp";
+        WriteText(path, form.ProfileText(folders_.ProfileImages + name, active));
+        return path;
+    }
+
     std::vector<std::string> In(const std::string& folder) const { return files_.List(folder, "*"); }
 
     /// The lines of the day's process log without their time stamps.

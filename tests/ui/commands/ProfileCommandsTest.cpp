@@ -32,7 +32,7 @@ class ScriptedDialogs final : public FileDialogs {
             ADD_FAILURE() << "no answer is scripted for " << questions.back();
             return std::nullopt;
         }
-        const std::optional<std::string> answer = answers.front();
+        std::optional<std::string> answer = answers.front();
         answers.pop_front();
         return answer;
     }
