@@ -79,6 +79,10 @@ bool ProfileStore::Create(const std::string& path, const std::string& imagePath,
                           const boxes::PairReach& reach) {
     const LostLineNote lostLines(doors_.log, notes_);
     const std::string name = app::BaseName(path);
+    if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
+        doors_.files.FileExists(imagePath))
+        doors_.files.Write(doors_.folders.Temp + "temp2.tif", doors_.files.Read(imagePath),
+                           app::Keep::AsScratch);
     const std::optional<boxes::FoundBoxes> found =
         boxes::FindBoxesOnImage(imagePath, name, sizes, reach,
                                 {doors_.files, doors_.person, doors_.log, doors_.clock, doors_.folders.Temp});
@@ -108,7 +112,7 @@ void ProfileStore::OpenCreated(const std::string& path, pugi::xml_document docum
     profile_.Active = content.Active;
     profile_.Document = std::move(document);
     profile_.Fingerprint = doors_.files.Fingerprint(path);
-    ShowSpecimen(content.Image);
+    ShowSpecimen(content.Image, Specimen::OfNewProfile);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
 }
@@ -130,20 +134,20 @@ void ProfileStore::Load(const std::string& path) {
     try {
         content = ReadProfileContent(profile_.Document);
     } catch (const DocumentError& error) {
-        ShowSpecimen(profile_.Image);
+        ShowSpecimen(profile_.Image, Specimen::OfStoredProfile);
         RefuseToOpen(path, error);
     }
     profile_.DPI_X = content.DPI_X;
     profile_.DPI_Y = content.DPI_Y;
     profile_.Active = content.Active;
     doors_.person.SetPanel(Panel::ElapsedTime, "OMRs:" + std::to_string(content.Count));
-    ShowSpecimen(profile_.Image);
+    ShowSpecimen(profile_.Image, Specimen::OfStoredProfile);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
     FitView();
 }
 
-void ProfileStore::ShowSpecimen(const std::string& image) {
+void ProfileStore::ShowSpecimen(const std::string& image, Specimen specimen) {
     const auto read = imaging::ReadSpecimen(doors_.files, image);
     const imaging::Page* const page = std::get_if<imaging::Page>(&read);
     profile_.ImageWidth = page == nullptr ? 0 : page->bitmap.Width();
@@ -156,7 +160,9 @@ void ProfileStore::ShowSpecimen(const std::string& image) {
             (doors_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
         return;
     }
-    if (page == nullptr || imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff) {
+    const bool isTiff = imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff;
+    const bool isNew = specimen == Specimen::OfNewProfile;
+    if (page == nullptr || (isTiff && !(isNew && page->inverted))) {
         screen_.view.ShowFile(image);
         return;
     }

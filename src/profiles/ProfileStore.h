@@ -74,7 +74,11 @@ class ProfileStore {
     int NumberOf(const std::string& path) const;
     std::vector<StripEntry> ListEntries() const;
     void OpenCreated(const std::string& path, pugi::xml_document document);
-    void ShowSpecimen(const std::string& image);
+    enum class Specimen { OfNewProfile, OfStoredProfile };
+
+    /// A TIFF is shown from its own path; a new profile's is also copied, and shown from the copy where it
+    /// had to be inverted.
+    void ShowSpecimen(const std::string& image, Specimen specimen);
     void FitView();
     void WriteDocument();
 
