@@ -4,21 +4,16 @@
 
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
+#include "boxes/BoxAnalysis.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::commands {
-
-/// How far box finding looks for the other sides of a box, in image pixels.
-struct PairReach {
-    int PairReachX = 0;
-    int PairReachY = 0;
-};
 
 /// All state that the commands share. The main window owns it and hands each handler only what it works on.
 struct AppState {
     app::Settings settings;
     app::WorkingFolders folders;  ///< Fixed when the window loads.
-    PairReach reach;              ///< Fixed when the window loads.
+    boxes::PairReach reach;       ///< Fixed when the window loads.
     std::vector<profiles::ProfileRecord> profiles;
     bool processing = false;  ///< A processing run goes on.
 };

@@ -27,8 +27,7 @@ void ProfileCommands::New() {
         doors_.view.Clear();
         return;
     }
-    if (doors_.store.Create(*path, *image, boxes::SizesOf(state_.settings),
-                            {state_.reach.PairReachX, state_.reach.PairReachY}))
+    if (doors_.store.Create(*path, *image, boxes::SizesOf(state_.settings), state_.reach))
         TellMore();
 }
 

@@ -5,8 +5,6 @@
 namespace tavrene::commands {
 namespace {
 
-constexpr int kReachBeyondBox = 6;
-
 bool CanCallImageLibrary(const std::function<std::string()>& version) {
     try {
         return !version().empty();
@@ -31,8 +29,7 @@ void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate) {
         gate.Guard([&] { doors.person.ShowMessage("", kText); });
     }
     gate.Guard(doors.loadProfiles);
-    state.reach.PairReachX = state.settings.BoxMaxWidth + kReachBeyondBox;
-    state.reach.PairReachY = state.settings.BoxMaxHeight + kReachBeyondBox;
+    state.reach = boxes::ReachFor(boxes::SizesOf(state.settings));
 }
 
 }  // namespace tavrene::commands

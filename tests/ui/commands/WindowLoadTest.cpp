@@ -39,8 +39,8 @@ TEST_F(WindowLoadTest, LoadsProfilesAndFixesWhatStaysForTheRun) {
     const AppState state = Load([] { return "3.18"; });
     EXPECT_EQ(state.folders.ProcessIn, folders_.ProcessIn);
     ASSERT_EQ(state.profiles.size(), 1U);
-    EXPECT_EQ(state.reach.PairReachX, 44);
-    EXPECT_EQ(state.reach.PairReachY, 40);
+    EXPECT_EQ(state.reach.X, 44);
+    EXPECT_EQ(state.reach.Y, 40);
     EXPECT_EQ(person_.PanelText(app::Panel::File), "Profiles:1, Active:1");
     EXPECT_TRUE(transcript_.LinesOf("message: ").empty());
 }
