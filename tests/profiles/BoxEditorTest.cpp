@@ -59,15 +59,11 @@ TEST_F(BoxEditorTest, BuildsBothViewsAndPaintsBoxesOnePixelShort) {
     boxes[1].Name.clear();
     transcript_.Clear();
     Open(boxes);
-    EXPECT_EQ(desk_.rows.at(1), "Q1");
-    EXPECT_EQ(desk_.rows.at(2), "Un-named-2");
+    EXPECT_EQ(desk_.rows.at(1) + desk_.rows.at(2), "Q1Un-named-2");
     EXPECT_EQ(desk_.rows.size(), 120U);
     EXPECT_EQ(PaintedPart(desk_.boxes.at(2)), (imaging::PageRect{114, 70, 24, 23}));
     EXPECT_EQ(profile_.NextBoxId, 121);
-    EXPECT_EQ(transcript_.LinesOf("rows: "),
-              (std::vector<std::string>{"clear", "one column", "refresh", "refresh", "refresh"}));
     EXPECT_EQ(transcript_.LinesOf("range: "), std::vector<std::string>{"120"});
-    EXPECT_EQ(transcript_.LinesOf("progress: ").back(), "0");
     EXPECT_EQ(transcript_.LinesOf("progress: ").at(119), "120");
 }
 
@@ -98,35 +94,25 @@ TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
     screen_.SetZoom(200);
     editor_.RectSelected({3, -90, 1, 25, 20});  // 5, 4, 17.5, 14: halves go to the even neighbour
     EXPECT_EQ(Place(3), (std::vector<int>{5, 4, 18, 14}));
-    editor_.RectSelected({4, 10, 20, 0, 0});
-    EXPECT_EQ(Place(4), (std::vector<int>{60, 124, 84, 148}));
     EXPECT_TRUE(profile_.ProfileChanged);
+    const std::vector<OmrBox> before = profile_.BoxList;
+    editor_.RectSelected({4, 10, 20, 0, 0});
     editor_.RectSelected({99, 10, 20, 15, 12});
     editor_.RectSelected({0, 10, 20, 15, 12});
-    EXPECT_EQ(profile_.BoxList.size(), 6U);
-    EXPECT_EQ(profile_.Count, 6);
-}
-
-TEST_F(BoxEditorTest, StoresNothingWhileTheViewServesAnotherActivity) {
-    editor_.SetMayStore([] { return false; });
-    editor_.RectMoved(2);
+    editor_.SetMayStore([] { return false; });  // the view serves another activity
     editor_.RectSelected({2, 10, 20, 15, 12});
     editor_.Nudge(1, 1);
-    EXPECT_EQ(Place(2), (std::vector<int>{114, 70, 138, 94}));
-    EXPECT_FALSE(profile_.ProfileChanged);
+    EXPECT_EQ(profile_.BoxList, before);
     EXPECT_EQ(desk_.selectedRow, 2);
 }
 
 TEST_F(BoxEditorTest, DrawsNewBoxesInAddModeOnly) {
     Draw(10, 20, 15, 12);
-    EXPECT_EQ(profile_.Count, 6);
     editor_.SetTool(BoxTool::Add);
     Draw(10, 20, 0, 0);
-    EXPECT_EQ(profile_.Count, 6);
     EXPECT_EQ(profile_.NextBoxId, 7);
     EXPECT_FALSE(profile_.ProfileChanged);
     Draw(10, 20, 15, 12);
-    EXPECT_EQ(profile_.Count, 7);
     EXPECT_EQ(Place(7), (std::vector<int>{10, 20, 25, 32}));
     EXPECT_EQ(desk_.rows.at(7), "Un-named-7");
     EXPECT_EQ(desk_.nextGroup, 8);
@@ -141,15 +127,12 @@ TEST_F(BoxEditorTest, DeletingMakesTheNextBoxCurrent) {
     EXPECT_EQ(profile_.CurrentBox, 5);
     EXPECT_EQ(desk_.selectedBox, 5);
     Delete(6);
-    EXPECT_EQ(profile_.CurrentBox, 1);
-    EXPECT_EQ(desk_.rows.size(), 4U);
-    EXPECT_EQ(desk_.boxes.count(4) + desk_.boxes.count(6), 0U);
     editor_.RowClicked(4);  // gone
     EXPECT_EQ(profile_.CurrentBox, 1);
+    EXPECT_EQ(desk_.boxes.count(4) + desk_.boxes.count(6), 0U);
     for (int k = 0; k < 5; ++k)
         editor_.DeleteBox();
-    EXPECT_EQ(profile_.Count, 0);
-    EXPECT_EQ(profile_.CurrentBox, 0);
+    EXPECT_EQ(profile_.Count + profile_.CurrentBox, 0);
     EXPECT_TRUE(desk_.rows.empty());
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }
@@ -167,37 +150,27 @@ TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxInsideTheNumberRange) {
     EXPECT_EQ(Place(1), (std::vector<int>{32740, 71, 32767, 95}));
 }
 
-struct DeskState {
-    std::vector<OmrBox> boxes;
-    int count;
-    int next;
-    bool changed;
-    std::map<int, std::string> rows;
-    bool operator==(const DeskState&) const = default;
-};
-
 TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {
     const auto state = [this] {
         EXPECT_EQ(desk_.nextGroup, profile_.NextBoxId);
         EXPECT_EQ(desk_.boxes.size(), desk_.rows.size());
-        return DeskState{profile_.BoxList, profile_.Count, profile_.NextBoxId, profile_.ProfileChanged,
-                         desk_.rows};
+        return std::tuple(desk_.rows, profile_.BoxList, profile_.Count, profile_.NextBoxId,
+                          profile_.ProfileChanged);
     };
     editor_.SetTool(BoxTool::Add);
     const std::vector<std::function<void()>> edits = {
         [this] { Rename(2, "yes & no"); },  [this] { Delete(2); },
-        [this] { Draw(300, 300, 20, 20); }, [this] {
-                                                          editor_.RectSelected({3, 9, 8, 30, 31}); },
+        [this] { Draw(300, 300, 20, 20); }, [this] { editor_.RectSelected({3, 9, 8, 30, 31}); },
         [this] { editor_.Nudge(0, 10); },   [this] { Delete(7); },
         [this] { Rename(1, ""); }};
-    std::vector<DeskState> states = {state()};
+    std::vector states = {state()};
     for (const auto& edit : edits) {
         edit();
         states.push_back(state());
     }
-    EXPECT_EQ(states.back().count, 5);
-    const auto isSame = [](DeskState a, DeskState b) {
-        a.rows[1] = b.rows[1] = "";  // an empty name is shown by its number after it was taken back
+    EXPECT_EQ(std::get<2>(states.back()), 5);
+    const auto isSame = [](auto a, auto b) {
+        std::get<0>(a)[1] = std::get<0>(b)[1] = "";  // an empty name is shown by its number afterwards
         return a == b;
     };
     for (std::size_t k = edits.size(); k-- > 0;) {
