@@ -4,6 +4,7 @@
 #include <string>
 
 #include "FakeReviewScreen.h"
+#include "support/Faults.h"
 #include "support/RunWorld.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/ReviewCommands.h"
@@ -71,12 +72,15 @@ class ReviewWorld : public RunWorld {
 
     std::string Result(const std::string& name) const { return ReadText(folders_.ProcessOut + name); }
 
-    /// Replaces a text in a result document.
-    void Edit(const std::string& name, const std::string& old, const std::string& replacement) {
-        std::string text = Result(name);
-        const std::size_t at = text.find(old);
-        ASSERT_NE(at, std::string::npos) << old;
-        WriteText(folders_.ProcessOut + name, text.replace(at, old.size(), replacement));
+    bool ResultHas(const std::string& name, const std::string& piece) const {
+        return Has(Result(name), piece);
+    }
+
+    /// Refuses one file operation on paths that end so.
+    void Refuse(const std::string& operation, const std::string& ending) {
+        files_.refuse = [operation, ending](const std::string& asked, const std::string& path) {
+            return asked == operation && path.ends_with(ending);
+        };
     }
 
     Names Messages() const { return transcript_.LinesOf("message: [] "); }
