@@ -78,7 +78,7 @@ void HandleFrame::SetRect(const QRectF& rect) {
 QRectF HandleFrame::boundingRect() const {
     // Handles keep their size on the screen, which is many image pixels on a page that is shown small.
     constexpr double kRoom = 400;
-    return rect_.adjusted(-kRoom, -kRoom, kRoom, kRoom);
+    return rect_.isNull() ? rect_ : rect_.adjusted(-kRoom, -kRoom, kRoom, kRoom);
 }
 
 void HandleFrame::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {

@@ -56,7 +56,8 @@ ImageView::ImageView(const app::Files& files, QWidget* parent)
 void ImageView::SetPage(const QImage& image) {
     const bool otherSize = image.size() != page_->Size().toSize();
     page_->SetImage(image);
-    scene()->setSceneRect(page_->boundingRect());
+    // Without a rectangle of its own the scene would keep the room that earlier pages took.
+    scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
     if (otherSize) {
         horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
         verticalScrollBar()->setValue(verticalScrollBar()->minimum());

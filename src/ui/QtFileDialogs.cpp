@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <utility>
 
 #include "ui/BusyCursor.h"
@@ -45,10 +46,11 @@ class FileDialog final : public QFileDialog {
     }
 
     void accept() override {
+        auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
         const QStringList files = selectedFiles();
-        if (!extension_.isEmpty() && !files.isEmpty() && !QFileInfo(files.front()).isDir() &&
-            !files.front().endsWith(extension_, Qt::CaseInsensitive))
-            selectFile(files.front() + extension_);
+        if (!extension_.isEmpty() && nameEdit != nullptr && !files.isEmpty() &&
+            !QFileInfo(files.front()).isDir() && !files.front().endsWith(extension_, Qt::CaseInsensitive))
+            nameEdit->setText(nameEdit->text() + extension_);
         QFileDialog::accept();
     }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QGraphicsView>
-#include <QKeyEvent>
+#include <QTest>
 #include <memory>
 
 #include "support/RunWorld.h"
@@ -20,6 +20,7 @@ class WindowWorld : public RunWorld {
         window_ = std::make_unique<ui::MainWindow>(settings_, ui::WindowDoors{store_, files_, clock_});
         window_->Load();
         window_->show();
+        window_->activateWindow();
         QApplication::processEvents();
         return *window_;
     }
@@ -28,9 +29,11 @@ class WindowWorld : public RunWorld {
         Button(*window_, toolbar, key).click();
     }
 
+    /// Through the window's shortcuts, as from the keyboard.
     static void Press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent press(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(&widget, &press);
+        widget.activateWindow();
+        QApplication::processEvents();
+        QTest::keyClick(&widget, key, modifiers);
     }
 
     QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }

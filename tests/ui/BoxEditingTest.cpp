@@ -1,0 +1,246 @@
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "ui/DeskWindow.h"
+#include "ui/RectItem.h"
+
+namespace tavrene::ui {
+namespace {
+
+using profiles::OmrBox;
+using test::DialogScript;
+using test::Find;
+using test::TestForm;
+using Names = std::vector<std::string>;
+
+QPointF MiddleOf(const OmrBox& box) {
+    return QPointF(box.L + box.R, box.T + box.B) / 2;
+}
+
+QRectF PlaceOf(const OmrBox& box) {
+    return {QPointF(box.L, box.T), QPointF(box.R, box.B)};
+}
+
+class BoxEditingTest : public test::DeskWindow {
+  protected:
+    BoxEditingTest() { AddSpecimenProfile("Form", form_); }
+
+    void OpenForm() {
+        Open();
+        ClickThumbnail(1);
+        ASSERT_EQ(Rows().topLevelItemCount(), static_cast<int>(form_.boxes.size()));
+    }
+    void Trigger(const char* action) { Find<QAction>(*window_, action).trigger(); }
+    QRectF SavedPlace(int number) {
+        Click("Save");
+        return PlaceOf(Saved("Form")[static_cast<std::size_t>(number) - 1]);
+    }
+    int CurrentRow() { return Rows().indexOfTopLevelItem(Rows().currentItem()); }
+    static QLineEdit& NameEditor() { return dynamic_cast<QLineEdit&>(*QApplication::focusWidget()); }
+    static void TypeName(const QString& name, Qt::Key end) {
+        NameEditor().setText(name);
+        QTest::keyClick(&NameEditor(), end);
+        QApplication::processEvents();
+    }
+    std::string NameOf(int number) { return Saved("Form")[static_cast<std::size_t>(number) - 1].Name; }
+
+    TestForm form_ = TestForm::Grid(3, 2);
+    OmrBox first_ = form_.boxes[0];
+};
+
+TEST_F(BoxEditingTest, SelectingEveryBoxAtAnyZoomChangesNoCoordinate) {
+    OpenForm();
+    const std::vector<OmrBox> before = Saved("Form");
+    auto& view = dynamic_cast<ImageView&>(View());
+    for (const double zoom : {25.0, 33.0, 100.0, 250.0, 92.16}) {
+        view.SetZoom(zoom);
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            ClickRow(static_cast<int>(i));
+            EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(MiddleOf(before[i]))));
+            ClickPage(MiddleOf(before[i]));
+            EXPECT_EQ(CurrentRow(), static_cast<int>(i)) << zoom;
+        }
+        EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled()) << zoom;
+    }
+    Click("Save");
+    EXPECT_EQ(Saved("Form"), before);
+}
+
+TEST_F(BoxEditingTest, MouseAndKeysMoveAndResizeAndEveryStepGoesBackAndForth) {
+    OpenForm();
+    const QRectF place = PlaceOf(first_);
+    dynamic_cast<ImageView&>(View()).SetZoom(250);
+    Drag(place.center(), place.center() + QPointF(30, 12));
+    EXPECT_EQ(SavedPlace(1), place.translated(30, 12));
+    Drag(place.bottomRight() + QPointF(30, 12), place.bottomRight() + QPointF(40, 19));
+    EXPECT_EQ(SavedPlace(1), place.translated(30, 12).adjusted(0, 0, 10, 7));
+    Press(View(), Qt::Key_Left);
+    Press(View(), Qt::Key_Down, Qt::ShiftModifier);
+    const QRectF last = place.translated(29, 22).adjusted(0, 0, 10, 7);
+    EXPECT_EQ(SavedPlace(1), last);
+
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(SavedPlace(1), place.translated(30, 12).adjusted(0, 0, 10, 7));
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(SavedPlace(1), place);
+    EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled());
+    for (int step = 0; step < 4; ++step)
+        Press(*window_, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(SavedPlace(1), last);
+}
+
+TEST_F(BoxEditingTest, EscapeEndsADragAndOnlyThenClosesTheWindow) {
+    OpenForm();
+    const QPointF middle = MiddleOf(first_);
+    Mouse(QEvent::MouseButtonPress, middle);
+    Mouse(QEvent::MouseMove, middle + QPointF(50, 50));
+    Press(View(), Qt::Key_Escape);
+    Mouse(QEvent::MouseMove, middle + QPointF(60, 60));
+    Mouse(QEvent::MouseButtonRelease, middle + QPointF(60, 60));
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled());
+    Press(View(), Qt::Key_Escape);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(BoxEditingTest, DeletedAndAddedBoxesAreNumberedAnewBySaving) {
+    OpenForm();
+    ClickRow(1);
+    Press(Rows(), Qt::Key_Delete);
+    EXPECT_EQ(CurrentRow(), 1) << "the next box is current";
+    ClickPage(MiddleOf(form_.boxes[4]));
+    Click("Delete", "CfgToolbar");
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4", "Q6"}));
+    Click("Add", "CfgToolbar");
+    dynamic_cast<ImageView&>(View()).SetZoom(50);
+    Drag({400, 300}, {430, 326});
+    EXPECT_EQ(RowTexts().back(), "Un-named-7");
+    Drag({100, 400}, {100, 400});
+    EXPECT_EQ(Rows().topLevelItemCount(), 5) << "a rectangle of no size";
+    Click("Save");
+    EXPECT_EQ(PlaceOf(Saved("Form").back()), QRectF(400, 300, 30, 26));
+    EXPECT_NE(test::ReadText(folders_.Profiles + "Form.Tvp").find("Count=\"5\""), std::string::npos);
+    for (int step = 0; step < 3; ++step)
+        Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q2", "Q3", "Q4", "Q5", "Q6"}));
+    const QList<QGraphicsItem*> items = View().items();
+    EXPECT_EQ(std::count_if(items.begin(), items.end(),
+                            [](QGraphicsItem* item) { return dynamic_cast<RectItem*>(item) != nullptr; }),
+              6);
+}
+
+TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
+    OpenForm();
+    ClickRow(2);
+    Press(Rows(), Qt::Key_F2);
+    TypeName("Größe", Qt::Key_Escape);
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(RowTexts()[2], "Q3");
+    Press(Rows(), Qt::Key_F2);
+    TypeName("Größe", Qt::Key_Return);
+    ClickRow(3);
+    Press(Rows(), Qt::Key_F2);
+    NameEditor().setText("typed");
+    Click("Save");  // takes over what is still being typed
+    EXPECT_EQ(NameOf(3), "Größe");
+    EXPECT_EQ(NameOf(4), "typed");
+
+    const std::string before = test::ReadText(folders_.Profiles + "Form.Tvp");
+    ClickRow(1);
+    Press(Rows(), Qt::Key_F2);
+    TypeName("Yes & \"no\"", Qt::Key_Return);
+    ClickRow(5);
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Ok);
+    Click("Save");
+    EXPECT_NE(dialogs.shown.at(0).find("Yes & \"no\""), std::string::npos) << dialogs.shown.at(0);
+    EXPECT_EQ(CurrentRow(), 1);
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"), before);
+    EXPECT_EQ(RowTexts()[1], "Yes & \"no\"");
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(RowTexts()[1], "Q2");
+    Click("Save");
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"), before);
+}
+
+TEST_F(BoxEditingTest, ABoxDrawnByHandIsReadByARunWhichClosesTheProfile) {
+    TestForm known = form_;
+    known.boxes.pop_back();
+    AddSpecimenProfile("Form", known);
+    Open();
+    ClickThumbnail(1);
+    Click("Add", "CfgToolbar");
+    const QRectF place = PlaceOf(form_.boxes.back());
+    Drag(place.topLeft(), place.bottomRight());
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {6}});
+    form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {6}, .dx = 20, .dy = -20});
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Yes);
+    Click("Process");
+    for (const auto& [name, shift] : {std::pair("a.xml", "0,0"), {"b.xml", "20,-20"}}) {
+        const std::string text = test::ReadText(folders_.ProcessOut + name);
+        EXPECT_NE(text.find("\"Un-named-6\" Shift=\"" + std::string(shift) + "\" Checked=\"1\""),
+                  std::string::npos)
+            << text;
+    }
+    EXPECT_EQ(SelectedThumbnail(), 0);
+    EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isEnabled());
+    const std::string before = test::ReadText(folders_.Profiles + "Form.Tvp");
+    Drag(place.center(), place.center() + QPointF(20, 20));
+    Click("Save");
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"), before) << "the boxes of a run are no profile";
+}
+
+TEST_F(BoxEditingTest, WheelZoomsAroundThePointerAndTheMiddleButtonPans) {
+    OpenForm();
+    auto& view = dynamic_cast<ImageView&>(View());
+    view.SetZoom(300);
+    QApplication::processEvents();
+    const QPointF position(200, 150);
+    const QPointF held = view.viewportTransform().inverted().map(position);
+    QWheelEvent wheel(position, view.viewport()->mapToGlobal(position), {}, {0, 120}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view.viewport(), &wheel);
+    EXPECT_EQ(view.Zoom(), 375);
+    EXPECT_LT((view.viewportTransform().map(held) - position).manhattanLength(), 2);
+
+    const int scrolled = view.verticalScrollBar()->value();
+    const QPointF point = view.viewportTransform().inverted().map(position);
+    Mouse(QEvent::MouseButtonPress, point, Qt::MiddleButton);
+    Mouse(QEvent::MouseMove, point + QPointF(0, -20), Qt::MiddleButton);
+    Mouse(QEvent::MouseButtonRelease, point, Qt::MiddleButton);
+    EXPECT_EQ(view.verticalScrollBar()->value(), scrolled + 75);
+}
+
+TEST_F(BoxEditingTest, ADamagedProfileAndALostSpecimenStayInReach) {
+    test::WriteText(folders_.Profiles + "Bad.Tvp", "no document");
+    AddSpecimenProfile("Lost", form_, false);
+    files_.Delete(folders_.ProfileImages + "Lost.tif");
+    Open();
+    EXPECT_EQ(Thumbnails(), 3);
+    EXPECT_EQ(Panel("File"), "Profiles:2, Active:1");
+    ClickThumbnail(3);
+    EXPECT_EQ(Rows().topLevelItemCount(), 6);
+    EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isChecked());
+    EXPECT_NE(Panel("Message").find("Lost.tif is not there any more"), std::string::npos) << Panel("Message");
+    ClickPage(MiddleOf(form_.boxes[5]));
+    EXPECT_EQ(CurrentRow(), 5) << "boxes can be reached without their page";
+
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Ok).Press(QMessageBox::Yes);
+    ClickThumbnail(1);
+    EXPECT_EQ(Rows().topLevelItemCount(), 0);
+    EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isEnabled());
+    Click("Delete");
+    EXPECT_EQ(Thumbnails(), 2);
+    EXPECT_EQ(SelectedThumbnail(), 0);
+    Press(Strip(), Qt::Key_Down);
+    EXPECT_NE(SelectedThumbnail(), 0);
+    EXPECT_EQ(Rows().topLevelItemCount(), 6) << "the keyboard opens as well";
+}
+
+}  // namespace
+}  // namespace tavrene::ui

@@ -1,0 +1,134 @@
+#include <filesystem>
+#include <regex>
+
+#include "ui/DeskWindow.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::DialogScript;
+using test::Find;
+using Names = std::vector<std::string>;
+
+const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+
+// A profile document without what the person chooses: names of boxes and the place of the image.
+std::string Nameless(const std::string& path) {
+    const std::string text = test::ReadText(path);
+    return std::regex_replace(text, std::regex(" (Name|Image)=\"[^\"]*\""), "");
+}
+
+// What a panel's label shows whenever it is painted.
+class PanelWatch final : public QObject {
+  public:
+    explicit PanelWatch(QLabel& label) { label.installEventFilter(this); }
+    Names shown;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const std::string text = FromQt(qobject_cast<QLabel*>(watched)->text());
+        if (event->type() == QEvent::Paint && (shown.empty() || shown.back() != text))
+            shown.push_back(text);
+        return false;
+    }
+};
+
+class NewProfileTest : public test::DeskWindow {
+  protected:
+    NewProfileTest() {
+        std::filesystem::copy(kSamples + "blanks", app::ToPath(folders_.ProfileImages));
+        AddSpecimenProfile("Old", form_);
+    }
+    test::TestForm form_ = test::TestForm::Grid(3, 2);
+};
+
+TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
+    Open();
+    EXPECT_EQ(Thumbnails(), 1);
+    for (const std::string name : {"PatientQuestionnaire", "StaffSurvey"}) {
+        const int before = Thumbnails();
+        PanelWatch message(Find<QLabel>(*window_, "Message"));
+        DialogScript dialogs;
+        dialogs.Type(name).Type(folders_.ProfileImages + name + ".tif");
+        Click("New");
+        ASSERT_EQ(dialogs.shown.size(), 2U);
+        EXPECT_EQ(dialogs.shown[0], folders_.Profiles + "|New.Tvp|Tavrene Profiles (*.Tvp)");
+        EXPECT_EQ(dialogs.shown[1], folders_.ProfileImages + "||Image Files (*.Tif;*.Jpg;*.Png)");
+        for (std::size_t step = 1; step <= 11; ++step) {
+            const std::string text =
+                "Processing step " + std::to_string(step) + " of 11 " + std::string(step, '.');
+            EXPECT_NE(std::find(message.shown.begin(), message.shown.end(), text), message.shown.end())
+                << text;
+        }
+        EXPECT_EQ(Nameless(folders_.Profiles + name + ".Tvp"),
+                  Nameless(kSamples + "profiles/" + name + ".Tvp"));
+        EXPECT_EQ(Thumbnails(), before + 1);
+        EXPECT_EQ(Rows().topLevelItemCount(), static_cast<int>(Saved(name).size()));
+        EXPECT_TRUE(Find<QCheckBox>(*window_, "chkActive").isChecked());
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+    EXPECT_EQ(SelectedThumbnail(), 3);
+    EXPECT_EQ(FromQt(Strip().model()->index(2, 0).data().toString()), "Profile 3 of 3");
+}
+
+TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
+    Open();
+    ClickThumbnail(1);
+    const std::string before = test::ReadText(folders_.Profiles + "Old.Tvp");
+    const std::string prompt = "Save changes to Profile <" + folders_.Profiles + "Old.Tvp>?";
+    ClickPage(QPointF(form_.boxes[0].L + 5, form_.boxes[0].T + 5));
+    Press(View(), Qt::Key_Right);
+    const auto expectUnchanged = [&](const char* after) {
+        EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before) << after;
+        EXPECT_EQ(Rows().topLevelItemCount(), 6) << after;
+        EXPECT_EQ(SelectedThumbnail(), 1) << after;
+        EXPECT_TRUE(Find<QAction>(*window_, "Undo").isEnabled()) << after;
+        EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"})) << after;
+    };
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Cancel).Press(QMessageBox::Cancel).Press(QMessageBox::Cancel);
+    Click("New");
+    expectUnchanged("New");
+    ClickThumbnail(1);
+    expectUnchanged("the strip");
+    Click("Process");
+    expectUnchanged("Process");
+    dialogs.Press(QMessageBox::Cancel);
+    Press(View(), Qt::Key_Escape);
+    EXPECT_TRUE(window_->isVisible());
+    dialogs.Press(QMessageBox::No);
+    Click("Delete");
+    expectUnchanged("Delete");
+    EXPECT_EQ(dialogs.shown,
+              (Names{prompt, prompt, prompt, prompt, "Delete Profile " + folders_.Profiles + "Old.Tvp"}));
+
+    dialogs.Press(QMessageBox::No).Cancel();
+    Click("New");
+    EXPECT_EQ(View().sceneRect().width(), form_.width);
+    dialogs.Type("Other").Cancel();
+    Click("New");
+    EXPECT_LE(View().sceneRect().width(), 1) << "a cancelled image dialog clears the view";
+    EXPECT_EQ(Rows().topLevelItemCount(), 6) << "the profile stays open";
+    EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"}));
+}
+
+TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
+    Open();
+    test::WriteText(folders_.ProfileImages + "letter.png", "no image");
+    DialogScript dialogs;
+    dialogs.Type("No.good").Type(folders_.ProfileImages + "letter.png").Press(QMessageBox::Ok);
+    Click("New");
+    EXPECT_EQ(dialogs.shown.back(), "Image not in bitmap format");
+    EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"}));
+
+    dialogs.Type("Old").Press(QMessageBox::No).Cancel();
+    Click("New");
+    EXPECT_NE(dialogs.shown.at(4).find("already exists"), std::string::npos) << dialogs.shown.at(4);
+    dialogs.Type("Form 2.1").Type(folders_.ProfileImages + "Old.tif");
+    Click("New");
+    EXPECT_EQ(In(folders_.Profiles), (Names{"Form 2.1.Tvp", "Old.Tvp", "Tavrene_Profiles.tif"}));
+    EXPECT_EQ(SelectedThumbnail(), 1);
+}
+
+}  // namespace
+}  // namespace tavrene::ui
