@@ -41,18 +41,5 @@ TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
               "e \x96 5 \x80 ? ? ??\r\n");
 }
 
-TEST_F(ActivityLogTest, PassesFailuresOnUnlessTheyAreTolerated) {
-    files_.refuse = [](const std::string&, const std::string&) { return true; };
-    EXPECT_THROW(log_.LogProcessEvent("lost", ShowInStatusBar::Yes), FileError);
-    EXPECT_EQ(person_.PanelText(Panel::Message), "lost");
-    {
-        const ToleratedLogFailures tolerated(log_);
-        log_.LogProcessEvent("lost");
-        log_.LogProfileEvent("lost");
-        EXPECT_EQ(tolerated.LostLines(), 2);
-    }
-    EXPECT_THROW(log_.LogProfileEvent("lost"), FileError);
-}
-
 }  // namespace
 }  // namespace tavrene::app

@@ -84,25 +84,18 @@ bool BothFar(int a, int b, int c, int d) {
     return std::min(std::abs(a - b), std::abs(c - d)) > 2;
 }
 
-void MeetVertical(LineSeg& i, const LineSeg& j, int halfX, int halfY) {
-    if (std::abs(j.T - (i.T + i.B) / 2) > halfX || std::abs((i.L + i.R) / 2 - j.L) > halfY)
+void Meet(LineSeg& i, const LineSeg& j, int halfX, int halfY) {
+    const bool vertical = i.IsVertical();
+    if (std::abs(j.T - (i.T + i.B) / 2) > (vertical ? halfX : halfY) ||
+        std::abs((i.L + i.R) / 2 - j.L) > (vertical ? halfY : halfX))
         return;
-    if (i.T <= j.T && j.T <= i.B && j.L <= i.L && i.L <= j.R)
+    if (vertical && i.T <= j.T && j.T <= i.B && j.L <= i.L && i.L <= j.R)
         i.Crossings.push_back(j.T);
-    if (BothFar(i.L, j.B, i.L, j.T))
-        return;
-    if (!BothFar(i.T, j.R, i.T, j.L))
-        ++i.CornerHits;
-}
-
-void MeetHorizontal(LineSeg& i, const LineSeg& j, int halfX, int halfY) {
-    if (std::abs(j.T - (i.T + i.B) / 2) > halfY || std::abs((i.L + i.R) / 2 - j.L) > halfX)
-        return;
-    if (i.L <= j.L && j.L <= i.R && j.T <= i.T && i.T <= j.B)
+    if (!vertical && i.L <= j.L && j.L <= i.R && j.T <= i.T && i.T <= j.B)
         i.Crossings.push_back(j.L);
-    if (BothFar(i.T, j.R, i.T, j.L))
-        return;
-    if (!BothFar(i.L, j.B, i.L, j.T))
+    const bool columns = BothFar(i.L, j.B, i.L, j.T);
+    const bool rows = BothFar(i.T, j.R, i.T, j.L);
+    if (!columns && !rows)
         ++i.CornerHits;
 }
 
@@ -161,12 +154,8 @@ void FindIntersections(BoxAnalysis& analysis) {
         i->CornerHits = 0;
         i->Crossings.clear();
         for (auto j = list.rbegin(); j != list.rend(); ++j) {
-            if (j->Orientation == i->Orientation)
-                continue;
-            if (i->IsVertical())
-                MeetVertical(*i, *j, analysis.Reach.X / 2, analysis.Reach.Y / 2);
-            else
-                MeetHorizontal(*i, *j, analysis.Reach.X / 2, analysis.Reach.Y / 2);
+            if (j->Orientation != i->Orientation)
+                Meet(*i, *j, analysis.Reach.X / 2, analysis.Reach.Y / 2);
         }
     }
 }

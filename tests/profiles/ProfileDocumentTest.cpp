@@ -20,45 +20,29 @@ class ProfileDocumentTest : public test::RunWorld {
     }
 };
 
-OmrBox Box(const std::string& name, std::int16_t left) {
-    OmrBox box;
-    box.Name = name;
-    box.L = left;
-    box.T = 340;
-    box.R = static_cast<std::int16_t>(left + 32);
-    box.B = 371;
-    return box;
-}
-
 TEST_F(ProfileDocumentTest, CreatesAndRewritesTheDocumentOnOneLine) {
     const std::string path = work_.File("Form.Tvp");
-    const std::vector<OmrBox> found = {Box("Un-named-1", 100), Box("Un-named-2", 200)};
-    const std::string omrs = ComposeOmrs(found, 2);
-    SaveProfileDocument(files_, path,
-                        CreateProfileDocument({"Form", "/scans/a & b.tif", 200, 196, true}, omrs));
-    EXPECT_EQ(
-        test::ReadText(path),
-        "<Tavrene Profile=\"Form\" Image=\"/scans/a &amp; b.tif\" DPI_X=\"200\" DPI_Y=\"196\" Active=\"1\">"
-        "<OMRs Count=\"2\"><OMR ID=\"1\" L=\"100\" T=\"340\" R=\"132\" B=\"371\" Name=\"Un-named-1\"/>"
-        "<OMR ID=\"2\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Un-named-2\"/></OMRs></Tavrene>");
-
-    pugi::xml_document document = LoadProfileDocument(files_, path);
-    std::vector<OmrBox> boxes = ReadProfileContent(document).Boxes;
-    EXPECT_EQ(boxes, found);
-    boxes[0].Checked = false;
-    boxes.push_back(Box("größer ja/nein", 300));
-    UpdateProfileDocument(document, false, ComposeOmrs(boxes, 2));
-    SaveProfileDocument(files_, path, document);
-    EXPECT_EQ(
-        test::ReadText(path),
-        "<Tavrene Profile=\"Form\" Image=\"/scans/a &amp; b.tif\" DPI_X=\"200\" DPI_Y=\"196\" Active=\"0\">"
-        "<OMRs Count=\"2\"><OMR ID=\"1\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Un-named-2\"/>"
-        "<OMR ID=\"2\" L=\"300\" T=\"340\" R=\"332\" B=\"371\" Name=\"größer ja/nein\"/></OMRs></Tavrene>");
+    std::vector<OmrBox> boxes = {{"größer ja/nein", 100, 340, 132, 371}, {"Q2", 200, 340, 232, 371}};
+    pugi::xml_document document =
+        CreateProfileDocument({"Form", "/scans/a & b.tif", 200, 196, true}, ComposeOmrs(boxes, 2));
+    boxes[1].Checked = false;
+    for (const bool active : {true, false}) {
+        SaveProfileDocument(files_, path, document);
+        EXPECT_EQ(test::ReadText(path),
+                  std::string("<Tavrene Profile=\"Form\" Image=\"/scans/a &amp; b.tif\" DPI_X=\"200\" ") +
+                      "DPI_Y=\"196\" Active=\"" + (active ? "1" : "0") + "\"><OMRs Count=\"" +
+                      (active ? "2" : "1") +
+                      "\"><OMR ID=\"1\" L=\"100\" T=\"340\" R=\"132\" B=\"371\" Name=\"größer ja/nein\"/>" +
+                      (active ? "<OMR ID=\"2\" L=\"200\" T=\"340\" R=\"232\" B=\"371\" Name=\"Q2\"/>" : "") +
+                      "</OMRs></Tavrene>");
+        document = LoadProfileDocument(files_, path);
+        UpdateProfileDocument(document, false, ComposeOmrs(boxes, 1));
+    }
 }
 
 TEST_F(ProfileDocumentTest, NamesTheBoxWhoseNameCannotBeWritten) {
     for (const std::string bad : {"say \"yes\"", "a<b", "R&D"}) {
-        const std::vector<OmrBox> boxes = {Box("fine", 100), Box(bad, 200)};
+        const std::vector<OmrBox> boxes = {{"fine", 100, 340, 132, 371}, {bad, 200, 340, 232, 371}};
         const std::string fault = test::FaultOf([&boxes] { ComposeOmrs(boxes, 2); });
         EXPECT_PRED2(test::Has, fault, "box 2 (" + bad + ")");
     }

@@ -1,4 +1,7 @@
+#include <array>
+
 #include "imaging/TiffPages.h"
+#include "painter/ImageFiles.h"
 #include "profiles/ProfileStore.h"
 #include "profiles/XmlFile.h"
 #include "support/DeskWorld.h"
@@ -15,6 +18,13 @@ using test::ReadText;
 using test::TestForm;
 using test::WriteText;
 using Names = std::vector<std::string>;
+
+std::vector<std::array<int, 4>> PlacesOf(const std::vector<OmrBox>& boxes) {
+    std::vector<std::array<int, 4>> places;
+    for (const OmrBox& box : boxes)
+        places.push_back({box.L, box.T, box.R, box.B});
+    return places;
+}
 
 class ProfileStoreTest : public test::DeskWorld {
   protected:
@@ -59,15 +69,12 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     AddProfiles({"Beta"});
     const std::string image = folders_.ProfileImages + "blank & ä.tif";
     form_.SaveScan(image, {});
+    clock_.tick = 7.0;
     ASSERT_TRUE(Create("Alpha.Tvp", image));
 
-    EXPECT_EQ(profile_.BoxList.size(), 6U);
-    for (std::size_t k = 0; k < 6; ++k) {
-        const OmrBox& box = profile_.BoxList[k];
-        const OmrBox& printed = form_.boxes[k];
-        EXPECT_EQ(std::tie(box.L, box.T, box.R, box.B), std::tie(printed.L, printed.T, printed.R, printed.B));
+    EXPECT_EQ(PlacesOf(profile_.BoxList), PlacesOf(form_.boxes));
+    for (std::size_t k = 0; k < 6; ++k)
         form_.boxes[k].Name = "Un-named-" + std::to_string(k + 1);
-    }
     std::string document = form_.ProfileText("Alpha");
     const std::string imageName = "Alpha.tif";
     document.replace(document.find(imageName), imageName.size(),
@@ -82,17 +89,51 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     EXPECT_EQ(desk_.nextGroup, 7);
     EXPECT_EQ(transcript_.LinesOf("view: "), (Names{"clear", "zoom 100", "show blank & ä.tif"}));
     EXPECT_EQ(person_.PanelText(Panel::File), "Profiles:2, Active:2");
+    Names texts = {"Reading image..."};
+    for (std::size_t step = 1; step <= 11; ++step)
+        texts.push_back("Processing step " + std::to_string(step) + " of 11 " + std::string(step, '.'));
+    texts.insert(texts.end(), {"Identifying OMR boxes...", "6 OMR Boxes identified"});
+    Names panel = transcript_.LinesOf("panel Message: ");
+    panel.resize(texts.size());
+    EXPECT_EQ(panel, texts);
+    EXPECT_EQ(transcript_.LinesOf("panel ElapsedTime: ").at(0), "7 Sec.");
+    EXPECT_EQ(transcript_.LinesOf("range: ").at(0), "11");
+    EXPECT_EQ(transcript_.LinesOf("progress: ").at(10), "11");
+    EXPECT_FALSE(files_.FileExists(folders_.Temp + "temp.tif")) << "a bilevel TIFF is read as it is";
 
-    const std::string rejected = folders_.ProfileImages + "grey.tif";
-    WriteText(rejected, "no image");
-    ASSERT_FALSE(Create("Gamma.Tvp", rejected));
-    EXPECT_FALSE(files_.FileExists(PathOf("Gamma")));
     files_.refuse = [](const std::string& operation, const std::string& path) {
         return operation == "write" && path.ends_with(".Tvp");
     };
     EXPECT_THROW(Create("Gamma.Tvp", image), app::FileError);
     EXPECT_EQ(profile_.Name, "Alpha");
     EXPECT_EQ(desk_.rows.size(), 6U);
+}
+
+TEST_F(ProfileStoreTest, OtherFileTypesGiveTheSameBoxesAndABlankPageNone) {
+    const std::string png = folders_.ProfileImages + "form.PNG";
+    const samples::Canvas page = form_.Paint({});
+    samples::SaveImage(samples::ToColour(page, page, page), imaging::ImageFormat::Png, png);
+    ASSERT_TRUE(Create("Alpha.Tvp", png));
+    EXPECT_EQ(PlacesOf(profile_.BoxList), PlacesOf(form_.boxes));
+    EXPECT_TRUE(files_.FileExists(folders_.Temp + "temp.tif"));
+
+    form_.SaveScan(folders_.ProfileImages + "blank.tif", {.missing = {1, 2, 3, 4, 5, 6}});
+    EXPECT_TRUE(Create("Blank.Tvp", folders_.ProfileImages + "blank.tif"));
+    EXPECT_TRUE(profile_.IsOpen && profile_.BoxList.empty());
+}
+
+TEST_F(ProfileStoreTest, RefusesImagesBeforeAnyStep) {
+    samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Tiff,
+                       folders_.ProfileImages + "grey.tif");
+    WriteText(folders_.ProfileImages + "broken.tif", "no image");
+    for (const char* name : {"grey.tif", "broken.tif", "missing.tif", "form.tiff"})
+        EXPECT_FALSE(Create("Gamma.Tvp", folders_.ProfileImages + name)) << name;
+    EXPECT_EQ(transcript_.LinesOf("message: "),
+              (Names{"[] Image has more than 2 colors. cannot process.", "[] Image not in bitmap format",
+                     "[] Image not in bitmap format", "[] Image not in bitmap format"}));
+    EXPECT_EQ(transcript_.LinesOf("panel Message: "), Names(4, "Reading image..."));
+    EXPECT_TRUE(ProfileLog().empty());
+    EXPECT_FALSE(files_.FileExists(PathOf("Gamma")));
 }
 
 TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {

@@ -1,13 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "app/Numeric.h"
 #include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
-#include "support/FakeClock.h"
-#include "support/FakeOperator.h"
-#include "support/FaultyFiles.h"
-#include "support/TempFolder.h"
-#include "support/TestForm.h"
+#include "support/RunWorld.h"
 
 namespace tavrene::recognition {
 namespace {
@@ -15,26 +9,14 @@ namespace {
 using profiles::ProfileRecord;
 using test::TestForm;
 
-class ClassificationTest : public ::testing::Test {
+class ClassificationTest : public test::RunWorld {
   protected:
     Classification Classify(const imaging::Page& page, const std::vector<ProfileRecord>& profiles) {
         return ClassifyImage("scan.tif", page, profiles, log_);
     }
 
-    // The message of the last line of the process log.
-    std::string LastLogLine() const {
-        const std::string text = test::ReadText(folder_.File("TavreneBoxes-Process-20240305.Log"));
-        const std::size_t end = text.rfind("\r\n");
-        const std::size_t start = text.rfind('\n', end - 1);
-        return text.substr(start == std::string::npos ? 0 : start + 1, end).substr(12, end - start - 13);
-    }
+    std::string LastLogLine() const { return ProcessLog().back(); }
 
-    test::TempFolder folder_;
-    test::Transcript transcript_;
-    test::FakeOperator person_{transcript_};
-    test::FaultyFiles files_;
-    test::FakeClock clock_;
-    app::ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
     TestForm form_ = TestForm::Grid(4, 3);
 };
 
@@ -104,23 +86,6 @@ TEST_F(ClassificationTest, ScalesTheProfileToTheImage) {
 
     page.DPI_X = page.DPI_Y = 0;  // no resolution: taken as it is, so the boxes are elsewhere
     EXPECT_EQ(Classify(page, {profile}).winner, -1);
-}
-
-TEST_F(ClassificationTest, ReadsPaddingColumnsAsPartOfTheGrid) {
-    TestForm edge;
-    edge.width = 100;  // padded to 128 columns
-    edge.height = 100;
-    edge.boxes = {{.Name = "Q1", .L = 90, .T = 20, .R = 120, .B = 50}};
-    imaging::Page page = edge.PageOf({});
-    for (int column = 90; column <= 120; ++column) {
-        page.grid.SetInk(column, 80);
-        page.grid.SetInk(column, 50);
-    }
-    for (int row = 50; row <= 80; ++row)
-        page.grid.SetInk(120, row);
-    const Classification result = Classify(page, {edge.Record("Edge")});
-    EXPECT_EQ(result.winner, 0);
-    EXPECT_EQ(result.matches[0].Tested, 1);  // a single box is sampled once
 }
 
 TEST_F(ClassificationTest, NeverFindsABoxWithoutOutline) {

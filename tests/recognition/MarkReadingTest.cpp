@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "recognition/MarkReading.h"
-#include "recognition/ResultDocument.h"
-#include "support/FaultyFiles.h"
-#include "support/TempFolder.h"
 #include "support/TestForm.h"
 
 namespace tavrene::recognition {
@@ -20,13 +17,8 @@ ProfileRecord ProfileOf(std::vector<OmrBox> boxes) {
 }
 
 OmrBox BoxAt(int left, int top, int width = 24, int height = 24) {
-    OmrBox box;
-    box.Name = "at " + std::to_string(left);
-    box.L = static_cast<std::int16_t>(left);
-    box.T = static_cast<std::int16_t>(top);
-    box.R = static_cast<std::int16_t>(left + width);
-    box.B = static_cast<std::int16_t>(top + height);
-    return box;
+    const auto ordinate = [](int value) { return static_cast<std::int16_t>(value); };
+    return {"Q", ordinate(left), ordinate(top), ordinate(left + width), ordinate(top + height)};
 }
 
 TEST(SpreadShiftsTest, LaysALineThroughTheExtremeBoxes) {
@@ -101,29 +93,6 @@ TEST(ReadMarksTest, KeepsTheLimitsOfItsArithmetic) {
     form.boxes = {BoxAt(20'000, 50), BoxAt(590, 480, 30, 30)};
     for (const MarkReading& mark : ReadMarks(page, form.Record("Form"), still, 8))
         EXPECT_FALSE(mark.Checked);
-}
-
-TEST(ResultDocumentTest, IsWrittenAsReviewReadsIt) {
-    test::TempFolder folder;
-    test::FaultyFiles files;
-    const std::string path = ResultPath(folder.Path() + "/", "scan01.tif");
-    const std::vector<MarkReading> readings = {
-        {.Name = "Q1", .Shift = {0, 1}, .rect = {}, .fill = 9, .Checked = true},
-        {.Name = "<Q&\"2", .Shift = {-3, 2}, .rect = {}, .fill = 0}};
-    SaveResultDocument(files, path, {"Invoice", "scan01.tif", "0", 100}, readings);
-    EXPECT_EQ(test::ReadText(folder.File("scan01.xml")),
-              "<?xml version=\"1.0\"?>\n"
-              "<Tavrene Profile=\"Invoice\" Image=\"scan01.tif\" Reviewed=\"0\" Confidence=\"100\">\n"
-              "\t<OMRs Count=\"2\">\n"
-              "\t\t<OMR Name=\"Q1\" Shift=\"0,1\" Checked=\"1\" />\n"
-              "\t\t<OMR Name=\"&lt;Q&amp;&quot;2\" Shift=\"-3,2\" Checked=\"0\" />\n"
-              "\t</OMRs>\n"
-              "</Tavrene>\n");
-    const std::vector<ResultMark> marks = ReadResultMarks(files, path);
-    ASSERT_EQ(marks.size(), 2U);
-    EXPECT_TRUE(marks[0].Checked);
-    EXPECT_EQ(marks[1].Name, "<Q&\"2");
-    EXPECT_EQ(ImageOfResult(files, path), "scan01.tif");
 }
 
 }  // namespace

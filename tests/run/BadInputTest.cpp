@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "painter/ImageFiles.h"
+#include "support/Faults.h"
 #include "support/RunWorld.h"
 
 namespace tavrene {
@@ -34,19 +35,19 @@ TEST_F(BadInputTest, UnusableFilesAreNamedAndMovedAndTheRunGoesOn) {
     const samples::Canvas page = form_.Paint({});
     WriteText(folders_.ProcessIn + "empty.tif", "");
     WriteText(folders_.ProcessIn + "text.jpg", "Dear Sir or Madam");
-    samples::SaveImage(samples::ToGrey(page), imaging::ImageFormat::Png,
-                       folders_.ProcessIn + "mislabelled.tif");
-    samples::SaveImage(samples::ToGrey(page), imaging::ImageFormat::Tiff, folders_.ProcessIn + "grey.tif");
-    samples::SaveImage(samples::ToGrey(page), imaging::ImageFormat::Bmp, folders_.ProcessIn + "grey.bmp");
-    samples::SaveImage(samples::ToBilevel({1, 1, 200}), imaging::ImageFormat::Tiff,
-                       folders_.ProcessIn + "dot.tif");
-    samples::SaveImage(samples::ToGrey({40'000, 10, 200}), imaging::ImageFormat::Png,
-                       folders_.ProcessIn + "wide.png");
+    using imaging::ImageFormat;
+    const auto save = [this](const imaging::Bitmap& picture, ImageFormat format, const std::string& name) {
+        samples::SaveImage(picture, format, folders_.ProcessIn + name);
+    };
+    save(samples::ToGrey(page), ImageFormat::Png, "mislabelled.tif");
+    save(samples::ToGrey(page), ImageFormat::Tiff, "grey.tif");
+    save(samples::ToGrey(page), ImageFormat::Bmp, "grey.bmp");
+    save(samples::ToBilevel({1, 1, 200}), ImageFormat::Tiff, "dot.tif");
+    save(samples::ToGrey({40'000, 10, 200}), ImageFormat::Png, "wide.png");
     AddScan("cut.tif");
     WriteText(folders_.ProcessIn + "cut.tif", ReadText(folders_.ProcessIn + "cut.tif").substr(0, 60));
     WriteText(folders_.ProcessIn + "noextension", "x");
-    const std::string longName = std::string(196, 'n') + ".tif";
-    AddScan(longName);
+    AddScan(std::string(196, 'n') + ".tif");
     AddScan("Größe 'A' & \"B\".tif");
     Process();
 
@@ -58,24 +59,13 @@ TEST_F(BadInputTest, UnusableFilesAreNamedAndMovedAndTheRunGoesOn) {
               (Names{"[cut.tif] " + noBitmap, "[empty.tif] " + noBitmap, "[grey.bmp] " + colors,
                      "[grey.tif] " + colors, "[mislabelled.tif] " + noBitmap, "[text.jpg] " + noBitmap,
                      "[wide.png] " + noBitmap}));
+    EXPECT_TRUE(transcript_.LinesOf("message: ").empty()) << "bad files ask for no click";
     EXPECT_EQ(LogAbout("grey.tif"), (Names{colors, "Processing complete"}));
     EXPECT_EQ(LogAbout("text.jpg"), (Names{noBitmap, "Processing complete"}));
     EXPECT_EQ(LogAbout("noextension"), (Names{"Unrecognized File type", "Processing complete"}));
     EXPECT_EQ(LogAbout("dot.tif"), (Names{"Processing complete"}));
     EXPECT_TRUE(files_.FileExists(folders_.ProcessOut + std::string(196, 'n') + ".xml"));
     EXPECT_TRUE(files_.FileExists(folders_.ProcessOut + "Größe 'A' & \"B\".xml"));
-}
-
-TEST_F(BadInputTest, ManyBadFilesAskForNoClick) {
-    samples::SaveImage(samples::ToGrey({40, 40, 200}), imaging::ImageFormat::Tiff,
-                       folders_.ProcessIn + "0.tif");
-    for (int k = 1; k < 500; ++k)
-        std::filesystem::copy_file(folders_.ProcessIn + "0.tif",
-                                   folders_.ProcessIn + std::to_string(k) + ".tif");
-    Process();
-    EXPECT_EQ(transcript_.LinesOf("report: ").size(), 500U);
-    EXPECT_TRUE(transcript_.LinesOf("message: ").empty());
-    EXPECT_EQ(In(folders_.ProcessOut).size(), 500U);
 }
 
 TEST_F(BadInputTest, AResultThatCannotBeWrittenLeavesNoneBehind) {
@@ -138,10 +128,7 @@ TEST_F(BadInputTest, AFormWhoseProfileCannotBeReadWithGetsNoResult) {
     TestForm::Grid(1, 4).SaveScan(folders_.ProcessIn + "a.tif", {});
     Process();
     EXPECT_EQ(In(folders_.ProcessOut), Names{"a.tif"});
-    EXPECT_EQ(LogAbout("a.tif"),
-              (Names{"the sampled boxes of the profile all lie in one column, so the page's shift "
-                     "cannot be spread",
-                     "Processing complete"}));
+    EXPECT_PRED2(test::Has, LogAbout("a.tif").at(0), "all lie in one column");
 }
 
 TEST_F(BadInputTest, AVanishedAndAnUnreadableFileAreLoggedOnce) {
@@ -163,17 +150,15 @@ TEST_F(BadInputTest, AVanishedAndAnUnreadableFileAreLoggedOnce) {
 }
 
 TEST_F(BadInputTest, HugeProfilesAndWildCoordinatesAreHarmless) {
-    TestForm many = TestForm::Grid(100, 100, 20, 0, 0);
-    AddProfile("Many", many);
+    AddProfile("Many", TestForm::Grid(100, 100, 20, 0, 0));
     TestForm wild = form_;
     wild.boxes[0].L = -32'000;
-    wild.boxes[1].R = 32'767;
     wild.boxes[2].T = -5;
-    wild.boxes[3].B = 32'767;
+    wild.boxes[1].R = wild.boxes[3].B = 32'767;
     AddProfile("Wild", wild);
     AddScan("a.tif");
     Process();
-    EXPECT_NE(ReadText(folders_.ProcessOut + "a.xml").find("Profile=\"Form\""), std::string::npos);
+    EXPECT_PRED2(test::Has, ReadText(folders_.ProcessOut + "a.xml"), "Profile=\"Form\"");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "recognition/ProcessRun.h"
+#include "support/Faults.h"
 #include "support/RunWorld.h"
 
 namespace tavrene {
@@ -48,8 +49,7 @@ TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
               "\t\t<OMR Name=\"Q4\" Shift=\"0,0\" Checked=\"0\" />\n"
               "\t</OMRs>\n"
               "</Tavrene>\n");
-    EXPECT_NE(ReadText(folders_.ProcessOut + "A form & Co.xml").find("Image=\"A form &amp; Co.TIF\""),
-              std::string::npos);
+    EXPECT_PRED2(test::Has, ReadText(folders_.ProcessOut + "A form & Co.xml"), "\"A form &amp; Co.TIF\"");
     EXPECT_EQ(
         ProcessLog(),
         (Names{"Processing started", "Image [A form & Co.TIF] classified as [Form] with confidence [100.00] ",
@@ -152,8 +152,7 @@ TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {
     TestForm::Grid(1, 1).SaveScan(folders_.ProcessIn + "b.tif", {});  // no longer the form
     WriteText(folders_.ProcessIn + "c.png", "no image; the result belongs to c.tif");
     Process();
-    EXPECT_NE(ReadText(folders_.ProcessOut + "a.xml").find("Name=\"Q2\" Shift=\"0,0\" Checked=\"1\""),
-              std::string::npos);
+    EXPECT_PRED2(test::Has, ReadText(folders_.ProcessOut + "a.xml"), "\"Q2\" Shift=\"0,0\" Checked=\"1\"");
     EXPECT_TRUE(LogHas("a.tif: Result replaces the earlier a.xml"));
     EXPECT_TRUE(LogHas("b.tif: Replaces an earlier image, whose result b.xml is removed"));
     EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.tif", "a.xml", "b.tif", "c.png", "c.tif", "c.xml"}));
