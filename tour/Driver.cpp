@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QListView>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QTimer>
 #include <QToolBar>
@@ -20,6 +22,18 @@ constexpr int kHeight = 860;
 // The picture during the run is taken after this many files, at the first page with this many checked boxes.
 constexpr int kFilesBeforeShot = 5;
 constexpr int kCheckedInShot = 8;
+
+// The box that is selected for the picture of the profile desk, counted from 0.
+constexpr int kBoxInShot = 6;
+
+void ClickOn(QWidget& widget, const QPointF& point) {
+    const QPointF onScreen = widget.mapToGlobal(point);
+    QMouseEvent press(QEvent::MouseButtonPress, point, onScreen, Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&widget, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, point, onScreen, Qt::LeftButton, {}, {});
+    QApplication::sendEvent(&widget, &release);
+    QApplication::processEvents();
+}
 
 int CountChecked(const QTreeWidget& boxes) {
     int checked = 0;
@@ -58,6 +72,7 @@ void Driver::Drive() {
         Shoot(reports, "5-messages-about-files");
         reports.close();
     }
+    ShootProfileDesk();
     ShootSettingsDialog();
     window_.close();
 }
@@ -81,11 +96,21 @@ void Driver::Press(const char* key) {
     QApplication::processEvents();
 }
 
+void Driver::ShootProfileDesk() {
+    auto& strip = Find<QListView>(window_, "ImgThumbnail1");
+    const QModelIndex last = strip.model()->index(strip.model()->rowCount() - 1, 0);
+    ClickOn(*strip.viewport(), strip.visualRect(last).center());
+    Press("FitWidth");
+    auto& boxes = Find<QTreeWidget>(window_, "lvwSettings");
+    ClickOn(*boxes.viewport(), boxes.visualItemRect(boxes.topLevelItem(kBoxInShot)).center());
+    ShootWindow("6-profile-editor");
+}
+
 void Driver::ShootSettingsDialog() {
     // The dialog is modal: it can be looked at only from its own event loop.
     QTimer::singleShot(0, this, [this] {
         if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            Shoot(*dialog, "6-settings");
+            Shoot(*dialog, "7-settings");
             dialog->reject();
         }
     });

@@ -8,9 +8,9 @@
 
 namespace tavrene::tour {
 
-/// Drives the real window through a processing run by the buttons that a person would press, and takes a
-/// picture at each stage. Meant for a working folder that has scans waiting and for settings that show pages
-/// during a run.
+/// Drives the real window through a processing run by the buttons that a person would press, opens a profile
+/// and selects one of its boxes, and takes a picture at each stage. Meant for a working folder that has scans
+/// waiting and for settings that show pages during a run.
 class Driver final : public QObject {
   public:
     /// Pictures go to `shotsFolder`, which is made when it is missing.
@@ -29,6 +29,7 @@ class Driver final : public QObject {
     void ShootWindow(const QString& name);
     void Shoot(QWidget& widget, const QString& name);
     void Press(const char* key);
+    void ShootProfileDesk();
     void ShootSettingsDialog();
 
     ui::MainWindow& window_;

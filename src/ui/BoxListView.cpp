@@ -34,8 +34,8 @@ class BoxListView::NameDelegate final : public QStyledItemDelegate {
         auto* const editor = new QLineEdit(parent);
         editor->setObjectName("BoxName");
         editor->setAccessibleName("Name of the check box");
-        editor->setFrame(false);
-        editor->setAutoFillBackground(true);
+        // The usual frame of a field would leave no room for the text in a row.
+        editor->setStyleSheet("QLineEdit { border: 1px solid palette(highlight); }");
         list_.nameEditor_ = editor;
         return editor;
     }

@@ -23,6 +23,9 @@ QString ExtensionOf(const std::string& filter) {
     return ToQt(filter).section('*', -1);
 }
 
+constexpr int kWidth = 760;
+constexpr int kHeight = 460;
+
 class FileDialog final : public QFileDialog {
   public:
     FileDialog(QWidget& window, const QString& title, const commands::FileQuestion& question)
@@ -32,6 +35,7 @@ class FileDialog final : public QFileDialog {
         setOption(QFileDialog::HideNameFilterDetails);
         setNameFilter(NameFilter(question.filter));
         selectFile(ToQt(question.fileName));
+        resize(kWidth, kHeight);
     }
 
     /// Files to be written get this extension. Added before the dialog looks whether the file is there
