@@ -85,8 +85,8 @@ void StatusPanels::SetProgressRange(int last) {
 }
 
 void StatusPanels::SetProgress(int value) {
+    // The bar paints itself at once, but only where the step can be seen.
     progress_->setValue(value);
-    progress_->repaint();
 }
 
 }  // namespace tavrene::ui
