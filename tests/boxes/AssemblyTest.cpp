@@ -21,49 +21,29 @@ using imaging::WorkGrid;
 
 constexpr BoxSizes kSizes{20, 40, 20, 40};
 
-// A segment that is drawn on the page as well.
-class Sheet {
-  public:
-    Sheet() : analysis(WorkGrid(300, 320, 300), kSizes, boxes::ReachFor(kSizes)) {}
+LineSeg Side(int left, int bottom, int right, int top) {
+    LineSeg segment;
+    segment.Orientation = left == right ? Orientation::Vertical : Orientation::Horizontal;
+    segment.L = static_cast<std::int16_t>(left);
+    segment.T = static_cast<std::int16_t>(bottom);
+    segment.R = static_cast<std::int16_t>(right);
+    segment.B = static_cast<std::int16_t>(top);
+    return segment;
+}
 
-    LineSeg& Across(int row, int left, int right) {
-        for (int column = left; column <= right; ++column)
-            analysis.SaveGrid.SetInk(column, row);
-        return Add(Orientation::Horizontal, left, row, right, row);
+// A printed box, 30 pixels high, and its sides.
+BoxAnalysis PrintedBox(int width) {
+    BoxAnalysis analysis(WorkGrid(300, 320, 300), kSizes, boxes::ReachFor(kSizes));
+    analysis.Segments = {Side(50, 110, 50 + width, 110), Side(50, 140, 50 + width, 140),
+                         Side(50, 110, 50, 140), Side(50 + width, 110, 50 + width, 140)};
+    for (const LineSeg& side : analysis.Segments) {
+        for (int row = side.T; row <= side.B; ++row) {
+            for (int column = side.L; column <= side.R; ++column)
+                analysis.SaveGrid.SetInk(column, row);
+        }
     }
-
-    LineSeg& Down(int column, int bottom, int top) {
-        for (int row = bottom; row <= top; ++row)
-            analysis.SaveGrid.SetInk(column, row);
-        return Add(Orientation::Vertical, column, bottom, column, top);
-    }
-
-    Sheet& Outline(int width = 30) {
-        Across(110, 50, 50 + width);
-        Across(140, 50, 50 + width);
-        Down(50, 110, 140);
-        Down(50 + width, 110, 140);
-        return *this;
-    }
-
-    std::vector<BoxRect> Boxes() {
-        boxes::IdentifyBoxes(analysis);
-        return analysis.Boxes;
-    }
-
-    BoxAnalysis analysis;
-
-  private:
-    LineSeg& Add(Orientation orientation, int left, int bottom, int right, int top) {
-        LineSeg segment;
-        segment.Orientation = orientation;
-        segment.L = static_cast<std::int16_t>(left);
-        segment.T = static_cast<std::int16_t>(bottom);
-        segment.R = static_cast<std::int16_t>(right);
-        segment.B = static_cast<std::int16_t>(top);
-        return analysis.Segments.emplace_back(segment);
-    }
-};
+    return analysis;
+}
 
 BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
     BoxRect box;
@@ -80,79 +60,42 @@ BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
 TEST(Assembly, AMissingSideIsCreatedWhicheverItIs) {
     for (int missing = 0; missing <= 4; ++missing) {
         SCOPED_TRACE(missing);
-        Sheet sheet;
-        std::vector<LineSeg>& sides = sheet.Outline().analysis.Segments;
+        BoxAnalysis analysis = PrintedBox(30);
         if (missing < 4)
-            sides.erase(sides.begin() + missing);
-        const std::vector<BoxRect> found = sheet.Boxes();
-        ASSERT_EQ(found.size(), 1U);
-        EXPECT_EQ(std::tie(found[0].L, found[0].T, found[0].R, found[0].B), std::tuple(50, 110, 80, 140));
-        EXPECT_EQ(sides.size(), 4U);
-        for (const LineSeg& side : sides)
-            EXPECT_EQ(side.BoxId, 0) << "the segment that the box was built from counts as well";
+            analysis.Segments.erase(analysis.Segments.begin() + missing);
+        boxes::IdentifyBoxes(analysis);
+        ASSERT_EQ(analysis.Boxes.size(), 1U);
+        const BoxRect& box = analysis.Boxes[0];
+        EXPECT_EQ(std::tie(box.L, box.T, box.R, box.B), std::tuple(50, 110, 80, 140));
+        EXPECT_EQ(analysis.Segments.size(), 4U);
     }
 }
 
 TEST(Assembly, CornersAreSharedWithinTwoPixels) {
-    for (const int off : {2, 3}) {
-        SCOPED_TRACE(off);
-        Sheet sheet;
-        sheet.Across(110, 50, 80);
-        sheet.Down(50 + off, 110 + off, 140);
-        EXPECT_EQ(boxes::ShareCorner(sheet.analysis.Segments[0], sheet.analysis.Segments[1]), off == 2);
-    }
+    EXPECT_TRUE(boxes::ShareCorner(Side(50, 110, 80, 110), Side(52, 112, 52, 140)));
+    EXPECT_FALSE(boxes::ShareCorner(Side(50, 110, 80, 110), Side(53, 113, 53, 140)));
 }
 
 TEST(Assembly, BoxesBelowTheSmallestSizeAreDropped) {
-    EXPECT_TRUE(Sheet().Outline(19).Boxes().empty());
-    EXPECT_EQ(Sheet().Outline(20).Boxes().size(), 1U);
-}
-
-TEST(Assembly, ABowlOrABarredLetterIsNoBox) {
-    Sheet open;
-    open.Across(110, 56, 74);
-    open.Across(140, 56, 74);
-    open.Down(50, 116, 134);
-    open.Down(80, 116, 134);
-    for (LineSeg& side : open.analysis.Segments) {
-        // Found segments that reach the corners, on a page where the ink does not.
-        if (side.IsVertical()) {
-            side.T = 110;
-            side.B = 140;
-        } else {
-            side.L = 50;
-            side.R = 80;
-        }
+    for (const int width : {19, 20}) {
+        BoxAnalysis analysis = PrintedBox(width);
+        boxes::IdentifyBoxes(analysis);
+        EXPECT_EQ(analysis.Boxes.size(), width == 20 ? 1U : 0U);
     }
-    EXPECT_TRUE(open.Boxes().empty());
-
-    Sheet barred;
-    barred.Outline();
-    for (int row = 123; row <= 127; ++row) {
-        for (int column = 50; column <= 80; ++column)
-            barred.analysis.SaveGrid.SetInk(column, row);
-    }
-    EXPECT_TRUE(barred.Boxes().empty());
 }
 
 TEST(CreatedSide, IsMadeAnewWhereTheInkRunsOnTooFar) {
-    Sheet sheet;
-    for (int row = 60; row < 160; ++row)
-        sheet.analysis.WorkGrid.SetInk(80, row);
-    sheet.Down(50, 110, 140);
+    BoxAnalysis analysis = PrintedBox(30);
     const boxes::ExpectedSide expected{{80, 107}, {80, 143}};
-    const LineSeg side = boxes::CreateSide(sheet.analysis, sheet.analysis.Segments[0], expected, 3);
-    EXPECT_EQ(boxes::OverlongInk(sheet.analysis, side), 100);
-    EXPECT_EQ(side.L, 80);
-    EXPECT_EQ(side.T, 110) << "as long as the side that it faces";
-    EXPECT_EQ(side.B, 140);
-    EXPECT_EQ(side.BoxId, 3);
-
     for (int row = 60; row < 160; ++row)
-        sheet.analysis.WorkGrid.SetInk(80, row, row >= 105 && row < 145);
-    const LineSeg fitting = boxes::CreateSide(sheet.analysis, sheet.analysis.Segments[0], expected, 3);
-    EXPECT_EQ(boxes::OverlongInk(sheet.analysis, fitting), 0) << "40 pixels are not more than the largest";
-    EXPECT_EQ(fitting.T, 107);
+        analysis.WorkGrid.SetInk(80, row);
+    LineSeg side = boxes::CreateSide(analysis, analysis.Segments[2], expected, 3);
+    EXPECT_EQ(std::tie(side.L, side.T, side.B, side.BoxId), std::tuple(80, 110, 140, 3))
+        << "as long as the side that it faces";
+    for (int row = 60; row < 160; ++row)
+        analysis.WorkGrid.SetInk(80, row, row >= 105 && row < 145);
+    side = boxes::CreateSide(analysis, analysis.Segments[2], expected, 3);
+    EXPECT_EQ(side.T, 107) << "40 pixels are not more than the largest";
 }
 
 std::vector<BoxRect> Filtered(std::vector<BoxRect> boxes) {

@@ -49,7 +49,7 @@ class BoxEditorTest : public ::testing::Test {
     test::Transcript transcript_;
     test::FakeOperator person_{transcript_};
     test::FakeScreen screen_{transcript_};
-    test::FakeDesk desk_{transcript_};
+    test::FakeDesk desk_;
     OpenProfile profile_;
     BoxEditor editor_{profile_, person_, {screen_, screen_, desk_, desk_, desk_}};
 };

@@ -28,33 +28,14 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_FALSE(review_.HasForm());
 
     Open(1);
-    EXPECT_EQ(transcript_.Lines(), (Names{"select: b 100",
-                                          "rects: clear",
-                                          "rows: clear",
-                                          "rows: one column",
-                                          "panel Message: ",
-                                          "panel ElapsedTime: ",
-                                          "view: show b.tif",
-                                          "rects: clear",
-                                          "rows: clear",
-                                          "rows: one column",
-                                          "rows: column Val",
-                                          "rows: column Ink",
-                                          "row: 1 Q1|0",
-                                          "ink: 1 0.0%",
-                                          "rect: 1 62,71 24x24 unchecked",
-                                          "row: 2 Q2|1",
-                                          "ink: 2 54.6%",
-                                          "rect: 2 116,71 24x24 checked",
-                                          "row: 3 Q3|1",
-                                          "ink: 3 54.6%",
-                                          "rect: 3 62,125 24x24 checked",
-                                          "row: 4 Q4|0",
-                                          "ink: 4 0.0%",
-                                          "rect: 4 116,125 24x24 unchecked",
-                                          "choice: Form",
-                                          "panel Message: Image [b.tif], Profile [Form]",
-                                          "panel ElapsedTime: OMRs:4"}));
+    EXPECT_EQ(transcript_.Joined(),
+              "select: b 100 | rects: clear | rows: clear | rows: one column | panel Message:  | "
+              "panel ElapsedTime:  | view: show b.tif | rects: clear | rows: clear | rows: one column | "
+              "rows: column Val | rows: column Ink | row: 1 Q1|0 | ink: 1 0.0% | "
+              "rect: 1 62,71 24x24 unchecked | row: 2 Q2|1 | ink: 2 54.6% | rect: 2 116,71 24x24 checked | "
+              "row: 3 Q3|1 | ink: 3 54.6% | rect: 3 62,125 24x24 checked | row: 4 Q4|0 | ink: 4 0.0% | "
+              "rect: 4 116,125 24x24 unchecked | choice: Form | "
+              "panel Message: Image [b.tif], Profile [Form] | panel ElapsedTime: OMRs:4");
 
     Flip(2);
     Flip(4);
@@ -101,9 +82,9 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
                           "Form [c] rejected."}));
 
     Toggle();
-    EXPECT_EQ(transcript_.Lines(), (Names{"panel File: Profiles:1, Active:1",
-                                          "panel Message: ", "panel ElapsedTime: ", "view: clear",
-                                          "rects: clear", "rows: clear", "rows: one column", "choice: "}));
+    EXPECT_EQ(transcript_.Joined(),
+              "panel File: Profiles:1, Active:1 | panel Message:  | panel ElapsedTime:  | view: clear | "
+              "rects: clear | rows: clear | rows: one column | choice: ");
     EXPECT_FALSE(review_.InReview());
 }
 

@@ -121,6 +121,10 @@ TEST_F(BadInputTest, FoldersThatAreGoneStopNothing) {
     std::filesystem::remove_all(folders_.ProcessIn);
     Process();
     EXPECT_EQ(transcript_.LinesOf("message: ").size(), 1U);
+
+    std::filesystem::remove_all(folders_.Profiles);
+    Process();
+    EXPECT_TRUE(profiles_.empty());
 }
 
 TEST_F(BadInputTest, AFormWhoseProfileCannotBeReadWithGetsNoResult) {

@@ -58,28 +58,12 @@ TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
                "form.tiff: Unrecognized File type", "form.tiff: Processing complete",
                "Image [other.tif] unclassified", "other.tif: Processing complete", ": Processing complete",
                "Processed 4 Files, 7 Sec."}));
-    EXPECT_EQ(transcript_.Lines(), (Names{"panel ElapsedTime: ",
-                                          "panel Message: Processing started",
-                                          "view: clear",
-                                          "rects: clear",
-                                          "rows: clear",
-                                          "rows: column Val",
-                                          "range: 4",
-                                          "panel File: A form & Co.TIF",
-                                          "progress: 1",
-                                          "events",
-                                          "panel File: b.tif",
-                                          "progress: 2",
-                                          "events",
-                                          "panel File: form.tiff",
-                                          "progress: 3",
-                                          "events",
-                                          "panel File: other.tif",
-                                          "progress: 4",
-                                          "events",
-                                          "panel File: Profiles:1, Active:1",
-                                          "progress: 0",
-                                          "panel ElapsedTime: 4 Files, 7 Sec."}));
+    EXPECT_EQ(transcript_.Joined(),
+              "panel ElapsedTime:  | panel Message: Processing started | view: clear | rects: clear | "
+              "rows: clear | rows: column Val | range: 4 | panel File: A form & Co.TIF | progress: 1 | "
+              "events | panel File: b.tif | progress: 2 | events | panel File: form.tiff | progress: 3 | "
+              "events | panel File: other.tif | progress: 4 | events | panel File: Profiles:1, Active:1 | "
+              "progress: 0 | panel ElapsedTime: 4 Files, 7 Sec.");
 }
 
 TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {

@@ -31,7 +31,7 @@ class DeskWorld : public RunWorld {
         return LogLines(ReadText(folders_.Log + "TavreneBoxes-Profile-20240305.Log"));
     }
 
-    FakeDesk desk_{transcript_};
+    FakeDesk desk_;
     profiles::OpenProfile profile_;
     profiles::EditorScreen desktop_{screen_, screen_, desk_, desk_, desk_};
     profiles::BoxEditor editor_{profile_, person_, desktop_};

@@ -6,18 +6,15 @@
 #include "imaging/TiffPages.h"
 #include "profiles/EditorScreen.h"
 #include "support/FakeScreen.h"
-#include "support/Transcript.h"
 
 namespace tavrene::test {
 
 /// The editor's side of the window: boxes that can be selected and moved, rows, and the strip. What it shows
-/// can be asked for; every change goes into the transcript.
+/// can be asked for.
 class FakeDesk final : public profiles::EditableBoxes,
                        public profiles::EditableRows,
                        public profiles::ThumbnailStrip {
   public:
-    explicit FakeDesk(Transcript& transcript) : transcript_(transcript) {}
-
     std::map<int, imaging::PageRect> boxes;
     std::map<int, std::string> rows;
     std::vector<std::string> captions;
@@ -33,42 +30,29 @@ class FakeDesk final : public profiles::EditableBoxes,
         return profiles::ReportOf(group, boxes.at(group), zoom, scroll);
     }
 
-    void PutBox(int group, const imaging::PageRect& box) override {
-        boxes[group] = box;
-        transcript_.Add("box: " + std::to_string(group));
-    }
+    void PutBox(int group, const imaging::PageRect& box) override { boxes[group] = box; }
     void RemoveBox(int group) override { boxes.erase(group); }
     void SelectBox(int group) override { selectedBox = group; }
     void SetTool(profiles::BoxTool newTool) override { tool = newTool; }
     void SetNextGroup(int group) override { nextGroup = group; }
     profiles::ScrollOffset Scroll() const override { return scroll; }
 
-    void ClearRows() override {
-        rows.clear();
-        transcript_.Add("rows: clear");
-    }
-    void AddValColumn() override { transcript_.Add("rows: column Val"); }
-    void RemoveExtraColumns() override { transcript_.Add("rows: one column"); }
-    void AddRow(int number, std::string_view name, std::string_view) override {
-        rows[number] = name;
-        transcript_.Add("row: " + std::to_string(number) + " " + std::string(name));
-    }
+    void ClearRows() override { rows.clear(); }
+    void AddValColumn() override {}
+    void RemoveExtraColumns() override {}
+    void AddRow(int number, std::string_view name, std::string_view) override { rows[number] = name; }
     void InsertRow(int number, std::string_view name) override { rows[number] = name; }
     void RemoveRow(int number) override { rows.erase(number); }
     void RenameRow(int number, std::string_view name) override { rows[number] = name; }
     void SelectRow(int number) override { selectedRow = number; }
-    void RefreshRows() override { transcript_.Add("rows: refresh"); }
+    void RefreshRows() override {}
 
     void ShowThumbnails(std::span<const profiles::StripThumbnail> thumbnails) override {
         captions.clear();
         for (const profiles::StripThumbnail& thumbnail : thumbnails)
             captions.push_back(thumbnail.caption);
-        transcript_.Add("strip: " + std::to_string(captions.size()));
     }
     void SelectThumbnail(int k) override { selectedThumbnail = k; }
-
-  private:
-    Transcript& transcript_;
 };
 
 }  // namespace tavrene::test

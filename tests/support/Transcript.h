@@ -13,6 +13,14 @@ class Transcript {
     void Clear() { lines_.clear(); }
     const std::vector<std::string>& Lines() const { return lines_; }
 
+    /// All lines on one, parted by " | ".
+    std::string Joined() const {
+        std::string text;
+        for (const std::string& line : lines_)
+            text += (text.empty() ? "" : " | ") + line;
+        return text;
+    }
+
     /// The lines that begin with `prefix`, in order, without it.
     std::vector<std::string> LinesOf(const std::string& prefix) const {
         std::vector<std::string> found;
