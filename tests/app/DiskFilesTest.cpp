@@ -5,6 +5,7 @@
 
 #include "app/Files.h"
 #include "app/Numeric.h"
+#include "support/Faults.h"
 #include "support/TempFolder.h"
 
 namespace tavrene::app {
@@ -39,19 +40,13 @@ TEST_F(DiskFilesTest, ReplacesAFileAsAWholeOrNotAtAll) {
 
     // A folder in the way refuses the last step, the renaming.
     files_.CreateFolder(folder_.File("taken"));
-    try {
-        files_.Write(folder_.File("taken"), AsBytes("x"), Keep::Durably);
-        ADD_FAILURE();
-    } catch (const FileError& error) {
-        EXPECT_TRUE(std::string(error.what()).starts_with("Cannot write " + folder_.File("taken") + ": "));
-    }
+    const std::string taken = folder_.File("taken");
+    const std::string fault = test::FaultOf([&] { files_.Write(taken, AsBytes("x"), Keep::Durably); });
+    EXPECT_PRED2(test::Has, fault, "Cannot write " + taken + ": ");
     EXPECT_EQ(EntriesOnDisk(), 2U);
-    try {
-        files_.Write(folder_.File("none/a.xml"), AsBytes("x"), Keep::Durably);
-        ADD_FAILURE();
-    } catch (const FileError& error) {
-        EXPECT_EQ(error.what(), "Cannot write " + folder_.File("none/a.xml") + ": No such file or directory");
-    }
+    const std::string none = folder_.File("none/a.xml");
+    EXPECT_EQ(test::FaultOf([&] { files_.Write(none, AsBytes("x"), Keep::Durably); }),
+              "Cannot write " + none + ": No such file or directory");
 }
 
 TEST_F(DiskFilesTest, MovesOverAnotherFileAndAcrossFileSystems) {

@@ -17,7 +17,6 @@ namespace {
 
 using samples::Canvas;
 using samples::Photometric;
-using samples::SaveImage;
 
 class PageReaderTest : public ::testing::Test {
   protected:
@@ -26,6 +25,10 @@ class PageReaderTest : public ::testing::Test {
         picture_.FillRect(90, 40, 10, 20);
         picture_.FillRect(40, 20, 9, 9, 100);  // dark enough
         picture_.FillRect(60, 20, 9, 9, 200);  // too light
+    }
+
+    void Save(const Bitmap& picture, const std::string& name, int quality = 75) const {
+        samples::SaveImage(picture, FormatOfExtension(name).value(), folder_.File(name), quality);
     }
 
     std::variant<Page, PageFault> Read(const std::string& name) {
@@ -65,15 +68,13 @@ class PageReaderTest : public ::testing::Test {
 };
 
 TEST_F(PageReaderTest, FindsTheSameInkInEveryFileType) {
-    SaveImage(samples::ToBilevel(picture_), ImageFormat::Tiff, folder_.File("white.tif"));
-    SaveImage(samples::ToBilevel(picture_, Photometric::MinIsBlack), ImageFormat::Tiff,
-              folder_.File("black.TIF"));
-    SaveImage(samples::ToGrey(picture_), ImageFormat::Png, folder_.File("grey.png"));
-    SaveImage(samples::ToColour(picture_, picture_, picture_), ImageFormat::Png, folder_.File("colour.PNG"));
-    SaveImage(samples::ToGrey(picture_), ImageFormat::Gif, folder_.File("grey.gif"));
-    SaveImage(samples::ToBilevel(picture_), ImageFormat::Bmp, folder_.File("two.bmp"));
-    SaveImage(samples::ToColour(picture_, picture_, picture_), ImageFormat::Jpeg, folder_.File("photo.jpg"),
-              100);
+    Save(samples::ToBilevel(picture_), "white.tif");
+    Save(samples::ToBilevel(picture_, Photometric::MinIsBlack), "black.TIF");
+    Save(samples::ToGrey(picture_), "grey.png");
+    Save(samples::ToColour(picture_, picture_, picture_), "colour.PNG");
+    Save(samples::ToGrey(picture_), "grey.gif");
+    Save(samples::ToBilevel(picture_), "two.bmp");
+    Save(samples::ToColour(picture_, picture_, picture_), "photo.jpg", 100);
     for (const char* name : {"white.tif", "black.TIF", "grey.png", "colour.PNG", "two.bmp", "photo.jpg"}) {
         const Page page = Expect(name);
         EXPECT_EQ(page.DPI_X, 200) << name;
@@ -89,10 +90,9 @@ TEST_F(PageReaderTest, FindsTheSameInkInEveryFileType) {
 TEST_F(PageReaderTest, TakesTheDarkerOfTwoPaletteColoursForInk) {
     const RGBQUAD blue{120, 40, 20, 0};
     const RGBQUAD cream{200, 240, 250, 0};
-    for (const ImageFormat format : {ImageFormat::Png, ImageFormat::Bmp}) {
-        const std::string extension = format == ImageFormat::Png ? ".png" : ".bmp";
-        SaveImage(WithPalette(cream, blue, true), format, folder_.File("one" + extension));
-        SaveImage(WithPalette(blue, cream, false), format, folder_.File("zero" + extension));
+    for (const std::string extension : {".png", ".bmp"}) {
+        Save(WithPalette(cream, blue, true), "one" + extension);
+        Save(WithPalette(blue, cream, false), "zero" + extension);
         Expect("one" + extension);
         Expect("zero" + extension);
     }
@@ -133,18 +133,18 @@ TEST_F(PageReaderTest, LaysTransparentPicturesOnWhite) {
             FreeImage_SetPixelColor(full.Get(), x, y, &pixel);
         }
     }
-    SaveImage(full, ImageFormat::Png, folder_.File("clear.png"));
+    Save(full, "clear.png");
     Expect("clear.png");
 
     Bitmap deep(FreeImage_ConvertToRGB16(samples::ToGrey(picture_).Get()));
-    SaveImage(deep, ImageFormat::Png, folder_.File("deep.png"));
+    Save(deep, "deep.png");
     Expect("deep.png");
 }
 
 TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
     const Canvas unmeasured(100, 60, 0);
-    SaveImage(samples::ToGrey(unmeasured), ImageFormat::Png, folder_.File("a.png"));
-    SaveImage(samples::ToGrey(unmeasured), ImageFormat::Jpeg, folder_.File("a.jpg"));
+    Save(samples::ToGrey(unmeasured), "a.png");
+    Save(samples::ToGrey(unmeasured), "a.jpg");
     // The library writes a density unit in any case; a camera's file may say "no unit".
     std::string jpeg = test::ReadText(folder_.File("a.jpg"));
     jpeg[jpeg.find("JFIF") + 7] = 0;
@@ -156,8 +156,8 @@ TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
 }
 
 TEST_F(PageReaderTest, RefusesPagesBeyondTheNumberRange) {
-    SaveImage(samples::ToBilevel({32'768, 2, 200}), ImageFormat::Tiff, folder_.File("wide.tif"));
-    SaveImage(samples::ToBilevel({2, 32'768, 200}), ImageFormat::Tiff, folder_.File("tall.tif"));
+    Save(samples::ToBilevel({32'768, 2, 200}), "wide.tif");
+    Save(samples::ToBilevel({2, 32'768, 200}), "tall.tif");
     Expect("wide.tif", PageFault::NotABitmap);
     Expect("tall.tif", PageFault::NotABitmap);
 }
@@ -192,10 +192,10 @@ TEST_F(PageReaderTest, AsksTheHeaderBeforeUnpackingABomb) {
 }
 
 TEST_F(PageReaderTest, RefusesEveryTruncatedFile) {
-    SaveImage(samples::ToBilevel(picture_), ImageFormat::Tiff, folder_.File("a.tif"));
-    SaveImage(samples::ToGrey(picture_), ImageFormat::Png, folder_.File("a.png"));
-    SaveImage(samples::ToGrey(picture_), ImageFormat::Jpeg, folder_.File("a.jpg"));
-    SaveImage(samples::ToGrey(picture_), ImageFormat::Gif, folder_.File("a.gif"));
+    Save(samples::ToBilevel(picture_), "a.tif");
+    Save(samples::ToGrey(picture_), "a.png");
+    Save(samples::ToGrey(picture_), "a.jpg");
+    Save(samples::ToGrey(picture_), "a.gif");
     for (const char* name : {"a.tif", "a.png", "a.jpg", "a.gif"}) {
         const std::string whole = test::ReadText(folder_.File(name));
         for (std::size_t length = 0; length < whole.size(); length += 7) {
@@ -210,7 +210,7 @@ TEST_F(PageReaderTest, RefusesAFaxWithBrokenLines) {
     Canvas page(800, 800, 200);
     for (int k = 0; k < 60; ++k)
         page.DrawRect(20 + 12 * k, 15 + 11 * k, 90, 30, 2);
-    SaveImage(samples::ToBilevel(page), ImageFormat::Tiff, folder_.File("fax.tif"));
+    Save(samples::ToBilevel(page), "fax.tif");
     std::string fax = test::ReadText(folder_.File("fax.tif"));
     for (std::size_t k = fax.size() / 2; k < fax.size() / 2 + 40; ++k)
         fax[k] = static_cast<char>(fax[k] ^ 0x5A);
@@ -228,9 +228,8 @@ class ImageLoaderTest : public PageReaderTest {
 };
 
 TEST_F(ImageLoaderTest, KeepsDisplayCopiesOfTheCurrentImageOnly) {
-    SaveImage(samples::ToBilevel(picture_, Photometric::MinIsBlack), ImageFormat::Tiff,
-              folder_.File("scan.tif"));
-    SaveImage(samples::ToBilevel(Canvas(50, 50, 200)), ImageFormat::Tiff, folder_.File("blank.tif"));
+    Save(samples::ToBilevel(picture_, Photometric::MinIsBlack), "scan.tif");
+    Save(samples::ToBilevel(Canvas(50, 50, 200)), "blank.tif");
     ASSERT_TRUE(loader_.LoadImageForProcessing(folder_.File("scan.tif")));
     EXPECT_EQ(loader_.DisplayCopy(), folder_.File("temp2.tif"));
     const Page shown = Expect("temp2.tif");

@@ -120,14 +120,13 @@ TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {
     const std::string saved = Result("b.xml");
     form_.boxes[0].Name = "New";
     AddProfile("Form", form_);
+    AddProfile("Other", form_);
     LoadProfiles();
     person_.answers = {Answer::Yes, Answer::No};
     Open(1);
     EXPECT_FALSE(review_.HasForm());
     Open(1);
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "Checked:0 of 4 Skip:1");
-    AddProfile("Other", form_);
-    LoadProfiles();
     Choose("Other");
     EXPECT_EQ(transcript_.LinesOf("choice: "), Names{"Form"});
     EXPECT_EQ(Result("b.xml"), saved);

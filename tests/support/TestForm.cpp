@@ -20,12 +20,8 @@ TestForm TestForm::Grid(int columns, int rows, int size, int firstX, int firstY)
     for (int k = 0; k < columns * rows; ++k) {
         const int left = firstX + k % columns * (size + 30);
         const int top = firstY + k / columns * (size + 30);
-        profiles::OmrBox box;
-        box.Name = "Q" + std::to_string(k + 1);
-        box.L = Ordinate(left);
-        box.T = Ordinate(top);
-        box.R = Ordinate(left + size);
-        box.B = Ordinate(top + size);
+        const profiles::OmrBox box = {"Q" + std::to_string(k + 1), Ordinate(left), Ordinate(top),
+                                      Ordinate(left + size), Ordinate(top + size)};
         form.boxes.push_back(box);
     }
     return form;
