@@ -41,5 +41,15 @@ TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
               "e \x96 5 \x80 ? ? ??\r\n");
 }
 
+TEST_F(ActivityLogTest, PassesFailuresOnUnlessTheyAreTolerated) {
+    files_.refuse = [](const std::string&, const std::string&) { return true; };
+    {
+        const ToleratedLogFailures tolerated(log_);
+        log_.LogProcessEvent("lost");
+        EXPECT_EQ(tolerated.LostLines(), 1);
+    }
+    EXPECT_THROW(log_.LogProfileEvent("lost"), FileError);
+}
+
 }  // namespace
 }  // namespace tavrene::app
