@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <algorithm>
+#include <limits>
 
 #include "ui/PageImage.h"
 #include "ui/commands/Zoom.h"
@@ -33,6 +35,9 @@ void PaintEmptyHint(QPainter& painter, const QRect& area, const QPalette& palett
                      "or press Process to read the scans that wait in the folder ProcessIn.");
 }
 
+// Before the first place of either bar, which is not 0 where the page is smaller than the view.
+constexpr QPoint kTopLeft(std::numeric_limits<int>::min(), std::numeric_limits<int>::min());
+
 }  // namespace
 
 ImageView::ImageView(const app::Files& files, QWidget* parent)
@@ -54,16 +59,22 @@ ImageView::ImageView(const app::Files& files, QWidget* parent)
 }
 
 void ImageView::SetPage(const QImage& image) {
-    const bool otherSize = image.size() != page_->Size().toSize();
+    if (HasPage()) {
+        lastSize_ = page_->Size().toSize();
+        lastScroll_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    }
     page_->SetImage(image);
     // Without a rectangle of its own the scene would keep the room that earlier pages took.
     scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
-    if (otherSize) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
-        verticalScrollBar()->setValue(verticalScrollBar()->minimum());
-        isUnseen_ = true;
-    }
+    const bool sameSize = HasPage() && image.size() == lastSize_;
+    ScrollTo(sameSize ? lastScroll_ : kTopLeft);
+    isUnseen_ = !sameSize;
     viewport()->update();
+}
+
+void ImageView::ScrollTo(const QPoint& offset) {
+    horizontalScrollBar()->setValue(std::max(offset.x(), horizontalScrollBar()->minimum()));
+    verticalScrollBar()->setValue(std::max(offset.y(), verticalScrollBar()->minimum()));
 }
 
 void ImageView::ShowFile(const std::string& path) {
@@ -78,10 +89,8 @@ void ImageView::Clear() {
 void ImageView::SetZoom(double percent) {
     zoom_ = percent;
     setTransform(QTransform::fromScale(percent / 100, percent / 100));
-    if (isUnseen_) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
-        verticalScrollBar()->setValue(verticalScrollBar()->minimum());
-    }
+    if (isUnseen_)
+        ScrollTo(kTopLeft);
 }
 
 void ImageView::Refresh() {
@@ -96,6 +105,13 @@ RectItem* ImageView::AddRect(int group, const imaging::PageRect& rect, imaging::
     auto* const item = new RectItem(group, rect, style);
     item->setParentItem(rects_);
     return item;
+}
+
+std::vector<RectItem*> ImageView::Rects() const {
+    std::vector<RectItem*> rects;
+    for (QGraphicsItem* const item : rects_->childItems())
+        rects.push_back(static_cast<RectItem*>(item));
+    return rects;
 }
 
 void ImageView::MakeReachable(const QRectF& rect) {

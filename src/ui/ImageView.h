@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "app/Files.h"
 #include "imaging/PageRects.h"
@@ -23,8 +24,9 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     /// `files` must outlive the view.
     ImageView(const app::Files& files, QWidget* parent);
 
-    /// Replaces the page; a page of another size is shown from its top left corner. Rectangles stay, because
-    /// a form's boxes are drawn before its page is shown.
+    /// Replaces the page. One of the size of the page before it is shown scrolled as that was, also when the
+    /// view was cleared between them, any other from its top left corner. Rectangles stay, because a form's
+    /// boxes are drawn before its page is shown.
     void ShowFile(const std::string& path) override;
 
     /// Takes the page and all rectangles away.
@@ -41,6 +43,9 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
 
     /// Adds a rectangle that is the caller's to change; `ClearRects` takes it away.
     RectItem* AddRect(int group, const imaging::PageRect& rect, imaging::RectStyle style);
+
+    /// All rectangles that are drawn.
+    std::vector<RectItem*> Rects() const;
 
     /// Lets the view scroll to a place beside the page.
     void MakeReachable(const QRectF& rect);
@@ -74,6 +79,7 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
   private:
     bool HasPage() const { return !page_->Size().isEmpty(); }
     void SetPage(const QImage& image);
+    void ScrollTo(const QPoint& offset);
     QPointF PagePoint(const QMouseEvent& event) const;
     void Pan(const QPoint& position);
     void ShowCursorAt(const QPointF& point);
@@ -86,6 +92,8 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     std::function<bool(int, int)> takeArrow_;
     std::optional<QPoint> panFrom_;
     double zoom_ = 100;
+    QSize lastSize_;        ///< Of the page shown last,
+    QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
     int wheelTurned_ = 0;   ///< What is left of the wheel's way to the next step.
     bool isUnseen_ = true;  ///< The page has not been painted yet, so the person has scrolled nowhere.
 };

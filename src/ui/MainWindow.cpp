@@ -38,7 +38,9 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
       splitter_(new QSplitter(this)),
       view_(new ImageView(doors.files, this)),
       boxes_(new BoxListView(this)),
+      side_(new QStackedWidget(this)),
       profiles_(new ProfilePane(this)),
+      forms_(new ReviewPane(this)),
       operator_(*this, *panels_),
       dialogs_(*this),
       log_(doors.files, doors.clock, operator_, state_.folders.Log),
@@ -47,11 +49,14 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
       gate_(operator_, state_.processing),
       desk_(state_, {doors.files, operator_, log_, doors.clock, gate_, dialogs_},
             {*view_, *boxes_, *profiles_}),
-      prompts_([this] { return desk_.MayLeave(); }, {}),
+      prompts_([this] { return desk_.MayLeave(); }, [this] { return review_.MayLeave(); }),
+      review_(state_, {doors.files, operator_, log_, gate_, prompts_}, {*view_, *boxes_, *side_, *forms_},
+              [this] { desk_.Close(); }),
       processing_(
           state_, run_,
           [this] {
               desk_.Close();
+              review_.RunBegins();
               UpdateCommands();
           },
           [this] { close(); }),
@@ -71,10 +76,12 @@ void MainWindow::BuildLayout() {
     splitter_->setObjectName("Splitter1");
     splitter_->setChildrenCollapsible(false);
     splitter_->setHandleWidth(1);
-    profiles_->setMinimumWidth(150);
+    side_->addWidget(profiles_);
+    side_->addWidget(forms_);
+    side_->setMinimumWidth(150);
     boxes_->setMinimumWidth(180);
     view_->setMinimumWidth(300);
-    splitter_->addWidget(profiles_);
+    splitter_->addWidget(side_);
     splitter_->addWidget(view_);
     splitter_->addWidget(boxes_);
     splitter_->setStretchFactor(1, 1);
@@ -95,8 +102,10 @@ void MainWindow::ConnectViewCommands() {
 
 void MainWindow::ConnectCommands() {
     gate_.SetHandler(Command::Process, [this] {
-        if (prompts_.ProfileThenForm())
-            processing_.Process();
+        if (!prompts_.ProfileThenForm())
+            return;
+        gate_.Guard([this] { processing_.Process(); });
+        review_.RunEnded();
     });
     gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
@@ -114,13 +123,15 @@ void MainWindow::RunCommand(Command command) {
 }
 
 void MainWindow::UpdateCommands() {
-    toolbars_.Update([this](Command command) { return gate_.Offers(command); });
+    toolbars_.Update([this](Command command) { return gate_.Offers(command) && !review_.Bars(command); });
     desk_.Update(toolbars_);
+    review_.Update(toolbars_);
 }
 
 void MainWindow::Load() {
     commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
                          gate_);
+    gate_.Guard([this] { review_.Load(); });
 }
 
 void MainWindow::ShowSettings() {

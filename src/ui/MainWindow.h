@@ -13,6 +13,8 @@
 #include "ui/ProfilePane.h"
 #include "ui/QtFileDialogs.h"
 #include "ui/QtOperator.h"
+#include "ui/ReviewMode.h"
+#include "ui/ReviewPane.h"
 #include "ui/StatusPanels.h"
 #include "ui/Toolbars.h"
 #include "ui/commands/AppState.h"
@@ -62,7 +64,9 @@ class MainWindow final : public QMainWindow {
     QSplitter* splitter_;
     ImageView* view_;
     BoxListView* boxes_;
+    QStackedWidget* side_;
     ProfilePane* profiles_;
+    ReviewPane* forms_;
     QtOperator operator_;
     QtFileDialogs dialogs_;
     app::ActivityLog log_;
@@ -70,6 +74,7 @@ class MainWindow final : public QMainWindow {
     commands::CommandGate gate_;
     ProfileDesk desk_;
     commands::SavePrompts prompts_;
+    ReviewMode review_;
     commands::Processing processing_;
     Toolbars toolbars_;
 };

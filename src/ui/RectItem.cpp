@@ -15,6 +15,9 @@ constexpr double kSeam = 1.0;
 constexpr double kSmallSide = 16;
 constexpr double kThinLine = 0.7;
 
+// How far the frame of an emphasised box stands off, in pixels of the screen.
+constexpr double kEmphasisGap = 5;
+
 struct Look {
     QColor color;
     double width;  // pixels of the screen
@@ -50,6 +53,19 @@ void BreakUp(QPen& pen, double side, double dots, double inked) {
     pen.setDashOffset(inked * period / 2);
 }
 
+// A frame that stands off the rectangle, dark on a light seam, over a tint that lets the mark show through.
+// `scale` in pixels of the screen an image pixel.
+void PaintEmphasis(QPainter& painter, const QRectF& rect, double scale, double dots) {
+    const double off = kEmphasisGap / std::max(scale, 0.01);
+    const QRectF frame = rect.adjusted(-off, -off, off, off);
+    painter.setPen(CosmeticPen(QColor(255, 255, 255, 220), 5 * dots));
+    painter.setBrush(QColor(240, 228, 66, 70));
+    painter.drawRect(frame);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(CosmeticPen(QColor(20, 20, 20), 2 * dots));
+    painter.drawRect(frame);
+}
+
 }  // namespace
 
 RectItem::RectItem(int group, const imaging::PageRect& rect, imaging::RectStyle style)
@@ -58,6 +74,19 @@ RectItem::RectItem(int group, const imaging::PageRect& rect, imaging::RectStyle 
 void RectItem::SetRect(const imaging::PageRect& rect) {
     prepareGeometryChange();
     rect_ = QRectF(rect.left, rect.top, rect.width, rect.height);
+}
+
+void RectItem::SetStyle(imaging::RectStyle style) {
+    style_ = style;
+    update();
+}
+
+void RectItem::SetEmphasised(bool emphasised) {
+    if (emphasised == emphasised_)
+        return;
+    emphasised_ = emphasised;
+    setZValue(emphasised ? 1 : 0);
+    update();
 }
 
 QRectF RectItem::boundingRect() const {
@@ -74,6 +103,8 @@ void RectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget
     // Pens that keep their width count in dots of the device, of which a fine screen has several a pixel.
     const double dots = painter->device()->devicePixelRatio();
     const double width = dots * (side < kSmallSide ? kThinLine * look.width : look.width);
+    if (emphasised_)
+        PaintEmphasis(*painter, rect_, scale / dots, dots);
     painter->setPen(CosmeticPen(QColor(255, 255, 255, 200), width + 2 * kSeam * dots));
     painter->drawRect(rect_);
     QPen pen = CosmeticPen(look.color, width);

@@ -15,7 +15,13 @@ class RectItem final : public QGraphicsItem {
 
     int Group() const { return group_; }
 
+    /// Page frame, image pixels.
+    QRectF Rect() const { return rect_; }
     void SetRect(const imaging::PageRect& rect);
+    void SetStyle(imaging::RectStyle style);
+
+    /// Puts a frame around it, in which it stands out from the others.
+    void SetEmphasised(bool emphasised);
 
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
@@ -24,6 +30,7 @@ class RectItem final : public QGraphicsItem {
     int group_;
     QRectF rect_;
     imaging::RectStyle style_;
+    bool emphasised_ = false;
 };
 
 }  // namespace tavrene::ui

@@ -23,6 +23,8 @@ class Toolbars {
     /// Shows a toggle button pressed or released; nothing is run.
     void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
 
+    void SetVisible(commands::Command command, bool visible) { actions_.at(command)->setVisible(visible); }
+
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);

@@ -53,7 +53,7 @@ TEST_F(MainWindowTest, HasTheListedButtonsAndAMenuForEachOfThem) {
                "Delete|Delete Current Profile|on", "-", "ZoomToOrig|Zoom To Original|on", "ZoomIn|Zoom In|on",
                "ZoomOut|Zoom Out|on", "FitPage|Fit Page|on", "FitWidth|Fit Width|on", "-",
                "Process|Start OMR recognition process of images from configured directory|on",
-               "Stop|Stop Process|on", "-", "Review|Review Processed Forms|off", "Okay|Reviewed OK|hidden",
+               "Stop|Stop Process|on", "-", "Review|Review Processed Forms|on", "Okay|Reviewed OK|hidden",
                "AcceptForm|Accept Form (Move to Final Folder)|hidden",
                "RejectForm|Reject Form (Move to Reject Folder)|hidden"}));
     auto& cfg = Find<QToolBar>(*window_, "CfgToolbar");

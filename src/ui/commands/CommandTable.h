@@ -26,6 +26,11 @@ enum class Command {
     RenameBox,
     Undo,
     Redo,
+    OpenForm,
+    NextForm,
+    PreviousForm,
+    FlipBox,
+    NextDoubtful,
     Settings,
     Exit,
     About
@@ -48,7 +53,7 @@ struct CommandInfo {
     std::string_view key;  ///< Object name of the button; unique within its toolbar.
     std::string_view toolTip;
     Menu menu;
-    std::string_view menuText;
+    std::string_view menuText;  ///< Behind a tab the key that does it where its list has the focus.
     std::string_view shortcut;  ///< Portable text ("Ctrl+N"); empty for none.
     std::string_view icon;      ///< Name of the picture; empty for none.
     ButtonGroup group;

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QTreeView>
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "review/ReviewScreen.h"
+
+namespace tavrene::ui {
+
+/// The review list `lvwReview`: a tick, the form's name and the confidence. A click on a line or Enter opens
+/// it; moving the selection does not. A double click is a click.
+class ReviewListView final : public QTreeView, public review::ReviewLines {
+  public:
+    using Opened = std::function<void(std::size_t line)>;
+
+    explicit ReviewListView(QWidget* parent);
+
+    void SetListener(Opened opened) { opened_ = std::move(opened); }
+
+    void ShowLines(std::span<const review::ReviewLine> lines) override;
+    void ChangeLine(std::size_t index, const review::ReviewLine& line) override;
+    void RemoveLine(std::size_t index) override;
+    void SelectLine(std::size_t index) override;
+
+    /// The current line, counted from 0.
+    std::optional<std::size_t> SelectedLine() const;
+
+    /// Makes the line of the open form stand out, wherever the selection is.
+    void MarkOpen(std::optional<std::size_t> line);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    class Lines;
+
+    void TellOpened(const QModelIndex& index);
+
+    Lines* lines_;
+    Opened opened_;
+};
+
+}  // namespace tavrene::ui
