@@ -14,14 +14,14 @@ BusyCursor::~BusyCursor() {
 
 UsualCursor::UsualCursor() {
     while (const QCursor* const cursor = QGuiApplication::overrideCursor()) {
-        before_.push_back(*cursor);
+        before_.insert(before_.begin(), *cursor);
         QGuiApplication::restoreOverrideCursor();
     }
 }
 
 UsualCursor::~UsualCursor() {
-    for (auto cursor = before_.rbegin(); cursor != before_.rend(); ++cursor)
-        QGuiApplication::setOverrideCursor(*cursor);
+    for (const QCursor& cursor : before_)
+        QGuiApplication::setOverrideCursor(cursor);
 }
 
 }  // namespace tavrene::ui

@@ -23,7 +23,7 @@ class UsualCursor {
     UsualCursor& operator=(const UsualCursor&) = delete;
 
   private:
-    std::vector<QCursor> before_;
+    std::vector<QCursor> before_;  ///< The outermost first.
 };
 
 }  // namespace tavrene::ui
