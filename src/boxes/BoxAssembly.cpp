@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <limits>
 
 #include "boxes/BoxCorners.h"
 #include "boxes/BoxFilter.h"
@@ -61,7 +63,9 @@ bool Closes(const LineSeg& side, const LineSeg& a, const LineSeg& b) {
 
 int Assembler::Run() {
     const auto count = static_cast<int>(segments_.size());
-    for (int from = 0; from < count; ++from) {
+    // A page that dense is no form; box numbers have 16 bits.
+    constexpr int lastNumber = std::numeric_limits<std::int16_t>::max();
+    for (int from = 0; from < count && boxNumber_ < lastNumber; ++from) {
         if (!IsFree(from))
             continue;
         taken_.clear();

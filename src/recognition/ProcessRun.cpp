@@ -85,6 +85,8 @@ void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
     for (std::size_t next = 0; next < names.size() && !stop_;) {
         currentName_ = names[next];
         const bool moved = TakeFile(currentName_, profiles);
+        if (!moved)
+            currentName_.clear();
         if (settings_.ProcessSingle)
             return;
         if (moved)
@@ -106,7 +108,7 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     }
     FileOutcome outcome;
     try {
-        outcome = Recognise(name, profiles);
+        Recognise(name, profiles, outcome);
     } catch (const std::exception& error) {
         LogAbout(name, error.what());
     }
@@ -115,21 +117,19 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     return MoveToProcessOut(name, outcome);
 }
 
-ProcessRun::FileOutcome ProcessRun::Recognise(const std::string& name,
-                                              std::span<const ProfileRecord> profiles) {
-    FileOutcome outcome;
+void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
+                           FileOutcome& outcome) {
     if (!loader_.LoadImageForProcessing(folders_.ProcessIn + name))
-        return outcome;
+        return;
     const imaging::Page& page = loader_.CurrentPage();
     Classification classification = ClassifyImage(name, page, profiles, doors_.log);
     if (classification.winner < 0)
-        return outcome;
+        return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.Shifts);
     outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
-    return outcome;
 }
 
 void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profile, std::int16_t confidence,
@@ -161,6 +161,11 @@ void ProcessRun::ShowPage(const FileOutcome& outcome) {
 
 // A move that fails leaves image and results as they were before this file was taken.
 bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& outcome) {
+    if (app::UpperCase(app::Extension(name)) == "XML" &&
+        doors_.files.FileExists(folders_.ProcessOut + name)) {
+        LogAbout(name, "Stays in ProcessIn, since a result of that name lies in ProcessOut");
+        return false;
+    }
     std::optional<app::Bytes> outdated;
     try {
         if (!outcome.hasResult)
@@ -190,8 +195,7 @@ void ProcessRun::TakeBackResult(const std::string& name, const std::optional<app
 // An image without a result must not lie beside the marks of the image that it replaces.
 std::optional<app::Bytes> ProcessRun::RemoveOutdatedResult(const std::string& name) {
     const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (!doors_.files.FileExists(folders_.ProcessOut + name) || !doors_.files.FileExists(path) ||
-        ImageOfResult(doors_.files, path) != name)
+    if (!doors_.files.FileExists(path) || ImageOfResult(doors_.files, path) != name)
         return std::nullopt;
     std::optional<app::Bytes> content = doors_.files.Read(path);
     doors_.files.Delete(path);

@@ -56,7 +56,8 @@ class ProcessRun {
     std::vector<std::string> ListImages();
     void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
-    FileOutcome Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
+    void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                   FileOutcome& outcome);
     void SaveResult(const std::string& name, const profiles::ProfileRecord& profile, std::int16_t confidence,
                     FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);

@@ -165,7 +165,8 @@ void ResultDocument::SetRoot(const char* attribute, const char* value) {
 }
 
 pugi::xml_node ResultDocument::NewMarks(std::size_t count) {
-    Root().remove_child("OMRs");
+    while (Root().remove_child("OMRs")) {
+    }
     pugi::xml_node omrs = Root().append_child("OMRs");
     omrs.append_attribute("Count") = static_cast<unsigned long long>(count);
     return omrs;

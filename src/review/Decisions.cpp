@@ -20,8 +20,8 @@ void Decisions::Save(OpenForm& form) {
     form.SavedProfile = form.Profile.Name;
     form.Changed = false;
     list_.Change(form.Document, true, form.Result.Confidence());
-    doors_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
     list_.ShowCounts();
+    doors_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
 }
 
 bool Decisions::OfferSave(OpenForm& form) {

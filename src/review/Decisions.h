@@ -27,8 +27,8 @@ class Decisions {
     void Decide(const OpenForm& form, Decision decision, Leaving leaving) {
         const FormMove move = MoveForm(form, decision);
         leaving();
-        LogDecision(move);
         list_.ShowCounts();
+        LogDecision(move);
     }
 
     /// Ends a decision that the program did not live to end, and takes its line from the list.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QStorageInfo>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -67,6 +68,21 @@ FolderChooser::FolderChooser() : drives_(new QComboBox), folders_(new QListWidge
     connect(drives_, &QComboBox::activated, this, [this] { GoTo(drives_->currentData().toString()); });
     connect(folders_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* row) { GoTo(row->data(Qt::UserRole).toString()); });
+    folders_->installEventFilter(this);
+}
+
+// The list opens a folder on Enter but passes the key on, which would press the dialog's default button as
+// well.
+bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == folders_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            if (const QListWidgetItem* const row = folders_->currentItem())
+                GoTo(row->data(Qt::UserRole).toString());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void FolderChooser::GoTo(const QString& folder) {

@@ -19,6 +19,9 @@ class FolderChooser final : public QWidget {
     /// Moves to a folder, or to the nearest existing one above it, and sets the drive list to its drive.
     void GoTo(const QString& folder);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void FillDrives();
     void FillFolders();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -35,12 +36,18 @@ class SettingsDialogTest : public testing::Test {
     QString Text(const char* label) { return Find<QLabel>(*dialog_, label).text(); }
     void Click(const char* button) { Find<QPushButton>(*dialog_, button).click(); }
 
-    // Makes a row of the folder list the current folder, as a double click does.
+    // Makes a row of the folder list the current folder by the Enter key, which must not press Save as well.
     void Enter(const QString& folder) {
         auto& list = Find<QListWidget>(*dialog_, "Dir1");
-        for (int row = 0; row < list.count(); ++row)
-            if (list.item(row)->data(Qt::UserRole).toString() == folder)
-                return Q_EMIT list.itemActivated(list.item(row));
+        for (int row = 0; row < list.count(); ++row) {
+            if (list.item(row)->data(Qt::UserRole).toString() != folder)
+                continue;
+            list.setCurrentRow(row);
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(&list, &press);
+            EXPECT_TRUE(dialog_->isVisible());
+            return;
+        }
         FAIL() << "no row for " << FromQt(folder);
     }
 

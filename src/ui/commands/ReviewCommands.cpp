@@ -1,6 +1,7 @@
 #include "ui/commands/ReviewCommands.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "profiles/ProfileLoader.h"
@@ -33,8 +34,13 @@ void ReviewCommands::Toggle(const SavePrompts& prompts) {
     }
 }
 
+// A decision that still cannot be ended must not hide the other forms.
 void ReviewCommands::ShowList() {
-    decisions_.FinishInterrupted();
+    try {
+        decisions_.FinishInterrupted();
+    } catch (const std::exception& error) {
+        doors_.person.ShowMessage("", error.what());
+    }
     list_.Fill(state_.profiles);
 }
 
