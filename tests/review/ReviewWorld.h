@@ -8,6 +8,7 @@
 #include "support/RunWorld.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/ReviewCommands.h"
+#include "ui/commands/WindowLoad.h"
 
 namespace tavrene::test {
 
@@ -17,11 +18,7 @@ using Names = std::vector<std::string>;
 /// as the window's do.
 class ReviewWorld : public RunWorld {
   protected:
-    ReviewWorld() {
-        AddProfile("Form", form_);
-        state_.settings = settings_;
-        state_.folders = folders_;
-    }
+    ReviewWorld() { AddProfile("Form", form_); }
 
     void AddScan(const std::string& name, const TestForm::Filling& filling = {}) {
         form_.SaveScan(folders_.ProcessIn + name, filling);
@@ -90,7 +87,7 @@ class ReviewWorld : public RunWorld {
     }
 
     TestForm form_ = TestForm::Grid(2, 2);
-    commands::AppState state_;
+    commands::AppState state_ = commands::InitialState(settings_);
     FakeReviewScreen list_{transcript_};
     review::ReviewDoors doors_{files_, log_, person_, screen_, screen_, list_, screen_, list_, list_, list_};
     commands::CommandGate gate_{person_, state_.processing};
