@@ -85,7 +85,7 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(view_);
     splitter_->addWidget(boxes_);
     splitter_->setStretchFactor(1, 1);
-    splitter_->setSizes({190, 630, 220});
+    splitter_->setSizes({240, 550, 250});
     setCentralWidget(splitter_);
     setStatusBar(panels_);
     setMinimumSize(800, 560);

@@ -113,6 +113,7 @@ ReviewListView::ReviewListView(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setTextElideMode(Qt::ElideMiddle);
     setAlternatingRowColors(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,0 +1,343 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTreeView>
+
+#include "ui/DeskWindow.h"
+#include "ui/RectItem.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::Button;
+using test::DialogScript;
+using test::Find;
+using test::ReadText;
+using test::TestForm;
+using Names = std::vector<std::string>;
+using Box = QMessageBox;
+
+class ReviewModeTest : public test::DeskWindow {
+  protected:
+    ReviewModeTest() {
+        AddProfile("Form", form_);
+        form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1}});
+        form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {2, 3}, .dx = 2, .dy = -1});
+        form_.SaveScan(folders_.ProcessIn + "c.tif", {});
+    }
+
+    void ProcessAndReview() {
+        Open();
+        Click("Process");
+        Click("Review");
+    }
+
+    QTreeView& List() { return Find<QTreeView>(*window_, "lvwReview"); }
+    QComboBox& Choice() { return Find<QComboBox>(*window_, "cboProfiles"); }
+
+    /// "+ a 100 *": ticked, open.
+    Names Lines() {
+        Names lines;
+        const QAbstractItemModel& model = *List().model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QModelIndex name = model.index(row, 0);
+            lines.push_back((name.data(Qt::CheckStateRole).toInt() == Qt::Checked ? "+ " : "") +
+                            FromQt(name.data().toString() + " " + model.index(row, 1).data().toString()) +
+                            (name.data(Qt::FontRole).value<QFont>().bold() ? " *" : ""));
+        }
+        return lines;
+    }
+
+    void ClickLine(int row) {
+        QTest::mouseClick(List().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          List().visualRect(List().model()->index(row, 0)).center());
+    }
+    int Selected() { return List().currentIndex().row(); }
+
+    Names Marks() {
+        Names marks;
+        for (int row = 0; row < Rows().topLevelItemCount(); ++row) {
+            const QTreeWidgetItem& item = *Rows().topLevelItem(row);
+            marks.push_back(FromQt(item.text(0) + " " + item.text(1) + " " + item.text(2)) +
+                            (item.font(0).bold() ? " ?" : ""));
+        }
+        return marks;
+    }
+
+    /// Where the box of a group is drawn.
+    QPointF Middle(int group) {
+        for (QGraphicsItem* const item : View().items())
+            if (const auto* const rect = dynamic_cast<RectItem*>(item); rect && rect->Group() == group)
+                return rect->Rect().center();
+        ADD_FAILURE() << "no box " << group;
+        return {};
+    }
+
+    bool Offers(const char* key) { return Find<QAction>(*window_, key).isEnabled(); }
+    bool Shows(const char* key) {
+        QApplication::processEvents();
+        return Button(*window_, "MainToolbar", key).isVisible();
+    }
+
+    TestForm form_ = TestForm::Grid(2, 2);
+};
+
+TEST_F(ReviewModeTest, CorrectsAndDecidesWithTheMouse) {
+    ProcessAndReview();
+    EXPECT_TRUE(List().isVisible() && Choice().isVisible() && Shows("Okay") && Shows("AcceptForm"));
+    EXPECT_FALSE(Strip().isVisible() || Offers("New") || Offers("Save") || Offers("Okay"));
+    EXPECT_FALSE(Choice().isEnabled());
+    EXPECT_EQ(Lines(), (Names{"a 100", "b 100", "c 100"}));
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 3");
+
+    ClickLine(1);
+    EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *", "c 100"}));
+    EXPECT_EQ(Marks(), (Names{"Q1 0 0.0%", "Q2 1 54.6%", "Q3 1 54.6%", "Q4 0 0.0%"}));
+    EXPECT_EQ(Panel("Message"), "Image [b.tif], Profile [Form]");
+    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:4");
+    EXPECT_EQ(Choice().currentText(), "Form");
+
+    ClickRow(1);
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:1 of 4");
+    ClickPage(Middle(4));
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 4");
+    EXPECT_EQ(Rows().currentItem()->text(0), "Q4");
+    Click("Okay");
+    EXPECT_EQ(Lines()[1], "+ b 100 *");
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    Click("Okay");
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    Click("AcceptForm");
+    EXPECT_EQ(Lines(), (Names{"a 100", "c 100"}));
+    EXPECT_EQ(Selected(), 1);
+    EXPECT_FALSE(Offers("AcceptForm"));
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 2");
+    EXPECT_NE(ReadText(folders_.ProcessFinal + "b.xml")
+                  .find("<OMR Name=\"Q2\" Shift=\"2,-1\" Checked=\"0\" />\n"
+                        "\t\t<OMR Name=\"Q3\" Shift=\"2,-1\" Checked=\"1\" />\n"
+                        "\t\t<OMR Name=\"Q4\" Shift=\"2,-1\" Checked=\"1\" />"),
+              std::string::npos);
+    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
+
+    ClickLine(1);
+    Click("RejectForm");
+    EXPECT_EQ(In(folders_.ProcessReject), (Names{"c.tif", "c.xml"}));
+    Names log = ProcessLog();
+    log.erase(log.begin(), log.end() - 4);
+    EXPECT_EQ(log, (Names{"Reviewed & Saved [b]", "Reviewed & Saved [b]", "Form [b] accepted.",
+                          "Form [c] rejected."}));
+
+    Click("Review");
+    EXPECT_TRUE(Strip().isVisible() && Offers("New"));
+    EXPECT_FALSE(List().isVisible() || Shows("Okay"));
+    EXPECT_EQ(Panel("File"), "Profiles:1, Active:1");
+    EXPECT_EQ(Panel("Message") + Panel("ElapsedTime"), "");
+}
+
+TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
+    ProcessAndReview();
+    EXPECT_TRUE(List().hasFocus());
+    Press(List(), Qt::Key_Down);
+    Press(List(), Qt::Key_Up);
+    EXPECT_EQ(Lines()[0], "a 100") << "moving the selection opens nothing";
+    Press(List(), Qt::Key_Return);
+    Press(List(), Qt::Key_PageDown);
+    EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *", "c 100"}));
+    EXPECT_EQ(Selected(), 1);
+
+    Rows().setFocus();
+    Rows().setCurrentItem(Rows().topLevelItem(0));
+    Press(Rows(), Qt::Key_Down);
+    EXPECT_EQ(Marks()[1], "Q2 1 54.6%") << "moving the selection flips nothing";
+    Press(Rows(), Qt::Key_Space);
+    EXPECT_EQ(Marks()[1], "Q2 0 54.6%");
+    Press(Rows(), Qt::Key_Return);
+    EXPECT_EQ(Marks()[1], "Q2 1 54.6%");
+    Press(Rows(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Lines()[1], "+ b 100 *");
+    Press(Rows(), Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
+    EXPECT_EQ(Lines(), (Names{"a 100", "c 100"}));
+    EXPECT_TRUE(List().hasFocus()) << "the next form is one Enter away";
+    Press(List(), Qt::Key_Return);
+    EXPECT_EQ(Lines()[1], "c 100 *");
+    Press(List(), Qt::Key_PageUp);
+    EXPECT_EQ(Lines()[0], "a 100 *");
+    Press(View(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(In(folders_.ProcessReject), (Names{"a.tif", "a.xml"}));
+}
+
+TEST_F(ReviewModeTest, CancelAtAPromptKeepsTheForm) {
+    ProcessAndReview();
+    ClickLine(0);
+    ClickRow(1);
+    const std::string before = ReadText(folders_.ProcessOut + "a.xml");
+    {
+        DialogScript answers;
+        for (int i = 0; i < 5; ++i)
+            answers.Press(Box::Cancel);
+        ClickLine(2);
+        Click("AcceptForm");
+        Click("Process");
+        Click("Review");
+        window_->close();
+        EXPECT_EQ(answers.shown, Names(5, "Save changes to Form <a>?"));
+    }
+    EXPECT_TRUE(window_->isVisible() && Button(*window_, "MainToolbar", "Review").isChecked());
+    EXPECT_EQ(Lines()[0], "a 100 *");
+    EXPECT_EQ(Selected(), 0);
+    EXPECT_EQ(Marks()[1], "Q2 1 0.0%");
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "a.xml"), before);
+
+    // Yes saves, and then the command goes on.
+    form_.SaveScan(folders_.ProcessIn + "d.tif", {});
+    DialogScript answers;
+    answers.Press(Box::Yes);
+    Click("Process");
+    EXPECT_EQ(Lines(), (Names{"+ a 100", "b 100", "c 100", "d 100"}));
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 4");
+    EXPECT_TRUE(Shows("AcceptForm"));
+    EXPECT_FALSE(Offers("AcceptForm"));
+}
+
+TEST_F(ReviewModeTest, ARunHidesTheDecisionsAndIgnoresListAndImage) {
+    ProcessAndReview();
+    ClickLine(0);
+    for (int i = 0; i < 3; ++i)
+        form_.SaveScan(folders_.ProcessIn + "more" + std::to_string(i) + ".tif", {});
+    int strikes = 0;
+    const auto strike = [&] {
+        ++strikes;
+        EXPECT_FALSE(Find<QAction>(*window_, "Okay").isVisible());
+        EXPECT_FALSE(Find<QAction>(*window_, "RejectForm").isVisible());
+        EXPECT_FALSE(Choice().isEnabled());
+        ClickLine(1);
+        QTest::keyClick(&List(), Qt::Key_Return);
+        QTest::keyClick(&List(), Qt::Key_PageDown);
+        EXPECT_FALSE(Choice().isEnabled()) << "a form was opened";
+    };
+    {
+        const test::WhileRunning run(strike);
+        Click("Process");
+    }
+    EXPECT_GT(strikes, 0);
+    EXPECT_EQ(Lines(), (Names{"a 100", "b 100", "c 100", "more0 100", "more1 100", "more2 100"}));
+    EXPECT_TRUE(Shows("Okay"));
+}
+
+TEST_F(ReviewModeTest, ZoomAndScrollStayBetweenForms) {
+    ProcessAndReview();
+    ClickLine(0);
+    for (int i = 0; i < 8; ++i)
+        Click("ZoomIn");
+    View().horizontalScrollBar()->setValue(300);
+    View().verticalScrollBar()->setValue(500);
+    const auto place = [this] {
+        return std::tuple(View().transform().m11(), View().horizontalScrollBar()->value(),
+                          View().verticalScrollBar()->value());
+    };
+    const auto before = place();
+    EXPECT_EQ(std::get<2>(before), 500);
+    Press(List(), Qt::Key_PageDown);
+    EXPECT_EQ(place(), before);
+    Click("AcceptForm");
+    QApplication::processEvents();
+    Press(List(), Qt::Key_Return);
+    EXPECT_EQ(Lines()[1], "c 100 *");
+    EXPECT_EQ(place(), before);
+
+    // A box's line brings its rectangle into view.
+    View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
+    Rows().setCurrentItem(Rows().topLevelItem(0));
+    EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
+}
+
+TEST_F(ReviewModeTest, DoubtfulBoxesStandOut) {
+    settings_.FillThreshold = 50;
+    ProcessAndReview();
+    ClickLine(1);
+    EXPECT_EQ(Marks(), (Names{"Q1 0 0.0%", "Q2 1 54.6% ?", "Q3 1 54.6% ?", "Q4 0 0.0%"}));
+    EXPECT_EQ(Rows().headerItem()->text(2), "Ink");
+    Press(List(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Rows().currentItem()->text(0), "Q2");
+    EXPECT_TRUE(Rows().hasFocus());
+    Press(Rows(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Rows().currentItem()->text(0), "Q3");
+    Press(Rows(), Qt::Key_Space);
+    EXPECT_EQ(Marks()[2], "Q3 0 54.6% ?");
+    DialogScript answers;
+    answers.Press(Box::No);
+    ClickLine(0);
+    EXPECT_EQ(Rows().columnCount(), 3);
+    Click("Review");
+    EXPECT_EQ(Rows().columnCount(), 1);
+}
+
+TEST_F(ReviewModeTest, AnotherProfileReadsTheFormAgain) {
+    TestForm other = form_;
+    other.boxes.pop_back();
+    for (std::size_t k = 0; k < other.boxes.size(); ++k)
+        other.boxes[k].Name = "R" + std::to_string(k + 1);
+    ProcessAndReview();
+    Click("Review");
+    AddProfile("Zweite", other);
+    Open();
+    Click("Review");
+    ClickLine(1);
+    Q_EMIT Choice().textActivated("Zweite");
+    EXPECT_EQ(Panel("Message"), "b.tif [Zweite]");
+    // Boxes of other names have no shift in the document, so they are read where the profile has them.
+    EXPECT_EQ(Marks(), (Names{"R1 0 0.0%", "R2 1 45.4%", "R3 1 45.4%"}));
+    EXPECT_EQ(Choice().currentText(), "Zweite");
+    Click("Okay");
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml").find("Shift"), std::string::npos);
+    ClickLine(1);
+    EXPECT_EQ(Marks().size(), 3U);
+    QTest::keyClick(&Choice(), Qt::Key_Z);
+    EXPECT_EQ(Panel("Message"), "Image [b.tif], Profile [Zweite]");
+}
+
+TEST_F(ReviewModeTest, AChangedOrMissingProfileAsks) {
+    ProcessAndReview();
+    Click("Review");
+    form_.boxes.push_back({"Q5", 168, 70, 192, 94});
+    AddProfile("Form", form_);
+    Open();
+    Click("Review");
+    const std::string before = ReadText(folders_.ProcessOut + "b.xml");
+    {
+        DialogScript answers;
+        answers.Press(Box::Cancel).Press(Box::No);
+        ClickLine(1);
+        EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml"), before);
+        EXPECT_EQ(Rows().topLevelItemCount(), 0);
+        EXPECT_FALSE(Offers("Okay"));
+        ClickLine(1);
+    }
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 5 Skip:1");
+    ClickPage(Middle(5));
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 5 Skip:1") << "a skipped box has no mark";
+    {
+        DialogScript answers;
+        answers.Press(Box::Yes);
+        ClickLine(1);
+    }
+    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:5");
+    Click("Okay");
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    Click("Review");
+    files_.Delete(folders_.Profiles + "Form.Tvp");
+    AddProfile("Other", TestForm::Grid(1, 2));
+    Open();
+    Click("Review");
+    DialogScript answers;
+    answers.Press(Box::No).Press(Box::Yes);
+    ClickLine(0);
+    EXPECT_EQ(Lines().size(), 3U);
+    ClickLine(0);
+    EXPECT_EQ(Lines().size(), 2U);
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+}
+
+}  // namespace
+}  // namespace tavrene::ui
