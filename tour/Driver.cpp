@@ -6,10 +6,13 @@
 #include <QDialog>
 #include <QDir>
 #include <QListView>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeView>
 #include <QTreeWidget>
 #include <stdexcept>
 
@@ -25,6 +28,12 @@ constexpr int kCheckedInShot = 8;
 
 // The box that is selected for the picture of the profile desk, counted from 0.
 constexpr int kBoxInShot = 6;
+
+// The form that is looked at in review, with corrected marks; its line counted from 0.
+constexpr int kFormInShot = 11;
+
+// The row of its mark that was scribbled over, counted from the end.
+constexpr int kRowInShotFromEnd = 4;
 
 void ClickOn(QWidget& widget, const QPointF& point) {
     const QPointF onScreen = widget.mapToGlobal(point);
@@ -73,6 +82,7 @@ void Driver::Drive() {
         reports.close();
     }
     ShootProfileDesk();
+    ShootReview();
     ShootSettingsDialog();
     window_.close();
 }
@@ -106,15 +116,35 @@ void Driver::ShootProfileDesk() {
     ShootWindow("6-profile-editor");
 }
 
+void Driver::ShootReview() {
+    Press("Review");
+    auto& forms = Find<QTreeView>(window_, "lvwReview");
+    ClickOn(*forms.viewport(), forms.visualRect(forms.model()->index(kFormInShot, 0)).center());
+    Press("FitWidth");
+    auto& boxes = Find<QTreeWidget>(window_, "lvwSettings");
+    boxes.setCurrentItem(boxes.topLevelItem(boxes.topLevelItemCount() - kRowInShotFromEnd));
+    Find<QAction>(window_, "FlipBox").trigger();
+    QApplication::processEvents();
+    ShootWindow("7-review");
+    ShootNextDialog("8-unsaved-marks", [](QDialog& question) {
+        dynamic_cast<QMessageBox&>(question).button(QMessageBox::No)->click();
+    });
+    Press("Review");
+}
+
 void Driver::ShootSettingsDialog() {
+    ShootNextDialog("9-settings", [](QDialog& dialog) { dialog.reject(); });
+    Find<QAction>(window_, "Settings").trigger();
+}
+
+void Driver::ShootNextDialog(const QString& name, void (*close)(QDialog& dialog)) {
     // The dialog is modal: it can be looked at only from its own event loop.
-    QTimer::singleShot(0, this, [this] {
+    QTimer::singleShot(0, this, [this, name, close] {
         if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            Shoot(*dialog, "7-settings");
-            dialog->reject();
+            Shoot(*dialog, name);
+            close(*dialog);
         }
     });
-    Find<QAction>(window_, "Settings").trigger();
 }
 
 void Driver::ShootWindow(const QString& name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -9,8 +10,8 @@
 namespace tavrene::tour {
 
 /// Drives the real window through a processing run by the buttons that a person would press, opens a profile
-/// and selects one of its boxes, and takes a picture at each stage. Meant for a working folder that has scans
-/// waiting and for settings that show pages during a run.
+/// and selects one of its boxes, turns a mark in review without saving it, and takes a picture at each stage.
+/// Meant for a working folder that has scans waiting and for settings that show pages during a run.
 class Driver final : public QObject {
   public:
     /// Pictures go to `shotsFolder`, which is made when it is missing.
@@ -30,7 +31,11 @@ class Driver final : public QObject {
     void Shoot(QWidget& widget, const QString& name);
     void Press(const char* key);
     void ShootProfileDesk();
+    void ShootReview();
     void ShootSettingsDialog();
+
+    /// Takes a picture of the dialog that the next command opens and gives it to `close`.
+    void ShootNextDialog(const QString& name, void (*close)(QDialog& dialog));
 
     ui::MainWindow& window_;
     QString shotsFolder_;

@@ -104,7 +104,7 @@ void RectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget
     const double dots = painter->device()->devicePixelRatio();
     const double width = dots * (side < kSmallSide ? kThinLine * look.width : look.width);
     if (emphasised_)
-        PaintEmphasis(*painter, rect_, scale / dots, dots);
+        PaintEmphasis(*painter, rect_, scale, dots);
     painter->setPen(CosmeticPen(QColor(255, 255, 255, 200), width + 2 * kSeam * dots));
     painter->drawRect(rect_);
     QPen pen = CosmeticPen(look.color, width);
