@@ -112,7 +112,8 @@ ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes) {
     });
     const Choice second = MostCommonSize(table);
     const int votes = second.Votes.Plain;
-    const bool isReal = votes >= std::min(kSecondSizeVotes, common.Votes.Plain) && votes * kSecondSizeShare >= common.Votes.Plain;
+    const bool isReal = votes >= std::min(kSecondSizeVotes, common.Votes.Plain) &&
+                        votes * kSecondSizeShare >= common.Votes.Plain;
     return {common.Size, isReal ? second.Size : common.Size};
 }
 

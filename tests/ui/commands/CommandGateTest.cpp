@@ -54,8 +54,11 @@ TEST(CommandTableTest, KeysAreUniqueInTheirToolbarAndShortcutsEverywhere) {
     std::set<std::string_view> shortcuts;
     for (const CommandInfo& info : CommandTable()) {
         EXPECT_TRUE(keys.emplace(info.toolbar, info.key).second) << info.key;
-        EXPECT_TRUE(shortcuts.insert(info.shortcut).second) << info.shortcut;
-        EXPECT_FALSE(info.shortcut.empty()) << info.key;
+        // A key that only a list takes stands behind a tab in the menu's text.
+        if (info.shortcut.empty())
+            EXPECT_NE(info.menuText.find('\t'), std::string_view::npos) << info.key;
+        else
+            EXPECT_TRUE(shortcuts.insert(info.shortcut).second) << info.shortcut;
     }
 }
 
