@@ -2,11 +2,15 @@
 
 #include <QApplication>
 
+#include "support/TempFolder.h"
 #include "ui/Composition.h"
 
-// The windows under test are real; they need an application around them, but no screen.
+// The windows under test are real; they need an application around them, but no screen, and no settings of a
+// person.
 int main(int argc, char** argv) {
+    const tavrene::test::TempFolder config;
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_CONFIG_HOME", config.Path().c_str());
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     tavrene::ui::PrepareApplication();
