@@ -3,9 +3,9 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <vector>
 
+#include "ui/EmptyHint.h"
 #include "ui/QtText.h"
 
 namespace tavrene::ui {
@@ -169,15 +169,8 @@ void ReviewListView::keyPressEvent(QKeyEvent* event) {
 
 void ReviewListView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
-    if (lines_->rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    QColor color = palette().color(QPalette::WindowText);
-    color.setAlphaF(0.55F);
-    painter.setPen(color);
-    painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
-                     static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap),
-                     "No processed forms are waiting.\nProcess reads new scans.");
+    if (lines_->rowCount() == 0)
+        PaintEmptyHint(*viewport(), "No processed forms are waiting.\nProcess reads new scans.");
 }
 
 }  // namespace tavrene::ui

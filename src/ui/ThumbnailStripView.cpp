@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "ui/EmptyHint.h"
 #include "ui/PageImage.h"
 #include "ui/QtText.h"
 
@@ -148,15 +149,8 @@ bool ThumbnailStripView::viewportEvent(QEvent* event) {
 
 void ThumbnailStripView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (pages_->rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    QColor color = palette().color(QPalette::WindowText);
-    color.setAlphaF(0.55F);
-    painter.setPen(color);
-    painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
-                     static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap),
-                     "No profiles yet.\nNew makes one from the image of a blank form.");
+    if (pages_->rowCount() == 0)
+        PaintEmptyHint(*viewport(), "No profiles yet.\nNew makes one from the image of a blank form.");
 }
 
 }  // namespace tavrene::ui
