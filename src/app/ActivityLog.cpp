@@ -56,6 +56,10 @@ ToleratedLogFailures::ToleratedLogFailures(ActivityLog& log)
     log_.tolerant_ = true;
 }
 
+int ToleratedLogFailures::TakeLostLines() {
+    return std::exchange(log_.failedLines_, before_) - before_;
+}
+
 ToleratedLogFailures::~ToleratedLogFailures() {
     log_.tolerant_ = wasTolerant_;
 }

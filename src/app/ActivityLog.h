@@ -45,8 +45,9 @@ class ToleratedLogFailures {
     ToleratedLogFailures(const ToleratedLogFailures&) = delete;
     ToleratedLogFailures& operator=(const ToleratedLogFailures&) = delete;
 
-    /// Lines lost since this object was made.
-    int LostLines() const { return log_.failedLines_ - before_; }
+    /// Gives the number of lines lost since this object was made, and forgets them, so that they are told
+    /// once.
+    int TakeLostLines();
 
   private:
     ActivityLog& log_;

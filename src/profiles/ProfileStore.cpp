@@ -39,7 +39,7 @@ class LostLineNote {
     LostLineNote(app::ActivityLog& log, std::vector<std::string>& notes) : tolerated_(log), notes_(notes) {}
     ~LostLineNote() {
         const std::string note = "The profile log could not be written.";
-        if (tolerated_.LostLines() > 0 && std::find(notes_.begin(), notes_.end(), note) == notes_.end())
+        if (tolerated_.TakeLostLines() > 0 && std::find(notes_.begin(), notes_.end(), note) == notes_.end())
             notes_.push_back(note);
     }
     LostLineNote(const LostLineNote&) = delete;

@@ -52,7 +52,7 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
 }
 
 void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
-    const app::ToleratedLogFailures tolerated(doors_.log);
+    app::ToleratedLogFailures tolerated(doors_.log);
     const app::Raised running(running_);
     stop_ = false;
     filesDone_ = 0;
@@ -66,7 +66,7 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     doors_.rows.AddValColumn();
     TakeFiles(profiles);
     doors_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
-    Finish(start, tolerated.LostLines());
+    Finish(start, tolerated.TakeLostLines());
 }
 
 std::vector<std::string> ProcessRun::ListImages() {

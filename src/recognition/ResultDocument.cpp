@@ -109,6 +109,9 @@ ResultDocument ResultDocument::Load(const app::Files& files, const std::string& 
     try {
         result.document_ = profiles::ReadXml(files, path, Declaration::Allowed);
         CheckResult(result.Root());
+        // It is written as UTF-8 again, whatever it said it was.
+        if (pugi::xml_node first = result.document_.first_child(); first.type() == pugi::node_declaration)
+            first.remove_attribute("encoding");
     } catch (const DocumentError& error) {
         throw DocumentError(app::FileName(path) + ": " + error.what());
     }

@@ -8,6 +8,9 @@ Decisions::Decisions(const ReviewDoors& doors, const app::WorkingFolders& folder
     : doors_(doors), folders_(folders), list_(list), mover_(doors.files, folders) {}
 
 void Decisions::Save(OpenForm& form) {
+    const std::string path = folders_.ProcessOut + form.Document;
+    if (!doors_.files.FileExists(path))
+        throw app::FileError("Cannot save " + path + ": the file is gone");
     recognition::ResultDocument saved = form.Result.Clone();
     saved.SetReviewed(true);
     saved.SetProfile(form.Profile.Name);
@@ -15,7 +18,7 @@ void Decisions::Save(OpenForm& form) {
         saved.SetChecked(form.Marks);
     else
         saved.ReplaceMarks(form.Marks);
-    saved.Save(doors_.files, folders_.ProcessOut + form.Document);
+    saved.Save(doors_.files, path);
     form.Result = std::move(saved);
     form.SavedProfile = form.Profile.Name;
     form.Changed = false;
@@ -33,9 +36,9 @@ bool Decisions::OfferSave(OpenForm& form) {
     return answer != app::Answer::Cancel;
 }
 
-// What an earlier decision left half done is ended first: there is one note for all moves.
+// What an earlier decision left half done is settled first: there is one note for all moves.
 FormMove Decisions::MoveForm(const OpenForm& form, Decision decision) {
-    FinishInterrupted();
+    SettleInterrupted();
     FormMove move{decision, form.Result.Image(), form.Document};
     mover_.Move(move);
     list_.Remove(move.Document);
@@ -45,14 +48,12 @@ FormMove Decisions::MoveForm(const OpenForm& form, Decision decision) {
 void Decisions::LogDecision(const FormMove& move) {
     const char* const word = move.decision == Decision::Accept ? "accepted." : "rejected.";
     doors_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) + "] " + word);
+    mover_.Forget();
 }
 
-void Decisions::FinishInterrupted() {
-    const std::optional<FormMove> finished = mover_.FinishInterrupted();
-    if (!finished)
-        return;
-    list_.Remove(finished->Document);
-    LogDecision(*finished);
+void Decisions::SettleInterrupted() {
+    if (const std::optional<FormMove> done = mover_.Settle())
+        LogDecision(*done);
 }
 
 }  // namespace tavrene::review

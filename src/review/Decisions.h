@@ -31,8 +31,9 @@ class Decisions {
         LogDecision(move);
     }
 
-    /// Ends a decision that the program did not live to end, and takes its line from the list.
-    void FinishInterrupted();
+    /// Settles a decision that was cut short: its files are together again in `ProcessOut`, or it was done
+    /// and is logged now. Throws `app::FileError` when that has to wait.
+    void SettleInterrupted();
 
   private:
     FormMove MoveForm(const OpenForm& form, Decision decision);

@@ -29,11 +29,20 @@ std::string FormMover::NotePath() const {
 }
 
 void FormMover::Move(const FormMove& move) {
-    CheckFile(move.Image, Destination(move));
-    CheckFile(move.Document, Destination(move));
+    const std::string& destination = Destination(move);
+    CheckFile(move.Image, destination);
+    CheckFile(move.Document, destination);
     WriteNote(move);
-    MoveBoth(move);
-    DropNote();
+    try {
+        files_.Move(folders_.ProcessOut + move.Image, destination + move.Image);
+        files_.Move(folders_.ProcessOut + move.Document, destination + move.Document);
+    } catch (const app::FileError& error) {
+        if (!CanTakeBack(move))
+            throw app::FileError(std::string(error.what()) + ". What was moved before lies in " +
+                                 destination + "; the next decision or start takes it back first.");
+        Forget();
+        throw;
+    }
 }
 
 void FormMover::CheckFile(const std::string& name, const std::string& destination) const {
@@ -44,41 +53,44 @@ void FormMover::CheckFile(const std::string& name, const std::string& destinatio
                              destination + name);
 }
 
-void FormMover::MoveBoth(const FormMove& move) {
-    const std::string& destination = Destination(move);
+bool FormMover::CanTakeBack(const FormMove& move) {
     try {
-        files_.Move(folders_.ProcessOut + move.Image, destination + move.Image);
-        files_.Move(folders_.ProcessOut + move.Document, destination + move.Document);
-    } catch (const app::FileError& error) {
-        if (Undo(move))
-            throw;
-        throw app::FileError(std::string(error.what()) + ". What was moved before lies in " + destination +
-                             " and cannot be taken back; the next start ends the move.");
-    }
-}
-
-bool FormMover::Undo(const FormMove& move) {
-    try {
-        TakeBack(move.Document, Destination(move));
-        TakeBack(move.Image, Destination(move));
+        TakeBack(move);
+        return true;
     } catch (const app::FileError&) {
         return false;
     }
-    DropNote();
-    return true;
 }
 
-// A note that stays is harmless: it tells of a move that was not begun, or of one that is done.
-void FormMover::DropNote() {
-    try {
-        files_.Delete(NotePath());
-    } catch (const app::FileError&) {
+// A note may be older than what lies there now: a scan of the same name can have been processed since. Only
+// the places that a cut move leaves are touched; the image goes first.
+void FormMover::TakeBack(const FormMove& move) {
+    const std::string& destination = Destination(move);
+    const Place image = PlaceOf(move.Image, destination);
+    const Place document = PlaceOf(move.Document, destination);
+    const bool isAmidImage = image == Place::Copied && document == Place::Here;
+    const bool isAmidDocument =
+        image == Place::There && (document == Place::Here || document == Place::Copied);
+    if (!isAmidImage && !isAmidDocument)
         return;
-    }
+    TakeBackFile(move.Document, destination);
+    TakeBackFile(move.Image, destination);
 }
 
-// Between file systems a move that fails at its end leaves a copy behind.
-void FormMover::TakeBack(const std::string& name, const std::string& destination) {
+// Two files of the same content are one whose move between file systems was cut.
+FormMover::Place FormMover::PlaceOf(const std::string& name, const std::string& destination) const {
+    const std::string source = folders_.ProcessOut + name;
+    const std::string target = destination + name;
+    const bool isHere = files_.FileExists(source);
+    const bool isThere = files_.FileExists(target);
+    if (isHere && isThere)
+        return files_.Read(source) == files_.Read(target) ? Place::Copied : Place::Elsewhere;
+    if (isHere)
+        return Place::Here;
+    return isThere ? Place::There : Place::Elsewhere;
+}
+
+void FormMover::TakeBackFile(const std::string& name, const std::string& destination) {
     if (!files_.FileExists(destination + name))
         return;
     if (files_.FileExists(folders_.ProcessOut + name))
@@ -87,30 +99,28 @@ void FormMover::TakeBack(const std::string& name, const std::string& destination
         files_.Move(destination + name, folders_.ProcessOut + name);
 }
 
-std::optional<FormMove> FormMover::FinishInterrupted() {
+std::optional<FormMove> FormMover::Settle() {
     if (!files_.FileExists(NotePath()))
         return std::nullopt;
     const std::optional<FormMove> move = ReadNote();
-    // The destination was free when the note was written, so what lies there now came by this move.
-    const bool begun = move && (files_.FileExists(Destination(*move) + move->Image) ||
-                                files_.FileExists(Destination(*move) + move->Document));
-    if (begun) {
-        Bring(move->Image, Destination(*move));
-        Bring(move->Document, Destination(*move));
-    }
-    DropNote();
-    return begun ? move : std::nullopt;
+    const auto isThere = [this, &move](const std::string& name) {
+        return PlaceOf(name, Destination(*move)) == Place::There;
+    };
+    if (move && isThere(move->Image) && isThere(move->Document))
+        return move;
+    if (move)
+        TakeBack(*move);
+    Forget();
+    return std::nullopt;
 }
 
-// Two files of the same content are one that was copied between file systems; of others neither is touched.
-void FormMover::Bring(const std::string& name, const std::string& destination) {
-    const std::string source = folders_.ProcessOut + name;
-    if (!files_.FileExists(source))
+// A note that stays is harmless: at worst its decision is told twice.
+void FormMover::Forget() {
+    try {
+        files_.Delete(NotePath());
+    } catch (const app::FileError&) {
         return;
-    if (!files_.FileExists(destination + name))
-        files_.Move(source, destination + name);
-    else if (files_.Read(source) == files_.Read(destination + name))
-        files_.Delete(source);
+    }
 }
 
 void FormMover::WriteNote(const FormMove& move) {

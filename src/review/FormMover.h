@@ -18,31 +18,36 @@ struct FormMove {
 };
 
 /// Moves a form's image and document as one. A hidden note in `ProcessOut` tells what is on its way, so that
-/// a move that the program did not live to end is ended by the next start.
+/// a move that was cut short is known to the next one, and to the next start of the program.
 class FormMover {
   public:
     /// Both must outlive the mover.
     FormMover(app::Files& files, const app::WorkingFolders& folders);
 
-    /// Moves both files to `ProcessFinal` or `ProcessReject`, or none. Throws `app::FileError` naming the
-    /// file: one has vanished, the destination already has one of that name, or a move was refused.
+    /// Moves both files to `ProcessFinal` or `ProcessReject`, or none; the note stays. Throws
+    /// `app::FileError` naming the file: one has vanished, the destination already has one of that name, or a
+    /// move was refused.
     void Move(const FormMove& move);
 
-    /// Ends what an earlier start left half done, and gives it; nothing when there is none, or when it had
-    /// moved nothing yet. Throws `app::FileError` when it cannot be ended.
-    std::optional<FormMove> FinishInterrupted();
+    /// Takes back what the move of the note left half done. Gives the move when it was done: somebody may
+    /// have died before telling of it. Throws `app::FileError` when it can be taken back only later.
+    std::optional<FormMove> Settle();
+
+    /// Drops the note: all that there is to tell of the move has been told.
+    void Forget();
 
   private:
+    enum class Place { Here, There, Copied, Elsewhere };
+
     const std::string& Destination(const FormMove& move) const;
     std::string NotePath() const;
     void WriteNote(const FormMove& move);
     std::optional<FormMove> ReadNote() const;
     void CheckFile(const std::string& name, const std::string& destination) const;
-    void MoveBoth(const FormMove& move);
-    bool Undo(const FormMove& move);
-    void DropNote();
-    void Bring(const std::string& name, const std::string& destination);
-    void TakeBack(const std::string& name, const std::string& destination);
+    Place PlaceOf(const std::string& name, const std::string& destination) const;
+    void TakeBack(const FormMove& move);
+    void TakeBackFile(const std::string& name, const std::string& destination);
+    bool CanTakeBack(const FormMove& move);
 
     app::Files& files_;
     const app::WorkingFolders& folders_;

@@ -84,8 +84,7 @@ void FormReview::Open(const std::string& document) {
 bool FormReview::Prepare(OpenForm& form) {
     const std::string image = form.Result.Image();
     if (!doors_.files.FileExists(folders_.ProcessOut + image)) {
-        doors_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.",
-                                   app::ShowInStatusBar::Yes);
+        doors_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
         return false;
     }
     ShowImage(image);
@@ -123,19 +122,27 @@ bool FormReview::SettleDifferences(OpenForm& form) {
     return false;
 }
 
-// The view takes PNG images as the TIFF that was made of them.
 void FormReview::ShowImage(const std::string& image) {
-    std::string shown = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImageForProcessing(shown);
-    if (!hasPage_) {
+    const std::string path = folders_.ProcessOut + image;
+    hasPage_ = loader_.LoadImageForProcessing(path);
+    if (!hasPage_)
         doors_.view.Clear();
-        return;
+    else if (app::UpperCase(app::Extension(image)) == "PNG" && !loader_.DisplayCopy().empty())
+        doors_.view.ShowFile(CopyForView());
+    else
+        doors_.view.ShowFile(path);
+}
+
+// The view takes PNG images as the TIFF that was made of them. That one is there until the next image is
+// loaded, so it can stand in for a copy that cannot be written.
+std::string FormReview::CopyForView() {
+    std::string copy = folders_.Temp + "temp.tif";
+    try {
+        doors_.files.Write(copy, doors_.files.Read(loader_.DisplayCopy()), app::Keep::AsScratch);
+    } catch (const app::FileError&) {
+        return loader_.DisplayCopy();
     }
-    if (app::UpperCase(app::Extension(image)) == "PNG" && !loader_.DisplayCopy().empty()) {
-        shown = folders_.Temp + "temp.tif";
-        doors_.files.Write(shown, doors_.files.Read(loader_.DisplayCopy()), app::Keep::AsScratch);
-    }
-    doors_.view.ShowFile(shown);
+    return copy;
 }
 
 void FormReview::SendBack(const OpenForm& form) {

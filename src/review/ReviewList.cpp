@@ -20,6 +20,7 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     reviewed_ = 0;
     missing_ = 0;
     doors_.lines.ShowLines({});
+    ShowCounts();
     ReadLines();
     doors_.lines.ShowLines(lines_);
     if (missing_ > 0)
@@ -30,7 +31,6 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
 }
 
 void ReviewList::ReadLines() {
-    const app::ToleratedLogFailures tolerated(doors_.log);
     for (const std::string& document : doors_.files.List(folders_.ProcessOut, "*.xml")) {
         try {
             std::optional<ReviewLine> line = ReadLine(document);

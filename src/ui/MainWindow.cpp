@@ -46,7 +46,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
       log_(doors.files, doors.clock, operator_, state_.folders.Log),
       run_({doors.files, log_, operator_, doors.clock, *view_, *view_, *boxes_}, state_.settings,
            state_.folders),
-      gate_(operator_, state_.processing),
+      gate_(operator_, log_, state_.processing),
       desk_(state_, {doors.files, operator_, log_, doors.clock, gate_, dialogs_},
             {*view_, *boxes_, *profiles_}),
       prompts_([this] { return desk_.MayLeave(); }, [this] { return review_.MayLeave(); }),

@@ -44,9 +44,9 @@ TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
 TEST_F(ActivityLogTest, PassesFailuresOnUnlessTheyAreTolerated) {
     files_.refuse = [](const std::string&, const std::string&) { return true; };
     {
-        const ToleratedLogFailures tolerated(log_);
+        ToleratedLogFailures tolerated(log_);
         log_.LogProcessEvent("lost");
-        EXPECT_EQ(tolerated.LostLines(), 1);
+        EXPECT_EQ(tolerated.TakeLostLines(), 1);
     }
     EXPECT_THROW(log_.LogProfileEvent("lost"), FileError);
 }

@@ -69,12 +69,13 @@ TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
 TEST_F(BadFormsTest, BoxesAndShiftsThatMakeNoSense) {
     AddScan("a.tif", {.checked = {3}, .dx = 3, .dy = -2});
     Process();
-    Document(
-        "a.xml",
-        "<Tavrene Profile=\"Form\" Image=\"a.tif\" Reviewed=\"2\" Confidence=\"much\"><OMRs Count=\"99\">"
-        "<OMR Name=\"Q1\" Shift=\"abc\" Checked=\"1\"/><OMR Name=\"Q2\" Shift=\"1\" Checked=\"yes\"/>"
-        "<OMR Name=\"Q4\" Shift=\"1,2,3\"/><OMR Name=\"Q3\" Shift=\"3,-2\" Checked=\"1\"/>"
-        "<OMR Name=\"Q3\" Checked=\"1\"/><OMR Checked=\"0\"/></OMRs><Note>kept</Note></Tavrene>");
+    Document("a.xml",
+             "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><Tavrene Profile=\"Form\" Image=\"a.tif\" "
+             "Reviewed=\"2\" Confidence=\"much\"><OMRs Count=\"99\">"
+             "<OMR Name=\"Q1\" Shift=\"abc\" Checked=\"1\"/><OMR Name=\"Q2\" Shift=\"1\" Checked=\"yes\"/>"
+             "<OMR Name=\"Q4\" Shift=\"1,2,3\"/><OMR Name=\"Q3\" Shift=\"3,-2\" Checked=\"1\"/>"
+             "<OMR Name=\"Q3\" Checked=\"1\"/><OMR Checked=\"0\"/></OMRs><Note>kept, f\xFCr "
+             "sp\xE4ter</Note></Tavrene>");
     EnterReview();
     Open(0);
     EXPECT_EQ(transcript_.LinesOf("row: "),
@@ -92,7 +93,8 @@ TEST_F(BadFormsTest, BoxesAndShiftsThatMakeNoSense) {
     EXPECT_TRUE(ResultHas("a.xml",
                           "<OMR Name=\"Q3\" Shift=\"3,-2\" Checked=\"1\" />\n\t\t<OMR Name=\"Q3\" "
                           "Checked=\"0\" />"));
-    EXPECT_TRUE(ResultHas("a.xml", "<Note>kept</Note>"));
+    EXPECT_TRUE(ResultHas("a.xml", "<Note>kept, für später</Note>"));
+    EXPECT_TRUE(Result("a.xml").starts_with("<?xml version=\"1.0\"?>\n<Tavrene"));
 }
 
 TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {

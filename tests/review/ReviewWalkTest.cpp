@@ -250,6 +250,9 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     ProcessAndReview();
     Open(3);
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"show temp.tif"});
+    Refuse("write", "temp.tif");
+    Open(3);
+    EXPECT_EQ(transcript_.LinesOf("view: "), Names{"show temp2.tif"});
     EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 9.1% ?", "3 0.0%", "4 6.0% ?"}));
     for (const auto& [from, next] : {std::pair{0, "2"}, {2, "4"}, {4, "2"}}) {
         Do([this, from = from] { review_.NextDoubtful(from); });

@@ -90,7 +90,7 @@ class ReviewWorld : public RunWorld {
     commands::AppState state_ = commands::InitialState(settings_);
     FakeReviewScreen list_{transcript_};
     review::ReviewDoors doors_{files_, log_, person_, screen_, screen_, list_, screen_, list_, list_, list_};
-    commands::CommandGate gate_{person_, state_.processing};
+    commands::CommandGate gate_{person_, log_, state_.processing};
     commands::ReviewCommands review_{state_, doors_, [] {}};
 };
 

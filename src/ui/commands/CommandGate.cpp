@@ -12,8 +12,8 @@ bool ActsDuringRun(Command command) {
 
 }  // namespace
 
-CommandGate::CommandGate(app::Operator& person, const bool& processing)
-    : person_(person), processing_(processing) {}
+CommandGate::CommandGate(app::Operator& person, app::ActivityLog& log, const bool& processing)
+    : person_(person), log_(log), processing_(processing) {}
 
 void CommandGate::SetHandler(Command command, std::function<void()> handler, std::function<bool()> canRun) {
     handlers_[command] = {std::move(handler), std::move(canRun)};
@@ -38,11 +38,14 @@ void CommandGate::Run(Command command) {
 }
 
 void CommandGate::Guard(const std::function<void()>& event) {
+    app::ToleratedLogFailures tolerated(log_);
     try {
         event();
     } catch (const std::exception& failure) {
         person_.ShowMessage("", failure.what());
     }
+    if (tolerated.TakeLostLines() > 0)
+        person_.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
     if (afterwards_)
         afterwards_();
 }

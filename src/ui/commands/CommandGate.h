@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 
+#include "app/ActivityLog.h"
 #include "app/Operator.h"
 #include "ui/commands/CommandTable.h"
 
@@ -12,8 +13,8 @@ namespace tavrene::commands {
 /// goes wrong into a message instead of a crash.
 class CommandGate {
   public:
-    /// `processing` tells whether a run goes on; both references must outlive the gate.
-    CommandGate(app::Operator& person, const bool& processing);
+    /// `processing` tells whether a run goes on; all references must outlive the gate.
+    CommandGate(app::Operator& person, app::ActivityLog& log, const bool& processing);
 
     /// `canRun` tells whether the command has something to act on; without it the command always has.
     void SetHandler(Command command, std::function<void()> handler, std::function<bool()> canRun = {});
@@ -29,7 +30,8 @@ class CommandGate {
     /// Runs a command. During a run all but `Stop` and `Exit` are ignored.
     void Run(Command command);
 
-    /// Runs what an event of the window asks for; an exception ends it with a message.
+    /// Runs what an event of the window asks for; an exception ends it with a message. A log that cannot be
+    /// written stops nothing: the `Message` panel says so afterwards.
     void Guard(const std::function<void()>& event);
 
     /// The same for what the person does in lists and views, which a run ignores.
@@ -42,6 +44,7 @@ class CommandGate {
     };
 
     app::Operator& person_;
+    app::ActivityLog& log_;
     const bool& processing_;
     std::map<Command, Handler> handlers_;
     std::function<void()> afterwards_;

@@ -34,10 +34,10 @@ void ReviewCommands::Toggle(const SavePrompts& prompts) {
     }
 }
 
-// A decision that still cannot be ended must not hide the other forms.
+// A decision that still cannot be settled must not hide the other forms.
 void ReviewCommands::ShowList() {
     try {
-        decisions_.FinishInterrupted();
+        decisions_.SettleInterrupted();
     } catch (const std::exception& error) {
         doors_.person.ShowMessage("", error.what());
     }

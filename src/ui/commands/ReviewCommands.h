@@ -21,9 +21,9 @@ class ReviewCommands {
     ReviewCommands(const AppState& state, const review::ReviewDoors& doors,
                    std::function<void()> closeProfile);
 
-    /// Ends a decision that an earlier start of the program did not live to end; a step of loading the
+    /// Settles a decision that an earlier start of the program did not live to end; a step of loading the
     /// window.
-    void Load() { decisions_.FinishInterrupted(); }
+    void Load() { decisions_.SettleInterrupted(); }
 
     /// Switches between profiling and review, unless a question of `prompts` is answered with Cancel. What is
     /// visible follows `InReview`.

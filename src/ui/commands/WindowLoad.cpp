@@ -25,8 +25,10 @@ AppState InitialState(const app::Settings& settings) {
 void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate) {
     if (!CanCallImageLibrary(doors.imageLibraryVersion)) {
         constexpr std::string_view kText = "FreeImage is not available";
-        gate.Guard([&] { doors.log.LogProfileEvent(kText); });
-        gate.Guard([&] { doors.person.ShowMessage("", kText); });
+        gate.Guard([&] {
+            doors.log.LogProfileEvent(kText);
+            doors.person.ShowMessage("", kText);
+        });
     }
     gate.Guard(doors.loadProfiles);
     state.reach = boxes::ReachFor(boxes::SizesOf(state.settings));

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "support/FakeClock.h"
 #include "support/FakeOperator.h"
+#include "support/FaultyFiles.h"
 #include "ui/commands/CommandGate.h"
 
 namespace tavrene::commands {
@@ -15,8 +17,11 @@ class CommandGateTest : public testing::Test {
   protected:
     test::Transcript transcript_;
     test::FakeOperator person_{transcript_};
+    test::FaultyFiles files_;
+    test::FakeClock clock_;
+    app::ActivityLog log_{files_, clock_, person_, "nowhere"};
     bool processing_ = false;
-    CommandGate gate_{person_, processing_};
+    CommandGate gate_{person_, log_, processing_};
 };
 
 TEST_F(CommandGateTest, LetsOnlyStopAndClosingThroughDuringARun) {
@@ -47,6 +52,19 @@ TEST_F(CommandGateTest, TurnsWhatACommandThrowsIntoAMessage) {
     gate_.SetAfterwards([this] { transcript_.Add("afterwards"); });
     gate_.Run(Command::Process);
     EXPECT_EQ(transcript_.Lines(), (std::vector<std::string>{"message: [] The disk is full.", "afterwards"}));
+}
+
+TEST_F(CommandGateTest, ALogThatCannotBeWrittenStopsNoCommand) {
+    files_.refuse = [](const std::string&, const std::string&) { return true; };
+    gate_.SetHandler(Command::Okay, [this] {
+        log_.LogProcessEvent("one");
+        log_.LogProfileEvent("two");
+        transcript_.Add("done");
+    });
+    gate_.Run(Command::Okay);
+    EXPECT_EQ(transcript_.Lines(),
+              (std::vector<std::string>{
+                  "done", "panel Message: The log in the working folder could not be written."}));
 }
 
 TEST(CommandTableTest, KeysAreUniqueInTheirToolbarAndShortcutsEverywhere) {
