@@ -51,7 +51,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowDoors& doors)
             {*view_, *boxes_, *profiles_}),
       prompts_([this] { return desk_.MayLeave(); }, [this] { return review_.MayLeave(); }),
       review_(state_, {doors.files, operator_, log_, gate_, prompts_}, {*view_, *boxes_, *side_, *forms_},
-              [this] { desk_.Close(); }),
+              [this] { desk_.Leave(); }),
       processing_(
           state_, run_,
           [this] {

@@ -24,15 +24,18 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskDoors& doors, cons
 }
 
 void ProfileDesk::ConnectCommands() {
-    const auto connect = [this](Command command, void (commands::ProfileCommands::*run)()) {
-        gate_.SetHandler(command, [this, run] {
+    const auto connect = [this](Command command, void (commands::ProfileCommands::*run)(),
+                                std::function<bool()> canRun = {}) {
+        const auto busily = [this, run] {
             const BusyCursor busy;
             (commands_.*run)();
-        });
+        };
+        gate_.SetHandler(command, busily, std::move(canRun));
     };
+    const auto offersFile = [this] { return offersFile_ || profile_.IsOpen; };
     connect(Command::New, &commands::ProfileCommands::New);
-    connect(Command::Save, &commands::ProfileCommands::Save);
-    connect(Command::DeleteProfile, &commands::ProfileCommands::Delete);
+    connect(Command::Save, &commands::ProfileCommands::Save, offersFile);
+    connect(Command::DeleteProfile, &commands::ProfileCommands::Delete, offersFile);
 }
 
 void ProfileDesk::ConnectBoxCommands() {
@@ -86,12 +89,18 @@ void ProfileDesk::Close() {
     screen_.strip.SelectThumbnail(0);
 }
 
+void ProfileDesk::Leave() {
+    Close();
+    offersFile_ = false;
+}
+
 void ProfileDesk::FinishEdits() {
     controls_.rows.FinishEdit();
     controls_.view.CancelTool();
 }
 
 void ProfileDesk::Update(Toolbars& toolbars) {
+    offersFile_ = offersFile_ || profile_.IsOpen;
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());

@@ -46,6 +46,9 @@ class ProfileDesk {
     /// Takes the profile off the desk without saving it.
     void Close();
 
+    /// Closes it for review: `Save` and `Delete` are offered again with the next profile.
+    void Leave();
+
     /// Brings what is being typed or dragged to an end, before a command.
     void FinishEdits();
 
@@ -67,6 +70,7 @@ class ProfileDesk {
     profiles::BoxEditor editor_;
     profiles::ProfileStore store_;
     commands::ProfileCommands commands_;
+    bool offersFile_ = true;
 };
 
 }  // namespace tavrene::ui

@@ -147,9 +147,7 @@ void ReviewMode::RunEnded() {
 }
 
 bool ReviewMode::Bars(Command command) const {
-    const bool isOfProfiles =
-        command == Command::New || command == Command::Save || command == Command::DeleteProfile;
-    return isOfProfiles && commands_.InReview();
+    return command == Command::New && commands_.InReview();
 }
 
 void ReviewMode::Update(Toolbars& toolbars) {

@@ -45,7 +45,7 @@ void Toolbars::AddCommand(QMainWindow& window, const commands::CommandInfo& info
     action->setToolTip(ToQt(info.toolTip));
     action->setIcon(IconOf(info.icon));
     action->setIconVisibleInMenu(true);
-    action->setShortcut(QKeySequence::fromString(ToQt(info.shortcut), QKeySequence::PortableText));
+    action->setShortcuts(QKeySequence::listFromString(ToQt(info.shortcut), QKeySequence::PortableText));
     action->setCheckable(info.start == commands::StartState::Toggle);
     action->setVisible(info.start != commands::StartState::Hidden);
     QObject::connect(action, &QAction::triggered, &window, [this, command = info.command] { run_(command); });

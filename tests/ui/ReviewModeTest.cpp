@@ -129,6 +129,7 @@ TEST_F(ReviewModeTest, CorrectsAndDecidesWithTheMouse) {
 
     Click("Review");
     EXPECT_TRUE(Strip().isVisible() && Offers("New"));
+    EXPECT_FALSE(Offers("Save") || Button(*window_, "MainToolbar", "Delete").isEnabled());
     EXPECT_FALSE(List().isVisible() || Shows("Okay"));
     EXPECT_EQ(Panel("File"), "Profiles:1, Active:1");
     EXPECT_EQ(Panel("Message") + Panel("ElapsedTime"), "");
@@ -153,7 +154,7 @@ TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
     EXPECT_EQ(Marks()[1], "Q2 0 54.6%");
     Press(Rows(), Qt::Key_Return);
     EXPECT_EQ(Marks()[1], "Q2 1 54.6%");
-    Press(Rows(), Qt::Key_Return, Qt::ControlModifier);
+    Press(Rows(), Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
     EXPECT_EQ(Lines()[1], "+ b 100 *");
     Press(Rows(), Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));

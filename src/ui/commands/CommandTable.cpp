@@ -38,7 +38,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::Review, T::Main, "Review", "Review Processed Forms",
                 M::Review, "&Review Forms", "F6", "Review", G::None, S::Toggle, true},
     CommandInfo{C::Okay, T::Main, "Okay", "Reviewed OK",
-                M::Review, "Reviewed &OK", "Ctrl+Return", "Okay", G::None, S::Hidden, false},
+                M::Review, "Reviewed &OK", "Ctrl+Return; Ctrl+Enter", "Okay", G::None, S::Hidden, false},
     CommandInfo{C::AcceptForm, T::Main, "AcceptForm", "Accept Form (Move to Final Folder)",
                 M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", G::None, S::Hidden, false},
     CommandInfo{C::RejectForm, T::Main, "RejectForm", "Reject Form (Move to Reject Folder)",
