@@ -10,6 +10,8 @@ namespace tavrene::ui {
 /// thin lines would break up otherwise.
 class PageItem final : public QGraphicsItem {
   public:
+    PageItem() { setFlag(ItemUsesExtendedStyleOption); }
+
     void SetImage(QImage image);
     QSizeF Size() const { return image_.size(); }
 
@@ -17,10 +19,12 @@ class PageItem final : public QGraphicsItem {
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
   private:
-    const QPixmap& PixmapFor(double scale);
+    void PaintPart(QPainter& painter, const QRectF& exposed) const;
+    void PaintSmaller(QPainter& painter, double scale);
 
     QImage image_;
-    QPixmap pixmap_;
+    QPixmap pixmap_;  ///< The page at `pixmapScale_`.
+    QRectF pixmapPlace_;
     double pixmapScale_ = 0;
 };
 

@@ -1,0 +1,51 @@
+#include <gtest/gtest.h>
+
+#include <QGraphicsScene>
+#include <QPainter>
+#include <cmath>
+#include <cstdlib>
+#include <random>
+
+#include "ui/PageItem.h"
+
+namespace tavrene::ui {
+namespace {
+
+QImage Painted(const QImage& page, double zoom) {
+    QGraphicsScene scene;
+    auto* const item = new PageItem;
+    item->SetImage(page);
+    scene.addItem(item);
+    const QSize size(static_cast<int>(page.width() * zoom), static_cast<int>(page.height() * zoom));
+    QImage painted(size, QImage::Format_RGB32);
+    painted.fill(Qt::white);
+    QPainter painter(&painted);
+    scene.render(&painter, QRectF({0, 0}, size), QRectF({0, 0}, QSizeF(size) / zoom));
+    return painted;
+}
+
+// A one-bit page takes a quicker way to the same picture than a grey one.
+TEST(PageItemTest, AOneBitPageLooksLikeTheSamePageInGrey) {
+    std::mt19937 random(5);
+    QImage page(333, 257, QImage::Format_Mono);
+    page.setColorTable({qRgb(255, 255, 255), qRgb(0, 0, 0)});
+    page.fill(0);
+    QPainter painter(&page);
+    for (int k = 0; k < 12; ++k)
+        painter.fillRect(static_cast<int>(random() % 300), static_cast<int>(random() % 230), 25, 19,
+                         Qt::black);
+    painter.end();
+    for (const double zoom : {0.07, 0.12, 0.2, 0.3, 0.34, 0.45, 0.7, 1.0, 2.0}) {
+        SCOPED_TRACE(zoom);
+        const QImage seen = Painted(page, zoom);
+        const QImage grey = Painted(page.convertToFormat(QImage::Format_Grayscale8), zoom);
+        double difference = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x)
+                difference += std::abs(qGray(seen.pixel(x, y)) - qGray(grey.pixel(x, y)));
+        EXPECT_LT(difference / (seen.width() * seen.height()), zoom < 0.1 ? 15 : 5);
+    }
+}
+
+}  // namespace
+}  // namespace tavrene::ui
