@@ -18,7 +18,7 @@ commands::Extent ExtentOf(const QSizeF& size) {
     return {size.width(), size.height()};
 }
 
-void PaintEmptyHint(QPainter& painter, const QRect& area, const QPalette& palette) {
+void PaintNoPage(QPainter& painter, const QRect& area, const QPalette& palette, const QString& hint) {
     QColor color = palette.color(QPalette::WindowText);
     color.setAlphaF(0.55F);
     painter.setPen(color);
@@ -31,8 +31,7 @@ void PaintEmptyHint(QPainter& painter, const QRect& area, const QPalette& palett
                      "No page is shown");
     painter.restore();
     painter.drawText(area.adjusted(16, half + 4, -16, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                     "Choose a profile on the left, make one with New,\n"
-                     "or press Process to read the scans that wait in the folder ProcessIn.");
+                     hint);
 }
 
 // Before the first place of either bar, which is not 0 where the page is smaller than the view.
@@ -77,6 +76,13 @@ void ImageView::ScrollTo(const QPoint& offset) {
     verticalScrollBar()->setValue(std::max(offset.y(), verticalScrollBar()->minimum()));
 }
 
+void ImageView::SetHint(const QString& hint) {
+    if (hint == hint_)
+        return;
+    hint_ = hint;
+    viewport()->update();
+}
+
 void ImageView::ShowFile(const std::string& path) {
     SetPage(ReadPageImage(files_, path));
 }
@@ -89,6 +95,8 @@ void ImageView::Clear() {
 void ImageView::SetZoom(double percent) {
     zoom_ = percent;
     setTransform(QTransform::fromScale(percent / 100, percent / 100));
+    if (!HasPage())
+        lastSize_ = {};
     if (isUnseen_)
         ScrollTo(kTopLeft);
 }
@@ -162,7 +170,7 @@ void ImageView::paintEvent(QPaintEvent* event) {
     if (HasPage() || !rects_->childItems().isEmpty())
         return;
     QPainter painter(viewport());
-    PaintEmptyHint(painter, viewport()->rect(), palette());
+    PaintNoPage(painter, viewport()->rect(), palette(), hint_);
 }
 
 QPointF ImageView::PagePoint(const QMouseEvent& event) const {

@@ -32,11 +32,16 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     /// Takes the page and all rectangles away.
     void Clear() override;
     double Zoom() const override { return zoom_; }
+
+    /// Set while there is no page, the next page starts at its top left corner.
     void SetZoom(double percent) override;
     void Refresh() override;
 
     void DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override;
     void ClearRects() override;
+
+    /// What is said in the place of a page while there is none.
+    void SetHint(const QString& hint);
 
     /// The boxes that can be edited; they go with the other rectangles.
     BoxLayer& Boxes() { return *boxes_; }
@@ -91,6 +96,7 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     PageTool* tool_ = nullptr;
     std::function<bool(int, int)> takeArrow_;
     std::optional<QPoint> panFrom_;
+    QString hint_;
     double zoom_ = 100;
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.

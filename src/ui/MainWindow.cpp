@@ -85,11 +85,11 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(view_);
     splitter_->addWidget(boxes_);
     splitter_->setStretchFactor(1, 1);
-    splitter_->setSizes({240, 550, 250});
+    splitter_->setSizes({264, 726, 290});
     setCentralWidget(splitter_);
     setStatusBar(panels_);
     setMinimumSize(800, 560);
-    resize(1024, 700);
+    resize(1280, 800);
 }
 
 void MainWindow::ConnectViewCommands() {

@@ -157,6 +157,10 @@ void ReviewMode::Update(Toolbars& toolbars) {
     for (const Command command : {Command::Okay, Command::AcceptForm, Command::RejectForm})
         toolbars.SetVisible(command, inReview && !state_.processing);
     marks_.SetActive(HasForm());
+    controls_.view.SetHint(inReview
+                               ? "Choose a form on the left: a click or Enter opens it."
+                               : "Choose a profile on the left, make one with New,\n"
+                                 "or press Process to read the scans that wait in the folder ProcessIn.");
     controls_.pane.List().MarkOpen(commands_.OpenLine());
     // With the form its rows are gone; Enter opens the next one.
     if (inReview && !commands_.HasForm() && controls_.boxes.hasFocus())

@@ -8,9 +8,12 @@
 namespace tavrene::ui {
 namespace {
 
-constexpr int kFileWidth = 190;
-constexpr int kTimeWidth = 130;
-constexpr int kProgressTextWidth = 70;
+// The longest texts that the panels are to show whole.
+constexpr const char* kFileText = "Profiles:1000, Active:1000";
+constexpr const char* kTimeText = "Checked:100 of 1000 Skip:100";
+constexpr const char* kProgressText = "1000/1000";
+constexpr int kPanelMargin = 6;
+
 constexpr int kProgressBarWidth = 170;
 constexpr int kProgressBarHeight = 14;
 
@@ -19,7 +22,7 @@ constexpr int kProgressBarHeight = 14;
 PanelLabel::PanelLabel(const QString& name) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
-    setContentsMargins(6, 2, 6, 2);
+    setContentsMargins(kPanelMargin, 2, kPanelMargin, 2);
 }
 
 void PanelLabel::ShowText(const QString& text) {
@@ -41,10 +44,10 @@ StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar) {
     setObjectName("StatusBar1");
     setSizeGripEnabled(false);
-    AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileWidth);
-    AddPanel(app::Panel::Message, "Message", "Message", 0);
-    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time", kTimeWidth);
-    AddPanel(app::Panel::Progress, "Progress", "Progress", kProgressTextWidth);
+    AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileText);
+    AddPanel(app::Panel::Message, "Message", "Message", nullptr);
+    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time", kTimeText);
+    AddPanel(app::Panel::Progress, "Progress", "Progress", kProgressText);
     progress_->setObjectName("ProgressBar1");
     progress_->setAccessibleName("Progress of the work");
     progress_->setTextVisible(false);
@@ -59,16 +62,17 @@ StatusPanels::StatusPanels(QWidget* parent)
     addPermanentWidget(panels, 1);
 }
 
-// A panel without a width of its own takes what the others leave.
-void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName, int width) {
+// A panel without a longest text takes what the others leave.
+void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName,
+                            const char* longest) {
     auto* const label = new PanelLabel(name);
     label->setAccessibleName(accessibleName);
-    if (width > 0)
-        label->setFixedWidth(width);
+    if (longest != nullptr)
+        label->setFixedWidth(label->fontMetrics().horizontalAdvance(longest) + 2 * kPanelMargin);
     else
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     panels_[static_cast<std::size_t>(panel)] = label;
-    row_->addWidget(label, width > 0 ? 0 : 1);
+    row_->addWidget(label, longest != nullptr ? 0 : 1);
     auto* const line = new QFrame;
     line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Sunken));
     row_->addWidget(line);

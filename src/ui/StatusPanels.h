@@ -33,7 +33,7 @@ class StatusPanels final : public QStatusBar {
     void SetProgress(int value);
 
   private:
-    void AddPanel(app::Panel panel, const char* name, const char* accessibleName, int width);
+    void AddPanel(app::Panel panel, const char* name, const char* accessibleName, const char* longest);
 
     std::array<PanelLabel*, 4> panels_{};
     QHBoxLayout* row_;

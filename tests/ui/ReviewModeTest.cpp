@@ -251,6 +251,13 @@ TEST_F(ReviewModeTest, ZoomAndScrollStayBetweenForms) {
     View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
     Rows().setCurrentItem(Rows().topLevelItem(0));
     EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
+
+    // A profile starts at its top left corner, though its page has the size of the forms.
+    View().verticalScrollBar()->setValue(500);
+    Click("Review");
+    ClickThumbnail(1);
+    Click("ZoomIn");
+    EXPECT_EQ(View().verticalScrollBar()->value(), View().verticalScrollBar()->minimum());
 }
 
 TEST_F(ReviewModeTest, DoubtfulBoxesStandOut) {
