@@ -2,6 +2,8 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QTreeView>
+#include <algorithm>
+#include <filesystem>
 
 #include "ui/DeskWindow.h"
 #include "ui/RectItem.h"
@@ -17,15 +19,8 @@ using test::TestForm;
 using Names = std::vector<std::string>;
 using Box = QMessageBox;
 
-class ReviewModeTest : public test::DeskWindow {
+class ReviewWindow : public test::DeskWindow {
   protected:
-    ReviewModeTest() {
-        AddProfile("Form", form_);
-        form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1}});
-        form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {2, 3}, .dx = 2, .dy = -1});
-        form_.SaveScan(folders_.ProcessIn + "c.tif", {});
-    }
-
     void ProcessAndReview() {
         Open();
         Click("Process");
@@ -79,59 +74,110 @@ class ReviewModeTest : public test::DeskWindow {
         return Button(*window_, "MainToolbar", key).isVisible();
     }
 
+    /// The last lines of the process log.
+    Names LogTail(std::size_t count) const {
+        Names log = ProcessLog();
+        log.erase(log.begin(), log.end() - static_cast<std::ptrdiff_t>(std::min(count, log.size())));
+        return log;
+    }
+};
+
+class ReviewModeTest : public ReviewWindow {
+  protected:
+    ReviewModeTest() {
+        AddProfile("Form", form_);
+        form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1}});
+        form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {2, 3}, .dx = 2, .dy = -1});
+        form_.SaveScan(folders_.ProcessIn + "c.tif", {});
+    }
+
     TestForm form_ = TestForm::Grid(2, 2);
 };
 
-TEST_F(ReviewModeTest, CorrectsAndDecidesWithTheMouse) {
+// Three of the samples: filled sloppily, corrected by hand beside the boxes, and of another form.
+class SamplesInReviewTest : public ReviewWindow {
+  protected:
+    SamplesInReviewTest() {
+        std::filesystem::copy(kSamples + "profiles", folders_.Profiles);
+        for (const char* scan : {"patient-11-sloppy.tif", "patient-12-corrected.tif", "staff-01.tif"})
+            std::filesystem::copy(kSamples + "scans/" + scan, folders_.ProcessIn + scan);
+    }
+
+    int RowOf(const char* box) {
+        return Rows().indexOfTopLevelItem(Rows().findItems(box, Qt::MatchExactly).at(0));
+    }
+
+    const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+};
+
+void Replace(std::string& text, const std::string& before, const std::string& after) {
+    ASSERT_NE(text.find(before), std::string::npos) << before;
+    text.replace(text.find(before), before.size(), after);
+}
+
+TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
     ProcessAndReview();
     EXPECT_TRUE(List().isVisible() && Choice().isVisible() && Shows("Okay") && Shows("AcceptForm"));
     EXPECT_FALSE(Strip().isVisible() || Offers("New") || Offers("Save") || Offers("Okay"));
     EXPECT_FALSE(Choice().isEnabled());
-    EXPECT_EQ(Lines(), (Names{"a 100", "b 100", "c 100"}));
+    EXPECT_EQ(Lines(), (Names{"patient-11-sloppy 100", "patient-12-corrected 100", "staff-01 100"}));
     EXPECT_EQ(Panel("File"), "Reviewed: 0 of 3");
 
+    // Marks beside their boxes, and one scribbled out.
     ClickLine(1);
-    EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *", "c 100"}));
-    EXPECT_EQ(Marks(), (Names{"Q1 0 0.0%", "Q2 1 54.6%", "Q3 1 54.6%", "Q4 0 0.0%"}));
-    EXPECT_EQ(Panel("Message"), "Image [b.tif], Profile [Form]");
-    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:4");
-    EXPECT_EQ(Choice().currentText(), "Form");
+    EXPECT_EQ(Panel("Message"), "Image [patient-12-corrected.tif], Profile [PatientQuestionnaire]");
+    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:51");
+    EXPECT_EQ(Choice().currentText(), "PatientQuestionnaire");
+    std::string expected = ReadText(folders_.ProcessOut + "patient-12-corrected.xml");
+    ClickRow(RowOf("Treated diabetes"));
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:16 of 51");
+    ClickPage(Middle(RowOf("Contact yes") + 1));
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:15 of 51");
+    EXPECT_EQ(Rows().currentItem()->text(0), "Contact yes");
+    QTest::mouseDClick(Rows().viewport(), Qt::LeftButton, Qt::NoModifier,
+                       Rows().visualItemRect(Rows().currentItem()).center());
+    EXPECT_EQ(Panel("ElapsedTime"), "Checked:15 of 51");
+    for (int saves = 0; saves < 2; ++saves) {
+        Click("Okay");
+        EXPECT_EQ(Lines()[1], "+ patient-12-corrected 100 *");
+        EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    }
+    Replace(expected, "Reviewed=\"0\"", "Reviewed=\"1\"");
+    Replace(expected, "Treated diabetes\" Shift=\"1,-4\" Checked=\"0\"",
+            "Treated diabetes\" Shift=\"1,-4\" Checked=\"1\"");
+    Replace(expected, "Contact yes\" Shift=\"1,-4\" Checked=\"1\"",
+            "Contact yes\" Shift=\"1,-4\" Checked=\"0\"");
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "patient-12-corrected.xml"), expected);
 
-    ClickRow(1);
-    EXPECT_EQ(Panel("ElapsedTime"), "Checked:1 of 4");
-    ClickPage(Middle(4));
-    EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 4");
-    EXPECT_EQ(Rows().currentItem()->text(0), "Q4");
-    Click("Okay");
-    EXPECT_EQ(Lines()[1], "+ b 100 *");
-    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
-    Click("Okay");
-    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    ClickLine(0);
     Click("AcceptForm");
-    EXPECT_EQ(Lines(), (Names{"a 100", "c 100"}));
-    EXPECT_EQ(Selected(), 1);
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 2") << "it was never saved as reviewed";
+    EXPECT_EQ(Selected(), 0);
     EXPECT_FALSE(Offers("AcceptForm"));
-    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 2");
-    EXPECT_NE(ReadText(folders_.ProcessFinal + "b.xml")
-                  .find("<OMR Name=\"Q2\" Shift=\"2,-1\" Checked=\"0\" />\n"
-                        "\t\t<OMR Name=\"Q3\" Shift=\"2,-1\" Checked=\"1\" />\n"
-                        "\t\t<OMR Name=\"Q4\" Shift=\"2,-1\" Checked=\"1\" />"),
-              std::string::npos);
-    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
-
-    ClickLine(1);
+    Press(List(), Qt::Key_Return);
+    EXPECT_EQ(Marks()[static_cast<std::size_t>(RowOf("Treated diabetes"))].substr(0, 18),
+              "Treated diabetes 1");
+    Click("AcceptForm");
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 1");
+    Press(List(), Qt::Key_Return);
     Click("RejectForm");
-    EXPECT_EQ(In(folders_.ProcessReject), (Names{"c.tif", "c.xml"}));
-    Names log = ProcessLog();
-    log.erase(log.begin(), log.end() - 4);
-    EXPECT_EQ(log, (Names{"Reviewed & Saved [b]", "Reviewed & Saved [b]", "Form [b] accepted.",
-                          "Form [c] rejected."}));
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 0");
+    EXPECT_EQ(In(folders_.ProcessOut), Names());
+    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"patient-11-sloppy.tif", "patient-11-sloppy.xml",
+                                                "patient-12-corrected.tif", "patient-12-corrected.xml"}));
+    EXPECT_EQ(In(folders_.ProcessReject), (Names{"staff-01.tif", "staff-01.xml"}));
+    EXPECT_EQ(ReadText(folders_.ProcessFinal + "patient-12-corrected.xml"), expected);
+    EXPECT_EQ(ReadText(folders_.ProcessReject + "staff-01.tif"), ReadText(kSamples + "scans/staff-01.tif"));
+    EXPECT_EQ(LogTail(5),
+              (Names{"Reviewed & Saved [patient-12-corrected]", "Reviewed & Saved [patient-12-corrected]",
+                     "Form [patient-11-sloppy] accepted.", "Form [patient-12-corrected] accepted.",
+                     "Form [staff-01] rejected."}));
 
     Click("Review");
     EXPECT_TRUE(Strip().isVisible() && Offers("New"));
     EXPECT_FALSE(Offers("Save") || Button(*window_, "MainToolbar", "Delete").isEnabled());
     EXPECT_FALSE(List().isVisible() || Shows("Okay"));
-    EXPECT_EQ(Panel("File"), "Profiles:1, Active:1");
+    EXPECT_EQ(Panel("File"), "Profiles:2, Active:2");
     EXPECT_EQ(Panel("Message") + Panel("ElapsedTime"), "");
 }
 
@@ -307,6 +353,8 @@ TEST_F(ReviewModeTest, AnotherProfileReadsTheFormAgain) {
 
 TEST_F(ReviewModeTest, AChangedOrMissingProfileAsks) {
     ProcessAndReview();
+    ClickLine(1);
+    Click("Okay");
     Click("Review");
     form_.boxes.push_back({"Q5", 168, 70, 192, 94});
     AddProfile("Form", form_);
@@ -331,8 +379,11 @@ TEST_F(ReviewModeTest, AChangedOrMissingProfileAsks) {
         ClickLine(1);
     }
     EXPECT_EQ(Panel("ElapsedTime"), "OMRs:5");
-    Click("Okay");
-    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 3");
+    for (int saves = 0; saves < 2; ++saves) {
+        Click("Okay");
+        EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    }
     Click("Review");
     files_.Delete(folders_.Profiles + "Form.Tvp");
     AddProfile("Other", TestForm::Grid(1, 2));
