@@ -23,8 +23,8 @@ void Decisions::Save(OpenForm& form) {
     form.SavedProfile = form.Profile.Name;
     form.Changed = false;
     list_.Change(form.Document, true, form.Result.Confidence());
-    list_.ShowCounts();
     doors_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
+    list_.ShowCounts();
 }
 
 bool Decisions::OfferSave(OpenForm& form) {

@@ -27,8 +27,8 @@ class Decisions {
     void Decide(const OpenForm& form, Decision decision, Leaving leaving) {
         const FormMove move = MoveForm(form, decision);
         leaving();
-        list_.ShowCounts();
         LogDecision(move);
+        list_.ShowCounts();
     }
 
     /// Settles a decision that was cut short: its files are together again in `ProcessOut`, or it was done
