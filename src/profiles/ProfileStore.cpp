@@ -125,8 +125,7 @@ void ProfileStore::Load(const std::string& path) {
     profile_.Document = LoadNamed(doors_.files, path);
     doors_.log.LogProfileEvent("Loaded Profile: " + profile_.Name);
     profile_.Image = profile_.Document.first_child().attribute("Image").value();
-    doors_.person.SetPanel(Panel::Message,
-                           "Profile [" + profile_.Name + "], Image [" + app::FileName(profile_.Image) + "]");
+    doors_.person.SetPanel(Panel::Message, HeadingOf(profile_));
     ProfileContent content;
     try {
         content = ReadProfileContent(profile_.Document);
