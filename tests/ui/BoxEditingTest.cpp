@@ -158,6 +158,7 @@ TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
     EXPECT_EQ(RowTexts()[2], "Q3");
     Press(Rows(), Qt::Key_F2);
     TypeName("Größe", Qt::Key_Return);
+    EXPECT_EQ(Rows().topLevelItem(2)->toolTip(0), "<span>Größe</span>");
     ClickRow(3);
     Press(Rows(), Qt::Key_F2);
     NameEditor().setText("typed");
