@@ -197,6 +197,10 @@ TEST_F(BoxEditingTest, ABoxDrawnByHandIsReadByARunWhichClosesTheProfile) {
     form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {6}, .dx = 20, .dy = -20});
     DialogScript dialogs;
     dialogs.Press(QMessageBox::Yes);
+    test::WhileRunning other([this] {
+        if (Panel("File") == "a.tif")
+            ClickThumbnail(1);  // ignored, and nothing is marked as open
+    });
     Click("Process");
     for (const auto& [name, shift] : {std::pair("a.xml", "0,0"), {"b.xml", "20,-20"}}) {
         const std::string text = test::ReadText(folders_.ProcessOut + name);
