@@ -44,7 +44,7 @@ void BM_FindBoxes(benchmark::State& state) {
     Nobody person;
     const app::SystemClock clock;
     app::ActivityLog log(files, clock, person, ScratchFolder() + "/");
-    const boxes::PipelineDoors doors{files, person, log, clock, ScratchFolder() + "/"};
+    const boxes::PipelineDoors doors{files, person, log, clock};
     std::size_t found = 0;
     for (auto _ : state)
         found = boxes::FindBoxesOnImage(page, "page", kSizes, boxes::ReachFor(kSizes), doors)->Boxes.size();

@@ -50,6 +50,7 @@ as_root() {
 build_preset() {
     local preset=$1 folder=$root/build/$1
     shift
+    mkdir -p "$root/build"
     cd "$root"
     if ! [ "$folder/build.ninja" -nt CMakePresets.json ]; then
         say "Configuring $preset"

@@ -4,6 +4,17 @@
 #include <system_error>
 
 namespace tavrene::app {
+namespace {
+
+// from_chars tells of both ends of its range alike.
+bool IsTooSmall(std::string_view number) {
+    const std::size_t exponent = number.find_first_of("eE");
+    if (exponent != std::string_view::npos)
+        return number[exponent + 1] == '-';
+    return number.find('.') < number.find_first_of("123456789");
+}
+
+}  // namespace
 
 double LeadingNumber(std::string_view text) {
     const std::size_t start = text.find_first_not_of(" \t\r\n");
@@ -18,7 +29,8 @@ double LeadingNumber(std::string_view text) {
         return 0.0;
     double value = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error == std::errc::result_out_of_range)
+    const bool isOutOfRange = error == std::errc::result_out_of_range;
+    if (isOutOfRange && !IsTooSmall(text.substr(0, static_cast<std::size_t>(end - text.data()))))
         return text.front() == '-' ? std::numeric_limits<double>::lowest()
                                    : std::numeric_limits<double>::max();
     return error == std::errc() ? value : 0.0;

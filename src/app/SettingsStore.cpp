@@ -12,6 +12,14 @@ std::int16_t ReadCommonNumber(const SettingsStore& store, std::string_view name)
     return RoundToInt16(LeadingNumber(ReadCommonText(store, name)));
 }
 
+std::int16_t ReadOrDefault(SettingsStore& store, std::string_view name, std::int16_t fallback) {
+    const std::int16_t stored = ReadCommonNumber(store, name);
+    if (stored != 0)
+        return stored;
+    WriteCommonNumber(store, name, fallback);
+    return fallback;
+}
+
 bool ReadCommonFlag(const SettingsStore& store, std::string_view name) {
     return LeadingNumber(ReadCommonText(store, name)) == 1.0;
 }

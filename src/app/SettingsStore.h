@@ -30,6 +30,10 @@ std::string ReadCommonText(const SettingsStore& store, std::string_view name);
 /// held at the nearest value that fits); 0 where there is none.
 std::int16_t ReadCommonNumber(const SettingsStore& store, std::string_view name);
 
+/// The same of a number that must not be 0. The default takes the place of a 0 in the store at once, so that
+/// after the first run the store holds every number explicitly.
+std::int16_t ReadOrDefault(SettingsStore& store, std::string_view name, std::int16_t fallback);
+
 /// A flag of section `Common`: on exactly when its text reads as the number 1.
 bool ReadCommonFlag(const SettingsStore& store, std::string_view name);
 

@@ -5,15 +5,6 @@
 namespace tavrene::app {
 namespace {
 
-// A default is written back at once, so that after the first run the store holds every number explicitly.
-std::int16_t ReadOrDefault(SettingsStore& store, std::string_view name, std::int16_t fallback) {
-    const std::int16_t stored = ReadCommonNumber(store, name);
-    if (stored != 0)
-        return stored;
-    WriteCommonNumber(store, name, fallback);
-    return fallback;
-}
-
 void ReadSettings(Settings& settings, SettingsStore& store) {
     settings.BoxMinWidth = ReadOrDefault(store, "BoxMinWidth", kDefaultBoxMinWidth);
     settings.BoxMaxWidth = ReadOrDefault(store, "BoxMaxWidth", kDefaultBoxMaxWidth);

@@ -27,6 +27,7 @@ struct BoxSizes {
     std::int16_t BoxMaxWidth = 0;
     std::int16_t BoxMinHeight = 0;
     std::int16_t BoxMaxHeight = 0;
+    bool operator==(const BoxSizes&) const = default;
 };
 
 BoxSizes SizesOf(const app::Settings& settings);

@@ -19,21 +19,11 @@ constexpr const char* kTooManyColors = "Image has more than 2 colors. cannot pro
 using imaging::Page;
 using imaging::PageFault;
 
-// A form that was no bilevel TIFF with its ink as set bits is kept as one in the temporary folder.
-void KeepCopy(const Page& page, imaging::ImageFormat format, const PipelineDoors& doors) {
-    if (format == imaging::ImageFormat::Tiff && !page.inverted)
-        return;
-    const app::Bytes copy = imaging::EncodeGroup4Tiff(page.bitmap);
-    doors.files.Write(doors.tempFolder + "temp.tif", copy, app::Keep::AsScratch);
-}
-
 // The page, or nothing after the operator has been told why there is none.
 std::optional<Page> ReadForm(const std::string& imagePath, const PipelineDoors& doors) {
     std::variant<Page, PageFault> read = imaging::ReadSpecimen(doors.files, imagePath);
-    if (Page* const page = std::get_if<Page>(&read)) {
-        KeepCopy(*page, imaging::SpecimenFormat(imagePath), doors);
+    if (Page* const page = std::get_if<Page>(&read))
         return std::move(*page);
-    }
     const bool hasColors = std::get<PageFault>(read) == PageFault::TooManyColors;
     doors.person.ShowMessage("", hasColors ? kTooManyColors : kNotABitmap);
     return std::nullopt;

@@ -15,11 +15,10 @@ namespace tavrene::boxes {
 
 /// What box finding needs of the world around it. The references must outlive the run.
 struct PipelineDoors {
-    app::Files& files;
+    const app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
     const app::Clock& clock;
-    std::string tempFolder;  ///< Ends in a separator.
 };
 
 /// The boxes of a blank form, from the top of the page down and from left to right, in the grid frame (`T` is
@@ -34,8 +33,7 @@ struct FoundBoxes {
 
 /// Finds the check boxes on the image of a blank form in eleven steps, telling of each in the `Message` panel
 /// and by the progress bar, and logs their number for the new profile. Without a usable image a message box
-/// says why, no step runs and nothing is returned. Throws `app::FileError` when the log or the temporary copy
-/// cannot be written.
+/// says why, no step runs and nothing is returned. Throws `app::FileError` when the log cannot be written.
 std::optional<FoundBoxes> FindBoxesOnImage(const std::string& imagePath, const std::string& profileName,
                                            const BoxSizes& sizes, const PairReach& reach,
                                            const PipelineDoors& doors);

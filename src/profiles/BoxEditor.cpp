@@ -25,6 +25,15 @@ std::string RowText(const OmrBox& box, int number) {
     return box.Name.empty() ? UnnamedBox(number) : box.Name;
 }
 
+// Moves two opposite sides, but neither off the page, whose extent is 0 where it is not known. A box that
+// lies beside it can still come back.
+void MoveSides(std::int16_t& a, std::int16_t& b, int by, int extent) {
+    const int last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
+    by = std::clamp(by, std::min(0, -std::min(a, b)), std::max(0, last - std::max(a, b)));
+    a = static_cast<std::int16_t>(a + by);
+    b = static_cast<std::int16_t>(b + by);
+}
+
 bool HasSize(const RectReport& report) {
     return report.width + report.height > 0;
 }
@@ -176,12 +185,9 @@ void BoxEditor::Nudge(int dx, int dy) {
         return;
     BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
     OmrBox& box = *edit.after;
-    box.L = app::HoldInInt16(box.L + dx);
-    box.T = app::HoldInInt16(box.T + dy);
-    box.R = app::HoldInInt16(box.R + dx);
-    box.B = app::HoldInInt16(box.B + dy);
-    // At the end of the number range a box would shrink instead of moving on.
-    if (box.R - box.L != edit.before->R - edit.before->L || box.B - box.T != edit.before->B - edit.before->T)
+    MoveSides(box.L, box.R, dx, profile_.ImageWidth);
+    MoveSides(box.T, box.B, dy, profile_.ImageHeight);
+    if (IsSamePlace(*edit.before, box))
         return;
     Box(number) = box;
     Record(std::move(edit));

@@ -39,7 +39,7 @@ class BoxEditor {
     /// Deletes the current box; the next one that is left becomes current.
     void DeleteBox();
 
-    /// Moves the current box by whole pixels of the image, to the right and down.
+    /// Moves the current box by whole pixels of the image, to the right and down, but not off the page.
     void Nudge(int dx, int dy);
 
     void Undo();

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Files.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
@@ -41,6 +42,11 @@ struct OpenProfile {
 inline bool IsKept(const OpenProfile& profile, int number) {
     return number >= 1 && static_cast<std::size_t>(number) <= profile.BoxList.size() &&
            profile.BoxList[static_cast<std::size_t>(number) - 1].Checked;
+}
+
+/// How the `Message` panel names the profile that was opened.
+inline std::string HeadingOf(const OpenProfile& profile) {
+    return "Profile [" + profile.Name + "], Image [" + app::FileName(profile.Image) + "]";
 }
 
 }  // namespace tavrene::profiles

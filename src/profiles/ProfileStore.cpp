@@ -6,7 +6,6 @@
 #include <variant>
 
 #include "boxes/ProfileImagePipeline.h"
-#include "imaging/PageReader.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "profiles/ProfileDocument.h"
 #include "profiles/ProfileLoader.h"
@@ -81,11 +80,9 @@ bool ProfileStore::Create(const std::string& path, const std::string& imagePath,
     const std::string name = app::BaseName(path);
     if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
         doors_.files.FileExists(imagePath))
-        doors_.files.Write(doors_.folders.Temp + "temp2.tif", doors_.files.Read(imagePath),
-                           app::Keep::AsScratch);
-    const std::optional<boxes::FoundBoxes> found =
-        boxes::FindBoxesOnImage(imagePath, name, sizes, reach,
-                                {doors_.files, doors_.person, doors_.log, doors_.clock, doors_.folders.Temp});
+        WriteScratch("temp2.tif", doors_.files.Read(imagePath));
+    const std::optional<boxes::FoundBoxes> found = boxes::FindBoxesOnImage(
+        imagePath, name, sizes, reach, {doors_.files, doors_.person, doors_.log, doors_.clock});
     if (!found)
         return false;
     const std::vector<OmrBox> omrs = OmrsOfBoxes(found->Boxes, found->Height);
@@ -128,8 +125,7 @@ void ProfileStore::Load(const std::string& path) {
     profile_.Document = LoadNamed(doors_.files, path);
     doors_.log.LogProfileEvent("Loaded Profile: " + profile_.Name);
     profile_.Image = profile_.Document.first_child().attribute("Image").value();
-    doors_.person.SetPanel(Panel::Message,
-                           "Profile [" + profile_.Name + "], Image [" + app::FileName(profile_.Image) + "]");
+    doors_.person.SetPanel(Panel::Message, HeadingOf(profile_));
     ProfileContent content;
     try {
         content = ReadProfileContent(profile_.Document);
@@ -150,25 +146,46 @@ void ProfileStore::Load(const std::string& path) {
 void ProfileStore::ShowSpecimen(const std::string& image, Specimen specimen) {
     const auto read = imaging::ReadSpecimen(doors_.files, image);
     const imaging::Page* const page = std::get_if<imaging::Page>(&read);
-    profile_.ImageWidth = page == nullptr ? 0 : page->bitmap.Width();
-    profile_.ImageHeight = page == nullptr ? 0 : page->bitmap.Height();
     screen_.view.SetZoom(100);
-    if (page == nullptr && std::get<imaging::PageFault>(read) == imaging::PageFault::NotABitmap) {
+    if (page != nullptr) {
+        KeepSize(page->bitmap);
+        screen_.view.ShowFile(DisplayCopy(image, *page, specimen));
+    } else if (std::get<imaging::PageFault>(read) == imaging::PageFault::TooManyColors) {
+        KeepSize(imaging::DecodeImage(doors_.files.Read(image), imaging::SpecimenFormat(image),
+                                      imaging::Decode::HeaderOnly));
+        screen_.view.ShowFile(image);
+    } else {
         screen_.view.Clear();
         notes_.push_back(
             "The specimen image " + image +
             (doors_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
-        return;
     }
+}
+
+void ProfileStore::KeepSize(const imaging::Bitmap& picture) {
+    profile_.ImageWidth = picture.Width();
+    profile_.ImageHeight = picture.Height();
+}
+
+std::string ProfileStore::DisplayCopy(const std::string& image, const imaging::Page& page,
+                                      Specimen specimen) {
     const bool isTiff = imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff;
-    const bool isNew = specimen == Specimen::OfNewProfile;
-    if (page == nullptr || (isTiff && !(isNew && page->inverted))) {
-        screen_.view.ShowFile(image);
-        return;
+    const bool isTurned = specimen == Specimen::OfNewProfile && page.inverted;
+    if (isTiff && !isTurned)
+        return image;
+    const std::string copy = "temp.tif";
+    return WriteScratch(copy, imaging::EncodeGroup4Tiff(page.bitmap)) ? doors_.folders.Temp + copy : image;
+}
+
+// A copy that cannot be written costs no more than itself.
+bool ProfileStore::WriteScratch(const std::string& name, const app::Bytes& content) {
+    try {
+        doors_.files.Write(doors_.folders.Temp + name, content, app::Keep::AsScratch);
+        return true;
+    } catch (const app::FileError& error) {
+        notes_.push_back(std::string(error.what()) + ".");
+        return false;
     }
-    const std::string copy = doors_.folders.Temp + "temp.tif";
-    doors_.files.Write(copy, imaging::EncodeGroup4Tiff(page->bitmap), app::Keep::AsScratch);
-    screen_.view.ShowFile(copy);
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.

@@ -9,6 +9,7 @@
 #include "app/Operator.h"
 #include "app/WorkingFolders.h"
 #include "boxes/BoxAnalysis.h"
+#include "imaging/PageReader.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
@@ -76,9 +77,13 @@ class ProfileStore {
     void OpenCreated(const std::string& path, pugi::xml_document document);
     enum class Specimen { OfNewProfile, OfStoredProfile };
 
-    /// A TIFF is shown from its own path; a new profile's is also copied, and shown from the copy where it
-    /// had to be inverted.
     void ShowSpecimen(const std::string& image, Specimen specimen);
+    void KeepSize(const imaging::Bitmap& picture);
+
+    /// The file from which a specimen is shown: that of a TIFF is its own, unless a new profile's had to be
+    /// inverted.
+    std::string DisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
+    bool WriteScratch(const std::string& name, const app::Bytes& content);
     void FitView();
     void WriteDocument();
 

@@ -82,20 +82,28 @@ std::vector<std::string> ProcessRun::ListImages() {
 void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
     const std::vector<std::string> names = ListImages();
     doors_.person.SetProgressRange(static_cast<int>(names.size()));
-    for (std::size_t next = 0; next < names.size() && !stop_;) {
-        currentName_ = names[next];
-        const bool moved = TakeFile(currentName_, profiles);
-        if (!moved)
-            currentName_.clear();
-        if (settings_.ProcessSingle)
-            return;
-        if (moved)
-            LogAbout(currentName_, "Processing complete");
-        ++next;
-        currentName_ = next < names.size() ? names[next] : std::string();
-        doors_.person.SetProgress(++filesDone_);
+    std::size_t next = 0;
+    do {
+        if (!names.empty())
+            TakeInTurn(names, next, profiles);
+        // Behind a single file and over an empty folder too: what is clicked meanwhile belongs to this run
+        // and must not wait for its end, to start another.
         doors_.person.RunPendingEvents();
-    }
+    } while (++next < names.size() && !settings_.ProcessSingle && !stop_);
+}
+
+void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t index,
+                            std::span<const ProfileRecord> profiles) {
+    currentName_ = names[index];
+    const bool moved = TakeFile(currentName_, profiles);
+    if (!moved)
+        currentName_.clear();
+    if (settings_.ProcessSingle)
+        return;
+    if (moved)
+        LogAbout(currentName_, "Processing complete");
+    currentName_ = index + 1 < names.size() ? names[index + 1] : std::string();
+    doors_.person.SetProgress(++filesDone_);
 }
 
 bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord> profiles) {

@@ -42,7 +42,7 @@ class ProcessRun {
     bool MayStart(std::span<const profiles::ProfileRecord> profiles);
 
     /// Runs until the folder is done, after one file when `ProcessSingle` is on, or until `Stop`. Lets the
-    /// screen take events once a file.
+    /// screen take events once a file, and once where there is none.
     void Run(std::span<const profiles::ProfileRecord> profiles);
 
     /// Ends the run before its next file; the current one is finished.
@@ -55,6 +55,8 @@ class ProcessRun {
 
     std::vector<std::string> ListImages();
     void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
+    void TakeInTurn(const std::vector<std::string>& names, std::size_t index,
+                    std::span<const profiles::ProfileRecord> profiles);
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FileOutcome& outcome);

@@ -4,6 +4,7 @@
 #include <QPen>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "ui/DrawTool.h"
@@ -98,10 +99,24 @@ double BoxLayer::Scale() const {
     return view_.Zoom() / 100;
 }
 
+QRectF BoxLayer::Room() const {
+    constexpr double kMost = std::numeric_limits<std::int16_t>::max();
+    const QRectF page = view_.PageRect();
+    return page.isEmpty() ? QRectF(0, 0, kMost, kMost) : page;
+}
+
 QPointF BoxLayer::Snapped(const QPointF& point) const {
-    const QRectF page = view_.sceneRect();
-    return {std::clamp(std::round(point.x()), page.left(), page.right()),
-            std::clamp(std::round(point.y()), page.top(), page.bottom())};
+    const QRectF room = Room();
+    return {std::clamp(std::round(point.x()), room.left(), room.right()),
+            std::clamp(std::round(point.y()), room.top(), room.bottom())};
+}
+
+QRectF BoxLayer::Moved(const QRectF& place, const QPointF& by) const {
+    const QRectF room = Room();
+    return place.translated(std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
+                                       std::max(0.0, room.right() - place.right())),
+                            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
+                                       std::max(0.0, room.bottom() - place.bottom())));
 }
 
 int BoxLayer::BoxAt(const QPointF& point) const {

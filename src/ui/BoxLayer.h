@@ -51,6 +51,9 @@ class BoxLayer final : public profiles::EditableBoxes {
     /// The point on whole pixels of the page.
     QPointF Snapped(const QPointF& point) const;
 
+    /// The place moved by whole pixels, not off the page or, of one that lies beside it, not further.
+    QRectF Moved(const QRectF& place, const QPointF& by) const;
+
     /// The box at a point, the smallest where several lie over each other; 0 for none.
     int BoxAt(const QPointF& point) const;
     int SelectedBox() const { return selected_; }
@@ -74,6 +77,9 @@ class BoxLayer final : public profiles::EditableBoxes {
         QRectF place;
     };
     void Mark(int group);
+
+    /// Where boxes are put: the page, or every place that a document can hold while there is none.
+    QRectF Room() const;
 
     ImageView& view_;
     Listener listener_;

@@ -40,12 +40,12 @@ class BoxListView::NameDelegate final : public QStyledItemDelegate {
         return editor;
     }
 
-    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
         const QString name = qobject_cast<QLineEdit*>(editor)->text();
         if (name == index.data().toString())
             return;
         const int number = index.data(Qt::UserRole).toInt();
-        model->setData(index, name);
+        ShowName(*list_.itemFromIndex(index), name);
         list_.listener_.renamed(number, name);
     }
 

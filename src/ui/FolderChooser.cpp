@@ -24,8 +24,7 @@ QStringList Drives() {
     return drives;
 }
 
-QString NearestExisting(const QString& folder) {
-    QString path = QDir::cleanPath(QDir(folder).absolutePath());
+QString NearestExisting(QString path) {
     while (!QFileInfo(path).isDir() && path != QFileInfo(path).path())
         path = QFileInfo(path).path();
     return path;
@@ -86,9 +85,12 @@ bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FolderChooser::GoTo(const QString& folder) {
-    current_ = NearestExisting(folder);
-    FillFolders();
-    path_->setText(QDir::toNativeSeparators(current_));
+    current_ = QDir::cleanPath(QDir(folder).absolutePath());
+    const QString shown = NearestExisting(current_);
+    FillFolders(shown);
+    path_->setText(
+        QDir::toNativeSeparators(current_) +
+        (shown == current_ ? QString() : "\nis not there. Choose another folder or bring it back."));
     int best = 0;
     for (int i = 1; i < drives_->count(); ++i) {
         const QString drive = drives_->itemData(i).toString();
@@ -105,18 +107,18 @@ void FolderChooser::FillDrives() {
                          drive);
 }
 
-void FolderChooser::FillFolders() {
+void FolderChooser::FillFolders(const QString& shown) {
     folders_->clear();
-    const QStringList lineage = Lineage(current_);
+    const QStringList lineage = Lineage(shown);
     for (int depth = 0; depth < lineage.size(); ++depth) {
         const QString name = QFileInfo(lineage[depth]).fileName();
         AddRow(name.isEmpty() ? lineage[depth] : name, lineage[depth], depth);
     }
     QListWidgetItem* const here = folders_->item(folders_->count() - 1);
     const QStringList children =
-        QDir(current_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+        QDir(shown).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString& child : children)
-        AddRow(child, QDir(current_).filePath(child), static_cast<int>(lineage.size()));
+        AddRow(child, QDir(shown).filePath(child), static_cast<int>(lineage.size()));
     folders_->setCurrentItem(here);
     folders_->scrollToItem(here, QAbstractItemView::PositionAtCenter);
 }

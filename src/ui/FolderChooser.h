@@ -16,7 +16,8 @@ class FolderChooser final : public QWidget {
     /// Full path of the current folder, without a trailing separator (but for a root).
     QString CurrentFolder() const { return current_; }
 
-    /// Moves to a folder, or to the nearest existing one above it, and sets the drive list to its drive.
+    /// Moves to a folder and sets the drive list to its drive. One that is not there is the current folder
+    /// nevertheless; the list then shows the nearest existing one above it.
     void GoTo(const QString& folder);
 
   protected:
@@ -24,7 +25,7 @@ class FolderChooser final : public QWidget {
 
   private:
     void FillDrives();
-    void FillFolders();
+    void FillFolders(const QString& shown);
     void AddRow(const QString& text, const QString& path, int depth);
 
     QString current_;

@@ -52,6 +52,9 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     /// All rectangles that are drawn.
     std::vector<RectItem*> Rects() const;
 
+    /// The page in its own frame; empty without one.
+    QRectF PageRect() const { return page_->boundingRect(); }
+
     /// Lets the view scroll to a place beside the page.
     void MakeReachable(const QRectF& rect);
 

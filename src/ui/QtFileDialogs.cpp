@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <algorithm>
 #include <utility>
 
 #include "ui/BusyCursor.h"
@@ -23,6 +24,16 @@ QString ExtensionOf(const std::string& filter) {
     return ToQt(filter).section('*', -1);
 }
 
+// A file is the same one however its name is typed, so one that is there keeps its spelling.
+QString SpelledOnDisk(const QFileInfo& file) {
+    const QStringList names = file.dir().entryList(QDir::Files);
+    const auto same = [&file](const QString& name) {
+        return name.compare(file.fileName(), Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(names.begin(), names.end(), same);
+    return names.contains(file.fileName()) || found == names.end() ? file.fileName() : *found;
+}
+
 constexpr int kWidth = 760;
 constexpr int kHeight = 460;
 
@@ -38,8 +49,8 @@ class FileDialog final : public QFileDialog {
         resize(kWidth, kHeight);
     }
 
-    /// Files to be written get this extension. Added before the dialog looks whether the file is there
-    /// already.
+    /// Files to be written get this extension, and the spelling of one that is there. That comes before the
+    /// dialog looks whether the file is there already.
     void SetExtension(const QString& extension) { extension_ = extension; }
 
     std::optional<std::string> Ask() {
@@ -53,12 +64,21 @@ class FileDialog final : public QFileDialog {
         auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
         const QStringList files = selectedFiles();
         if (!extension_.isEmpty() && nameEdit != nullptr && !files.isEmpty() &&
-            !QFileInfo(files.front()).isDir() && !files.front().endsWith(extension_, Qt::CaseInsensitive))
-            nameEdit->setText(nameEdit->text() + extension_);
+            !QFileInfo(files.front()).isDir())
+            nameEdit->setText(Completed(nameEdit->text(), files.front()));
         QFileDialog::accept();
     }
 
   private:
+    // What was typed for `path`.
+    QString Completed(QString typed, const QString& path) const {
+        const QString end = path.endsWith(extension_, Qt::CaseInsensitive) ? QString() : extension_;
+        const QFileInfo file(path + end);
+        typed += end;
+        return typed.endsWith(file.fileName()) ? typed.chopped(file.fileName().size()) + SpelledOnDisk(file)
+                                               : typed;
+    }
+
     QString extension_;
 };
 

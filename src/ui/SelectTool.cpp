@@ -35,8 +35,7 @@ void SelectTool::Press(const QPointF& point) {
 QRectF SelectTool::Moved(const QPointF& point) const {
     if (edges_ != kNoEdge)
         return WithEdgesAt(before_, edges_, layer_.Snapped(point));
-    const QPointF by = point - from_;
-    return before_.translated(std::round(by.x()), std::round(by.y()));
+    return layer_.Moved(before_, point - from_);
 }
 
 void SelectTool::Drag(const QPointF& point) {

@@ -31,19 +31,11 @@ void SettingsDialog::LoadFolder() {
 }
 
 void SettingsDialog::LoadSizes() {
-    const auto read = [this](std::string_view name, int first) {
-        if (const int stored = app::ReadCommonNumber(store_, name); stored != 0)
-            return stored;
-        app::WriteCommonNumber(store_, name, static_cast<std::int16_t>(first));
-        return first;
-    };
-    const commands::BoxSizes first = commands::SizesOfFirstPositions();
-    commands::BoxSizes stored;
-    stored.minWidth = read("BoxMinWidth", first.minWidth);
-    stored.maxWidth = read("BoxMaxWidth", first.maxWidth);
-    stored.minHeight = read("BoxMinHeight", first.minHeight);
-    stored.maxHeight = read("BoxMaxHeight", first.maxHeight);
-    sizes_.SetSizes(stored);
+    const boxes::BoxSizes first = commands::SizesOfFirstPositions();
+    sizes_.SetSizes({app::ReadOrDefault(store_, "BoxMinWidth", first.BoxMinWidth),
+                     app::ReadOrDefault(store_, "BoxMaxWidth", first.BoxMaxWidth),
+                     app::ReadOrDefault(store_, "BoxMinHeight", first.BoxMinHeight),
+                     app::ReadOrDefault(store_, "BoxMaxHeight", first.BoxMaxHeight)});
 }
 
 void SettingsDialog::LoadProcessing() {
@@ -72,14 +64,14 @@ void SettingsDialog::ShowSizes() {
         const QSignalBlocker settled(control);
         control->setValue(sizes_.Position(bar));
     }
-    const commands::BoxSizes sizes = sizes_.Sizes();
-    smallest_->ShowSize(sizes.minWidth, sizes.minHeight);
-    largest_->ShowSize(sizes.maxWidth, sizes.maxHeight);
+    const boxes::BoxSizes sizes = sizes_.Sizes();
+    smallest_->ShowSize(sizes.BoxMinWidth, sizes.BoxMinHeight);
+    largest_->ShowSize(sizes.BoxMaxWidth, sizes.BoxMaxHeight);
     sizeLabel_->setText(QString("(%1,%2) - (%3,%4)")
-                            .arg(sizes.minWidth)
-                            .arg(sizes.minHeight)
-                            .arg(sizes.maxWidth)
-                            .arg(sizes.maxHeight));
+                            .arg(sizes.BoxMinWidth)
+                            .arg(sizes.BoxMinHeight)
+                            .arg(sizes.BoxMaxWidth)
+                            .arg(sizes.BoxMaxHeight));
 }
 
 void SettingsDialog::Save() {
@@ -90,16 +82,16 @@ void SettingsDialog::Save() {
 }
 
 void SettingsDialog::SaveNumbers() {
-    const auto save = [this](std::string_view name, std::int16_t& held, int value) {
-        held = static_cast<std::int16_t>(value);
-        app::WriteCommonNumber(store_, name, held);
+    const auto save = [this](std::string_view name, std::int16_t& held, std::int16_t value) {
+        held = value;
+        app::WriteCommonNumber(store_, name, value);
     };
-    const commands::BoxSizes sizes = sizes_.Sizes();
-    save("BoxMinWidth", settings_.BoxMinWidth, sizes.minWidth);
-    save("BoxMaxWidth", settings_.BoxMaxWidth, sizes.maxWidth);
-    save("BoxMinHeight", settings_.BoxMinHeight, sizes.minHeight);
-    save("BoxMaxHeight", settings_.BoxMaxHeight, sizes.maxHeight);
-    save("FillThreshold", settings_.FillThreshold, threshold_->value());
+    const boxes::BoxSizes sizes = sizes_.Sizes();
+    save("BoxMinWidth", settings_.BoxMinWidth, sizes.BoxMinWidth);
+    save("BoxMaxWidth", settings_.BoxMaxWidth, sizes.BoxMaxWidth);
+    save("BoxMinHeight", settings_.BoxMinHeight, sizes.BoxMinHeight);
+    save("BoxMaxHeight", settings_.BoxMaxHeight, sizes.BoxMaxHeight);
+    save("FillThreshold", settings_.FillThreshold, static_cast<std::int16_t>(threshold_->value()));
 }
 
 void SettingsDialog::SaveFlags() {

@@ -116,9 +116,14 @@ void ThumbnailStripView::ShowThumbnails(std::span<const profiles::StripThumbnail
 void ThumbnailStripView::SelectThumbnail(int k) {
     const QModelIndex index = pages_->index(k - 1);
     clearSelection();
-    setCurrentIndex(index);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::Select);
     if (index.isValid())
         scrollTo(index);
+}
+
+QItemSelectionModel::SelectionFlags ThumbnailStripView::selectionCommand(const QModelIndex&,
+                                                                         const QEvent*) const {
+    return QItemSelectionModel::NoUpdate;
 }
 
 void ThumbnailStripView::TellChosen(const QModelIndex& index) {

@@ -8,6 +8,7 @@
 namespace tavrene::ui {
 
 /// The thumbnail strip `ImgThumbnail1`. Thumbnails are numbered from 1; only those in sight are painted.
+/// Clicks and keys only ask for a thumbnail; which one is selected, `SelectThumbnail` alone says.
 class ThumbnailStripView final : public QListView, public profiles::ThumbnailStrip {
   public:
     struct Listener {
@@ -26,6 +27,8 @@ class ThumbnailStripView final : public QListView, public profiles::ThumbnailStr
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
   private:
     class Pages;

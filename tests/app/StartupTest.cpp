@@ -52,10 +52,10 @@ TEST_F(StartupTest, ReadsStoredTexts) {
         int held;
         const char* kept;
     };
-    for (const Case& c :
-         {Case{"0", 16, "16"}, Case{"abc", 16, "16"}, Case{"", 16, "16"}, Case{"12px", 12, "12px"},
-          Case{"200", 200, "200"}, Case{" -7", -7, " -7"}, Case{"99999", 32'767, "99999"},
-          Case{"12.5", 12, "12.5"}, Case{"0.4", 16, "16"}, Case{"inf", 16, "16"}}) {
+    for (const Case& c : {Case{"0", 16, "16"}, Case{"abc", 16, "16"}, Case{"", 16, "16"},
+                          Case{"12px", 12, "12px"}, Case{"200", 200, "200"}, Case{" -7", -7, " -7"},
+                          Case{"99999", 32'767, "99999"}, Case{"12.5", 12, "12.5"}, Case{"0.4", 16, "16"},
+                          Case{"inf", 16, "16"}, Case{"1e-400", 16, "16"}, Case{"1e400", 32'767, "1e400"}}) {
         store_.values = {{"WorkDir", work_.Path()}, {"BoxMinWidth", c.stored}};
         Start();
         EXPECT_EQ(settings_.BoxMinWidth, c.held) << c.stored;

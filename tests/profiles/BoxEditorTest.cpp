@@ -137,17 +137,25 @@ TEST_F(BoxEditorTest, DeletingMakesTheNextBoxCurrent) {
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }
 
-TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxInsideTheNumberRange) {
+TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxOnThePage) {
     editor_.Nudge(1, 0);  // no current box
     EXPECT_FALSE(profile_.ProfileChanged);
     editor_.RowClicked(1);
     editor_.Nudge(-10, 1);
     EXPECT_EQ(Place(1), (std::vector<int>{50, 71, 74, 95}));
     EXPECT_EQ(desk_.boxes.at(1), (imaging::PageRect{50, 71, 24, 24}));
-    Box(1).R = 32767;
-    Box(1).L = 32740;
-    editor_.Nudge(1, 0);
-    EXPECT_EQ(Place(1), (std::vector<int>{32740, 71, 32767, 95}));
+    profile_.ImageWidth = 100;
+    profile_.ImageHeight = 200;
+    editor_.Nudge(50, -100);
+    EXPECT_EQ(Place(1), (std::vector<int>{76, 0, 100, 24}));
+    Box(1) = {"beside the page", -40, 300, -20, 320};
+    editor_.Nudge(-1, 1);
+    editor_.Nudge(10, -10);
+    EXPECT_EQ(Place(1), (std::vector<int>{-30, 290, -10, 310}));
+    profile_.ImageWidth = 0;  // not known
+    Box(1) = {"at the end of the number range", 32740, 10, 32760, 20};
+    editor_.Nudge(10, 0);
+    EXPECT_EQ(Place(1), (std::vector<int>{32747, 10, 32767, 20}));
 }
 
 TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {

@@ -122,6 +122,26 @@ TEST_F(ProfileStoreTest, OtherFileTypesGiveTheSameBoxesAndABlankPageNone) {
     EXPECT_TRUE(profile_.IsOpen && profile_.BoxList.empty());
 }
 
+TEST_F(ProfileStoreTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
+    AddProfiles({"Beta"});
+    files_.refuse = [this](const std::string& operation, const std::string& path) {
+        return operation == "write" && path.starts_with(folders_.Temp);
+    };
+    const std::string png = folders_.ProfileImages + "form.png";
+    samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Png, png);
+    for (const std::string& image : {folders_.ProfileImages + "Beta.tif", png}) {
+        ASSERT_TRUE(Create("Alpha.Tvp", image)) << image;
+        EXPECT_TRUE(profile_.IsOpen && profile_.CurrentProfile == 1 && desk_.rows.size() == 6);
+        EXPECT_EQ(desk_.captions.size(), 2U);
+        EXPECT_EQ(transcript_.LinesOf("view: ").back(), "show " + app::FileName(image));
+        const Names notes = store_.TakeNotes();
+        ASSERT_EQ(notes.size(), 1U);
+        EXPECT_PRED2(Has, notes[0], "Cannot write " + folders_.Temp);
+        EXPECT_TRUE(store_.ThumbnailSelected(1)) << "nor one that is there";
+        store_.TakeNotes();
+    }
+}
+
 TEST_F(ProfileStoreTest, RefusesImagesBeforeAnyStep) {
     samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Tiff,
                        folders_.ProfileImages + "grey.tif");
@@ -154,6 +174,13 @@ TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {
     EXPECT_GT(2000 * screen_.Zoom() / 96, 750);
     EXPECT_FALSE(store_.ThumbnailSelected(0));
     EXPECT_EQ(profile_.Name, "Wide");
+
+    form_.width = 2000;
+    samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Tiff,
+                       folders_.ProfileImages + "Fits.tif");  // of no use for box finding, but can be shown
+    ASSERT_TRUE(store_.ThumbnailSelected(1));
+    EXPECT_EQ(transcript_.LinesOf("view: show ").back(), "Fits.tif");
+    EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
 }
 
 TEST_F(ProfileStoreTest, SavesSixBoxesLessTwoPlusOne) {

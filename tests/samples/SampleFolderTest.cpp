@@ -72,7 +72,7 @@ TEST_F(SampleFolderTest, BoxFindingOnTheBlanksGivesTheProfiles) {
     for (const profiles::ProfileRecord& profile : profiles_) {
         const auto found =
             boxes::FindBoxesOnImage(kSamples + "blanks/" + profile.Name + ".tif", profile.Name, sizes,
-                                    boxes::ReachFor(sizes), {files_, person_, log_, clock_, folders_.Temp});
+                                    boxes::ReachFor(sizes), {files_, person_, log_, clock_});
         ASSERT_TRUE(found.has_value());
         ASSERT_EQ(found->Boxes.size(), profile.Boxes.size());
         for (std::size_t i = 0; i < profile.Boxes.size(); ++i) {

@@ -92,6 +92,23 @@ TEST_F(BoxEditingTest, MouseAndKeysMoveAndResizeAndEveryStepGoesBackAndForth) {
     EXPECT_EQ(SavedPlace(1), last);
 }
 
+TEST_F(BoxEditingTest, BoxesAreMovedResizedAndDrawnOnThePageOnly) {
+    form_.boxes[5].R = static_cast<std::int16_t>(form_.width + 50);  // lets the view scroll beside the page
+    AddSpecimenProfile("Form", form_);
+    OpenForm();
+    const QRectF page(0, 0, form_.width, form_.height);
+    const QPointF middle = MiddleOf(first_);
+    Drag(middle, middle - QPointF(90, 90));
+    EXPECT_EQ(SavedPlace(1), QRectF(QPointF(), PlaceOf(first_).size()));
+    Drag({10, 10}, {page.width() + 30, 100});
+    EXPECT_EQ(SavedPlace(1).topRight(), QPointF(page.width(), 90));
+    Drag(SavedPlace(1).bottomRight(), page.bottomRight() + QPointF(20, 20));
+    EXPECT_EQ(SavedPlace(1).bottomRight(), page.bottomRight());
+    Click("Add", "CfgToolbar");
+    Drag({-20, -20}, {page.width() + 20, 30});
+    EXPECT_EQ(SavedPlace(7), QRectF(0, 0, page.width(), 30));
+}
+
 TEST_F(BoxEditingTest, EscapeEndsADragAndOnlyThenClosesTheWindow) {
     OpenForm();
     const QPointF middle = MiddleOf(first_);
@@ -141,6 +158,7 @@ TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
     EXPECT_EQ(RowTexts()[2], "Q3");
     Press(Rows(), Qt::Key_F2);
     TypeName("Größe", Qt::Key_Return);
+    EXPECT_EQ(Rows().topLevelItem(2)->toolTip(0), "<span>Größe</span>");
     ClickRow(3);
     Press(Rows(), Qt::Key_F2);
     NameEditor().setText("typed");
@@ -179,6 +197,10 @@ TEST_F(BoxEditingTest, ABoxDrawnByHandIsReadByARunWhichClosesTheProfile) {
     form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {6}, .dx = 20, .dy = -20});
     DialogScript dialogs;
     dialogs.Press(QMessageBox::Yes);
+    test::WhileRunning other([this] {
+        if (Panel("File") == "a.tif")
+            ClickThumbnail(1);  // ignored, and nothing is marked as open
+    });
     Click("Process");
     for (const auto& [name, shift] : {std::pair("a.xml", "0,0"), {"b.xml", "20,-20"}}) {
         const std::string text = test::ReadText(folders_.ProcessOut + name);

@@ -122,6 +122,24 @@ TEST_F(MainWindowTest, StopDuringTheThirdOfFiveFinishesTheThird) {
     EXPECT_TRUE(window_->isVisible());
 }
 
+TEST_F(MainWindowTest, AClickOnProcessDuringARunStartsNoOther) {
+    settings_.ProcessSingle = true;
+    AddScans(3);
+    Open();
+    const auto clickTwice = [this] {
+        auto& process = Button(*window_, "MainToolbar", "Process");
+        QMetaObject::invokeMethod(&process, "click", Qt::QueuedConnection);
+        process.click();
+        QApplication::processEvents();
+        return In(folders_.ProcessIn).size();
+    };
+    EXPECT_EQ(clickTwice(), 2U);
+    EXPECT_EQ(clickTwice() + clickTwice(), 1U);
+    clickTwice();  // over an empty folder
+    const Names log = ProcessLog();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 4);
+}
+
 // Counts how often a widget is painted and what its label shows then.
 class PaintWatch final : public QObject {
   public:

@@ -124,9 +124,12 @@ TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
     EXPECT_EQ(dialogs.shown.back(), "Image not in bitmap format");
     EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"}));
 
-    dialogs.Type("Old").Press(QMessageBox::No).Cancel();
-    Click("New");
-    EXPECT_NE(dialogs.shown.at(4).find("already exists"), std::string::npos) << dialogs.shown.at(4);
+    for (const std::string& name : {std::string("Old"), std::string("oLD.tVP"), folders_.Profiles + "old"}) {
+        dialogs.shown.clear();
+        dialogs.Type(name).Press(QMessageBox::No).Cancel();
+        Click("New");
+        EXPECT_NE(dialogs.shown.at(1).find("Old.Tvp already exists"), std::string::npos) << dialogs.shown[1];
+    }
     dialogs.Type("Form 2.1").Type(folders_.ProfileImages + "Old.tif");
     Click("New");
     EXPECT_EQ(In(folders_.Profiles), (Names{"Form 2.1.Tvp", "Old.Tvp", "Tavrene_Profiles.tif"}));

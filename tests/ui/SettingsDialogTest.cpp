@@ -154,11 +154,21 @@ TEST_F(SettingsDialogTest, SaveWithAnUnusableFolderKeepsTheOldOne) {
     EXPECT_EQ(store_.values["FillThreshold"], "30");
 }
 
-TEST_F(SettingsDialogTest, AFolderThatIsGoneIsShownAsTheNearestOneThatExists) {
-    settings_.WorkDir = work_.Path() + "/gone/for good";
+TEST_F(SettingsDialogTest, AFolderThatIsGoneStaysUntilAnotherIsChosen) {
+    const std::string gone = work_.Path() + "/gone/for good";
+    settings_.WorkDir = gone;
     Open();
+    EXPECT_TRUE(Text("lblFolder").startsWith(ToQt(gone)) && Text("lblFolder").contains("not there"));
+    Click("cmdOK");
+    EXPECT_EQ(settings_.WorkDir, gone);
+    EXPECT_EQ(store_.values["WorkDir"], gone);
+    EXPECT_TRUE(QDir(ToQt(work_.Path())).isEmpty());
+
+    Open();
+    Enter(ToQt(work_.Path()));
     EXPECT_EQ(Text("lblFolder"), ToQt(work_.Path()));
-    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
+    Click("cmdOK");
+    EXPECT_EQ(settings_.WorkDir, work_.Path());
 }
 
 TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStopHasAName) {

@@ -4,8 +4,9 @@
 
 namespace tavrene::commands {
 
-void BoxSizeBars::SetSizes(const BoxSizes& sizes) {
-    positions_ = {sizes.minWidth, sizes.maxWidth, kHighest - sizes.minHeight, kHighest - sizes.maxHeight};
+void BoxSizeBars::SetSizes(const boxes::BoxSizes& sizes) {
+    positions_ = {sizes.BoxMinWidth, sizes.BoxMaxWidth, kHighest - sizes.BoxMinHeight,
+                  kHighest - sizes.BoxMaxHeight};
     for (int& position : positions_)
         position = std::clamp(position, kLowest, kHighest);
     for (const Bar bar : kAllBars)
@@ -17,9 +18,10 @@ void BoxSizeBars::Move(Bar bar, int position) {
     ApplyRule(bar);
 }
 
-BoxSizes BoxSizeBars::Sizes() const {
-    return {Position(Bar::MinWidth), Position(Bar::MaxWidth), kHighest - Position(Bar::MinHeight),
-            kHighest - Position(Bar::MaxHeight)};
+boxes::BoxSizes BoxSizeBars::Sizes() const {
+    const auto size = [](int pixels) { return static_cast<std::int16_t>(pixels); };
+    return {size(Position(Bar::MinWidth)), size(Position(Bar::MaxWidth)),
+            size(kHighest - Position(Bar::MinHeight)), size(kHighest - Position(Bar::MaxHeight))};
 }
 
 void BoxSizeBars::ApplyRule(Bar bar) {
@@ -41,7 +43,7 @@ void BoxSizeBars::ApplyRule(Bar bar) {
     }
 }
 
-BoxSizes SizesOfFirstPositions() {
+boxes::BoxSizes SizesOfFirstPositions() {
     return BoxSizeBars().Sizes();
 }
 

@@ -2,20 +2,13 @@
 
 #include <array>
 
+#include "boxes/BoxAnalysis.h"
+
 namespace tavrene::commands {
 
 /// The four bars of the settings dialog, by what they set.
 enum class Bar { MinWidth, MaxWidth, MinHeight, MaxHeight };
 inline constexpr std::array kAllBars = {Bar::MinWidth, Bar::MaxWidth, Bar::MinHeight, Bar::MaxHeight};
-
-/// Box sizes in image pixels.
-struct BoxSizes {
-    int minWidth = 0;
-    int maxWidth = 0;
-    int minHeight = 0;
-    int maxHeight = 0;
-    bool operator==(const BoxSizes&) const = default;
-};
 
 /// Positions of the four bars and the rules that tie them: a smallest size never exceeds its largest, and no
 /// height falls below 10. The bars of the heights stand upright with the lowest position on top, so they are
@@ -27,13 +20,13 @@ class BoxSizeBars {
 
     /// Puts all four bars in place first and applies the rules then, so that sizes that fit each other are
     /// kept whatever the bars showed before.
-    void SetSizes(const BoxSizes& sizes);
+    void SetSizes(const boxes::BoxSizes& sizes);
 
     /// A bar was moved; it is corrected until its rule holds. The other bars stay.
     void Move(Bar bar, int position);
 
     int Position(Bar bar) const { return positions_[static_cast<std::size_t>(bar)]; }
-    BoxSizes Sizes() const;
+    boxes::BoxSizes Sizes() const;
 
   private:
     int& At(Bar bar) { return positions_[static_cast<std::size_t>(bar)]; }
@@ -44,7 +37,7 @@ class BoxSizeBars {
 
 /// The sizes that the bars' first positions stand for. The two heights come out swapped; a store without
 /// sizes gets them so.
-BoxSizes SizesOfFirstPositions();
+boxes::BoxSizes SizesOfFirstPositions();
 
 /// A box in the middle of a preview, in pixels of the preview, not rounded.
 struct PreviewBox {

@@ -17,8 +17,8 @@ class FileDialogs {
   public:
     virtual ~FileDialogs() = default;
 
-    /// A file to be written: the path carries the filter's extension, also where the person typed none, and
-    /// the person has agreed to replace a file that is there.
+    /// A file to be written: the path carries the filter's extension, also where the person typed none. Of a
+    /// file that is there it has the spelling, and the person has agreed to replace it.
     virtual std::optional<std::string> AskSaveFile(const FileQuestion& question) = 0;
 
     /// A file that exists.

@@ -51,7 +51,7 @@ void ProfileCommands::LoadStrip() {
 void ProfileCommands::ThumbnailSelected(int k) {
     ForgetNotes();
     if (doors_.store.ThumbnailSelected(k))
-        TellMore();
+        TellMore(profiles::HeadingOf(doors_.profile) + ".");
 }
 
 bool ProfileCommands::MayLeave() {
@@ -68,14 +68,14 @@ void ProfileCommands::ForgetNotes() {
     doors_.store.TakeNotes();
 }
 
-void ProfileCommands::TellMore() {
-    std::string text;
+void ProfileCommands::TellMore(const std::string& heading) {
+    std::string text = heading;
     const auto add = [&text](const std::string& sentence) { text += (text.empty() ? "" : " ") + sentence; };
     for (const std::string& note : doors_.store.TakeNotes())
         add(note);
     for (const std::string& advice : recognition::AdviseOn(doors_.profile))
         add(advice);
-    if (!text.empty())
+    if (text != heading)
         doors_.person.SetPanel(app::Panel::Message, text);
 }
 

@@ -20,7 +20,7 @@ struct ProfileDoors {
 
 /// The commands `New`, `Save` and `Delete` and the events of the thumbnail strip. After the texts of a
 /// command the `Message` panel says what else there is to know about the profile, what will go wrong in a run
-/// with it above all.
+/// with it above all; of one that was opened it stands behind its heading.
 class ProfileCommands {
   public:
     ProfileCommands(const AppState& state, const ProfileDoors& doors) : state_(state), doors_(doors) {}
@@ -45,7 +45,7 @@ class ProfileCommands {
 
   private:
     void ForgetNotes();
-    void TellMore();
+    void TellMore(const std::string& heading = {});
 
     const AppState& state_;
     ProfileDoors doors_;

@@ -1,22 +1,14 @@
 #include "ui/commands/SettingsCommand.h"
 
-#include <tuple>
+#include "boxes/BoxAnalysis.h"
 
 namespace tavrene::commands {
-namespace {
-
-auto BoxSizesOf(const app::Settings& settings) {
-    return std::make_tuple(settings.BoxMinWidth, settings.BoxMaxWidth, settings.BoxMinHeight,
-                           settings.BoxMaxHeight);
-}
-
-}  // namespace
 
 void ShowSettings(app::Settings& settings, app::Operator& person,
                   const std::function<void(app::Settings&)>& showDialog) {
     const app::Settings before = settings;
     showDialog(settings);
-    const bool otherSizes = BoxSizesOf(before) != BoxSizesOf(settings);
+    const bool otherSizes = boxes::SizesOf(before) != boxes::SizesOf(settings);
     const bool otherFolder = before.WorkDir != settings.WorkDir;
     if (otherSizes && otherFolder)
         person.SetPanel(app::Panel::Message,

@@ -96,6 +96,7 @@ TEST_F(ProfileCommandsTest, TheMessagePanelTellsOfTrapsAfterTheTextsOfTheCommand
     const Names opened = transcript_.LinesOf("panel Message: ");
     ASSERT_EQ(opened.size(), 2U);
     EXPECT_EQ(opened[0], "Profile [Row], Image [Row.tif]");
+    EXPECT_TRUE(opened[1].starts_with(opened[0] + ". ")) << opened[1];
     EXPECT_NE(opened[1].find("all lie in one row"), std::string::npos);
     Draw({200, 300, 24, 24});
     commands_.Save();
