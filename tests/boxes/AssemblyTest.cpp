@@ -4,10 +4,8 @@
 #include <tuple>
 
 #include "boxes/BoxAssembly.h"
-#include "boxes/BoxCorners.h"
 #include "boxes/BoxFilter.h"
 #include "boxes/BoxSort.h"
-#include "boxes/CreatedSide.h"
 
 namespace tavrene::test {
 namespace {
@@ -31,11 +29,11 @@ LineSeg Side(int left, int bottom, int right, int top) {
     return segment;
 }
 
-// A printed box, 30 pixels high, and its sides.
-BoxAnalysis PrintedBox(int width) {
+// A printed box of 30 x 30 pixels and its sides.
+BoxAnalysis PrintedBox() {
     BoxAnalysis analysis(WorkGrid(300, 320, 300), kSizes, boxes::ReachFor(kSizes));
-    analysis.Segments = {Side(50, 110, 50 + width, 110), Side(50, 140, 50 + width, 140),
-                         Side(50, 110, 50, 140), Side(50 + width, 110, 50 + width, 140)};
+    analysis.Segments = {Side(50, 110, 80, 110), Side(50, 140, 80, 140), Side(50, 110, 50, 140),
+                         Side(80, 110, 80, 140)};
     for (const LineSeg& side : analysis.Segments) {
         for (int row = side.T; row <= side.B; ++row) {
             for (int column = side.L; column <= side.R; ++column)
@@ -60,7 +58,7 @@ BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
 TEST(Assembly, AMissingSideIsCreatedWhicheverItIs) {
     for (int missing = 0; missing <= 4; ++missing) {
         SCOPED_TRACE(missing);
-        BoxAnalysis analysis = PrintedBox(30);
+        BoxAnalysis analysis = PrintedBox();
         if (missing < 4)
             analysis.Segments.erase(analysis.Segments.begin() + missing);
         boxes::IdentifyBoxes(analysis);
@@ -69,33 +67,6 @@ TEST(Assembly, AMissingSideIsCreatedWhicheverItIs) {
         EXPECT_EQ(std::tie(box.L, box.T, box.R, box.B), std::tuple(50, 110, 80, 140));
         EXPECT_EQ(analysis.Segments.size(), 4U);
     }
-}
-
-TEST(Assembly, CornersAreSharedWithinTwoPixels) {
-    EXPECT_TRUE(boxes::ShareCorner(Side(50, 110, 80, 110), Side(52, 112, 52, 140)));
-    EXPECT_FALSE(boxes::ShareCorner(Side(50, 110, 80, 110), Side(53, 113, 53, 140)));
-}
-
-TEST(Assembly, BoxesBelowTheSmallestSizeAreDropped) {
-    for (const int width : {19, 20}) {
-        BoxAnalysis analysis = PrintedBox(width);
-        boxes::IdentifyBoxes(analysis);
-        EXPECT_EQ(analysis.Boxes.size(), width == 20 ? 1U : 0U);
-    }
-}
-
-TEST(CreatedSide, IsMadeAnewWhereTheInkRunsOnTooFar) {
-    BoxAnalysis analysis = PrintedBox(30);
-    const boxes::ExpectedSide expected{{80, 107}, {80, 143}};
-    for (int row = 60; row < 160; ++row)
-        analysis.WorkGrid.SetInk(80, row);
-    LineSeg side = boxes::CreateSide(analysis, analysis.Segments[2], expected, 3);
-    EXPECT_EQ(std::tie(side.L, side.T, side.B, side.BoxId), std::tuple(80, 110, 140, 3))
-        << "as long as the side that it faces";
-    for (int row = 60; row < 160; ++row)
-        analysis.WorkGrid.SetInk(80, row, row >= 105 && row < 145);
-    side = boxes::CreateSide(analysis, analysis.Segments[2], expected, 3);
-    EXPECT_EQ(side.T, 107) << "40 pixels are not more than the largest";
 }
 
 std::vector<BoxRect> Filtered(std::vector<BoxRect> boxes) {
