@@ -1,24 +1,19 @@
 #include "profiles/BoxEditor.h"
 #include "support/FakeDesk.h"
-#include "support/FakeOperator.h"
-#include "support/TestForm.h"
+#include "support/RunWorld.h"
 
 namespace tavrene::profiles {
 namespace {
 
 using test::TestForm;
 
-std::int16_t Ordinate(int value) {
-    return static_cast<std::int16_t>(value);
-}
-
-class BoxEditorTest : public ::testing::Test {
+class BoxEditorTest : public test::RunWorld {
   protected:
     BoxEditorTest() { Open(TestForm::Grid(3, 2).boxes); }
 
     void Open(std::vector<OmrBox> boxes) {
         ProfileContent content;
-        content.Count = Ordinate(static_cast<int>(boxes.size()));
+        content.Count = static_cast<std::int16_t>(boxes.size());
         content.Boxes = std::move(boxes);
         screen_.SetZoom(100);
         profile_.IsOpen = true;
@@ -46,9 +41,6 @@ class BoxEditorTest : public ::testing::Test {
         return {Box(number).L, Box(number).T, Box(number).R, Box(number).B};
     }
 
-    test::Transcript transcript_;
-    test::FakeOperator person_{transcript_};
-    test::FakeScreen screen_{transcript_};
     test::FakeDesk desk_;
     OpenProfile profile_;
     BoxEditor editor_{profile_, person_, {screen_, screen_, desk_, desk_, desk_}};

@@ -2,7 +2,6 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "support/Faults.h"
 #include "ui/DeskWindow.h"
 #include "ui/RectItem.h"
 

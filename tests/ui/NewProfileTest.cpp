@@ -1,6 +1,5 @@
 #include <filesystem>
 
-#include "support/Faults.h"
 #include "ui/DeskWindow.h"
 
 namespace tavrene::ui {

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <tuple>
 
-#include "boxes/BoxAssembly.h"
 #include "boxes/BoxFilter.h"
 #include "boxes/BoxSort.h"
 
@@ -12,36 +10,6 @@ namespace {
 
 using boxes::BoxAnalysis;
 using boxes::BoxRect;
-using boxes::BoxSizes;
-using boxes::LineSeg;
-using boxes::Orientation;
-using imaging::WorkGrid;
-
-constexpr BoxSizes kSizes{20, 40, 20, 40};
-
-LineSeg Side(int left, int bottom, int right, int top) {
-    LineSeg segment;
-    segment.Orientation = left == right ? Orientation::Vertical : Orientation::Horizontal;
-    segment.L = static_cast<std::int16_t>(left);
-    segment.T = static_cast<std::int16_t>(bottom);
-    segment.R = static_cast<std::int16_t>(right);
-    segment.B = static_cast<std::int16_t>(top);
-    return segment;
-}
-
-// A printed box of 30 x 30 pixels and its sides.
-BoxAnalysis PrintedBox() {
-    BoxAnalysis analysis(WorkGrid(300, 320, 300), kSizes, boxes::ReachFor(kSizes));
-    analysis.Segments = {Side(50, 110, 80, 110), Side(50, 140, 80, 140), Side(50, 110, 50, 140),
-                         Side(80, 110, 80, 140)};
-    for (const LineSeg& side : analysis.Segments) {
-        for (int row = side.T; row <= side.B; ++row) {
-            for (int column = side.L; column <= side.R; ++column)
-                analysis.SaveGrid.SetInk(column, row);
-        }
-    }
-    return analysis;
-}
 
 BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
     BoxRect box;
@@ -55,22 +23,8 @@ BoxRect Rect(int left, int lower, int width, int height, int mark = 0) {
     return box;
 }
 
-TEST(Assembly, AMissingSideIsCreatedWhicheverItIs) {
-    for (int missing = 0; missing <= 4; ++missing) {
-        SCOPED_TRACE(missing);
-        BoxAnalysis analysis = PrintedBox();
-        if (missing < 4)
-            analysis.Segments.erase(analysis.Segments.begin() + missing);
-        boxes::IdentifyBoxes(analysis);
-        ASSERT_EQ(analysis.Boxes.size(), 1U);
-        const BoxRect& box = analysis.Boxes[0];
-        EXPECT_EQ(std::tie(box.L, box.T, box.R, box.B), std::tuple(50, 110, 80, 140));
-        EXPECT_EQ(analysis.Segments.size(), 4U);
-    }
-}
-
 std::vector<BoxRect> Filtered(std::vector<BoxRect> boxes) {
-    BoxAnalysis analysis(WorkGrid(10, 32, 10), kSizes, boxes::ReachFor(kSizes));
+    BoxAnalysis analysis(imaging::WorkGrid(10, 32, 10), {20, 40, 20, 40}, {});
     analysis.Boxes = std::move(boxes);
     boxes::FilterBoxes(analysis);
     return analysis.Boxes;
@@ -78,7 +32,7 @@ std::vector<BoxRect> Filtered(std::vector<BoxRect> boxes) {
 
 TEST(Filter, KeepsTheTwoSizesOfAForm) {
     std::vector<BoxRect> all;
-    for (int index = 0; index < 8; ++index)
+    for (int index = 0; index < 40; ++index)
         all.push_back(Rect(10 + 50 * index, 20, 30, 30));
     for (int index = 0; index < 3; ++index)
         all.push_back(Rect(10 + 50 * index, 80, 22, 24));
@@ -86,7 +40,7 @@ TEST(Filter, KeepsTheTwoSizesOfAForm) {
     all.push_back(Rect(10, 140, 38, 24));
     EXPECT_EQ(Filtered(all), expected) << "a single odd one is no third size";
     EXPECT_EQ(boxes::ChooseReferenceSizes(all).Second, (boxes::BoxSize{22, 24}));
-    all.resize(10);
+    all.resize(42);
     EXPECT_EQ(boxes::ChooseReferenceSizes(all).Second, (boxes::BoxSize{30, 30})) << "two are no second size";
 }
 
