@@ -134,6 +134,7 @@ TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {
     ASSERT_TRUE(store_.ThumbnailSelected(2));
     EXPECT_EQ(transcript_.LinesOf("panel Message: "), Names{"Profile [Wide], Image [Wide.tif]"});
     EXPECT_EQ(transcript_.LinesOf("panel ElapsedTime: "), Names{"OMRs:6"});
+    EXPECT_PRED2(Has, ProfileLog(), "Loaded Profile: Wide\r\n");
     EXPECT_EQ(transcript_.LinesOf("view: zoom ").at(2), "92.16");
     EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
     EXPECT_GT(2000 * screen_.Zoom() / 96, 750);

@@ -142,6 +142,7 @@ TEST_F(BoxEditingTest, DeletedAndAddedBoxesAreNumberedAnewBySaving) {
     DialogScript dialogs;
     dialogs.Press(QMessageBox::No);
     ClickThumbnail(1);
+    EXPECT_FALSE(Find<QAction>(*window_, "Redo").isEnabled());
     Drag({400, 370}, {430, 390});
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4", "Q6", "Un-named-7", "Un-named-6"}));
 }
