@@ -1,23 +1,9 @@
-#include <gtest/gtest.h>
-
-#include "app/ActivityLog.h"
-#include "support/FakeClock.h"
-#include "support/FakeOperator.h"
-#include "support/FaultyFiles.h"
-#include "support/TempFolder.h"
+#include "support/RunWorld.h"
 
 namespace tavrene::app {
 namespace {
 
-class ActivityLogTest : public ::testing::Test {
-  protected:
-    test::TempFolder folder_;
-    test::Transcript transcript_;
-    test::FakeOperator person_{transcript_};
-    test::FaultyFiles files_;
-    test::FakeClock clock_;
-    ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
-};
+using ActivityLogTest = test::RunWorld;
 
 TEST_F(ActivityLogTest, WritesOneStampedLineAnEventIntoTheFileOfTheDay) {
     clock_.now = {2024, 12, 31, 23, 59, 59};
@@ -27,16 +13,16 @@ TEST_F(ActivityLogTest, WritesOneStampedLineAnEventIntoTheFileOfTheDay) {
     clock_.now = {2025, 1, 1, 12, 0, 5};
     log_.LogProcessEvent("");
     log_.LogProfileEvent("profile");
-    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20241231.Log")), "11:59:59 PM last\r\n");
-    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20250101.Log")),
+    EXPECT_EQ(test::ReadText(folders_.Log + "TavreneBoxes-Process-20241231.Log"), "11:59:59 PM last\r\n");
+    EXPECT_EQ(test::ReadText(folders_.Log + "TavreneBoxes-Process-20250101.Log"),
               "12:00:00 AM first\r\n12:00:05 PM \r\n");
-    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Profile-20250101.Log")), "12:00:05 PM profile\r\n");
+    EXPECT_EQ(test::ReadText(folders_.Log + "TavreneBoxes-Profile-20250101.Log"), "12:00:05 PM profile\r\n");
     EXPECT_EQ(transcript_.Lines(), (std::vector<std::string>{"panel Message: first"}));
 }
 
 TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
     log_.LogProcessEvent("Größe – 5 € \xE2\x96\xA1 \xF0\x9F\x99\x82 \xFF\xC3");
-    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20240305.Log")),
+    EXPECT_EQ(test::ReadText(folders_.Log + "TavreneBoxes-Process-20240305.Log"),
               "02:05:09 PM Gr\xF6\xDF"
               "e \x96 5 \x80 ? ? ??\r\n");
 }

@@ -13,7 +13,7 @@ class StartupTest : public ::testing::Test {
   protected:
     bool Start() {
         steps_.clear();
-        return RunStartup(settings_, {store_, files_, [this] { return onlyInstance_; },
+        return RunStartup(settings_, {store_, files_, [] { return true; },
                                       [this](Settings& settings) {
                                           steps_ += "dialog ";
                                           if (onDialog_)
@@ -26,7 +26,6 @@ class StartupTest : public ::testing::Test {
     test::MemoryStore store_;
     test::FaultyFiles files_;
     Settings settings_;
-    bool onlyInstance_ = true;
     std::function<void(Settings&)> onDialog_;
     std::string steps_;
 };
@@ -97,13 +96,6 @@ TEST_F(StartupTest, OpensTheWindowWhateverBecomesOfTheFolder) {
     EXPECT_TRUE(files_.FolderExists(work_.File("ProcessIn")));
     EXPECT_FALSE(files_.FolderExists(work_.File("Temp")));
     EXPECT_EQ(test::ReadText(work_.File("Profiles/a.Tvp")), "kept");
-}
-
-TEST_F(StartupTest, ASecondInstanceEndsInSilence) {
-    onlyInstance_ = false;
-    EXPECT_FALSE(Start());
-    EXPECT_EQ(steps_, "");
-    EXPECT_TRUE(store_.values.empty());
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <FreeImage.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -7,10 +6,7 @@
 #include "imaging/ImageLoader.h"
 #include "imaging/PageReader.h"
 #include "painter/ImageFiles.h"
-#include "support/FakeClock.h"
-#include "support/FakeOperator.h"
-#include "support/FaultyFiles.h"
-#include "support/TempFolder.h"
+#include "support/RunWorld.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -18,7 +14,7 @@ namespace {
 using samples::Canvas;
 using samples::Photometric;
 
-class PageReaderTest : public ::testing::Test {
+class PageReaderTest : public test::RunWorld {
   protected:
     PageReaderTest() {
         picture_.FillRect(3, 5, 20, 2);
@@ -28,11 +24,11 @@ class PageReaderTest : public ::testing::Test {
     }
 
     void Save(const Bitmap& picture, const std::string& name, int quality = 75) const {
-        samples::SaveImage(picture, FormatOfExtension(name).value(), folder_.File(name), quality);
+        samples::SaveImage(picture, FormatOfExtension(name).value(), work_.File(name), quality);
     }
 
     std::variant<Page, PageFault> Read(const std::string& name) {
-        return ReadPage(files_, folder_.File(name), FormatOfExtension(name).value());
+        return ReadPage(files_, work_.File(name), FormatOfExtension(name).value());
     }
 
     // The page must be read and show the picture's dark pixels.
@@ -62,8 +58,6 @@ class PageReaderTest : public ::testing::Test {
         return bitmap;
     }
 
-    test::TempFolder folder_;
-    test::FaultyFiles files_;
     Canvas picture_{100, 60, 200};
 };
 
@@ -117,7 +111,7 @@ TEST_F(PageReaderTest, ReadsAFaxPcx) {
             pcx += static_cast<char>(byte);
         }
     }
-    test::WriteText(folder_.File("fax.pcx"), pcx);
+    test::WriteText(work_.File("fax.pcx"), pcx);
     Expect("fax.pcx");
 }
 
@@ -146,9 +140,9 @@ TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
     Save(samples::ToGrey(unmeasured), "a.png");
     Save(samples::ToGrey(unmeasured), "a.jpg");
     // The library writes a density unit in any case; a camera's file may say "no unit".
-    std::string jpeg = test::ReadText(folder_.File("a.jpg"));
+    std::string jpeg = test::ReadText(work_.File("a.jpg"));
     jpeg[jpeg.find("JFIF") + 7] = 0;
-    test::WriteText(folder_.File("a.jpg"), jpeg);
+    test::WriteText(work_.File("a.jpg"), jpeg);
     for (const char* name : {"a.png", "a.jpg"}) {
         const Page page = std::get<Page>(Read(name));
         EXPECT_EQ(page.DPI_X + page.DPI_Y, 0) << name;
@@ -197,9 +191,9 @@ TEST_F(PageReaderTest, RefusesEveryTruncatedFile) {
     Save(samples::ToGrey(picture_), "a.jpg");
     Save(samples::ToGrey(picture_), "a.gif");
     for (const char* name : {"a.tif", "a.png", "a.jpg", "a.gif"}) {
-        const std::string whole = test::ReadText(folder_.File(name));
+        const std::string whole = test::ReadText(work_.File(name));
         for (std::size_t length = 0; length < whole.size(); length += 7) {
-            test::WriteText(folder_.File(name), whole.substr(0, length));
+            test::WriteText(work_.File(name), whole.substr(0, length));
             const std::variant<Page, PageFault> read = Read(name);
             EXPECT_TRUE(std::holds_alternative<PageFault>(read)) << name << " cut at " << length;
         }
@@ -211,41 +205,32 @@ TEST_F(PageReaderTest, RefusesAFaxWithBrokenLines) {
     for (int k = 0; k < 60; ++k)
         page.DrawRect(20 + 12 * k, 15 + 11 * k, 90, 30, 2);
     Save(samples::ToBilevel(page), "fax.tif");
-    std::string fax = test::ReadText(folder_.File("fax.tif"));
+    std::string fax = test::ReadText(work_.File("fax.tif"));
     for (std::size_t k = fax.size() / 2; k < fax.size() / 2 + 40; ++k)
         fax[k] = static_cast<char>(fax[k] ^ 0x5A);
-    test::WriteText(folder_.File("fax.tif"), fax);
+    test::WriteText(work_.File("fax.tif"), fax);
     Expect("fax.tif", PageFault::NotABitmap);
 }
 
-class ImageLoaderTest : public PageReaderTest {
-  protected:
-    test::Transcript transcript_;
-    test::FakeOperator person_{transcript_};
-    test::FakeClock clock_;
-    app::ActivityLog log_{files_, clock_, person_, folder_.Path() + "/"};
-    ImageLoader loader_{files_, log_, person_, folder_.Path() + "/"};
-};
-
-TEST_F(ImageLoaderTest, KeepsDisplayCopiesOfTheCurrentImageOnly) {
+TEST_F(PageReaderTest, TheLoaderKeepsDisplayCopiesOfTheCurrentImageOnly) {
+    ImageLoader loader(files_, log_, person_, work_.Path() + "/");
     Save(samples::ToBilevel(picture_, Photometric::MinIsBlack), "scan.tif");
     Save(samples::ToBilevel(Canvas(50, 50, 200)), "blank.tif");
-    ASSERT_TRUE(loader_.LoadImageForProcessing(folder_.File("scan.tif")));
-    EXPECT_EQ(loader_.DisplayCopy(), folder_.File("temp2.tif"));
+    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("scan.tif")));
+    EXPECT_EQ(loader.DisplayCopy(), work_.File("temp2.tif"));
     const Page shown = Expect("temp2.tif");
     EXPECT_FALSE(shown.inverted);
     EXPECT_FALSE(Expect("temp.tif").inverted);
 
-    files_.Delete(folder_.File("temp.tif"));
-    ASSERT_TRUE(loader_.LoadImageForProcessing(folder_.File("blank.tif")));
+    files_.Delete(work_.File("temp.tif"));
+    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("blank.tif")));
     EXPECT_EQ(std::get<Page>(Read("temp2.tif")).grid.Width(), 50);
-    EXPECT_FALSE(files_.FileExists(folder_.File("temp.tif")));
+    EXPECT_FALSE(files_.FileExists(work_.File("temp.tif")));
 
-    EXPECT_FALSE(loader_.LoadImageForProcessing(folder_.File("form.tiff")));
-    EXPECT_EQ(loader_.DisplayCopy(), "");
+    EXPECT_FALSE(loader.LoadImageForProcessing(work_.File("form.tiff")));
+    EXPECT_EQ(loader.DisplayCopy(), "");
     EXPECT_TRUE(transcript_.Lines().empty());
-    EXPECT_EQ(test::ReadText(folder_.File("TavreneBoxes-Process-20240305.Log")),
-              "02:05:09 PM form.tiff: Unrecognized File type\r\n");
+    EXPECT_EQ(ProcessLog(), std::vector<std::string>{"form.tiff: Unrecognized File type"});
 }
 
 }  // namespace

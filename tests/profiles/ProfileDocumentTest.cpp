@@ -14,10 +14,6 @@ class ProfileDocumentTest : public test::RunWorld {
     }
 
     std::vector<ProfileRecord> Load() { return LoadActiveProfiles(files_, log_, person_, folders_.Profiles); }
-
-    std::string ProfileLog() const {
-        return test::ReadText(folders_.Log + "TavreneBoxes-Profile-20240305.Log");
-    }
 };
 
 TEST_F(ProfileDocumentTest, CreatesAndRewritesTheDocumentOnOneLine) {

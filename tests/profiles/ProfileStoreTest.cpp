@@ -1,33 +1,29 @@
-#include <array>
-
 #include "imaging/TiffPages.h"
 #include "painter/ImageFiles.h"
 #include "profiles/ProfileStore.h"
 #include "profiles/XmlFile.h"
-#include "support/DeskWorld.h"
+#include "support/FakeDesk.h"
 #include "support/Faults.h"
+#include "support/RunWorld.h"
 
 namespace tavrene::profiles {
 namespace {
 
 using app::Answer;
 using app::Panel;
-using test::FaultOf;
 using test::Has;
 using test::ReadText;
 using test::TestForm;
 using test::WriteText;
 using Names = std::vector<std::string>;
 
-std::vector<std::array<int, 4>> PlacesOf(const std::vector<OmrBox>& boxes) {
-    std::vector<std::array<int, 4>> places;
-    for (const OmrBox& box : boxes)
-        places.push_back({box.L, box.T, box.R, box.B});
-    return places;
-}
-
-class ProfileStoreTest : public test::DeskWorld {
+class ProfileStoreTest : public test::RunWorld {
   protected:
+    bool Create(const std::string& name, const std::string& image) {
+        constexpr boxes::BoxSizes sizes{16, 38, 16, 34};
+        return store_.Create(folders_.Profiles + name, image, sizes, boxes::ReachFor(sizes));
+    }
+
     void AddProfiles(const Names& names) {
         for (const std::string& name : names)
             AddSpecimenProfile(name, form_);
@@ -42,11 +38,10 @@ class ProfileStoreTest : public test::DeskWorld {
         transcript_.Clear();
     }
 
-    Names CreatedLogs() const {
-        Names lines;
-        for (const std::string& line : ProfileLog())
-            if (!line.starts_with("Loaded Profile"))
-                lines.push_back(line);
+    // The lines of the profile log but for those about loading.
+    Names Logged() const {
+        Names lines = LogLines(ProfileLog());
+        std::erase_if(lines, [](const std::string& line) { return line.starts_with("Loaded Profile"); });
         return lines;
     }
 
@@ -57,12 +52,12 @@ class ProfileStoreTest : public test::DeskWorld {
         return imaging::DecodeTiffPages(files_.Read(StripFile()));
     }
 
-    void ReplaceIn(const std::string& name, const std::string& old, const std::string& replacement) {
-        std::string text = ReadText(PathOf(name));
-        WriteText(PathOf(name), text.replace(text.find(old), old.size(), replacement));
-    }
-
     TestForm form_ = TestForm::Grid(3, 2);
+    test::FakeDesk desk_;
+    OpenProfile profile_;
+    EditorScreen desktop_{screen_, screen_, desk_, desk_, desk_};
+    BoxEditor editor_{profile_, person_, desktop_};
+    ProfileStore store_{{files_, person_, log_, clock_, folders_}, profile_, profiles_, editor_, desktop_};
 };
 
 TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
@@ -72,7 +67,6 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     clock_.tick = 7.0;
     ASSERT_TRUE(Create("Alpha.Tvp", image));
 
-    EXPECT_EQ(PlacesOf(profile_.BoxList), PlacesOf(form_.boxes));
     for (std::size_t k = 0; k < 6; ++k)
         form_.boxes[k].Name = "Un-named-" + std::to_string(k + 1);
     std::string document = form_.ProfileText("Alpha");
@@ -80,8 +74,7 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     document.replace(document.find(imageName), imageName.size(),
                      folders_.ProfileImages + "blank &amp; ä.tif");
     EXPECT_EQ(ReadText(PathOf("Alpha")), document);
-    EXPECT_EQ(CreatedLogs(),
-              (Names{"New Profile: <Alpha> 6 OMR Boxes Identified.", "Created Profile: Alpha"}));
+    EXPECT_EQ(Logged(), (Names{"New Profile: <Alpha> 6 OMR Boxes Identified.", "Created Profile: Alpha"}));
     EXPECT_TRUE(profile_.IsOpen && profile_.Active && !profile_.ProfileChanged);
     EXPECT_EQ(desk_.captions, (Names{"Profile 1 of 2", "Profile 2 of 2"}));
     EXPECT_EQ(desk_.selectedThumbnail, 1);
@@ -89,13 +82,9 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     EXPECT_EQ(desk_.nextGroup, 7);
     EXPECT_EQ(transcript_.LinesOf("view: "), (Names{"clear", "zoom 100", "show blank & ä.tif"}));
     EXPECT_EQ(person_.PanelText(Panel::File), "Profiles:2, Active:2");
-    Names texts = {"Reading image..."};
-    for (std::size_t step = 1; step <= 11; ++step)
-        texts.push_back("Processing step " + std::to_string(step) + " of 11 " + std::string(step, '.'));
-    texts.insert(texts.end(), {"Identifying OMR boxes...", "6 OMR Boxes identified"});
-    Names panel = transcript_.LinesOf("panel Message: ");
-    panel.resize(texts.size());
-    EXPECT_EQ(panel, texts);
+    EXPECT_EQ(transcript_.LinesOf("panel Message: ").at(0), "Reading image...");
+    EXPECT_EQ(transcript_.LinesOf("panel Message: ").at(12), "Identifying OMR boxes...");
+    EXPECT_EQ(transcript_.LinesOf("panel Message: ").at(13), "6 OMR Boxes identified");
     EXPECT_EQ(transcript_.LinesOf("panel ElapsedTime: ").at(0), "7 Sec.");
     EXPECT_EQ(transcript_.LinesOf("range: ").at(0), "11");
     EXPECT_EQ(transcript_.LinesOf("progress: ").at(10), "11");
@@ -107,19 +96,15 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
     EXPECT_THROW(Create("Gamma.Tvp", image), app::FileError);
     EXPECT_EQ(profile_.Name, "Alpha");
     EXPECT_EQ(desk_.rows.size(), 6U);
-}
 
-TEST_F(ProfileStoreTest, OtherFileTypesGiveTheSameBoxesAndABlankPageNone) {
+    files_.refuse = nullptr;
+    const std::vector<OmrBox> boxes = profile_.BoxList;
     const std::string png = folders_.ProfileImages + "form.PNG";
     const samples::Canvas page = form_.Paint({});
     samples::SaveImage(samples::ToColour(page, page, page), imaging::ImageFormat::Png, png);
     ASSERT_TRUE(Create("Alpha.Tvp", png));
-    EXPECT_EQ(PlacesOf(profile_.BoxList), PlacesOf(form_.boxes));
+    EXPECT_EQ(profile_.BoxList, boxes);
     EXPECT_TRUE(files_.FileExists(folders_.Temp + "temp.tif"));
-
-    form_.SaveScan(folders_.ProfileImages + "blank.tif", {.missing = {1, 2, 3, 4, 5, 6}});
-    EXPECT_TRUE(Create("Blank.Tvp", folders_.ProfileImages + "blank.tif"));
-    EXPECT_TRUE(profile_.IsOpen && profile_.BoxList.empty());
 }
 
 TEST_F(ProfileStoreTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
@@ -152,7 +137,7 @@ TEST_F(ProfileStoreTest, RefusesImagesBeforeAnyStep) {
               (Names{"[] Image has more than 2 colors. cannot process.", "[] Image not in bitmap format",
                      "[] Image not in bitmap format", "[] Image not in bitmap format"}));
     EXPECT_EQ(transcript_.LinesOf("panel Message: "), Names(4, "Reading image..."));
-    EXPECT_TRUE(ProfileLog().empty());
+    EXPECT_TRUE(Logged().empty());
     EXPECT_FALSE(files_.FileExists(PathOf("Gamma")));
 }
 
@@ -169,6 +154,7 @@ TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {
     ASSERT_TRUE(store_.ThumbnailSelected(2));
     EXPECT_EQ(transcript_.LinesOf("panel Message: "), Names{"Profile [Wide], Image [Wide.tif]"});
     EXPECT_EQ(transcript_.LinesOf("panel ElapsedTime: "), Names{"OMRs:6"});
+    EXPECT_PRED2(Has, ProfileLog(), "Loaded Profile: Wide\r\n");
     EXPECT_EQ(transcript_.LinesOf("view: zoom ").at(2), "92.16");
     EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
     EXPECT_GT(2000 * screen_.Zoom() / 96, 750);
@@ -181,67 +167,6 @@ TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {
     ASSERT_TRUE(store_.ThumbnailSelected(1));
     EXPECT_EQ(transcript_.LinesOf("view: show ").back(), "Fits.tif");
     EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
-}
-
-TEST_F(ProfileStoreTest, SavesSixBoxesLessTwoPlusOne) {
-    AddProfiles({"Form"});
-    OpenAndEdit(1);
-    for (const int number : {2, 5}) {
-        editor_.RowClicked(number);
-        editor_.DeleteBox();
-    }
-    Draw({300, 310, 20, 22});
-    profile_.Active = false;
-    ASSERT_TRUE(store_.Save());
-    TestForm expected = form_;
-    expected.boxes[0].Name = "edited";
-    expected.boxes.erase(expected.boxes.begin() + 4);
-    expected.boxes.erase(expected.boxes.begin() + 1);
-    expected.boxes.push_back({"Un-named-7", 300, 310, 320, 332});
-    EXPECT_EQ(ReadText(PathOf("Form")), expected.ProfileText(folders_.ProfileImages + "Form", false));
-    EXPECT_EQ(profile_.BoxList.size(), 7U);
-    EXPECT_FALSE(profile_.ProfileChanged);
-    EXPECT_EQ(person_.PanelText(Panel::File), "Profiles:1, Active:0");
-    ASSERT_TRUE(store_.ThumbnailSelected(1));
-    EXPECT_EQ(profile_.NextBoxId, 6);
-}
-
-TEST_F(ProfileStoreTest, AsksBeforeAChangedProfileIsLeft) {
-    AddProfiles({"A", "B"});
-    const std::string before = ReadText(PathOf("A"));
-    OpenAndEdit(1);
-    person_.answers = {Answer::Cancel};
-    EXPECT_FALSE(store_.ThumbnailSelected(2));
-    EXPECT_EQ(transcript_.LinesOf("ask: "), Names{"Save changes to Profile <" + PathOf("A") + ">?"});
-    EXPECT_EQ(desk_.selectedThumbnail, 1);
-    EXPECT_TRUE(profile_.ProfileChanged && profile_.BoxList[0].Name == "edited");
-
-    person_.answers = {Answer::No};
-    EXPECT_TRUE(store_.ThumbnailSelected(2));
-    EXPECT_EQ(ReadText(PathOf("A")), before);
-    EXPECT_EQ(profile_.Name, "B");
-
-    OpenAndEdit(1);
-    person_.answers = {Answer::Yes};
-    EXPECT_TRUE(store_.ThumbnailSelected(2));
-    EXPECT_PRED2(Has, ReadText(PathOf("A")), "edited");
-    EXPECT_EQ(CreatedLogs(), Names{"Saved Profile: A"});
-}
-
-TEST_F(ProfileStoreTest, DeletesAfterAQuestionAndClosesTheGap) {
-    AddProfiles({"1", "2", "3"});
-    EXPECT_FALSE(store_.Delete() || store_.Save());
-    store_.ThumbnailSelected(2);
-    person_.answers = {Answer::No, Answer::Yes};
-    EXPECT_FALSE(store_.Delete());
-    EXPECT_TRUE(store_.Delete());
-    EXPECT_EQ(transcript_.LinesOf("ask: ").back(), "Delete Profile " + PathOf("2"));
-    EXPECT_EQ(CreatedLogs(), Names{"Deleted Profile: 2"});
-    EXPECT_EQ(store_.ThumbnailHover(2), "3");
-    EXPECT_EQ(StripPages().size(), 2U);
-    EXPECT_EQ(profiles_.size(), 2U);
-    EXPECT_FALSE(profile_.IsOpen);
-    EXPECT_TRUE(desk_.rows.empty());
 }
 
 TEST_F(ProfileStoreTest, TakesOverThePagesOfUnchangedSpecimens) {
@@ -275,49 +200,6 @@ TEST_F(ProfileStoreTest, TakesOverThePagesOfUnchangedSpecimens) {
     EXPECT_EQ(StripPages().size(), 3U);
 }
 
-TEST_F(ProfileStoreTest, KeepsDamagedProfilesAndLostSpecimensInTheStrip) {
-    AddProfiles({"A", "B", "C"});
-    files_.Delete(folders_.ProfileImages + "A.tif");
-    ReplaceIn("B", " DPI_Y=\"200\"", "");
-    WriteText(PathOf("E"), "<Tavrene");
-    const std::size_t before = CreatedLogs().size();
-    store_.RebuildThumbnails();
-    EXPECT_EQ(desk_.captions.size(), 4U);
-    EXPECT_EQ(StripPages().size(), 4U);
-    EXPECT_EQ(profiles_.size(), 2U);
-    EXPECT_EQ(CreatedLogs().size() - before, 3U);
-
-    ASSERT_TRUE(store_.ThumbnailSelected(1));
-    EXPECT_EQ(desk_.rows.size(), 6U);
-    EXPECT_EQ(store_.TakeNotes(),
-              Names{"The specimen image " + folders_.ProfileImages + "A.tif is not there any more."});
-    EXPECT_EQ(FaultOf([this] { store_.ThumbnailSelected(2); }),
-              "The profile " + PathOf("B") + " cannot be opened: the attribute DPI_Y of Tavrene is missing.");
-    EXPECT_EQ(transcript_.LinesOf("view: ").back(), "show B.tif");
-    EXPECT_FALSE(store_.Save());
-    EXPECT_THROW(store_.ThumbnailSelected(4), DocumentError);
-    person_.answers = {Answer::Yes};
-    EXPECT_TRUE(store_.Delete());
-    EXPECT_EQ(In(folders_.Profiles), (Names{"A.Tvp", "B.Tvp", "C.Tvp", "Tavrene_Profiles.tif"}));
-}
-
-TEST_F(ProfileStoreTest, AnUnwritableNameIsShownAndNothingIsTouched) {
-    AddProfiles({"A"});
-    OpenAndEdit(1);
-    editor_.RowRenamed(4, "R & D");
-    editor_.RowClicked(2);
-    editor_.DeleteBox();
-    const std::string before = ReadText(PathOf("A"));
-    const std::vector<OmrBox> boxes = profile_.BoxList;
-    EXPECT_PRED2(Has, FaultOf([this] { store_.Save(); }), "box 4 (R & D)");
-    EXPECT_EQ(desk_.selectedRow, 4);
-    EXPECT_EQ(ReadText(PathOf("A")), before);
-    EXPECT_EQ(profile_.BoxList, boxes);
-    EXPECT_TRUE(profile_.ProfileChanged);
-    editor_.RowRenamed(4, "R and D");
-    EXPECT_TRUE(store_.Save());
-}
-
 TEST_F(ProfileStoreTest, MindsWhatOthersDoToTheFile) {
     AddProfiles({"A", "B"});
     const std::string path = PathOf("A");
@@ -346,7 +228,8 @@ TEST_F(ProfileStoreTest, MindsWhatOthersDoToTheFile) {
     files_.Delete(path);
     person_.answers = {Answer::Yes};
     EXPECT_TRUE(store_.Delete());
-    EXPECT_TRUE(desk_.captions.empty() && In(folders_.Profiles).empty());
+    EXPECT_TRUE(desk_.captions.empty() && desk_.rows.empty() && In(folders_.Profiles).empty());
+    EXPECT_FALSE(profile_.IsOpen);
 }
 
 // Each write of a save in turn is cut off, once refused and once as if the program had died in it, with half
@@ -388,11 +271,13 @@ TEST_F(ProfileStoreTest, ASaveThatIsCutOffLeavesAWholeDocument) {
 
 TEST_F(ProfileStoreTest, WorksWithTheCountThatTheDocumentHas) {
     AddProfiles({"A"});
-    ReplaceIn("A", "Count=\"6\"", "Count=\"3\"");
+    std::string text = ReadText(PathOf("A"));
+    WriteText(PathOf("A"), text.replace(text.find("Count=\"6\""), 9, "Count=\"3\""));
     store_.ThumbnailSelected(1);
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:3");
     EXPECT_EQ(desk_.rows.size(), 6U);
-    Draw({300, 300, 20, 20});
+    editor_.SetTool(BoxTool::Add);
+    editor_.RectSelected({7, 300, 300, 20, 20});
     EXPECT_EQ(profile_.BoxList[3].L, 60);  // no box gave its place to the drawn one
     EXPECT_TRUE(store_.Save());
     EXPECT_PRED2(Has, ReadText(PathOf("A")), "Count=\"4\"");

@@ -96,8 +96,10 @@ TEST_F(BadInputTest, AnImageThatCannotBeMovedKeepsEverythingAsItWas) {
     EXPECT_EQ(LogAbout("b.tif"), (Names{"Cannot move " + folders_.ProcessIn + "b.tif: refused by the test"}));
     EXPECT_EQ(transcript_.LinesOf("report: ").size(), 1U);
     files_.refuse = nullptr;
+    WriteText(folders_.ProcessIn + "a.xml", "no result");
     Process();
-    EXPECT_EQ(In(folders_.ProcessIn), Names());
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.xml"});
+    EXPECT_EQ(LogAbout("a.xml").back(), "Stays in ProcessIn, since a result of that name lies in ProcessOut");
 }
 
 TEST_F(BadInputTest, FoldersThatAreGoneStopNothing) {

@@ -92,41 +92,6 @@ TEST_F(ProcessRunTest, TakesOneFileWhenToldTo) {
     EXPECT_EQ(transcript_.LinesOf("events").size(), 1U);
 }
 
-TEST_F(ProcessRunTest, StopsBehindTheFileAtHand) {
-    for (const char* name : {"1.tif", "2.tif", "3.tif", "4.tif", "5.tif"})
-        AddScan(name);
-    int pages = 0;
-    person_.onPendingEvents = [this, &pages] {
-        EXPECT_TRUE(run_.IsRunning());
-        if (++pages == 3)
-            run_.Stop();
-    };
-    Process();
-    EXPECT_FALSE(run_.IsRunning());
-    EXPECT_EQ(In(folders_.ProcessIn), (Names{"4.tif", "5.tif"}));
-    EXPECT_EQ(transcript_.LinesOf("message: "),
-              (Names{"[Stop Tavrene Process] Process interrupted by user"}));
-    EXPECT_EQ(transcript_.LinesOf("panel Message: ").back(), "Processing interrupted by user");
-    EXPECT_TRUE(LogHas("Processing interrupted by user"));
-    EXPECT_FALSE(LogHas(": Processing complete"));
-    EXPECT_TRUE(LogHas("Processed 3 Files, 0 Sec."));
-
-    person_.onPendingEvents = nullptr;
-    Process();  // a stop belongs to the run that it stopped
-    EXPECT_EQ(In(folders_.ProcessIn), Names());
-}
-
-TEST_F(ProcessRunTest, DoesNotStartWithoutAnActiveProfile) {
-    AddScan("a.tif");
-    WriteText(folders_.Profiles + "Form.Tvp", form_.ProfileText("Form", false));
-    Process();
-    files_.Delete(folders_.Profiles + "Form.Tvp");
-    Process();
-    EXPECT_EQ(transcript_.LinesOf("message: "), (Names{"[] No Profiles to match images against!"}));
-    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
-    EXPECT_TRUE(ProcessLog().empty());
-}
-
 TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {
     AddScan("a.tif", {.checked = {1}});
     AddScan("b.tif", {.checked = {1}});

@@ -2,7 +2,6 @@
 #include <filesystem>
 
 #include "Truth.h"
-#include "boxes/ProfileImagePipeline.h"
 #include "recognition/ResultDocument.h"
 #include "support/RunWorld.h"
 
@@ -62,39 +61,6 @@ TEST_F(SampleFolderTest, EveryScanReadsAsTheTruthSays) {
         EXPECT_EQ(outcome.CheckedBoxes, record.CheckedBoxes) << record.Image;
     }
     EXPECT_EQ(beyond, 2) << "an excuse more than the samples need";
-}
-
-TEST_F(SampleFolderTest, BoxFindingOnTheBlanksGivesTheProfiles) {
-    std::filesystem::copy(kSamples + "profiles", app::ToPath(folders_.Profiles));
-    profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
-    const boxes::BoxSizes sizes{16, 38, 16, 34};
-    ASSERT_EQ(profiles_.size(), 2U);
-    for (const profiles::ProfileRecord& profile : profiles_) {
-        const auto found =
-            boxes::FindBoxesOnImage(kSamples + "blanks/" + profile.Name + ".tif", profile.Name, sizes,
-                                    boxes::ReachFor(sizes), {files_, person_, log_, clock_});
-        ASSERT_TRUE(found.has_value());
-        ASSERT_EQ(found->Boxes.size(), profile.Boxes.size());
-        for (std::size_t i = 0; i < profile.Boxes.size(); ++i) {
-            const boxes::BoxRect& box = found->Boxes[i];
-            const profiles::OmrBox& expected = profile.Boxes[i];
-            EXPECT_EQ(box.L, expected.L) << expected.Name;
-            EXPECT_EQ(box.R, expected.R) << expected.Name;
-            EXPECT_EQ(found->Height - box.T, expected.T) << expected.Name;
-            EXPECT_EQ(found->Height - box.B, expected.B) << expected.Name;
-        }
-    }
-}
-
-TEST(TruthTest, RefusesLinesOfAnotherShape) {
-    const auto records =
-        samples::ParseTruth("# head\n\na.tif\tForm\tQ1,Q2 often\t\nb.tif\tunreadable\t\tworn\n");
-    ASSERT_EQ(records.size(), 2U);
-    EXPECT_EQ(records[0].CheckedBoxes, (Names{"Q1", "Q2 often"}));
-    EXPECT_EQ(records[1].Profile, "");
-    EXPECT_EQ(records[1].BeyondRules, "worn");
-    for (const char* const text : {"a.tif\tForm\tQ1", "\tForm\t\t", "a.tif\t\t\t", "a.tif\tForm\t\t\t"})
-        EXPECT_THROW(samples::ParseTruth(text), std::runtime_error) << text;
 }
 
 }  // namespace

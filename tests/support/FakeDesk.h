@@ -23,17 +23,11 @@ class FakeDesk final : public profiles::EditableBoxes,
     int selectedThumbnail = 0;
     int nextGroup = 0;
     profiles::ScrollOffset scroll;
-    profiles::BoxTool tool = profiles::BoxTool::Select;
-
-    /// What the view reports when the person selects a box.
-    profiles::RectReport Report(int group, double zoom) const {
-        return profiles::ReportOf(group, boxes.at(group), zoom, scroll);
-    }
 
     void PutBox(int group, const imaging::PageRect& box) override { boxes[group] = box; }
     void RemoveBox(int group) override { boxes.erase(group); }
     void SelectBox(int group) override { selectedBox = group; }
-    void SetTool(profiles::BoxTool newTool) override { tool = newTool; }
+    void SetTool(profiles::BoxTool) override {}
     void SetNextGroup(int group) override { nextGroup = group; }
     profiles::ScrollOffset Scroll() const override { return scroll; }
 

@@ -55,6 +55,9 @@ class RunWorld : public ::testing::Test {
         return LogLines(ReadText(folders_.Log + "TavreneBoxes-Process-20240305.Log"));
     }
 
+    /// The day's profile log as it is.
+    std::string ProfileLog() const { return ReadText(folders_.Log + "TavreneBoxes-Profile-20240305.Log"); }
+
     static std::vector<std::string> LogLines(const std::string& text) {
         std::vector<std::string> lines;
         for (std::size_t start = 0; start < text.size();) {

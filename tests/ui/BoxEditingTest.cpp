@@ -31,7 +31,6 @@ class BoxEditingTest : public test::DeskWindow {
         ClickThumbnail(1);
         ASSERT_EQ(Rows().topLevelItemCount(), static_cast<int>(form_.boxes.size()));
     }
-    void Trigger(const char* action) { Find<QAction>(*window_, action).trigger(); }
     QRectF SavedPlace(int number) {
         Click("Save");
         return PlaceOf(Saved("Form")[static_cast<std::size_t>(number) - 1]);
@@ -119,6 +118,8 @@ TEST_F(BoxEditingTest, EscapeEndsADragAndOnlyThenClosesTheWindow) {
     Mouse(QEvent::MouseButtonRelease, middle + QPointF(60, 60));
     EXPECT_TRUE(window_->isVisible());
     EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled());
+    const DialogScript none;
+    Find<QCheckBox>(*window_, "chkActive").click();  // no change that is asked about
     Press(View(), Qt::Key_Escape);
     EXPECT_FALSE(window_->isVisible());
 }
@@ -137,9 +138,17 @@ TEST_F(BoxEditingTest, DeletedAndAddedBoxesAreNumberedAnewBySaving) {
     EXPECT_EQ(RowTexts().back(), "Un-named-7");
     Drag({100, 400}, {100, 400});
     EXPECT_EQ(Rows().topLevelItemCount(), 5) << "a rectangle of no size";
+    Find<QCheckBox>(*window_, "chkActive").click();
+    EXPECT_EQ(Panel("File"), "Profiles:1, Active:1");
     Click("Save");
-    EXPECT_EQ(PlaceOf(Saved("Form").back()), QRectF(400, 300, 30, 26));
-    EXPECT_NE(test::ReadText(folders_.Profiles + "Form.Tvp").find("Count=\"5\""), std::string::npos);
+    EXPECT_EQ(Panel("File"), "Profiles:1, Active:0");
+    EXPECT_PRED2(test::Has, ProfileLog(), "Saved Profile: Form\r\n");
+    TestForm expected = form_;
+    expected.boxes.erase(expected.boxes.begin() + 4);
+    expected.boxes.erase(expected.boxes.begin() + 1);
+    expected.boxes.push_back({"Un-named-7", 400, 300, 430, 326});
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"),
+              expected.ProfileText(folders_.ProfileImages + "Form", false));
     for (int step = 0; step < 3; ++step)
         Press(*window_, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q2", "Q3", "Q4", "Q5", "Q6"}));
@@ -147,6 +156,12 @@ TEST_F(BoxEditingTest, DeletedAndAddedBoxesAreNumberedAnewBySaving) {
     EXPECT_EQ(std::count_if(items.begin(), items.end(),
                             [](QGraphicsItem* item) { return dynamic_cast<RectItem*>(item) != nullptr; }),
               6);
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::No);
+    ClickThumbnail(1);
+    EXPECT_FALSE(Find<QAction>(*window_, "Redo").isEnabled());
+    Drag({400, 370}, {430, 390});
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4", "Q6", "Un-named-7", "Un-named-6"}));
 }
 
 TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
@@ -237,27 +252,41 @@ TEST_F(BoxEditingTest, WheelZoomsAroundThePointerAndTheMiddleButtonPans) {
     EXPECT_EQ(view.verticalScrollBar()->value(), scrolled + 75);
 }
 
-TEST_F(BoxEditingTest, ADamagedProfileAndALostSpecimenStayInReach) {
-    test::WriteText(folders_.Profiles + "Bad.Tvp", "no document");
+TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
+    test::WriteText(folders_.Profiles + "Text.Tvp", "no document");
+    const std::string cut = AddSpecimenProfile("Cut", form_);
+    std::string text = test::ReadText(cut);
+    test::WriteText(cut, text.erase(text.find(" DPI_Y"), 12));
     AddSpecimenProfile("Lost", form_, false);
-    files_.Delete(folders_.ProfileImages + "Lost.tif");
+    const std::string lost = folders_.ProfileImages + "Lost.tif";
+    files_.Delete(lost);
     Open();
-    EXPECT_EQ(Thumbnails(), 3);
+    EXPECT_EQ(Thumbnails(), 4);
     EXPECT_EQ(Panel("File"), "Profiles:2, Active:1");
+    EXPECT_PRED2(test::Has, ProfileLog(), "No thumbnail for profile Lost.Tvp: its specimen image " + lost);
+    Click("Save");  // nothing is open
+    Click("Delete");
     ClickThumbnail(3);
     EXPECT_EQ(Rows().topLevelItemCount(), 6);
     EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isChecked());
-    EXPECT_NE(Panel("Message").find("Lost.tif is not there any more"), std::string::npos) << Panel("Message");
+    EXPECT_EQ(Panel("Message"),
+              "Profile [Lost], Image [Lost.tif]. The specimen image " + lost + " is not there any more.");
     ClickPage(MiddleOf(form_.boxes[5]));
     EXPECT_EQ(CurrentRow(), 5) << "boxes can be reached without their page";
 
     DialogScript dialogs;
-    dialogs.Press(QMessageBox::Ok).Press(QMessageBox::Yes);
+    dialogs.Press(QMessageBox::Ok).Press(QMessageBox::Ok).Press(QMessageBox::Yes);
+    ClickThumbnail(4);
     ClickThumbnail(1);
+    EXPECT_EQ(dialogs.shown.at(1),
+              "The profile " + cut + " cannot be opened: the attribute DPI_Y of Tavrene is missing.");
+    EXPECT_EQ(View().sceneRect().width(), form_.width) << "its page is shown";
     EXPECT_EQ(Rows().topLevelItemCount(), 0);
     EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isEnabled());
     Click("Delete");
-    EXPECT_EQ(Thumbnails(), 2);
+    EXPECT_PRED2(test::Has, ProfileLog(), "Deleted Profile: Cut\r\n");
+    EXPECT_EQ(In(folders_.Profiles), (Names{"Form.Tvp", "Lost.Tvp", "Tavrene_Profiles.tif", "Text.Tvp"}));
+    EXPECT_EQ(Thumbnails(), 3);
     EXPECT_EQ(SelectedThumbnail(), 0);
     Press(Strip(), Qt::Key_Down);
     EXPECT_NE(SelectedThumbnail(), 0);

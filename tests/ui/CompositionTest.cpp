@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include "app/Files.h"
 #include "support/TempFolder.h"
@@ -12,21 +13,11 @@ namespace tavrene::ui {
 namespace {
 
 // The program as a person starts it for the first time, in a home of its own.
-class CompositionTest : public testing::Test {
-  protected:
-    CompositionTest() {
-        qputenv("XDG_CONFIG_HOME", home_.File("config").c_str());
-        QDir::setCurrent(ToQt(home_.Path()));
-    }
-    ~CompositionTest() override { QDir::setCurrent(start_); }
-    CompositionTest(const CompositionTest&) = delete;
-    CompositionTest& operator=(const CompositionTest&) = delete;
-
-    QString start_ = QDir::currentPath();
-    test::TempFolder home_;
-};
-
-TEST_F(CompositionTest, FirstStartAsksForTheFolderAndLivesAsLongAsItsWindow) {
+TEST(CompositionTest, FirstStartAsksForTheFolderAndLivesAsLongAsItsWindow) {
+    const test::TempFolder home;
+    const auto goBack = qScopeGuard([start = QDir::currentPath()] { QDir::setCurrent(start); });
+    qputenv("XDG_CONFIG_HOME", home.File("config").c_str());
+    QDir::setCurrent(ToQt(home.Path()));
     QStringList dialogs;
     test::WhileRunning save([&dialogs] {
         if (QWidget* const dialog = QApplication::activeModalWidget(); dialog != nullptr) {
@@ -36,9 +27,9 @@ TEST_F(CompositionTest, FirstStartAsksForTheFolderAndLivesAsLongAsItsWindow) {
     });
     Composition program;
     ASSERT_TRUE(program.Start());
-    EXPECT_EQ(dialogs, QStringList("frmSettings"));
-    EXPECT_TRUE(app::DiskFiles().FolderExists(home_.File("ProcessIn")));
+    EXPECT_TRUE(app::DiskFiles().FolderExists(home.File("ProcessIn")));
     EXPECT_FALSE(Composition().Start()) << "there is an instance already";
+    EXPECT_EQ(dialogs, QStringList("frmSettings"));
 
     bool wasOpen = false;
     QTimer::singleShot(0, &program.Window(), [&] {
@@ -47,22 +38,6 @@ TEST_F(CompositionTest, FirstStartAsksForTheFolderAndLivesAsLongAsItsWindow) {
     });
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_TRUE(wasOpen);
-}
-
-TEST_F(CompositionTest, AFolderThatIsGoneBringsTheDialogOnceAndThenTheWindow) {
-    QtSettingsStore store(ToQt(home_.File("config")));
-    app::WriteCommon(store, "WorkDir", home_.File("gone"));
-    int shown = 0;
-    test::WhileRunning cancel([&shown] {
-        if (QWidget* const dialog = QApplication::activeModalWidget(); dialog != nullptr) {
-            ++shown;
-            test::Find<QPushButton>(*dialog, "cmdCancel").click();
-        }
-    });
-    Composition program;
-    ASSERT_TRUE(program.Start());
-    EXPECT_EQ(shown, 1);
-    EXPECT_TRUE(program.Window().isVisible());
 }
 
 }  // namespace

@@ -5,12 +5,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QMessageBox>
+#include <QLabel>
 #include <QTimer>
 #include <QToolBar>
 #include <functional>
+#include <set>
 #include <string>
-#include <vector>
 
 #include "ui/QtText.h"
 
@@ -31,25 +31,6 @@ inline QAbstractButton& Button(const QWidget& window, const char* toolbarName, c
     return dynamic_cast<QAbstractButton&>(*toolbar.widgetForAction(&Find<QAction>(toolbar, key)));
 }
 
-/// Closes every message box that opens while it lives by its default button and keeps the texts.
-class BoxCloser {
-  public:
-    BoxCloser() {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texts.push_back(ui::FromQt(box->windowTitle() + ": " + box->text()));
-                box->accept();
-            }
-        });
-        timer_.start(0);
-    }
-
-    std::vector<std::string> texts;
-
-  private:
-    QTimer timer_;
-};
-
 /// Does something whenever the window takes pending events.
 class WhileRunning {
   public:
@@ -60,6 +41,24 @@ class WhileRunning {
 
   private:
     QTimer timer_;
+};
+
+/// Counts how often a widget is painted, and keeps what a label shows then.
+class PaintWatch final : public QObject {
+  public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    std::set<std::string> shown;
+    int count = 0;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            ++count;
+            if (const auto* const label = qobject_cast<QLabel*>(watched))
+                shown.insert(ui::FromQt(label->text()));
+        }
+        return false;
+    }
 };
 
 }  // namespace tavrene::test

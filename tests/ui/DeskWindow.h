@@ -1,24 +1,54 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QGraphicsView>
 #include <QListView>
+#include <QTest>
 #include <QTreeWidget>
+#include <memory>
 
 #include "profiles/ProfileDocument.h"
+#include "support/Faults.h"
+#include "support/RunWorld.h"
+#include "ui/Controls.h"
 #include "ui/DialogScript.h"
-#include "ui/WindowWorld.h"
+#include "ui/MainWindow.h"
+#include "ui/QtSettingsStore.h"
 
 namespace tavrene::test {
 
-/// The real window with profiles to choose from, driven by mouse and keyboard.
-class DeskWindow : public WindowWorld {
+/// The real window over a working folder of its own, driven by mouse and keyboard.
+class DeskWindow : public RunWorld {
   protected:
     DeskWindow() {
+        settings_.DisplayDuringProcess = true;
         settings_.BoxMinWidth = settings_.BoxMinHeight = 16;
         settings_.BoxMaxWidth = 38;
         settings_.BoxMaxHeight = 34;
     }
 
+    ui::MainWindow& Open() {
+        window_ = std::make_unique<ui::MainWindow>(settings_, ui::WindowDoors{store_, files_, clock_});
+        window_->Load();
+        window_->show();
+        window_->activateWindow();
+        QApplication::processEvents();
+        return *window_;
+    }
+
+    void Click(const char* key, const char* toolbar = "MainToolbar") {
+        Button(*window_, toolbar, key).click();
+    }
+
+    /// Through the window's shortcuts, as from the keyboard.
+    static void Press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        widget.activateWindow();
+        QApplication::processEvents();
+        QTest::keyClick(&widget, key, modifiers);
+    }
+
+    QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }
+    std::string Panel(const char* key) { return ui::FromQt(Find<QLabel>(*window_, key).text()); }
     QListView& Strip() { return Find<QListView>(*window_, "ImgThumbnail1"); }
     QTreeWidget& Rows() { return Find<QTreeWidget>(*window_, "lvwSettings"); }
     int Thumbnails() { return Strip().model()->rowCount(); }
@@ -77,6 +107,10 @@ class DeskWindow : public WindowWorld {
                    profiles::LoadProfileDocument(files_, folders_.Profiles + name + ".Tvp"))
             .Boxes;
     }
+
+    TempFolder config_;
+    ui::QtSettingsStore store_{ui::ToQt(config_.Path())};
+    std::unique_ptr<ui::MainWindow> window_;
 };
 
 }  // namespace tavrene::test

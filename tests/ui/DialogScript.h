@@ -63,10 +63,12 @@ class DialogScript {
     }
 
     std::vector<std::string> shown;
+    std::vector<std::string> titles;
 
   private:
     void Answer(QDialog& dialog) {
         shown.push_back(FromDialog(dialog));
+        titles.push_back(ui::FromQt(dialog.windowTitle()));
         if (answers_.empty()) {
             ADD_FAILURE() << "no answer is scripted for: " << shown.back();
             dialog.reject();

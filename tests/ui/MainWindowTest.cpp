@@ -1,22 +1,20 @@
-#include <QGraphicsView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QTreeWidget>
 
-#include "ui/RectItem.h"
-#include "ui/WindowWorld.h"
+#include "ui/DeskWindow.h"
 
 namespace tavrene::ui {
 namespace {
 
 using test::Button;
+using test::DialogScript;
 using test::Find;
 using Names = std::vector<std::string>;
 
-class MainWindowTest : public test::WindowWorld {
+class MainWindowTest : public test::DeskWindow {
   protected:
     MainWindowTest() { AddProfile("Form", form_); }
 
@@ -68,22 +66,15 @@ TEST_F(MainWindowTest, HasTheListedButtonsAndAMenuForEachOfThem) {
     EXPECT_EQ(Panel("Message"), "Ready");
 }
 
-TEST_F(MainWindowTest, ARunShowsPageBoxesAndListAndTheZoomCommandsWorkOnIt) {
+TEST_F(MainWindowTest, ARunShowsPageAndListAndTheZoomCommandsWorkOnIt) {
     AddScans(1);
     Open();
     Click("ZoomIn");
     EXPECT_EQ(Zoom(), 1) << "there is no page to zoom";
     Click("Process");
     EXPECT_EQ(In(folders_.ProcessOut), (Names{"scan1.tif", "scan1.xml"}));
-    auto& boxes = Find<QTreeWidget>(*window_, "lvwSettings");
-    ASSERT_EQ(boxes.topLevelItemCount(), 4);
-    EXPECT_EQ(boxes.headerItem()->text(1), "Val");
-    EXPECT_EQ(boxes.topLevelItem(1)->text(0) + boxes.topLevelItem(1)->text(1), "Q21");
-    EXPECT_EQ(boxes.topLevelItem(2)->text(1), "0");
-    const QList<QGraphicsItem*> items = View().items();
-    EXPECT_EQ(std::count_if(items.begin(), items.end(),
-                            [](QGraphicsItem* item) { return dynamic_cast<RectItem*>(item) != nullptr; }),
-              4);
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q2", "Q3", "Q4"}));
+    EXPECT_EQ(Rows().headerItem()->text(1), "Val");
     EXPECT_EQ(View().sceneRect(), QRectF(0, 0, form_.width, form_.height));
 
     Click("ZoomIn");
@@ -105,21 +96,30 @@ TEST_F(MainWindowTest, ARunShowsPageBoxesAndListAndTheZoomCommandsWorkOnIt) {
 TEST_F(MainWindowTest, StopDuringTheThirdOfFiveFinishesTheThird) {
     AddScans(5);
     Open();
-    test::BoxCloser boxes;
-    test::WhileRunning stop([this] {
-        if (Progress() == 1)
-            Click("Process");  // ignored: one run goes on already
-        if (Progress() == 3)
-            Click("Stop");
-    });
-    Click("Process");
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Ok);
+    {
+        test::WhileRunning stop([this] {
+            if (Progress() == 1)
+                Click("Process");  // ignored: one run goes on already
+            if (Progress() == 3)
+                Click("Stop");
+        });
+        Click("Process");
+    }
     EXPECT_EQ(In(folders_.ProcessIn), (Names{"scan4.tif", "scan5.tif"}));
-    EXPECT_EQ(boxes.texts, Names{"Stop Tavrene Process: Process interrupted by user"});
-    const Names log = ProcessLog();
+    EXPECT_EQ(dialogs.titles, Names{"Stop Tavrene Process"});
+    EXPECT_EQ(dialogs.shown, Names{"Process interrupted by user"});
+    EXPECT_EQ(Panel("Message"), "Processing interrupted by user");
+    Names log = ProcessLog();
     EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 1);
-    EXPECT_EQ(log.back(), "Processed 3 Files, 0 Sec.");
+    log.erase(log.begin(), log.end() - 3);
+    EXPECT_EQ(log, (Names{"scan3.tif: Processing complete", "Processing interrupted by user",
+                          "Processed 3 Files, 0 Sec."}));
     EXPECT_EQ(Panel("ElapsedTime"), "3 Files, 0 Sec.");
     EXPECT_TRUE(window_->isVisible());
+    Click("Process");  // a stop belongs to the run that it stopped
+    EXPECT_EQ(In(folders_.ProcessIn), Names());
 }
 
 TEST_F(MainWindowTest, AClickOnProcessDuringARunStartsNoOther) {
@@ -140,37 +140,22 @@ TEST_F(MainWindowTest, AClickOnProcessDuringARunStartsNoOther) {
     EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 4);
 }
 
-// Counts how often a widget is painted and what its label shows then.
-class PaintWatch final : public QObject {
-  public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-    Names shown;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            auto* const label = qobject_cast<QLabel*>(watched);
-            shown.push_back(label == nullptr ? "painted" : FromQt(label->text()));
-        }
-        return false;
-    }
-};
-
 TEST_F(MainWindowTest, RepaintsPageAndPanelsForEveryFile) {
     AddScans(4);
     Open();
-    PaintWatch page(*View().viewport());
-    PaintWatch file(Find<QLabel>(*window_, "File"));
+    const test::PaintWatch page(*View().viewport());
+    const test::PaintWatch file(Find<QLabel>(*window_, "File"));
     Click("Process");
-    EXPECT_GE(page.shown.size(), 4U);
+    EXPECT_GE(page.count, 4);
     for (const char* name : {"scan1.tif", "scan2.tif", "scan3.tif", "scan4.tif"})
-        EXPECT_NE(std::find(file.shown.begin(), file.shown.end(), name), file.shown.end()) << name;
+        EXPECT_TRUE(file.shown.contains(name)) << name;
 }
 
 TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
     AddScans(5);
     Open();
-    test::BoxCloser boxes;
+    DialogScript dialogs;
+    dialogs.Press(QMessageBox::Ok);
     bool openAfterEscape = false;
     test::WhileRunning escape([&] {
         if (Progress() != 2)
@@ -181,7 +166,6 @@ TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
     Click("Process");
     EXPECT_TRUE(openAfterEscape);
     EXPECT_EQ(In(folders_.ProcessIn).size(), 3U);
-    EXPECT_EQ(boxes.texts, Names{"Stop Tavrene Process: Process interrupted by user"});
     EXPECT_FALSE(window_->isVisible());
 }
 
@@ -214,12 +198,23 @@ TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {
 }
 
 TEST_F(MainWindowTest, ARunThatCannotStartSaysWhyAndLeavesTheWindowUsable) {
-    files_.Delete(folders_.Profiles + "Form.Tvp");
-    Open();
-    test::BoxCloser boxes;
-    Click("Process");
-    EXPECT_EQ(boxes.texts, Names{"Tavrene CheckBoxes: No Profiles to match images against!"});
-    EXPECT_TRUE(Button(*window_, "MainToolbar", "ZoomIn").isEnabled());
+    AddScans(1);
+    const std::string profile = folders_.Profiles + "Form.Tvp";
+    test::WriteText(profile, form_.ProfileText("Form", false));
+    for (const std::string text :
+         {"None of your Profiles are active!", "No Profiles to match images against!"}) {
+        Open();
+        DialogScript dialogs;
+        dialogs.Press(QMessageBox::Ok);
+        Click("Process");
+        EXPECT_EQ(dialogs.titles, Names{"Tavrene CheckBoxes"});
+        EXPECT_TRUE(dialogs.shown.at(0).starts_with(text)) << dialogs.shown.at(0);
+        EXPECT_EQ(In(folders_.ProcessIn), Names{"scan1.tif"});
+        EXPECT_TRUE(Button(*window_, "MainToolbar", "ZoomIn").isEnabled());
+        if (files_.FileExists(profile))
+            files_.Delete(profile);
+    }
+    EXPECT_TRUE(ProcessLog().empty());
 }
 
 }  // namespace

@@ -21,21 +21,6 @@ std::string Nameless(const std::string& path) {
     return text;
 }
 
-// What a panel's label shows whenever it is painted.
-class PanelWatch final : public QObject {
-  public:
-    explicit PanelWatch(QLabel& label) { label.installEventFilter(this); }
-    Names shown;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        const std::string text = FromQt(qobject_cast<QLabel*>(watched)->text());
-        if (event->type() == QEvent::Paint && (shown.empty() || shown.back() != text))
-            shown.push_back(text);
-        return false;
-    }
-};
-
 class NewProfileTest : public test::DeskWindow {
   protected:
     NewProfileTest() {
@@ -50,7 +35,7 @@ TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
     EXPECT_EQ(Thumbnails(), 1);
     for (const std::string name : {"PatientQuestionnaire", "StaffSurvey"}) {
         const int before = Thumbnails();
-        PanelWatch message(Find<QLabel>(*window_, "Message"));
+        const test::PaintWatch message(Find<QLabel>(*window_, "Message"));
         DialogScript dialogs;
         dialogs.Type(name).Type(folders_.ProfileImages + name + ".tif");
         Click("New");
@@ -60,8 +45,7 @@ TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
         for (std::size_t step = 1; step <= 11; ++step) {
             const std::string text =
                 "Processing step " + std::to_string(step) + " of 11 " + std::string(step, '.');
-            EXPECT_NE(std::find(message.shown.begin(), message.shown.end(), text), message.shown.end())
-                << text;
+            EXPECT_TRUE(message.shown.contains(text)) << text;
         }
         EXPECT_EQ(Nameless(folders_.Profiles + name + ".Tvp"),
                   Nameless(kSamples + "profiles/" + name + ".Tvp"));
@@ -75,24 +59,26 @@ TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
 }
 
 TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
+    AddSpecimenProfile("Second", form_);
     Open();
     ClickThumbnail(1);
     const std::string before = test::ReadText(folders_.Profiles + "Old.Tvp");
     const std::string prompt = "Save changes to Profile <" + folders_.Profiles + "Old.Tvp>?";
     ClickPage(QPointF(form_.boxes[0].L + 5, form_.boxes[0].T + 5));
     Press(View(), Qt::Key_Right);
+    const Names all = {"Old.Tvp", "Second.Tvp", "Tavrene_Profiles.tif"};
     const auto expectUnchanged = [&](const char* after) {
         EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before) << after;
         EXPECT_EQ(Rows().topLevelItemCount(), 6) << after;
         EXPECT_EQ(SelectedThumbnail(), 1) << after;
         EXPECT_TRUE(Find<QAction>(*window_, "Undo").isEnabled()) << after;
-        EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"})) << after;
+        EXPECT_EQ(In(folders_.Profiles), all) << after;
     };
     DialogScript dialogs;
     dialogs.Press(QMessageBox::Cancel).Press(QMessageBox::Cancel).Press(QMessageBox::Cancel);
     Click("New");
     expectUnchanged("New");
-    ClickThumbnail(1);
+    ClickThumbnail(2);
     expectUnchanged("the strip");
     Click("Process");
     expectUnchanged("Process");
@@ -112,7 +98,9 @@ TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
     Click("New");
     EXPECT_LE(View().sceneRect().width(), 1) << "a cancelled image dialog clears the view";
     EXPECT_EQ(Rows().topLevelItemCount(), 6) << "the profile stays open";
-    EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Tavrene_Profiles.tif"}));
+    EXPECT_EQ(In(folders_.Profiles), all);
+    ClickThumbnail(2);
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before) << "the answer No saves nothing";
 }
 
 TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
@@ -134,6 +122,25 @@ TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
     Click("New");
     EXPECT_EQ(In(folders_.Profiles), (Names{"Form 2.1.Tvp", "Old.Tvp", "Tavrene_Profiles.tif"}));
     EXPECT_EQ(SelectedThumbnail(), 1);
+}
+
+TEST_F(NewProfileTest, TheMessagePanelTellsOfTrapsAfterTheTextsOfTheCommand) {
+    AddSpecimenProfile("Row", test::TestForm::Grid(4, 1));
+    Open();
+    ClickThumbnail(2);
+    EXPECT_PRED2(test::Has, Panel("Message"), "all lie in one row");
+    Click("Add", "CfgToolbar");
+    Drag({200, 300}, {224, 324});
+    Click("Save");
+    EXPECT_EQ(Panel("Message"), "Ready");
+
+    form_.boxes.clear();
+    form_.SaveScan(folders_.ProfileImages + "empty.tif", {});
+    DialogScript dialogs;
+    dialogs.Type("Zero").Type(folders_.ProfileImages + "empty.tif");
+    Click("New");
+    EXPECT_TRUE(Saved("Zero").empty());
+    EXPECT_PRED2(test::Has, Panel("Message"), "no profile behind it");
 }
 
 }  // namespace

@@ -118,6 +118,7 @@ TEST_F(SettingsDialogTest, CancelWithoutAWorkingFolderKeepsTheFolderShown) {
 
 TEST_F(SettingsDialogTest, SaveWritesEveryValueAndMakesTheFolders) {
     QDir(ToQt(work_.Path())).mkpath("nested/deep & <wide>");
+    settings_.ProcessSingle = true;
     Open();
     Enter(ToQt(work_.Path()) + "/nested");
     Enter(ToQt(work_.Path()) + "/nested/deep & <wide>");
@@ -132,7 +133,7 @@ TEST_F(SettingsDialogTest, SaveWritesEveryValueAndMakesTheFolders) {
                                      {"BoxMinHeight", "22"},
                                      {"BoxMaxHeight", "34"},
                                      {"FillThreshold", "11"},
-                                     {"ProcessSingle", "0"},
+                                     {"ProcessSingle", "1"},
                                      {"DisplayDuringProcess", "1"},
                                      {"WorkDir", chosen}}));
     EXPECT_EQ(settings_.BoxMinHeight, 22);

@@ -29,48 +29,39 @@ class WindowLoadTest : public test::RunWorld {
                    gate);
         return state;
     }
-
-    std::string ProfileLog() const {
-        return test::ReadText(folders_.Log + "TavreneBoxes-Profile-20240305.Log");
-    }
 };
 
-TEST_F(WindowLoadTest, LoadsProfilesAndFixesWhatStaysForTheRun) {
-    const AppState state = Load([] { return "3.18"; });
-    EXPECT_EQ(state.folders.ProcessIn, folders_.ProcessIn);
-    ASSERT_EQ(state.profiles.size(), 1U);
-    EXPECT_EQ(state.reach.X, 44);
-    EXPECT_EQ(state.reach.Y, 40);
-    EXPECT_EQ(person_.PanelText(app::Panel::File), "Profiles:1, Active:1");
-    EXPECT_TRUE(transcript_.LinesOf("message: ").empty());
-}
-
 TEST_F(WindowLoadTest, OpensWithoutTheImageLibraryAndSaysSo) {
-    const AppState state = Load([]() -> std::string { throw std::runtime_error("no such library"); });
-    EXPECT_EQ(transcript_.LinesOf("message: "), Names{"[] FreeImage is not available"});
+    AppState state = Load([]() -> std::string { throw std::runtime_error("no such library"); });
+    const Names expected = {"[] FreeImage is not available"};
+    EXPECT_EQ(transcript_.LinesOf("message: "), expected);
     EXPECT_NE(ProfileLog().find(" FreeImage is not available\r\n"), std::string::npos);
     EXPECT_EQ(state.profiles.size(), 1U);
-}
+    EXPECT_EQ(std::pair(state.reach.X, state.reach.Y), std::pair(44, 40));
 
-TEST_F(WindowLoadTest, TellsOfAMissingLibraryEvenWhenTheLogCannotBeWritten) {
+    transcript_.Clear();
     files_.refuse = [](const std::string& operation, const std::string&) { return operation == "append"; };
-    const AppState state = Load([] { return std::string(); });
-    EXPECT_EQ(transcript_.LinesOf("message: "), Names{"[] FreeImage is not available"});
+    state = Load([] { return std::string(); });
+    EXPECT_EQ(transcript_.LinesOf("message: "), expected);
     EXPECT_EQ(state.profiles.size(), 1U);
 }
 
 TEST_F(WindowLoadTest, SettingsThatWaitForTheNextStartAreTold) {
-    const auto message = [this](const std::function<void(app::Settings&)>& change) {
-        app::Settings settings = settings_;
+    using app::Settings;
+    const std::vector<std::pair<std::function<void(Settings&)>, std::string>> changes = {
+        {[](Settings& settings) { settings.FillThreshold = 20; }, "Ready"},
+        {[](Settings& settings) { settings.BoxMinHeight = 20; },
+         "The new box sizes take full effect at the next start."},
+        {[](Settings& settings) { settings.WorkDir = "/elsewhere"; },
+         "The new working folder is used at the next start."},
+        {[](Settings& settings) { settings.BoxMaxWidth = 20, settings.WorkDir = "/elsewhere"; },
+         "The box sizes take full effect, and the working folder is used, at the next start."}};
+    for (const auto& [change, text] : changes) {
+        Settings settings = settings_;
         person_.SetPanel(app::Panel::Message, "Ready");
         ShowSettings(settings, person_, change);
-        return person_.PanelText(app::Panel::Message);
-    };
-    EXPECT_EQ(message([](app::Settings& settings) { settings.FillThreshold = 20; }), "Ready");
-    EXPECT_EQ(message([](app::Settings& settings) { settings.BoxMinHeight = 20; }),
-              "The new box sizes take full effect at the next start.");
-    EXPECT_EQ(message([](app::Settings& settings) { settings.WorkDir = "/elsewhere"; }),
-              "The new working folder is used at the next start.");
+        EXPECT_EQ(person_.PanelText(app::Panel::Message), text);
+    }
 }
 
 }  // namespace
