@@ -28,7 +28,7 @@ std::string TextOf(const app::Bytes& content) {
 
 // A folder with that many processed forms of 100 boxes each; all of them are the same page.
 std::string FolderWithForms(int forms) {
-    const std::string folder = ScratchFolder() + "/review-" + std::to_string(forms);
+    std::string folder = ScratchFolder() + "/review-" + std::to_string(forms);
     const app::WorkingFolders folders = app::PathsUnder(folder);
     Workplace work;
     fs::create_directory(folder);

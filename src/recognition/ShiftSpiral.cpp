@@ -7,7 +7,7 @@ namespace {
 
 // Moves along the ring of radius `r`; false at its end. `moves` counts the moves made in this ring.
 bool MoveAlongRing(int r, int moves, int& dx, int& dy) {
-    if (dx == -r && dy < r && moves <= r + 1)
+    if (dx == -r && ((dy < r && moves <= r + 1) || dy < 0))
         ++dy;
     else if (dx < r && dy == r)
         ++dx;
@@ -15,8 +15,6 @@ bool MoveAlongRing(int r, int moves, int& dx, int& dy) {
         --dy;
     else if (dx > -r && dy == -r)
         --dx;
-    else if (dx == -r && dy < 0)
-        ++dy;
     else
         return false;
     return true;

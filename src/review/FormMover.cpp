@@ -102,7 +102,7 @@ void FormMover::TakeBackFile(const std::string& name, const std::string& destina
 std::optional<FormMove> FormMover::Settle() {
     if (!files_.FileExists(NotePath()))
         return std::nullopt;
-    const std::optional<FormMove> move = ReadNote();
+    std::optional<FormMove> move = ReadNote();
     const auto isThere = [this, &move](const std::string& name) {
         return PlaceOf(name, Destination(*move)) == Place::There;
     };
