@@ -24,7 +24,6 @@ class PageItem final : public QGraphicsItem {
 
     QImage image_;
     QPixmap pixmap_;  ///< The page at `pixmapScale_`.
-    QRectF pixmapPlace_;
     double pixmapScale_ = 0;
 };
 
