@@ -18,6 +18,13 @@ ImageLoader::ImageLoader(app::Files& files, app::ActivityLog& log, app::Operator
     : files_(files), log_(log), person_(person), tempFolder_(std::move(tempFolder)) {}
 
 bool ImageLoader::LoadImageForProcessing(const std::string& path) {
+    if (!LoadImage(path))
+        return false;
+    WriteDisplayCopies(app::FileName(path), FormatOfExtension(path) == ImageFormat::Tiff && page_->inverted);
+    return true;
+}
+
+bool ImageLoader::LoadImage(const std::string& path) {
     page_.reset();
     displayCopy_.clear();
     const std::string imageName = app::FileName(path);
@@ -32,7 +39,6 @@ bool ImageLoader::LoadImageForProcessing(const std::string& path) {
         return false;
     }
     page_ = std::get<Page>(std::move(read));
-    WriteDisplayCopies(imageName, *format == ImageFormat::Tiff && page_->inverted);
     return true;
 }
 

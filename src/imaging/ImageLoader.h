@@ -21,6 +21,9 @@ class ImageLoader {
     /// told; then there is no current page. Throws only when the log cannot be written.
     bool LoadImageForProcessing(const std::string& path);
 
+    /// The same without the display copies: they take as long as the rest.
+    bool LoadImage(const std::string& path);
+
     /// The page of the last successful load; not to be asked for after a failure.
     const Page& CurrentPage() const { return *page_; }
 

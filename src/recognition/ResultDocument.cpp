@@ -62,6 +62,9 @@ void CheckResult(const pugi::xml_node& root) {
     const std::string image = root.attribute("Image").value();
     if (app::FileName(image) != image)
         throw DocumentError("the attribute Image is \"" + image + "\", which is no plain file name");
+    // Where it goes, its result goes, and that would be one that has nothing to do with it.
+    if (app::UpperCase(app::Extension(image)) == "XML")
+        throw DocumentError("the attribute Image is \"" + image + "\", which is no image");
 }
 
 pugi::xml_document Compose(const ResultHeader& header, std::span<const MarkReading> readings) {
@@ -160,6 +163,8 @@ void ResultDocument::Rewrite(const std::string& profile, std::span<const MarkRea
 }
 
 void ResultDocument::Save(app::Files& files, const std::string& path) const {
+    if (!files.FileExists(path))
+        throw app::FileError("Cannot save " + path + ": the file is gone");
     profiles::WriteXml(files, path, document_, profiles::XmlLayout::Indented);
 }
 

@@ -31,7 +31,8 @@ struct ResultMark {
 class ResultDocument {
   public:
     /// Reads a document. Throws `app::FileError`, or `profiles::DocumentError` with a text that names the
-    /// file: it is no result document, has no `OMRs`, or its `Image` is not the plain name of a file.
+    /// file: it is no result document, has no `OMRs`, or its `Image` is not the plain name of a file or is
+    /// that of a document.
     static ResultDocument Load(const app::Files& files, const std::string& path);
 
     ResultDocument Clone() const;
@@ -55,7 +56,7 @@ class ResultDocument {
     /// nobody has reviewed it.
     void Rewrite(const std::string& profile, std::span<const MarkReading> readings);
 
-    /// Throws `app::FileError`; the file then holds what it held before.
+    /// Replaces the file, which has to be there. Throws `app::FileError`; the file is then as it was before.
     void Save(app::Files& files, const std::string& path) const;
 
   private:

@@ -8,9 +8,6 @@ Decisions::Decisions(const ReviewDoors& doors, const app::WorkingFolders& folder
     : doors_(doors), folders_(folders), list_(list), mover_(doors.files, folders) {}
 
 void Decisions::Save(OpenForm& form) {
-    const std::string path = folders_.ProcessOut + form.Document;
-    if (!doors_.files.FileExists(path))
-        throw app::FileError("Cannot save " + path + ": the file is gone");
     recognition::ResultDocument saved = form.Result.Clone();
     saved.SetReviewed(true);
     saved.SetProfile(form.Profile.Name);
@@ -18,7 +15,7 @@ void Decisions::Save(OpenForm& form) {
         saved.SetChecked(form.Marks);
     else
         saved.ReplaceMarks(form.Marks);
-    saved.Save(doors_.files, path);
+    saved.Save(doors_.files, folders_.ProcessOut + form.Document);
     form.Result = std::move(saved);
     form.SavedProfile = form.Profile.Name;
     form.Changed = false;

@@ -84,10 +84,10 @@ FormMover::Place FormMover::PlaceOf(const std::string& name, const std::string& 
     const bool isHere = files_.FileExists(source);
     const bool isThere = files_.FileExists(target);
     if (isHere && isThere)
-        return files_.Read(source) == files_.Read(target) ? Place::Copied : Place::Elsewhere;
+        return files_.Read(source) == files_.Read(target) ? Place::Copied : Place::Differing;
     if (isHere)
         return Place::Here;
-    return isThere ? Place::There : Place::Elsewhere;
+    return isThere ? Place::There : Place::Nowhere;
 }
 
 void FormMover::TakeBackFile(const std::string& name, const std::string& destination) {
@@ -103,15 +103,31 @@ std::optional<FormMove> FormMover::Settle() {
     if (!files_.FileExists(NotePath()))
         return std::nullopt;
     std::optional<FormMove> move = ReadNote();
-    const auto isThere = [this, &move](const std::string& name) {
-        return PlaceOf(name, Destination(*move)) == Place::There;
-    };
-    if (move && isThere(move->Image) && isThere(move->Document))
+    if (move && IsDone(*move))
         return move;
-    if (move)
-        TakeBack(*move);
-    Forget();
+    if (!move || TakeBackFromNote(*move))
+        Forget();
     return std::nullopt;
+}
+
+bool FormMover::IsDone(const FormMove& move) const {
+    const std::string& destination = Destination(move);
+    return PlaceOf(move.Image, destination) == Place::There &&
+           PlaceOf(move.Document, destination) == Place::There;
+}
+
+// False when the image can be in neither place: a folder that is a share may be away for a while.
+bool FormMover::TakeBackFromNote(const FormMove& move) {
+    const std::string& destination = Destination(move);
+    const std::string form = "Form [" + app::BaseName(move.Document) + "] lies half in " + destination;
+    if (!files_.FolderExists(destination))
+        throw app::FileError(form + ", which is not there. It is taken back first.");
+    try {
+        TakeBack(move);
+    } catch (const app::FileError& error) {
+        throw app::FileError(form + " and cannot be taken back yet: " + error.what());
+    }
+    return PlaceOf(move.Image, destination) != Place::Nowhere;
 }
 
 // A note that stays is harmless: at worst its decision is told twice.

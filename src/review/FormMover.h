@@ -29,15 +29,15 @@ class FormMover {
     /// move was refused.
     void Move(const FormMove& move);
 
-    /// Takes back what the move of the note left half done. Gives the move when it was done: somebody may
-    /// have died before telling of it. Throws `app::FileError` when it can be taken back only later.
+    /// Takes back what the move of the note left half done. Gives the move when it was done: the program may
+    /// have ended before it told of it. Throws `app::FileError` when it can be taken back only later.
     std::optional<FormMove> Settle();
 
     /// Drops the note: all that there is to tell of the move has been told.
     void Forget();
 
   private:
-    enum class Place { Here, There, Copied, Elsewhere };
+    enum class Place { Here, There, Copied, Differing, Nowhere };
 
     const std::string& Destination(const FormMove& move) const;
     std::string NotePath() const;
@@ -45,6 +45,8 @@ class FormMover {
     std::optional<FormMove> ReadNote() const;
     void CheckFile(const std::string& name, const std::string& destination) const;
     Place PlaceOf(const std::string& name, const std::string& destination) const;
+    bool IsDone(const FormMove& move) const;
+    bool TakeBackFromNote(const FormMove& move);
     void TakeBack(const FormMove& move);
     void TakeBackFile(const std::string& name, const std::string& destination);
     bool CanTakeBack(const FormMove& move);

@@ -99,7 +99,8 @@ bool FormReview::Prepare(OpenForm& form) {
     }
     form.Profile = *profile;
     form.SavedProfile = profileName;
-    form.Marks = form.Result.Marks();
+    form.Opened = form.Result.Marks();
+    form.Marks = form.Opened;
     form.CheckedCount = CountChecked(form.Marks);
     Measure(form);
     DrawBoxes(form);
@@ -124,23 +125,23 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImageForProcessing(path);
+    hasPage_ = loader_.LoadImage(path);
     if (!hasPage_)
         doors_.view.Clear();
-    else if (app::UpperCase(app::Extension(image)) == "PNG" && !loader_.DisplayCopy().empty())
-        doors_.view.ShowFile(CopyForView());
+    else if (app::UpperCase(app::Extension(image)) == "PNG")
+        doors_.view.ShowFile(CopyForView(path));
     else
         doors_.view.ShowFile(path);
 }
 
-// The view takes PNG images as the TIFF that was made of them. That one is there until the next image is
-// loaded, so it can stand in for a copy that cannot be written.
-std::string FormReview::CopyForView() {
+// PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
+std::string FormReview::CopyForView(const std::string& path) {
     std::string copy = folders_.Temp + "temp.tif";
     try {
-        doors_.files.Write(copy, doors_.files.Read(loader_.DisplayCopy()), app::Keep::AsScratch);
+        doors_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
+                           app::Keep::AsScratch);
     } catch (const app::FileError&) {
-        return loader_.DisplayCopy();
+        return path;
     }
     return copy;
 }
@@ -148,20 +149,22 @@ std::string FormReview::CopyForView() {
 void FormReview::SendBack(const OpenForm& form) {
     const std::string image = form.Result.Image();
     const std::string waiting = folders_.ProcessIn + image;
-    if (doors_.files.FileExists(waiting))
-        doors_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
+    const bool replaces = doors_.files.FileExists(waiting);
     doors_.files.Move(folders_.ProcessOut + image, waiting);
+    if (replaces)
+        doors_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
     doors_.files.Delete(folders_.ProcessOut + form.Document);
     list_.Remove(form.Document);
     list_.ShowCounts();
 }
 
-// Reads all boxes of `profile` at the shifts that the document remembers, and rewrites the document. False
-// when there is no page to read; the form changes only when all is done.
+// Reads all boxes of `profile` at the shifts of the document as it was opened, and rewrites the document.
+// What was read against another profile in between may have lost them. False when there is no page to read;
+// the form changes only when all is done.
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     if (!hasPage_)
         return false;
-    const std::vector<BoxShift> shifts = ShiftsOfBoxes(profile, form.Result.Marks());
+    const std::vector<BoxShift> shifts = ShiftsOfBoxes(profile, form.Opened);
     const std::vector<recognition::MarkReading> readings =
         ReadMarks(loader_.CurrentPage(), profile, shifts, settings_.FillThreshold);
     recognition::ResultDocument rewritten = form.Result.Clone();

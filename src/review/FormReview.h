@@ -50,7 +50,7 @@ class FormReview {
     bool Prepare(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
-    std::string CopyForView();
+    std::string CopyForView(const std::string& path);
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void Measure(OpenForm& form) const;

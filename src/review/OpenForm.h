@@ -21,6 +21,7 @@ struct OpenForm {
     std::string Name;      ///< Base name of the document.
     std::string Document;  ///< File name of the document.
     recognition::ResultDocument Result;
+    std::vector<recognition::ResultMark> Opened;  ///< The document's marks and shifts when it was opened.
 
     /// The profile now chosen for it, as it was when it was chosen: a reload of the profiles changes nothing.
     profiles::ProfileRecord Profile;

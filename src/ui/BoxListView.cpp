@@ -167,6 +167,11 @@ void BoxListView::TellClicked(const QTreeWidgetItem* row) {
         listener_.clicked(NumberOf(*row));
 }
 
+void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        QTreeWidget::mouseDoubleClickEvent(event);
+}
+
 void BoxListView::keyPressEvent(QKeyEvent* event) {
     const QTreeWidgetItem* const before = currentItem();
     QTreeWidget::keyPressEvent(event);

@@ -43,6 +43,9 @@ class BoxListView final : public QTreeWidget, public profiles::EditableRows {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
+    /// Of the left button only, as with single clicks.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
   private:
     class NameDelegate;
 

@@ -87,6 +87,10 @@ void MainWindow::BuildLayout() {
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
     setCentralWidget(splitter_);
+    const std::initializer_list<QWidget*> order = {
+        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_};
+    for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
+        setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
     setMinimumSize(800, 560);
     resize(1280, 800);

@@ -160,7 +160,8 @@ void ReviewListView::TellOpened(const QModelIndex& index) {
 }
 
 void ReviewListView::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    const bool isEnter = isPlain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);
     if (!isEnter)
         QTreeView::keyPressEvent(event);
     else if (!event->isAutoRepeat())

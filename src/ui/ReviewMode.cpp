@@ -123,19 +123,19 @@ void ReviewMode::FlipCurrent() {
 }
 
 void ReviewMode::NextDoubtful() {
-    commands_.NextDoubtful(rows_.CurrentNumber());
-    controls_.boxes.setFocus();
+    if (commands_.NextDoubtful(rows_.CurrentNumber()))
+        controls_.boxes.setFocus();
 }
 
 void ReviewMode::RectClicked(int group) {
-    if (rows_.HasRow(group))
-        rows_.SelectRow(group);
-    commands_.BoxSelected(group);
+    // A box without a row leaves none selected, so that no key means another one.
+    rows_.SelectRow(group);
+    controls_.boxes.setFocus();
     commands_.FlipBox(group);
 }
 
 void ReviewMode::RunBegins() {
-    commands_.CloseForm();
+    commands_.RunBegins();
     refill_ = true;
 }
 
@@ -162,8 +162,8 @@ void ReviewMode::Update(Toolbars& toolbars) {
                                : "Choose a profile on the left, make one with New,\n"
                                  "or press Process to read the scans that wait in the folder ProcessIn.");
     controls_.pane.List().MarkOpen(commands_.OpenLine());
-    // With the form its rows are gone; Enter opens the next one.
-    if (inReview && !commands_.HasForm() && controls_.boxes.hasFocus())
+    // With the form all that had its keys is gone; Enter opens the next one.
+    if (std::exchange(hadForm_, HasForm()) && inReview && !hadForm_)
         controls_.pane.List().setFocus();
 }
 

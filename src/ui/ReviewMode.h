@@ -79,6 +79,7 @@ class ReviewMode final : public QObject {
     ReviewMarks marks_;
     ReviewBoxRows rows_;
     commands::ReviewCommands commands_;
+    bool hadForm_ = false;
     bool refill_ = false;  ///< A run has taken the form from the screen.
 };
 

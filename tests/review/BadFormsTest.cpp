@@ -32,6 +32,7 @@ TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
     Document("4-no-boxes.xml", "<Tavrene Profile=\"Form\" Image=\"good.tif\"/>");
     Document("5-other.xml", "<html/>");
     Document("6-path.xml", "<Tavrene Image=\"../ProcessIn/good.tif\"><OMRs/></Tavrene>");
+    Document("6-self.xml", "<Tavrene Image=\"6-self.xml\"><OMRs/></Tavrene>");
     Document("7-gone.xml", "<Tavrene Image=\"gone.tif\" Reviewed=\"1\"><OMRs/></Tavrene>");
     Document("8-none.xml", "<Tavrene><OMRs/></Tavrene>");
     Document("9-marked.xml", "<Tavrene Image=\"good.tif\" Reviewed=\"2\"><OMRs/></Tavrene>");
@@ -43,7 +44,7 @@ TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
               "Warning: Images referred in <2> Forms were missing and hence not loaded. Please refer process "
               "log.");
     const Names log = LogFrom(before);
-    ASSERT_EQ(log.size(), 8U);
+    ASSERT_EQ(log.size(), 9U);
     const Names expected = {"Form left out: 1-empty.xml: the file is empty",
                             "Form left out: 2-cut.xml: it is not XML",
                             "Form left out: 3-text.XML: ",
@@ -51,6 +52,8 @@ TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
                             "Form left out: 5-other.xml: the root element is not Tavrene",
                             "Form left out: 6-path.xml: the attribute Image is \"../ProcessIn/good.tif\", "
                             "which is no plain file name",
+                            "Form left out: 6-self.xml: the attribute Image is \"6-self.xml\", which is no "
+                            "image",
                             "Image <" + folders_.ProcessOut + "gone.tif> does not exist.",
                             "Image <" + folders_.ProcessOut + "> does not exist."};
     for (std::size_t k = 0; k < log.size(); ++k)
@@ -109,7 +112,8 @@ TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {
     EXPECT_FALSE(review_.HasForm());
     EXPECT_TRUE(transcript_.LinesOf("ask: ").empty());
 
-    Open(1);  // the marks can be seen and corrected all the same
+    Do([this] { review_.OpenNeighbour(0, 1); });
+    EXPECT_EQ(review_.OpenLine(), 1U) << "the marks can be seen and corrected all the same";
     EXPECT_EQ(transcript_.LinesOf("report: "), Names{"[b.tif] Image not in bitmap format"});
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"clear"});
     EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 ", "2 ", "3 ", "4 "}));
@@ -148,8 +152,12 @@ TEST_F(BadFormsTest, AProfileThatGoesWhileItsFormIsOpenCanStillBeSavedTo) {
 TEST_F(BadFormsTest, DocumentsThatGoOrBreakWhileTheyAreListed) {
     AddScan("a.tif");
     AddScan("b.tif");
+    AddProfile("Other", form_);
     ProcessAndReview();
+    Open(0);
     files_.Delete(folders_.ProcessOut + "a.xml");
+    Choose("Other");
+    EXPECT_EQ(Messages(), Names{"Cannot save " + folders_.ProcessOut + "a.xml: the file is gone"});
     Document("b.xml", "<Tavrene");
     Open(0);
     ASSERT_EQ(Messages().size(), 1U);

@@ -40,7 +40,7 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     Flip(2);
     Flip(4);
     EXPECT_EQ(transcript_.Lines(),
-              (Names{"val: 4 1", "style: 4 checked", "panel ElapsedTime: Checked:2 of 4"}));
+              (Names{"look at: 4", "val: 4 1", "style: 4 checked", "panel ElapsedTime: Checked:2 of 4"}));
     Okay();
     EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"});
     EXPECT_EQ(list_.lines, (Names{"a 100", "+ b 100", "c 100"}));
@@ -66,7 +66,8 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
     EXPECT_FALSE(review_.HasForm());
 
-    Open(1);
+    Do([this] { review_.OpenNeighbour(1, 1); });
+    EXPECT_EQ(review_.OpenLine(), 1U) << "the selected form is the next one";
     Reject();  // never saved: no counter falls
     EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 1");
     EXPECT_EQ(transcript_.LinesOf("select: "), Names{"a 100"});
@@ -97,7 +98,7 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
     // Cancel: the form stays, whatever the command was.
     person_.answers = {Answer::Cancel, Answer::Cancel, Answer::Cancel};
     Open(1);
-    EXPECT_EQ(transcript_.Lines(), (Names{"ask: Save changes to Form <a>?", "select: a 100"}));
+    EXPECT_EQ(transcript_.Lines(), (Names{"select: a 100", "ask: Save changes to Form <a>?"}));
     Accept();
     Toggle();
     EXPECT_TRUE(review_.InReview());
@@ -201,7 +202,17 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
     other.boxes[0].Name = "Only here";
     WriteText(folders_.Profiles + "Other.Tvp", other.ProfileText("Other", false));
     ProcessAndReview();
+    TestForm strange = form_;
+    for (profiles::OmrBox& box : strange.boxes)
+        box.Name = "Strange " + box.Name;
+    AddProfile("Strange", strange);
+    LoadProfiles();
     Open(1);
+    const std::string opened = Result("b.xml");
+    Choose("Strange");
+    EXPECT_TRUE(ResultHas("b.xml", "Strange Q1\" Shift=\"0,0\""));
+    Choose("Form");
+    EXPECT_EQ(Result("b.xml"), opened) << "the way back finds the shifts again";
     Flip(1);
     Choose("Form");
     Choose("Nobody");
@@ -252,7 +263,7 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"show temp.tif"});
     Refuse("write", "temp.tif");
     Open(3);
-    EXPECT_EQ(transcript_.LinesOf("view: "), Names{"show temp2.tif"});
+    EXPECT_EQ(transcript_.LinesOf("view: "), Names{"show d.png"});
     EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 9.1% ?", "3 0.0%", "4 6.0% ?"}));
     for (const auto& [from, next] : {std::pair{0, "2"}, {2, "4"}, {4, "2"}}) {
         Do([this, from = from] { review_.NextDoubtful(from); });

@@ -134,8 +134,10 @@ TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
     ClickPage(Middle(RowOf("Contact yes") + 1));
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:15 of 51");
     EXPECT_EQ(Rows().currentItem()->text(0), "Contact yes");
-    QTest::mouseDClick(Rows().viewport(), Qt::LeftButton, Qt::NoModifier,
-                       Rows().visualItemRect(Rows().currentItem()).center());
+    EXPECT_TRUE(Rows().hasFocus()) << "a key means the box that was clicked";
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
+        QTest::mouseDClick(Rows().viewport(), button, Qt::NoModifier,
+                           Rows().visualItemRect(Rows().currentItem()).center());
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:15 of 51");
     for (int saves = 0; saves < 2; ++saves) {
         Click("Okay");
@@ -150,7 +152,9 @@ TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
     EXPECT_EQ(ReadText(folders_.ProcessOut + "patient-12-corrected.xml"), expected);
 
     ClickLine(0);
+    View().setFocus();
     Click("AcceptForm");
+    EXPECT_TRUE(List().hasFocus()) << "the next form is one Enter away";
     EXPECT_EQ(Panel("File"), "Reviewed: 1 of 2") << "it was never saved as reviewed";
     EXPECT_EQ(Selected(), 0);
     EXPECT_FALSE(Offers("AcceptForm"));
@@ -160,7 +164,9 @@ TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
     Click("AcceptForm");
     EXPECT_EQ(Panel("File"), "Reviewed: 0 of 1");
     Press(List(), Qt::Key_Return);
+    Choice().setFocus();
     Click("RejectForm");
+    EXPECT_TRUE(List().hasFocus());
     EXPECT_EQ(Panel("File"), "Reviewed: 0 of 0");
     EXPECT_EQ(In(folders_.ProcessOut), Names());
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"patient-11-sloppy.tif", "patient-11-sloppy.xml",
@@ -186,7 +192,8 @@ TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
     EXPECT_TRUE(List().hasFocus());
     Press(List(), Qt::Key_Down);
     Press(List(), Qt::Key_Up);
-    EXPECT_EQ(Lines()[0], "a 100") << "moving the selection opens nothing";
+    Press(List(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Lines()[0], "a 100") << "neither does moving the selection open a form, nor saving none";
     Press(List(), Qt::Key_Return);
     Press(List(), Qt::Key_PageDown);
     EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *", "c 100"}));
@@ -297,6 +304,11 @@ TEST_F(ReviewModeTest, ZoomAndScrollStayBetweenForms) {
     View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
     Rows().setCurrentItem(Rows().topLevelItem(0));
     EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
+    View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
+    ClickRow(0);
+    EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
+    ClickRow(0);
+    Click("Okay");
 
     // A profile starts at its top left corner, though its page has the size of the forms.
     View().verticalScrollBar()->setValue(500);

@@ -34,14 +34,24 @@ void ReviewCommands::Toggle(const SavePrompts& prompts) {
     }
 }
 
-// A decision that still cannot be settled must not hide the other forms.
-void ReviewCommands::ShowList() {
+// A decision that still cannot be settled must not keep the other forms away.
+void ReviewCommands::Settle() {
     try {
         decisions_.SettleInterrupted();
     } catch (const std::exception& error) {
         doors_.person.ShowMessage("", error.what());
     }
+}
+
+void ReviewCommands::ShowList() {
+    Settle();
+    tried_.reset();
     list_.Fill(state_.profiles);
+}
+
+void ReviewCommands::RunBegins() {
+    form_.Close();
+    Settle();
 }
 
 void ReviewCommands::LeaveReview() {
@@ -76,20 +86,28 @@ void ReviewCommands::Open(std::size_t line) {
     if (!inReview_ || line >= list_.Lines().size())
         return;
     const std::string document = list_.Lines()[line].Document;
-    if (!MayLeave()) {
-        if (const std::optional<std::size_t> open = OpenLine())
-            doors_.lines.SelectLine(*open);
+    // The form that is asked about, which stays open unless its saving succeeds.
+    if (const std::optional<std::size_t> open = OpenLine(); open && form_.Form()->Changed)
+        doors_.lines.SelectLine(*open);
+    if (!MayLeave())
         return;
-    }
     doors_.lines.SelectLine(line);
+    tried_ = line;
     form_.Open(document);
 }
 
 void ReviewCommands::OpenNeighbour(std::optional<std::size_t> selected, int step) {
-    const std::optional<std::size_t> from = OpenLine() ? OpenLine() : selected;
-    const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + step : 0;
+    const std::optional<std::size_t> open = OpenLine();
+    const std::optional<std::size_t> from = open ? open : selected;
+    const bool isNext = !open && selected != tried_ && step > 0;
+    const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + (isNext ? 0 : step) : 0;
     if (line >= 0)
         Open(static_cast<std::size_t>(line));
+}
+
+void ReviewCommands::FlipBox(int row) {
+    BoxSelected(row);
+    form_.FlipBox(row);
 }
 
 void ReviewCommands::BoxSelected(int row) {
@@ -97,16 +115,17 @@ void ReviewCommands::BoxSelected(int row) {
         doors_.changingRects.EmphasiseRects(row);
 }
 
-void ReviewCommands::NextDoubtful(int row) {
+bool ReviewCommands::NextDoubtful(int row) {
     if (!HasForm())
-        return;
+        return false;
     const int next = form_.NextDoubtful(row);
     if (next == 0) {
         doors_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
-        return;
+        return false;
     }
     doors_.inkRows.SelectRow(next);
     doors_.changingRects.EmphasiseRects(next);
+    return true;
 }
 
 void ReviewCommands::Okay() {
@@ -130,6 +149,7 @@ void ReviewCommands::Decide(Decision decision) {
     const std::size_t line = OpenLine().value_or(0);
     decisions_.Decide(*form_.Form(), decision, [this, line] {
         form_.Close();
+        tried_.reset();
         if (!list_.Lines().empty())
             doors_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
     });

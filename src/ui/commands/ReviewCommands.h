@@ -39,8 +39,8 @@ class ReviewCommands {
     /// The prompt before the open form is left; false when the command at hand is to be abandoned.
     bool MayLeave();
 
-    /// Takes the open form from the screen: a run begins.
-    void CloseForm() { form_.Close(); }
+    /// Takes the open form from the screen, and leaves no decision half done: a run begins.
+    void RunBegins();
 
     /// Fills the list anew when review goes on: a run has ended.
     void Refill();
@@ -48,16 +48,19 @@ class ReviewCommands {
     /// Opens the form of a line. Cancel at the prompt keeps the open one, and its line selected.
     void Open(std::size_t line);
 
-    /// Opens the form `step` lines below the open one, or below `selected` while none is open.
+    /// Opens the form `step` lines below the open one. While none is open, the next one is the `selected`
+    /// one, unless that has just been tried.
     void OpenNeighbour(std::optional<std::size_t> selected, int step);
 
-    void FlipBox(int row) { form_.FlipBox(row); }
+    /// Turns the mark of a row round and brings its box into view.
+    void FlipBox(int row);
 
     /// The row became the current one.
     void BoxSelected(int row);
 
-    /// Makes the next box whose mark is open to doubt the current one, starting behind `row`.
-    void NextDoubtful(int row);
+    /// Makes the next box whose mark is open to doubt the current one, starting behind `row`. False when
+    /// there is none.
+    bool NextDoubtful(int row);
 
     void ChooseProfile(const std::string& name) { form_.ReadAgainst(name); }
 
@@ -66,6 +69,7 @@ class ReviewCommands {
     void Reject();
 
   private:
+    void Settle();
     void ShowList();
     void LeaveReview();
     void ClearScreen();
@@ -78,6 +82,7 @@ class ReviewCommands {
     review::FormReview form_;
     review::Decisions decisions_;
     bool inReview_ = false;
+    std::optional<std::size_t> tried_;  ///< The line that was opened last, or could not be opened.
 };
 
 }  // namespace tavrene::commands
