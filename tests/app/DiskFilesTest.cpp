@@ -81,7 +81,7 @@ TEST(NumericTest, RoundsHalvesToTheEvenNeighbour) {
                                          {1e12, 2147483647}})
         EXPECT_EQ(RoundToInt(value), rounded) << value;
     EXPECT_EQ(RoundToInt16(40'000.0), 32'767);
-    EXPECT_EQ(WrapToInt16(200 * 200), -25'536);
+    EXPECT_EQ(WrapToInt16(40'000), -25'536);
 }
 
 }  // namespace

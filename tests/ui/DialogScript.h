@@ -35,7 +35,7 @@ class DialogScript {
     DialogScript& operator=(const DialogScript&) = delete;
 
     DialogScript& Press(QMessageBox::StandardButton button) {
-        answers_.push_back([button](QDialog& dialog) {
+        answers_.emplace_back([button](QDialog& dialog) {
             auto* const box = qobject_cast<QMessageBox*>(&dialog);
             ASSERT_NE(box, nullptr);
             ASSERT_NE(box->button(button), nullptr) << FromDialog(dialog);
@@ -46,7 +46,7 @@ class DialogScript {
 
     /// Types a name or path into a file dialog and confirms.
     DialogScript& Type(const std::string& name) {
-        answers_.push_back([name](QDialog& dialog) {
+        answers_.emplace_back([name](QDialog& dialog) {
             auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
             ASSERT_NE(edit, nullptr);
             edit->setText(ui::ToQt(name));
@@ -58,7 +58,7 @@ class DialogScript {
     }
 
     DialogScript& Cancel() {
-        answers_.push_back([](QDialog& dialog) { dialog.reject(); });
+        answers_.emplace_back([](QDialog& dialog) { dialog.reject(); });
         return *this;
     }
 
