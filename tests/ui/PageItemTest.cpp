@@ -6,6 +6,10 @@
 #include <cstdlib>
 #include <random>
 
+#include "painter/ImageFiles.h"
+#include "support/TempFolder.h"
+#include "support/TestForm.h"
+#include "ui/PageImage.h"
 #include "ui/PageItem.h"
 
 namespace tavrene::ui {
@@ -44,6 +48,30 @@ TEST(PageItemTest, AOneBitPageLooksLikeTheSamePageInGrey) {
             for (int x = 0; x < seen.width(); ++x)
                 difference += std::abs(qGray(seen.pixel(x, y)) - qGray(grey.pixel(x, y)));
         EXPECT_LT(difference / (seen.width() * seen.height()), 1.5);
+    }
+}
+
+// The shown page lies as the boxes that are drawn on it.
+TEST(PageItemTest, AFileIsShownTheRightWayUp) {
+    const test::TempFolder folder;
+    const app::DiskFiles files;
+    const test::TestForm form = test::TestForm::Grid(2, 2);
+    const profiles::OmrBox& box = form.boxes[0];
+    const int middle = (box.T + box.B) / 2;
+    const samples::Canvas canvas = form.Paint({});
+    const imaging::Bitmap bitmaps[] = {samples::ToBilevel(canvas),
+                                       samples::ToBilevel(canvas, samples::Photometric::MinIsBlack),
+                                       samples::ToGrey(canvas), samples::ToColour(canvas, canvas, canvas)};
+    for (const imaging::Bitmap& bitmap : bitmaps) {
+        SCOPED_TRACE(bitmap.BitsPerPixel());
+        samples::SaveImage(bitmap, imaging::ImageFormat::Png, folder.File("a.png"));
+        const QImage page = ReadPageImage(files, folder.File("a.png"));
+        ASSERT_FALSE(page.isNull());
+        EXPECT_LT(qGray(page.pixel(box.L, middle)), 64);
+        EXPECT_GT(qGray(page.pixel((box.L + box.R) / 2, middle)), 192);
+        EXPECT_GT(qGray(page.pixel(box.L, box.T - 5)), 192);
+        EXPECT_GT(qGray(page.pixel(box.L, page.height() - 1 - middle)), 192);
+        EXPECT_GT(qGray(page.pixel(page.width() - 1 - box.L, middle)), 192);
     }
 }
 
