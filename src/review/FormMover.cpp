@@ -116,18 +116,22 @@ bool FormMover::IsDone(const FormMove& move) const {
            PlaceOf(move.Document, destination) == Place::There;
 }
 
-// False when the image can be in neither place: a folder that is a share may be away for a while.
+// False when the image is in neither place: a folder that is a share may be away for a while, and its mount
+// point stays.
 bool FormMover::TakeBackFromNote(const FormMove& move) {
     const std::string& destination = Destination(move);
     const std::string form = "Form [" + app::BaseName(move.Document) + "] lies half in " + destination;
-    if (!files_.FolderExists(destination))
-        throw app::FileError(form + ", which is not there. It is taken back first.");
+    if (PlaceOf(move.Image, destination) == Place::Nowhere) {
+        if (!files_.FolderExists(destination))
+            throw app::FileError(form + ", which is not there. It has to be taken back first.");
+        return false;
+    }
     try {
         TakeBack(move);
     } catch (const app::FileError& error) {
         throw app::FileError(form + " and cannot be taken back yet: " + error.what());
     }
-    return PlaceOf(move.Image, destination) != Place::Nowhere;
+    return true;
 }
 
 // A note that stays is harmless: at worst its decision is told twice.
