@@ -178,7 +178,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     form.Skipped = 0;
     form.Boxes.clear();
     for (const recognition::MarkReading& reading : readings)
-        form.Boxes.push_back({reading.rect, reading.fill});
+        form.Boxes.push_back(Measured(reading.rect, reading.fill));
     DrawBoxes(form);
     list_.Change(form.Document, form.Result.IsReviewed(), form.Result.Confidence());
     list_.ShowCounts();
@@ -197,15 +197,16 @@ void FormReview::Measure(OpenForm& form) const {
             continue;
         const recognition::BoxMeasure measure = MeasureBox(loader_.CurrentPage(), form.Profile, k, shifts[k]);
         if (marks[k])
-            form.Boxes[*marks[k]] = {measure.rect, measure.fill};
+            form.Boxes[*marks[k]] = Measured(measure.rect, measure.fill);
         else
             form.SkippedRects.push_back(measure.rect);
     }
 }
 
-bool FormReview::IsDoubtful(const FormBox& box) const {
+// Within a third of the threshold.
+FormBox FormReview::Measured(const imaging::PageRect& rect, std::optional<double> ink) const {
     const double threshold = settings_.FillThreshold;
-    return box.ink && std::abs(*box.ink - threshold) * 3 <= threshold;
+    return {rect, ink, ink && std::abs(*ink - threshold) * 3 <= threshold};
 }
 
 void FormReview::DrawBoxes(const OpenForm& form) {
@@ -216,7 +217,7 @@ void FormReview::DrawBoxes(const OpenForm& form) {
         const int number = static_cast<int>(k) + 1;
         const FormBox& box = form.Boxes[k];
         doors_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
-        doors_.inkRows.SetInk(number, InkText(box), IsDoubtful(box));
+        doors_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
         if (box.rect)
             doors_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
     }
@@ -297,7 +298,7 @@ int FormReview::NextDoubtful(int number) const {
     const int count = form_ ? static_cast<int>(form_->Boxes.size()) : 0;
     for (int step = 1; step <= count; ++step) {
         const int next = (std::max(number, 0) + step - 1) % count + 1;
-        if (IsDoubtful(form_->Boxes[static_cast<std::size_t>(next) - 1]))
+        if (form_->Boxes[static_cast<std::size_t>(next) - 1].isDoubtful)
             return next;
     }
     return 0;

@@ -54,7 +54,7 @@ class FormReview {
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void Measure(OpenForm& form) const;
-    bool IsDoubtful(const FormBox& box) const;
+    FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink) const;
     void DrawBoxes(const OpenForm& form);
     void DrawSkipped(const OpenForm& form);
     void ClearBoxes();

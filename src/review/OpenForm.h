@@ -14,6 +14,7 @@ namespace tavrene::review {
 struct FormBox {
     std::optional<imaging::PageRect> rect;  ///< None where the profile or the image does not tell its place.
     std::optional<double> ink;              ///< Percent, as measured at opening.
+    bool isDoubtful = false;                ///< The ink was near the threshold then.
 };
 
 /// The form under review.
