@@ -14,7 +14,7 @@ constexpr const char* kTimeText = "Checked:100 of 1000 Skip:100";
 constexpr const char* kProgressText = "1000/1000";
 constexpr int kPanelMargin = 6;
 
-constexpr int kProgressBarWidth = 170;
+constexpr int kProgressBarWidth = 120;
 constexpr int kProgressBarHeight = 14;
 
 }  // namespace
