@@ -122,9 +122,9 @@ bool FormMover::TakeBackFromNote(const FormMove& move) {
     const std::string& destination = Destination(move);
     const std::string form = "Form [" + app::BaseName(move.Document) + "] lies half in " + destination;
     if (PlaceOf(move.Image, destination) == Place::Nowhere) {
-        if (!files_.FolderExists(destination))
-            throw app::FileError(form + ", which is not there. It has to be taken back first.");
-        return false;
+        if (PlaceOf(move.Document, destination) == Place::Here)
+            throw app::FileError(form + ", but is not there. It has to be taken back first.");
+        return true;
     }
     try {
         TakeBack(move);

@@ -105,8 +105,8 @@ QRectF BoxLayer::Room() const {
     return page.isEmpty() ? QRectF(0, 0, kMost, kMost) : page;
 }
 
-QPointF BoxLayer::Snapped(const QPointF& point) const {
-    const QRectF room = Room();
+QPointF BoxLayer::Snapped(const QPointF& point, const QRectF& place) const {
+    const QRectF room = Room() | place;
     return {std::clamp(std::round(point.x()), room.left(), room.right()),
             std::clamp(std::round(point.y()), room.top(), room.bottom())};
 }

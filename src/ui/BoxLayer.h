@@ -49,7 +49,7 @@ class BoxLayer final : public profiles::EditableBoxes {
     double Scale() const;
 
     /// The point on whole pixels of the page.
-    QPointF Snapped(const QPointF& point) const;
+    QPointF Snapped(const QPointF& point, const QRectF& place = {}) const;
 
     /// The place moved by whole pixels, not off the page or, of one that lies beside it, not further.
     QRectF Moved(const QRectF& place, const QPointF& by) const;

@@ -32,7 +32,7 @@ void ProfileDesk::ConnectCommands() {
         };
         gate_.SetHandler(command, busily, std::move(canRun));
     };
-    const auto offersFile = [this] { return offersFile_ || profile_.IsOpen; };
+    const auto offersFile = [this] { return offersFile_ || !profile_.Path.empty(); };
     connect(Command::New, &commands::ProfileCommands::New);
     connect(Command::Save, &commands::ProfileCommands::Save, offersFile);
     connect(Command::DeleteProfile, &commands::ProfileCommands::Delete, offersFile);
@@ -100,7 +100,7 @@ void ProfileDesk::FinishEdits() {
 }
 
 void ProfileDesk::Update(Toolbars& toolbars) {
-    offersFile_ = offersFile_ || profile_.IsOpen;
+    offersFile_ = offersFile_ || !profile_.Path.empty();
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());

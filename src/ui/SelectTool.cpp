@@ -34,7 +34,7 @@ void SelectTool::Press(const QPointF& point) {
 
 QRectF SelectTool::Moved(const QPointF& point) const {
     if (edges_ != kNoEdge)
-        return WithEdgesAt(before_, edges_, layer_.Snapped(point));
+        return WithEdgesAt(before_, edges_, layer_.Snapped(point, before_));
     return layer_.Moved(before_, point - from_);
 }
 

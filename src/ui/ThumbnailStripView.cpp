@@ -116,7 +116,8 @@ void ThumbnailStripView::ShowThumbnails(std::span<const profiles::StripThumbnail
 void ThumbnailStripView::SelectThumbnail(int k) {
     const QModelIndex index = pages_->index(k - 1);
     clearSelection();
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::Select);
+    setCurrentIndex(index);
+    selectionModel()->select(index, QItemSelectionModel::Select);
     if (index.isValid())
         scrollTo(index);
 }
@@ -129,6 +130,8 @@ QItemSelectionModel::SelectionFlags ThumbnailStripView::selectionCommand(const Q
 void ThumbnailStripView::TellChosen(const QModelIndex& index) {
     if (index.isValid() && listener_.chosen)
         listener_.chosen(index.row() + 1);
+    const QModelIndexList selected = selectedIndexes();
+    setCurrentIndex(selected.isEmpty() ? QModelIndex() : selected.front());
 }
 
 void ThumbnailStripView::keyPressEvent(QKeyEvent* event) {

@@ -94,6 +94,8 @@ void ReviewCommands::Open(std::size_t line) {
     doors_.lines.SelectLine(line);
     tried_ = line;
     form_.Open(document);
+    if (!list_.IndexOf(document))
+        tried_.reset();
 }
 
 void ReviewCommands::OpenNeighbour(std::optional<std::size_t> selected, int step) {
