@@ -6,8 +6,8 @@
 namespace tavrene::imaging {
 namespace {
 
-std::string_view TextOf(PageFault fault) {
-    return fault == PageFault::NotABitmap ? "Image not in bitmap format"
+std::string_view TextOf(PageError fault) {
+    return fault == PageError::NotABitmap ? "Image not in bitmap format"
                                           : "Unable to process since image has more than 2 colors";
 }
 
@@ -33,8 +33,8 @@ bool ImageLoader::LoadImage(const std::string& path) {
         log_.LogProcessEvent(imageName + ": Unrecognized File type");
         return false;
     }
-    std::variant<Page, PageFault> read = ReadPage(files_, path, *format);
-    if (const PageFault* const fault = std::get_if<PageFault>(&read)) {
+    std::variant<Page, PageError> read = ReadPage(files_, path, *format);
+    if (const PageError* const fault = std::get_if<PageError>(&read)) {
         Refuse(imageName, TextOf(*fault));
         return false;
     }

@@ -23,7 +23,7 @@ struct Page {
 
 /// Why a file is no page: no bitmap could be had of it (damaged, mislabelled, missing, too large), or it has
 /// more than two colours.
-enum class PageFault { NotABitmap, TooManyColors };
+enum class PageError { NotABitmap, TooManyColors };
 
 /// The file type that the extension of `path` stands for; none for other extensions, tiff and jpeg among
 /// them.
@@ -35,9 +35,9 @@ ImageFormat SpecimenFormat(std::string_view path);
 
 /// Reads a file as a page. PNG, GIF and JPEG are reduced to two colours at level 128, a transparent picture
 /// laid on white first; the other types must have two colours. Ink is what is dark, for every type.
-std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
 
 /// Reads a specimen image as a page.
-std::variant<Page, PageFault> ReadSpecimen(const app::Files& files, const std::string& path);
+std::variant<Page, PageError> ReadSpecimen(const app::Files& files, const std::string& path);
 
 }  // namespace tavrene::imaging

@@ -18,7 +18,7 @@
 namespace tavrene::profiles {
 
 /// What the store needs of the world; everything must outlive it.
-struct StoreDoors {
+struct StoreContext {
     app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
@@ -32,7 +32,7 @@ struct StoreDoors {
 class ProfileStore {
   public:
     /// `records` are the loaded profiles that recognition uses. All references must outlive the store.
-    ProfileStore(const StoreDoors& doors, OpenProfile& profile, std::vector<ProfileRecord>& records,
+    ProfileStore(const StoreContext& context, OpenProfile& profile, std::vector<ProfileRecord>& records,
                  BoxEditor& editor, const EditorScreen& screen);
 
     /// Asks whether unsaved changes are to be saved, and does so. False when the profile is not to be left.
@@ -87,7 +87,7 @@ class ProfileStore {
     void FitView();
     void WriteDocument();
 
-    StoreDoors doors_;
+    StoreContext context_;
     OpenProfile& profile_;
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;

@@ -4,8 +4,8 @@
 
 namespace tavrene::review {
 
-Decisions::Decisions(const ReviewDoors& doors, const app::WorkingFolders& folders, ReviewList& list)
-    : doors_(doors), folders_(folders), list_(list), mover_(doors.files, folders) {}
+Decisions::Decisions(const ReviewContext& context, const app::WorkingFolders& folders, ReviewList& list)
+    : context_(context), folders_(folders), list_(list), mover_(context.files, folders) {}
 
 void Decisions::Save(OpenForm& form) {
     recognition::ResultDocument saved = form.Result.Clone();
@@ -15,19 +15,19 @@ void Decisions::Save(OpenForm& form) {
         saved.SetChecked(form.Marks);
     else
         saved.ReplaceMarks(form.Marks);
-    saved.Save(doors_.files, folders_.ProcessOut + form.Document);
+    saved.Save(context_.files, folders_.ProcessOut + form.Document);
     form.Result = std::move(saved);
     form.SavedProfile = form.Profile.Name;
     form.Changed = false;
     list_.Change(form.Document, true, form.Result.Confidence());
-    doors_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
+    context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
     list_.ShowCounts();
 }
 
 bool Decisions::OfferSave(OpenForm& form) {
     if (!form.Changed)
         return true;
-    const app::Answer answer = doors_.person.AskYesNoCancel("Save changes to Form <" + form.Name + ">?");
+    const app::Answer answer = context_.person.AskYesNoCancel("Save changes to Form <" + form.Name + ">?");
     if (answer == app::Answer::Yes)
         Save(form);
     return answer != app::Answer::Cancel;
@@ -44,7 +44,7 @@ FormMove Decisions::MoveForm(const OpenForm& form, Decision decision) {
 
 void Decisions::LogDecision(const FormMove& move) {
     const char* const word = move.decision == Decision::Accept ? "accepted." : "rejected.";
-    doors_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) + "] " + word);
+    context_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) + "] " + word);
     mover_.Forget();
 }
 

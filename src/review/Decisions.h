@@ -13,7 +13,7 @@ namespace tavrene::review {
 class Decisions {
   public:
     /// Everything must outlive the object.
-    Decisions(const ReviewDoors& doors, const app::WorkingFolders& folders, ReviewList& list);
+    Decisions(const ReviewContext& context, const app::WorkingFolders& folders, ReviewList& list);
 
     /// Marks the form as reviewed and writes its marks; counts it when it was not reviewed before.
     void Save(OpenForm& form);
@@ -39,7 +39,7 @@ class Decisions {
     FormMove MoveForm(const OpenForm& form, Decision decision);
     void LogDecision(const FormMove& move);
 
-    ReviewDoors doors_;
+    ReviewContext context_;
     const app::WorkingFolders& folders_;
     ReviewList& list_;
     FormMover mover_;

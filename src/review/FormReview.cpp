@@ -41,15 +41,15 @@ int CountChecked(const std::vector<ResultMark>& marks) {
 
 }  // namespace
 
-FormReview::FormReview(const ReviewDoors& doors, const app::Settings& settings,
+FormReview::FormReview(const ReviewContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders, const std::vector<ProfileRecord>& profiles,
                        ReviewList& list)
-    : doors_(doors),
+    : context_(context),
       settings_(settings),
       folders_(folders),
       profiles_(profiles),
       list_(list),
-      loader_(doors.files, doors.log, doors.person, folders.Temp) {}
+      loader_(context.files, context.log, context.person, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     const auto found = std::find_if(profiles_.begin(), profiles_.end(),
@@ -60,16 +60,16 @@ const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
 void FormReview::Open(const std::string& document) {
     form_.reset();
     ClearBoxes();
-    doors_.person.SetPanel(Panel::Message, "");
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    context_.person.SetPanel(Panel::Message, "");
+    context_.person.SetPanel(Panel::ElapsedTime, "");
     try {
         OpenForm form;
         form.Name = app::BaseName(document);
         form.Document = document;
-        form.Result = recognition::ResultDocument::Load(doors_.files, folders_.ProcessOut + document);
+        form.Result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
         if (Prepare(form)) {
             form_ = std::move(form);
-            doors_.choice.SetChoice(form_->Profile.Name);
+            context_.choice.SetChoice(form_->Profile.Name);
             ShowState(*form_);
         } else {
             TakeOffScreen();
@@ -83,17 +83,17 @@ void FormReview::Open(const std::string& document) {
 // False when the opening ends here.
 bool FormReview::Prepare(OpenForm& form) {
     const std::string image = form.Result.Image();
-    if (!doors_.files.FileExists(folders_.ProcessOut + image)) {
-        doors_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
+    if (!context_.files.FileExists(folders_.ProcessOut + image)) {
+        context_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
         return false;
     }
     ShowImage(image);
     const std::string profileName = form.Result.Profile();
     const ProfileRecord* const profile = FindProfile(profileName);
     if (profile == nullptr) {
-        if (doors_.person.AskYesNo("The profile " + profileName +
-                                   " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
-                                   "ProcessIn Dir...") == app::Answer::Yes)
+        if (context_.person.AskYesNo("The profile " + profileName +
+                                     " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
+                                     "ProcessIn Dir...") == app::Answer::Yes)
             SendBack(form);
         return false;
     }
@@ -109,9 +109,9 @@ bool FormReview::Prepare(OpenForm& form) {
 
 bool FormReview::SettleDifferences(OpenForm& form) {
     switch (
-        doors_.person.AskYesNoCancel("The profile has changed. Re-evaluate using the new profile?\n"
-                                     "Selecting No would keep the same profile but skip the modified "
-                                     "fields.")) {
+        context_.person.AskYesNoCancel("The profile has changed. Re-evaluate using the new profile?\n"
+                                       "Selecting No would keep the same profile but skip the modified "
+                                       "fields.")) {
         case app::Answer::Yes:
             return ReadAnew(form, ProfileRecord(form.Profile));
         case app::Answer::No:
@@ -127,19 +127,19 @@ void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
     hasPage_ = loader_.LoadImage(path);
     if (!hasPage_)
-        doors_.view.Clear();
+        context_.view.Clear();
     else if (app::UpperCase(app::Extension(image)) == "PNG")
-        doors_.view.ShowFile(CopyForView(path));
+        context_.view.ShowFile(CopyForView(path));
     else
-        doors_.view.ShowFile(path);
+        context_.view.ShowFile(path);
 }
 
 // PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
 std::string FormReview::CopyForView(const std::string& path) {
     std::string copy = folders_.Temp + "temp.tif";
     try {
-        doors_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
-                           app::Keep::AsScratch);
+        context_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
+                             app::Keep::AsScratch);
     } catch (const app::FileError&) {
         return path;
     }
@@ -149,11 +149,11 @@ std::string FormReview::CopyForView(const std::string& path) {
 void FormReview::SendBack(const OpenForm& form) {
     const std::string image = form.Result.Image();
     const std::string waiting = folders_.ProcessIn + image;
-    const bool replaces = doors_.files.FileExists(waiting);
-    doors_.files.Move(folders_.ProcessOut + image, waiting);
+    const bool replaces = context_.files.FileExists(waiting);
+    context_.files.Move(folders_.ProcessOut + image, waiting);
     if (replaces)
-        doors_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
-    doors_.files.Delete(folders_.ProcessOut + form.Document);
+        context_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
+    context_.files.Delete(folders_.ProcessOut + form.Document);
     list_.Remove(form.Document);
     list_.ShowCounts();
 }
@@ -169,7 +169,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
         ReadMarks(loader_.CurrentPage(), profile, shifts, settings_.FillThreshold);
     recognition::ResultDocument rewritten = form.Result.Clone();
     rewritten.Rewrite(profile.Name, readings);
-    rewritten.Save(doors_.files, folders_.ProcessOut + form.Document);
+    rewritten.Save(context_.files, folders_.ProcessOut + form.Document);
     form.Result = std::move(rewritten);
     form.Profile = profile;
     form.Marks = form.Result.Marks();
@@ -211,15 +211,15 @@ FormBox FormReview::Measured(const imaging::PageRect& rect, std::optional<double
 
 void FormReview::DrawBoxes(const OpenForm& form) {
     ClearBoxes();
-    doors_.rows.AddValColumn();
-    doors_.inkRows.AddInkColumn();
+    context_.rows.AddValColumn();
+    context_.inkRows.AddInkColumn();
     for (std::size_t k = 0; k < form.Marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const FormBox& box = form.Boxes[k];
-        doors_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
-        doors_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
+        context_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
+        context_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
         if (box.rect)
-            doors_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
+            context_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
     }
 }
 
@@ -227,20 +227,20 @@ void FormReview::DrawBoxes(const OpenForm& form) {
 void FormReview::DrawSkipped(const OpenForm& form) {
     int group = static_cast<int>(form.Marks.size());
     for (const imaging::PageRect& rect : form.SkippedRects)
-        doors_.rects.DrawRect(++group, rect, RectStyle::Skipped);
+        context_.rects.DrawRect(++group, rect, RectStyle::Skipped);
 }
 
 void FormReview::ClearBoxes() {
-    doors_.rects.ClearRects();
-    doors_.rows.ClearRows();
-    doors_.rows.RemoveExtraColumns();
+    context_.rects.ClearRects();
+    context_.rows.ClearRows();
+    context_.rows.RemoveExtraColumns();
 }
 
 void FormReview::TakeOffScreen() {
     hasPage_ = false;
-    doors_.view.Clear();
+    context_.view.Clear();
     ClearBoxes();
-    doors_.choice.SetChoice("");
+    context_.choice.SetChoice("");
 }
 
 void FormReview::Close() {
@@ -248,18 +248,18 @@ void FormReview::Close() {
         return;
     form_.reset();
     TakeOffScreen();
-    doors_.person.SetPanel(Panel::Message, "");
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    context_.person.SetPanel(Panel::Message, "");
+    context_.person.SetPanel(Panel::ElapsedTime, "");
 }
 
 void FormReview::ShowState(const OpenForm& form) {
-    doors_.person.SetPanel(Panel::Message,
-                           "Image [" + form.Result.Image() + "], Profile [" + form.Profile.Name + "]");
+    context_.person.SetPanel(Panel::Message,
+                             "Image [" + form.Result.Image() + "], Profile [" + form.Profile.Name + "]");
     const std::string count = std::to_string(form.Profile.Boxes.size());
-    doors_.person.SetPanel(Panel::ElapsedTime, form.Skipped == 0
-                                                   ? "OMRs:" + count
-                                                   : "Checked:" + std::to_string(form.CheckedCount) + " of " +
-                                                         count + " Skip:" + std::to_string(form.Skipped));
+    context_.person.SetPanel(Panel::ElapsedTime,
+                             form.Skipped == 0 ? "OMRs:" + count
+                                               : "Checked:" + std::to_string(form.CheckedCount) + " of " +
+                                                     count + " Skip:" + std::to_string(form.Skipped));
 }
 
 void FormReview::FlipBox(int number) {
@@ -267,12 +267,12 @@ void FormReview::FlipBox(int number) {
         return;
     ResultMark& mark = form_->Marks[static_cast<std::size_t>(number) - 1];
     mark.Checked = !mark.Checked;
-    doors_.inkRows.SetVal(number, ValOf(mark));
-    doors_.changingRects.ChangeRects(number, StyleOf(mark));
+    context_.inkRows.SetVal(number, ValOf(mark));
+    context_.changingRects.ChangeRects(number, StyleOf(mark));
     form_->CheckedCount += mark.Checked ? 1 : -1;
     form_->Changed = true;
-    doors_.person.SetPanel(Panel::ElapsedTime, "Checked:" + std::to_string(form_->CheckedCount) + " of " +
-                                                   std::to_string(form_->Marks.size()));
+    context_.person.SetPanel(Panel::ElapsedTime, "Checked:" + std::to_string(form_->CheckedCount) + " of " +
+                                                     std::to_string(form_->Marks.size()));
 }
 
 void FormReview::ReadAgainst(const std::string& profileName) {
@@ -285,13 +285,13 @@ void FormReview::ReadAgainst(const std::string& profileName) {
         if (profile != nullptr && ReadAnew(*form_, *profile)) {
             form_->Changed = true;
             ShowState(*form_);
-            doors_.person.SetPanel(Panel::Message, image + " [" + profileName + "]");
+            context_.person.SetPanel(Panel::Message, image + " [" + profileName + "]");
         }
     } catch (...) {
-        doors_.choice.SetChoice(form_->Profile.Name);
+        context_.choice.SetChoice(form_->Profile.Name);
         throw;
     }
-    doors_.choice.SetChoice(form_->Profile.Name);
+    context_.choice.SetChoice(form_->Profile.Name);
 }
 
 int FormReview::NextDoubtful(int number) const {

@@ -19,8 +19,9 @@ namespace tavrene::review {
 class FormReview {
   public:
     /// Everything must outlive the object. `profiles` are the loaded ones, whatever they are at the time.
-    FormReview(const ReviewDoors& doors, const app::Settings& settings, const app::WorkingFolders& folders,
-               const std::vector<profiles::ProfileRecord>& profiles, ReviewList& list);
+    FormReview(const ReviewContext& context, const app::Settings& settings,
+               const app::WorkingFolders& folders, const std::vector<profiles::ProfileRecord>& profiles,
+               ReviewList& list);
 
     /// The open form; none between forms.
     OpenForm* Form() { return form_ ? &*form_ : nullptr; }
@@ -62,7 +63,7 @@ class FormReview {
     void ShowState(const OpenForm& form);
     void ShowChecked(const OpenForm& form);
 
-    ReviewDoors doors_;
+    ReviewContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;

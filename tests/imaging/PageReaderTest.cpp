@@ -27,7 +27,7 @@ class PageReaderTest : public test::RunWorld {
         samples::SaveImage(picture, FormatOfExtension(name).value(), work_.File(name), quality);
     }
 
-    std::variant<Page, PageFault> Read(const std::string& name) {
+    std::variant<Page, PageError> Read(const std::string& name) {
         return ReadPage(files_, work_.File(name), FormatOfExtension(name).value());
     }
 
@@ -44,8 +44,8 @@ class PageReaderTest : public test::RunWorld {
         return page;
     }
 
-    void Expect(const std::string& name, PageFault fault) {
-        EXPECT_EQ(std::get<PageFault>(Read(name)), fault) << name;
+    void Expect(const std::string& name, PageError fault) {
+        EXPECT_EQ(std::get<PageError>(Read(name)), fault) << name;
     }
 
     // A one-bit picture with a two-entry palette of its own.
@@ -152,8 +152,8 @@ TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
 TEST_F(PageReaderTest, RefusesPagesBeyondTheNumberRange) {
     Save(samples::ToBilevel({32'768, 2, 200}), "wide.tif");
     Save(samples::ToBilevel({2, 32'768, 200}), "tall.tif");
-    Expect("wide.tif", PageFault::NotABitmap);
-    Expect("tall.tif", PageFault::NotABitmap);
+    Expect("wide.tif", PageError::NotABitmap);
+    Expect("tall.tif", PageError::NotABitmap);
 }
 
 std::string BigEndian(unsigned value) {
@@ -194,8 +194,8 @@ TEST_F(PageReaderTest, RefusesEveryTruncatedFile) {
         const std::string whole = test::ReadText(work_.File(name));
         for (std::size_t length = 0; length < whole.size(); length += 7) {
             test::WriteText(work_.File(name), whole.substr(0, length));
-            const std::variant<Page, PageFault> read = Read(name);
-            EXPECT_TRUE(std::holds_alternative<PageFault>(read)) << name << " cut at " << length;
+            const std::variant<Page, PageError> read = Read(name);
+            EXPECT_TRUE(std::holds_alternative<PageError>(read)) << name << " cut at " << length;
         }
     }
 }
@@ -209,7 +209,7 @@ TEST_F(PageReaderTest, RefusesAFaxWithBrokenLines) {
     for (std::size_t k = fax.size() / 2; k < fax.size() / 2 + 40; ++k)
         fax[k] = static_cast<char>(fax[k] ^ 0x5A);
     test::WriteText(work_.File("fax.tif"), fax);
-    Expect("fax.tif", PageFault::NotABitmap);
+    Expect("fax.tif", PageError::NotABitmap);
 }
 
 TEST_F(PageReaderTest, TheLoaderKeepsDisplayCopiesOfTheCurrentImageOnly) {

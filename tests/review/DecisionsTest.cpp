@@ -123,7 +123,7 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
             person_.answers = {Answer::Yes};
             killed = DiesBefore(kills, [this, accept] { accept ? review_.Accept() : review_.Reject(); });
 
-            commands::ReviewCommands next(state_, doors_, [] {});
+            commands::ReviewCommands next(state_, context_, [] {});
             Do([&next] { next.Load(); });
             const bool moved = files_.FileExists(destination + "a.tif");
             EXPECT_TRUE(moved || killed);

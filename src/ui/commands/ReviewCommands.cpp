@@ -11,14 +11,14 @@ namespace tavrene::commands {
 using app::Panel;
 using review::Decision;
 
-ReviewCommands::ReviewCommands(const AppState& state, const review::ReviewDoors& doors,
+ReviewCommands::ReviewCommands(const AppState& state, const review::ReviewContext& context,
                                std::function<void()> closeProfile)
     : state_(state),
-      doors_(doors),
+      context_(context),
       closeProfile_(std::move(closeProfile)),
-      list_(doors_, state_.folders),
-      form_(doors_, state_.settings, state_.folders, state_.profiles, list_),
-      decisions_(doors_, state_.folders, list_) {}
+      list_(context_, state_.folders),
+      form_(context_, state_.settings, state_.folders, state_.profiles, list_),
+      decisions_(context_, state_.folders, list_) {}
 
 void ReviewCommands::Toggle(const SavePrompts& prompts) {
     if (!prompts.ProfileThenForm())
@@ -39,7 +39,7 @@ void ReviewCommands::Settle() {
     try {
         decisions_.SettleInterrupted();
     } catch (const std::exception& error) {
-        doors_.person.ShowMessage("", error.what());
+        context_.person.ShowMessage("", error.what());
     }
 }
 
@@ -55,18 +55,18 @@ void ReviewCommands::RunBegins() {
 }
 
 void ReviewCommands::LeaveReview() {
-    doors_.person.SetPanel(Panel::File, profiles::ProfileCounts(state_.profiles));
-    doors_.person.SetPanel(Panel::Message, "");
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    context_.person.SetPanel(Panel::File, profiles::ProfileCounts(state_.profiles));
+    context_.person.SetPanel(Panel::Message, "");
+    context_.person.SetPanel(Panel::ElapsedTime, "");
     ClearScreen();
 }
 
 void ReviewCommands::ClearScreen() {
-    doors_.view.Clear();
-    doors_.rects.ClearRects();
-    doors_.rows.ClearRows();
-    doors_.rows.RemoveExtraColumns();
-    doors_.choice.SetChoice("");
+    context_.view.Clear();
+    context_.rects.ClearRects();
+    context_.rows.ClearRows();
+    context_.rows.RemoveExtraColumns();
+    context_.choice.SetChoice("");
 }
 
 void ReviewCommands::Refill() {
@@ -88,10 +88,10 @@ void ReviewCommands::Open(std::size_t line) {
     const std::string document = list_.Lines()[line].Document;
     // The form that is asked about, which stays open unless its saving succeeds.
     if (const std::optional<std::size_t> open = OpenLine(); open && form_.Form()->Changed)
-        doors_.lines.SelectLine(*open);
+        context_.lines.SelectLine(*open);
     if (!MayLeave())
         return;
-    doors_.lines.SelectLine(line);
+    context_.lines.SelectLine(line);
     tried_ = line;
     form_.Open(document);
     if (!list_.IndexOf(document))
@@ -114,7 +114,7 @@ void ReviewCommands::FlipBox(int row) {
 
 void ReviewCommands::BoxSelected(int row) {
     if (HasForm())
-        doors_.changingRects.EmphasiseRects(row);
+        context_.changingRects.EmphasiseRects(row);
 }
 
 bool ReviewCommands::NextDoubtful(int row) {
@@ -122,11 +122,11 @@ bool ReviewCommands::NextDoubtful(int row) {
         return false;
     const int next = form_.NextDoubtful(row);
     if (next == 0) {
-        doors_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
+        context_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
         return false;
     }
-    doors_.inkRows.SelectRow(next);
-    doors_.changingRects.EmphasiseRects(next);
+    context_.inkRows.SelectRow(next);
+    context_.changingRects.EmphasiseRects(next);
     return true;
 }
 
@@ -153,7 +153,7 @@ void ReviewCommands::Decide(Decision decision) {
         form_.Close();
         tried_.reset();
         if (!list_.Lines().empty())
-            doors_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+            context_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
     });
 }
 

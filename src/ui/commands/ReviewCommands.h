@@ -18,7 +18,7 @@ class ReviewCommands {
   public:
     /// `closeProfile` takes the open profile from the desk when review begins. Everything must outlive the
     /// object.
-    ReviewCommands(const AppState& state, const review::ReviewDoors& doors,
+    ReviewCommands(const AppState& state, const review::ReviewContext& context,
                    std::function<void()> closeProfile);
 
     /// Settles a decision that an earlier start of the program did not live to end; a step of loading the
@@ -76,7 +76,7 @@ class ReviewCommands {
     void Decide(review::Decision decision);
 
     const AppState& state_;
-    review::ReviewDoors doors_;
+    review::ReviewContext context_;
     std::function<void()> closeProfile_;
     review::ReviewList list_;
     review::FormReview form_;
