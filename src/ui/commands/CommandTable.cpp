@@ -32,7 +32,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
                 M::View, "Fit &Width", "Ctrl+3", "FitWidth", G::View, S::Shown, false},
     CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
-                M::View, "Toolbar &Labels", "", "", G::None, S::Toggle, true},
+                M::View, "Toolbar &Labels", "Ctrl+L", "", G::None, S::Toggle, true},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
                 M::Process, "&Process", "F5", "Process", G::Processing, S::Shown, true},
@@ -79,23 +79,12 @@ constexpr std::array kCommands = {
 
 // Shorter than the menu's texts, so that all buttons have room in a narrow window.
 constexpr std::pair<Command, std::string_view> kLabels[] = {
-    {C::New, "New"},
-    {C::Save, "Save"},
-    {C::DeleteProfile, "Delete"},
-    {C::ZoomToOrig, "100 %"},
-    {C::ZoomIn, "Larger"},
-    {C::ZoomOut, "Smaller"},
-    {C::FitPage, "Page"},
-    {C::FitWidth, "Width"},
-    {C::Process, "Process"},
-    {C::Stop, "Stop"},
-    {C::Review, "Review"},
-    {C::Okay, "Reviewed"},
-    {C::AcceptForm, "Accept"},
-    {C::RejectForm, "Reject"},
-    {C::SelectBox, "Select"},
-    {C::AddBox, "Add"},
-    {C::DeleteBox, "Delete"},
+    {C::New, "New"},           {C::Save, "Save"},         {C::DeleteProfile, "Delete"},
+    {C::ZoomToOrig, "100 %"},  {C::ZoomIn, "Larger"},     {C::ZoomOut, "Smaller"},
+    {C::FitPage, "Page"},      {C::FitWidth, "Width"},    {C::Process, "Process"},
+    {C::Stop, "Stop"},         {C::Review, "Review"},     {C::Okay, "Reviewed"},
+    {C::AcceptForm, "Accept"}, {C::RejectForm, "Reject"}, {C::SelectBox, "Select"},
+    {C::AddBox, "Add"},        {C::DeleteBox, "Delete"},
 };
 
 }  // namespace
