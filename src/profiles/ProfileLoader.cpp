@@ -69,7 +69,6 @@ std::vector<std::string> ListProfiles(const app::Files& files, app::ActivityLog&
 
 std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::ActivityLog& log,
                                               app::Operator& person, const std::string& profilesFolder) {
-    const app::ToleratedLogFailures tolerated(log);
     std::vector<ProfileRecord> profiles;
     for (const std::string& fileName : ListProfiles(files, log, profilesFolder)) {
         const std::string path = profilesFolder + fileName;

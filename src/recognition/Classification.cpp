@@ -83,27 +83,32 @@ Best BestProfile(std::span<const ProfileRecord> profiles, std::span<const Profil
 
 }  // namespace
 
-Classification ClassifyImage(const std::string& imageName, const imaging::Page& page,
-                             std::span<const ProfileRecord> profiles, app::ActivityLog& log) {
+Classification ClassifyImage(const imaging::Page& page, std::span<const ProfileRecord> profiles) {
     Classification result;
     result.matches = MatchProfiles(page, profiles);
-    const std::string image = "Image [" + imageName + "] ";
     if (std::all_of(result.matches.begin(), result.matches.end(),
-                    [](const ProfileMatch& match) { return match.Found == 0; })) {
-        log.LogProcessEvent(image + "unclassified");
+                    [](const ProfileMatch& match) { return match.Found == 0; }))
         return result;
-    }
     const Best best = BestProfile(profiles, result.matches);
+    result.best = static_cast<int>(best.index);
     result.matches[best.index].Confidence = static_cast<std::int16_t>(best.score);
-    const std::string name = "as [" + profiles[best.index].Name + "] with ";
-    const std::string figure = "confidence [" + std::to_string(best.score) + ".00] ";
-    if (best.score > kLowConfidence) {
-        result.winner = static_cast<int>(best.index);
-        log.LogProcessEvent(image + "classified " + name + figure);
-    } else {
-        log.LogProcessEvent(image + "unclassified " + name + "LOW " + figure);
-    }
+    if (best.score > kLowConfidence)
+        result.winner = result.best;
     return result;
+}
+
+std::string ClassificationLine(const std::string& imageName, const Classification& classification,
+                               std::span<const ProfileRecord> profiles) {
+    const bool isClassified = classification.winner >= 0;
+    std::string line = "Image [" + imageName + (isClassified ? "] classified" : "] unclassified");
+    if (classification.best < 0)
+        return line;
+    const auto best = static_cast<std::size_t>(classification.best);
+    line.append(" as [").append(profiles[best].Name).append(isClassified ? "] with " : "] with LOW ");
+    // The score is whole; its readers expect two decimals and the blank at the end.
+    return line.append("confidence [")
+        .append(std::to_string(classification.matches[best].Confidence))
+        .append(".00] ");
 }
 
 }  // namespace tavrene::recognition
