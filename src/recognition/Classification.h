@@ -13,10 +13,10 @@ namespace tavrene::recognition {
 
 /// How one profile fared with one image.
 struct ProfileMatch {
-    std::vector<BoxShift> Shifts;  ///< One a box; 0,0 until a sampled box is found, later spread over all.
-    std::vector<float> Ratios;     ///< The share of the outline last measured, one a box.
-    std::int16_t Found = 0;        ///< Sampled boxes whose outline was found.
-    std::int16_t Tested = 0;       ///< Sampled boxes examined.
+    std::vector<BoxShift> shifts;  ///< One a box; 0,0 until a sampled box is found, later spread over all.
+    std::vector<float> ratios;     ///< The share of the outline last measured, one a box.
+    std::int16_t found = 0;        ///< Sampled boxes whose outline was found.
+    std::int16_t tested = 0;       ///< Sampled boxes examined.
     std::int16_t Confidence = 0;   ///< Percent of the sampled boxes found; only for the best profile.
 };
 

@@ -135,8 +135,8 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
-    SpreadShifts(profiles[winner], match.Shifts);
-    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    SpreadShifts(profiles[winner], match.shifts);
+    outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
 }
 

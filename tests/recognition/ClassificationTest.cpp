@@ -29,14 +29,14 @@ TEST_F(ClassificationTest, FindsTheFormWhereverItLiesWithinReach) {
         ASSERT_EQ(result.winner, 0) << dx << "," << dy;
         EXPECT_EQ(result.matches[0].Confidence, 100);
         // An outline passes at nine tenths, so a neighbouring shift may be met first, never one farther away.
-        EXPECT_NEAR(result.matches[0].Shifts[0].dx, dx, 1);
-        EXPECT_NEAR(result.matches[0].Shifts[0].dy, dy, 1);
+        EXPECT_NEAR(result.matches[0].shifts[0].dx, dx, 1);
+        EXPECT_NEAR(result.matches[0].shifts[0].dy, dy, 1);
         EXPECT_EQ(line_, "Image [scan.tif] classified as [Form] with confidence [100.00] ");
     }
     const Classification far = Classify(form_.PageOf({.dx = 27}), {form_.Record("Form")});
     EXPECT_EQ(far.winner, -1);
-    EXPECT_EQ(far.matches[0].Found, 0);
-    EXPECT_EQ(far.matches[0].Tested, 12);
+    EXPECT_EQ(far.matches[0].found, 0);
+    EXPECT_EQ(far.matches[0].tested, 12);
     EXPECT_EQ(line_, "Image [scan.tif] unclassified");
 }
 
@@ -55,7 +55,7 @@ TEST_F(ClassificationTest, HalfOfTheOutlinesIsTooLittleAndATieGoesToTheFirst) {
     EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).winner, 0);
     EXPECT_EQ(Classify(most, {form_.Record("Off", false), form_.Record("On")}).winner, 1);
     // Every profile is sampled, also behind one that has matched.
-    EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).matches[1].Tested, 12);
+    EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).matches[1].tested, 12);
 }
 
 TEST_F(ClassificationTest, AProfileWithoutBoxesEndsTheScan) {
@@ -63,7 +63,7 @@ TEST_F(ClassificationTest, AProfileWithoutBoxesEndsTheScan) {
     const TestForm empty;
     const Classification hidden = Classify(page, {empty.Record("Empty", false), form_.Record("Form")});
     EXPECT_EQ(hidden.winner, -1);
-    EXPECT_EQ(hidden.matches[1].Tested, 0);
+    EXPECT_EQ(hidden.matches[1].tested, 0);
     EXPECT_EQ(Classify(page, {form_.Record("Form"), empty.Record("Empty")}).winner, 0);
 }
 
@@ -82,8 +82,8 @@ TEST_F(ClassificationTest, ScalesTheProfileToTheImage) {
     const ProfileRecord profile = form_.Record("Form");
     Classification result = Classify(page, {profile});
     ASSERT_EQ(result.winner, 0);
-    SpreadShifts(profile, result.matches[0].Shifts);
-    const std::vector<MarkReading> marks = ReadMarks(page, profile, result.matches[0].Shifts, 8);
+    SpreadShifts(profile, result.matches[0].shifts);
+    const std::vector<MarkReading> marks = ReadMarks(page, profile, result.matches[0].shifts, 8);
     EXPECT_TRUE(marks[2].Checked);
     EXPECT_FALSE(marks[1].Checked);
 
