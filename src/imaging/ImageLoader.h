@@ -18,7 +18,7 @@ class ImageLoader {
     ImageLoader(app::Files& files, app::ActivityLog& log, app::Operator& person, std::string tempFolder);
 
     /// Loads, checks and binarises an image. A file that is no page of two colours is logged and the operator
-    /// told; then there is no current page. Throws only when the log cannot be written.
+    /// told; then there is no current page.
     bool LoadImageForProcessing(const std::string& path);
 
     /// The same without the display copies: they take as long as the rest.
