@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "recognition/MarkReading.h"
+#include "recognition/PageLoading.h"
 #include "review/BoxMatching.h"
 
 namespace tavrene::review {
@@ -49,7 +50,7 @@ FormReview::FormReview(const ReviewContext& context, const app::Settings& settin
       folders_(folders),
       profiles_(profiles),
       list_(list),
-      loader_(context.files, context.log, context.person, folders.Temp) {}
+      scratch_(context.files, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     const auto found = std::find_if(profiles_.begin(), profiles_.end(),
@@ -125,8 +126,8 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImage(path);
-    if (!hasPage_)
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (!page_)
         context_.view.Clear();
     else if (app::UpperCase(app::Extension(image)) == "PNG")
         context_.view.ShowFile(CopyForView(path));
@@ -136,14 +137,14 @@ void FormReview::ShowImage(const std::string& image) {
 
 // PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
 std::string FormReview::CopyForView(const std::string& path) {
-    std::string copy = folders_.Temp + "temp.tif";
-    try {
-        context_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
-                             app::Keep::AsScratch);
-    } catch (const app::FileError&) {
-        return path;
-    }
-    return copy;
+    const imaging::ScratchCopy copy = scratch_.WriteConverted(*page_);
+    LogFailure(path, copy);
+    return copy.path.empty() ? path : copy.path;
+}
+
+void FormReview::LogFailure(const std::string& image, const imaging::ScratchCopy& copy) {
+    if (!copy.failure.empty())
+        context_.log.LogProcessEvent(app::FileName(image) + ": " + copy.failure);
 }
 
 void FormReview::SendBack(const OpenForm& form) {
@@ -162,11 +163,11 @@ void FormReview::SendBack(const OpenForm& form) {
 // What was read against another profile in between may have lost them. False when there is no page to read;
 // the form changes only when all is done.
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
-    if (!hasPage_)
+    if (!page_)
         return false;
     const std::vector<BoxShift> shifts = ShiftsOfBoxes(profile, form.Opened);
     const std::vector<recognition::MarkReading> readings =
-        ReadMarks(loader_.CurrentPage(), profile, shifts, settings_.FillThreshold);
+        ReadMarks(*page_, profile, shifts, settings_.FillThreshold);
     recognition::ResultDocument rewritten = form.Result.Clone();
     rewritten.Rewrite(profile.Name, readings);
     rewritten.Save(context_.files, folders_.ProcessOut + form.Document);
@@ -193,9 +194,9 @@ void FormReview::Measure(OpenForm& form) const {
     const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Marks);
     for (std::size_t k = 0; k < marks.size(); ++k) {
         form.Skipped += marks[k] ? 0 : 1;
-        if (!hasPage_)
+        if (!page_)
             continue;
-        const recognition::BoxMeasure measure = MeasureBox(loader_.CurrentPage(), form.Profile, k, shifts[k]);
+        const recognition::BoxMeasure measure = MeasureBox(*page_, form.Profile, k, shifts[k]);
         if (marks[k])
             form.Boxes[*marks[k]] = Measured(measure.rect, measure.fill);
         else
@@ -237,7 +238,7 @@ void FormReview::ClearBoxes() {
 }
 
 void FormReview::TakeOffScreen() {
-    hasPage_ = false;
+    page_.reset();
     context_.view.Clear();
     ClearBoxes();
     context_.choice.SetChoice("");
@@ -281,7 +282,8 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        hasPage_ = profile != nullptr && loader_.LoadImageForProcessing(folders_.ProcessOut + image);
+        if (profile != nullptr)
+            LoadForProcessing(folders_.ProcessOut + image);
         if (profile != nullptr && ReadAnew(*form_, *profile)) {
             form_->Changed = true;
             ShowState(*form_);
@@ -292,6 +294,13 @@ void FormReview::ReadAgainst(const std::string& profileName) {
         throw;
     }
     context_.choice.SetChoice(form_->Profile.Name);
+}
+
+// As a run loads it, with the display copies.
+void FormReview::LoadForProcessing(const std::string& path) {
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (page_)
+        LogFailure(path, scratch_.WritePage(*page_));
 }
 
 int FormReview::NextDoubtful(int number) const {

@@ -6,7 +6,7 @@
 
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/ProfileRecord.h"
 #include "review/OpenForm.h"
 #include "review/ReviewList.h"
@@ -52,6 +52,8 @@ class FormReview {
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
     std::string CopyForView(const std::string& path);
+    void LoadForProcessing(const std::string& path);
+    void LogFailure(const std::string& image, const imaging::ScratchCopy& copy);
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void Measure(OpenForm& form) const;
@@ -68,8 +70,8 @@ class FormReview {
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;
     ReviewList& list_;
-    imaging::ImageLoader loader_;
-    bool hasPage_ = false;  // the loader holds the form's page
+    imaging::ScratchImages scratch_;
+    std::optional<imaging::Page> page_;
     std::optional<OpenForm> form_;
 };
 
