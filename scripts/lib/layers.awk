@@ -8,13 +8,15 @@ BEGIN {
     may["profiles"] = " boxes imaging app "
     may["recognition"] = " profiles imaging app "
     may["review"] = " recognition profiles imaging app "
-    may["ui/commands"] = " review recognition profiles boxes imaging app "
-    may["ui"] = " ui/commands review recognition profiles boxes imaging app "
+    may["results"] = " recognition profiles imaging app "
+    may["ui/commands"] = " review results recognition profiles boxes imaging app "
+    may["ui"] = " ui/commands review results recognition profiles boxes imaging app "
     # The rooms that know a library.
     knows["Qt"] = " ui "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "
+    knows["libxlsxwriter"] = " results "
     knows["platform"] = " app imaging ui "
     faults = 0
 }
@@ -54,6 +56,8 @@ function library(header) {
         return "libtiff"
     if (header ~ /^pugi/)
         return "pugixml"
+    if (header ~ /^xlsxwriter/)
+        return "libxlsxwriter"
     if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|windows|io)\.h$/)
         return "platform"
     return ""
