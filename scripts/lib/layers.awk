@@ -9,14 +9,16 @@ BEGIN {
     may["recognition"] = " profiles imaging app "
     may["review"] = " recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
-    may["ui/commands"] = " review results recognition profiles boxes imaging app "
-    may["ui"] = " ui/commands review results recognition profiles boxes imaging app "
+    may["intake"] = " imaging app "
+    may["ui/commands"] = " review results intake recognition profiles boxes imaging app "
+    may["ui"] = " ui/commands review results intake recognition profiles boxes imaging app "
     # The rooms that know a library.
     knows["Qt"] = " ui "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "
     knows["libxlsxwriter"] = " results "
+    knows["Poppler"] = " intake "
     knows["platform"] = " app imaging ui "
     faults = 0
 }
@@ -56,6 +58,8 @@ function library(header) {
         return "libtiff"
     if (header ~ /^pugi/)
         return "pugixml"
+    if (header ~ /^poppler\//)
+        return "Poppler"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
     if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|windows|io)\.h$/)
