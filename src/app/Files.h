@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "app/Clock.h"
 
 namespace tavrene::app {
 
@@ -34,12 +37,19 @@ class Files {
     /// not read. Empty when there is no such file.
     virtual std::string Fingerprint(const std::string& path) const = 0;
 
+    /// When the file was last written, by the local clock; none when there is no such file.
+    virtual std::optional<LocalTime> WrittenAt(const std::string& path) const = 0;
+
     /// Creates one folder; its parent must exist.
     virtual void CreateFolder(const std::string& path) = 0;
 
     /// Names of the files of `folder` that match `pattern` ("*.Tvp", "*"; case does not count), ordered by
     /// lower-cased name. Sub-folders and names with a leading dot are left out.
     virtual std::vector<std::string> List(const std::string& folder, std::string_view pattern) const = 0;
+
+    /// Names of the folders in `folder`, in the same order. Hidden ones are left out, and links too, since
+    /// they can lead round in circles.
+    virtual std::vector<std::string> ListFolders(const std::string& folder) const = 0;
 
     virtual Bytes Read(const std::string& path) const = 0;
 
@@ -64,8 +74,10 @@ class DiskFiles final : public Files {
     bool FileExists(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
     std::string Fingerprint(const std::string& path) const override;
+    std::optional<LocalTime> WrittenAt(const std::string& path) const override;
     void CreateFolder(const std::string& path) override;
     std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override;
+    std::vector<std::string> ListFolders(const std::string& folder) const override;
     Bytes Read(const std::string& path) const override;
     void Write(const std::string& path, std::span<const std::byte> content, Keep keep) override;
     void Append(const std::string& path, std::string_view text) override;
