@@ -1,4 +1,4 @@
-#include "ui/commands/Processing.h"
+#include "ui/commands/RunSession.h"
 
 #include <utility>
 
@@ -6,33 +6,38 @@
 
 namespace tavrene::commands {
 
-Processing::Processing(AppState& state, recognition::ProcessRun& run, std::function<void()> runBegins,
-                       std::function<void()> closeWindow)
-    : state_(state), run_(run), runBegins_(std::move(runBegins)), closeWindow_(std::move(closeWindow)) {}
+RunSession::RunSession(const AppState& state, recognition::ProcessRun& run, Listener listener)
+    : state_(state), run_(run), listener_(std::move(listener)) {}
 
-void Processing::Process() {
+void RunSession::Process() {
     if (!run_.MayStart(state_.profiles))
         return;
-    const app::ScopedFlag processing(state_.processing);
-    runBegins_();
-    run_.Run(state_.profiles);
+    try {
+        const app::ScopedFlag running(isRunning_);
+        listener_.begins();
+        run_.Run(state_.profiles);
+    } catch (...) {
+        listener_.ended();
+        throw;
+    }
+    listener_.ended();
 }
 
-void Processing::Stop() {
+void RunSession::Stop() {
     run_.Stop();
 }
 
-bool Processing::MayClose() {
-    if (!state_.processing)
+bool RunSession::MayClose() {
+    if (!isRunning_)
         return true;
     closeAfterRun_ = true;
     run_.Stop();
     return false;
 }
 
-void Processing::CloseIfWaiting() {
-    if (!state_.processing && std::exchange(closeAfterRun_, false))
-        closeWindow_();
+void RunSession::CloseIfWaiting() {
+    if (!isRunning_ && std::exchange(closeAfterRun_, false))
+        listener_.close();
 }
 
 }  // namespace tavrene::commands
