@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace tavrene::commands {
 namespace {
@@ -28,6 +29,8 @@ constexpr std::array kCommands = {
                 M::View, "Fit &Page", "Ctrl+2", "FitPage", false, false},
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
                 M::View, "Fit &Width", "Ctrl+3", "FitWidth", false, false},
+    CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
+                M::View, "Toolbar &Labels", "Ctrl+L", "", true, true},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
                 M::Process, "&Process", "F5", "Process", false, true},
@@ -72,10 +75,27 @@ constexpr std::array kCommands = {
 };
 // clang-format on
 
+// Shorter than the menu's texts, so that all buttons have room in a narrow window.
+constexpr std::pair<Command, std::string_view> kLabels[] = {
+    {C::New, "New"},           {C::Save, "Save"},         {C::DeleteProfile, "Delete"},
+    {C::ZoomToOrig, "100 %"},  {C::ZoomIn, "Larger"},     {C::ZoomOut, "Smaller"},
+    {C::FitPage, "Page"},      {C::FitWidth, "Width"},    {C::Process, "Process"},
+    {C::Stop, "Stop"},         {C::Review, "Review"},     {C::Okay, "Reviewed"},
+    {C::AcceptForm, "Accept"}, {C::RejectForm, "Reject"}, {C::SelectBox, "Select"},
+    {C::AddBox, "Add"},        {C::DeleteBox, "Delete"},
+};
+
 }  // namespace
 
 std::span<const CommandInfo> CommandTable() {
     return kCommands;
+}
+
+std::string_view LabelOf(Command command) {
+    for (const auto& [labelled, label] : kLabels)
+        if (labelled == command)
+            return label;
+    return {};
 }
 
 }  // namespace tavrene::commands

@@ -31,6 +31,7 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    ToolbarLabels,
     Settings,
     Exit,
     About,
@@ -65,4 +66,9 @@ struct CommandInfo {
 
 /// All commands with a place in the menus; those of one toolbar or menu stand in its order.
 std::span<const CommandInfo> CommandTable();
+
+/// The word or two under a command's button, where buttons carry labels; empty for a command without a
+/// button.
+std::string_view LabelOf(Command command);
+
 }  // namespace tavrene::commands

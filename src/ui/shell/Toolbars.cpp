@@ -61,6 +61,7 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
     if (info.separatorBefore)
         toolbar->addSeparator();
     action->setParent(toolbar);
+    action->setIconText(ToQt(commands::LabelOf(info.command)));
     toolbar->addAction(action);
     QWidget* const button = toolbar->widgetForAction(action);
     button->setAccessibleName(ToQt(info.toolTip));
@@ -80,6 +81,15 @@ void Toolbars::Update(const std::function<ButtonState(commands::Command)>& state
         action->setEnabled(state.isEnabled);
         action->setVisible(state.isShown);
     }
+}
+
+void Toolbars::ShowLabels(bool shown) {
+    for (const auto& [name, toolbar] : toolbars_)
+        toolbar->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+}
+
+bool Toolbars::LabelsShown() const {
+    return toolbars_.at(commands::Toolbar::Main)->toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
 }
 
 }  // namespace tavrene::ui

@@ -28,6 +28,10 @@ class Toolbars {
     /// Shows a toggle button pressed or released; nothing is run.
     void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
 
+    /// Words under the pictures of the buttons, or none.
+    void ShowLabels(bool shown);
+    bool LabelsShown() const;
+
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);
