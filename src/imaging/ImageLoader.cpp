@@ -26,7 +26,6 @@ bool ImageLoader::LoadImageForProcessing(const std::string& path) {
 
 bool ImageLoader::LoadImage(const std::string& path) {
     page_.reset();
-    displayCopy_.clear();
     const std::string imageName = app::FileName(path);
     const std::optional<ImageFormat> format = FormatOfExtension(path);
     if (!format) {
@@ -52,7 +51,6 @@ void ImageLoader::WriteDisplayCopies(const std::string& imageName, bool alsoInve
     try {
         const app::Bytes content = EncodeGroup4Tiff(page_->bitmap);
         files_.Write(tempFolder_ + "temp2.tif", content, app::Keep::AsScratch);
-        displayCopy_ = tempFolder_ + "temp2.tif";
         if (alsoInverted)
             files_.Write(tempFolder_ + "temp.tif", content, app::Keep::AsScratch);
     } catch (const std::exception& error) {

@@ -24,11 +24,9 @@ class ImageLoader {
     /// The same without the display copies: they take as long as the rest.
     bool LoadImage(const std::string& path);
 
-    /// The page of the last successful load; not to be asked for after a failure.
+    /// The page of the last load; not to be asked for when that failed.
+    bool HasPage() const { return page_.has_value(); }
     const Page& CurrentPage() const { return *page_; }
-
-    /// The file to point the image view at; empty when there is no page, or no copy of it could be written.
-    const std::string& DisplayCopy() const { return displayCopy_; }
 
   private:
     void Refuse(const std::string& imageName, std::string_view reason);
@@ -39,7 +37,6 @@ class ImageLoader {
     app::Operator& person_;
     std::string tempFolder_;
     std::optional<Page> page_;
-    std::string displayCopy_;
 };
 
 }  // namespace tavrene::imaging

@@ -60,10 +60,8 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
     context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
-    context_.view.Clear();
-    context_.rects.ClearRects();
-    context_.rows.ClearRows();
-    context_.rows.AddValColumn();
+    context_.page.Clear();
+    context_.rows.ClearRows(profiles::BoxColumns::NameVal);
     TakeFiles(profiles);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
     Finish(start, tolerated.TakeLostLines());
@@ -110,9 +108,9 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     const bool display = settings_.DisplayDuringProcess;
     context_.person.SetPanel(Panel::File, name);
     if (display) {
-        context_.rects.ClearRects();
-        context_.rows.ClearRows();
-        context_.view.SetZoom(100);
+        context_.page.ClearRects();
+        context_.rows.ClearRows(profiles::BoxColumns::NameVal);
+        context_.page.SetZoom(100);
     }
     FileOutcome outcome;
     try {
@@ -153,18 +151,18 @@ void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profil
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (loader_.DisplayCopy().empty())
-        context_.view.Clear();
+    if (loader_.HasPage())
+        context_.page.ShowPicture(loader_.CurrentPage().bitmap);
     else
-        context_.view.ShowFile(loader_.DisplayCopy());
+        context_.page.Clear();
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];
-        context_.rects.DrawRect(number, outcome.readings[k].rect,
-                                mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
-        context_.rows.AddRow(number, mark.Name, mark.Checked ? "1" : "0");
+        context_.page.PutRect(number, outcome.readings[k].rect,
+                              mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
+        context_.rows.PutRow(number, {mark.Name, mark.Checked ? "1" : "0"});
     }
-    context_.view.Refresh();
+    context_.page.Refresh();
 }
 
 // A move that fails leaves image and results as they were before this file was taken.

@@ -12,8 +12,7 @@
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
 #include "imaging/ImageLoader.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/MarkReading.h"
@@ -26,8 +25,7 @@ struct RunContext {
     app::ActivityLog& log;
     app::Operator& person;
     const app::Clock& clock;
-    imaging::PageView& view;
-    imaging::PageRects& rects;
+    imaging::PageScreen& page;
     profiles::BoxRows& rows;
 };
 

@@ -126,24 +126,26 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
     hasPage_ = loader_.LoadImage(path);
-    if (!hasPage_)
-        context_.view.Clear();
-    else if (app::UpperCase(app::Extension(image)) == "PNG")
-        context_.view.ShowFile(CopyForView(path));
-    else
-        context_.view.ShowFile(path);
+    const std::string type = app::UpperCase(app::Extension(image));
+    if (!hasPage_) {
+        context_.page.Clear();
+    } else if (type == "PNG" || type == "TIF") {
+        if (type == "PNG")
+            WriteDisplayCopy();
+        context_.page.ShowPicture(loader_.CurrentPage().bitmap);
+    } else {
+        // With the greys and colours that the page in memory has lost.
+        context_.page.ShowFile(path);
+    }
 }
 
-// PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
-std::string FormReview::CopyForView(const std::string& path) {
-    std::string copy = folders_.Temp + "temp.tif";
+// The copy serves other programs only, so one that cannot be written is not missed.
+void FormReview::WriteDisplayCopy() {
     try {
-        context_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
-                             app::Keep::AsScratch);
+        context_.files.Write(folders_.Temp + "temp.tif",
+                             imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap), app::Keep::AsScratch);
     } catch (const app::FileError&) {
-        return path;
     }
-    return copy;
 }
 
 void FormReview::SendBack(const OpenForm& form) {
@@ -210,35 +212,37 @@ FormBox FormReview::Measured(const imaging::PageRect& rect, std::optional<double
 }
 
 void FormReview::DrawBoxes(const OpenForm& form) {
-    ClearBoxes();
-    context_.rows.AddValColumn();
-    context_.inkRows.AddInkColumn();
-    for (std::size_t k = 0; k < form.Marks.size(); ++k) {
-        const int number = static_cast<int>(k) + 1;
-        const FormBox& box = form.Boxes[k];
-        context_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
-        context_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
-        if (box.rect)
-            context_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
-    }
+    context_.page.ClearRects();
+    context_.rows.ClearRows(profiles::BoxColumns::NameValInk);
+    for (std::size_t number = 1; number <= form.Marks.size(); ++number)
+        DrawBox(form, number);
+}
+
+// Row and rectangle of box `number`, from 1.
+void FormReview::DrawBox(const OpenForm& form, std::size_t number) {
+    const ResultMark& mark = form.Marks[number - 1];
+    const FormBox& box = form.Boxes[number - 1];
+    const int group = static_cast<int>(number);
+    context_.rows.PutRow(group, {mark.Name, ValOf(mark), InkText(box), box.isDoubtful});
+    if (box.rect)
+        context_.page.PutRect(group, *box.rect, StyleOf(mark));
 }
 
 // Their groups follow those of the rows, so that no row answers for them.
 void FormReview::DrawSkipped(const OpenForm& form) {
     int group = static_cast<int>(form.Marks.size());
     for (const imaging::PageRect& rect : form.SkippedRects)
-        context_.rects.DrawRect(++group, rect, RectStyle::Skipped);
+        context_.page.PutRect(++group, rect, RectStyle::Skipped);
 }
 
 void FormReview::ClearBoxes() {
-    context_.rects.ClearRects();
-    context_.rows.ClearRows();
-    context_.rows.RemoveExtraColumns();
+    context_.page.ClearRects();
+    context_.rows.ClearRows(profiles::BoxColumns::Name);
 }
 
 void FormReview::TakeOffScreen() {
     hasPage_ = false;
-    context_.view.Clear();
+    context_.page.Clear();
     ClearBoxes();
     context_.choice.SetChoice("");
 }
@@ -267,8 +271,7 @@ void FormReview::FlipBox(int number) {
         return;
     ResultMark& mark = form_->Marks[static_cast<std::size_t>(number) - 1];
     mark.Checked = !mark.Checked;
-    context_.inkRows.SetVal(number, ValOf(mark));
-    context_.changingRects.ChangeRects(number, StyleOf(mark));
+    DrawBox(*form_, static_cast<std::size_t>(number));
     form_->CheckedCount += mark.Checked ? 1 : -1;
     form_->Changed = true;
     context_.person.SetPanel(Panel::ElapsedTime, "Checked:" + std::to_string(form_->CheckedCount) + " of " +

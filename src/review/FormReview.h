@@ -51,12 +51,13 @@ class FormReview {
     bool Prepare(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
-    std::string CopyForView(const std::string& path);
+    void WriteDisplayCopy();
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void Measure(OpenForm& form) const;
     FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink) const;
     void DrawBoxes(const OpenForm& form);
+    void DrawBox(const OpenForm& form, std::size_t number);
     void DrawSkipped(const OpenForm& form);
     void ClearBoxes();
     void TakeOffScreen();

@@ -89,8 +89,7 @@ class ReviewWorld : public RunWorld {
     TestForm form_ = TestForm::Grid(2, 2);
     commands::AppState state_ = commands::InitialState(settings_);
     FakeReviewScreen list_{transcript_};
-    review::ReviewContext context_{files_, log_,    person_, screen_, screen_,
-                                   list_,  screen_, list_,   list_,   list_};
+    review::ReviewContext context_{files_, log_, person_, screen_, screen_, list_, list_};
     commands::CommandGate gate_{person_, log_, state_.processing};
     commands::ReviewCommands review_{state_, context_, [] {}};
 };

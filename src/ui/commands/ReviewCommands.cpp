@@ -62,10 +62,8 @@ void ReviewCommands::LeaveReview() {
 }
 
 void ReviewCommands::ClearScreen() {
-    context_.view.Clear();
-    context_.rects.ClearRects();
-    context_.rows.ClearRows();
-    context_.rows.RemoveExtraColumns();
+    context_.page.Clear();
+    context_.rows.ClearRows(profiles::BoxColumns::Name);
     context_.choice.SetChoice("");
 }
 
@@ -114,7 +112,7 @@ void ReviewCommands::FlipBox(int row) {
 
 void ReviewCommands::BoxSelected(int row) {
     if (HasForm())
-        context_.changingRects.EmphasiseRects(row);
+        context_.page.Emphasise(row);
 }
 
 bool ReviewCommands::NextDoubtful(int row) {
@@ -125,8 +123,8 @@ bool ReviewCommands::NextDoubtful(int row) {
         context_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
         return false;
     }
-    context_.inkRows.SelectRow(next);
-    context_.changingRects.EmphasiseRects(next);
+    context_.rows.SelectRow(next);
+    context_.page.Emphasise(next);
     return true;
 }
 

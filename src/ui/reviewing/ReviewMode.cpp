@@ -40,10 +40,9 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       prompts_(context.prompts),
       controls_(controls),
       marks_(controls.view),
-      rows_(controls.boxes),
       commands_(state,
-                {context.files, context.log, context.person, controls.view, controls.view, marks_,
-                 controls.boxes, rows_, controls.pane.List(), controls.pane.Choice()},
+                {context.files, context.log, context.person, controls.view, controls.boxes,
+                 controls.pane.List(), controls.pane.Choice()},
                 std::move(closeProfile)) {
     ConnectCommands();
     ConnectFormCommands();
@@ -87,13 +86,13 @@ void ReviewMode::ConnectControls() {
     marks_.SetListener([this](int group) { gate_.Take([&] { RectClicked(group); }); });
     // The second click of a double click turns the mark back, as the first one turned it.
     const auto flip = [this](QTreeWidgetItem* row) {
-        gate_.Take([&] { commands_.FlipBox(rows_.NumberOf(row)); });
+        gate_.Take([&] { commands_.FlipBox(controls_.boxes.NumberOf(row)); });
     };
     connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr && HasForm())
-            gate_.Take([&] { commands_.BoxSelected(rows_.NumberOf(row)); });
+            gate_.Take([&] { commands_.BoxSelected(controls_.boxes.NumberOf(row)); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -119,17 +118,17 @@ void ReviewMode::OpenNeighbour(int step) {
 }
 
 void ReviewMode::FlipCurrent() {
-    commands_.FlipBox(rows_.CurrentNumber());
+    commands_.FlipBox(controls_.boxes.CurrentNumber());
 }
 
 void ReviewMode::NextDoubtful() {
-    if (commands_.NextDoubtful(rows_.CurrentNumber()))
+    if (commands_.NextDoubtful(controls_.boxes.CurrentNumber()))
         controls_.boxes.setFocus();
 }
 
 void ReviewMode::RectClicked(int group) {
     // A box without a row leaves none selected, so that no key means another one.
-    rows_.SelectRow(group);
+    controls_.boxes.SelectRow(group);
     controls_.boxes.setFocus();
     commands_.FlipBox(group);
 }

@@ -8,7 +8,6 @@
 #include "ui/commands/ReviewCommands.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
-#include "ui/reviewing/ReviewBoxRows.h"
 #include "ui/reviewing/ReviewMarks.h"
 #include "ui/reviewing/ReviewPane.h"
 
@@ -78,7 +77,6 @@ class ReviewMode final : public QObject {
     const commands::SavePrompts& prompts_;
     ReviewControls controls_;
     ReviewMarks marks_;
-    ReviewBoxRows rows_;
     commands::ReviewCommands commands_;
     bool hadForm_ = false;
     bool refill_ = false;  ///< A run has taken the form from the screen.
