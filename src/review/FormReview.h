@@ -8,6 +8,7 @@
 #include "app/WorkingFolders.h"
 #include "imaging/ImageLoader.h"
 #include "profiles/ProfileRecord.h"
+#include "review/FormScreen.h"
 #include "review/OpenForm.h"
 #include "review/ReviewList.h"
 #include "review/ReviewScreen.h"
@@ -25,6 +26,7 @@ class FormReview {
 
     /// The open form; none between forms.
     OpenForm* Form() { return form_ ? &*form_ : nullptr; }
+    const OpenForm* Form() const { return form_ ? &*form_ : nullptr; }
 
     /// Opens the form of a document of `ProcessOut` (file name) instead of the open one. No form is open
     /// afterwards when its image or profile is gone, the person does not want it so, or something cannot be
@@ -54,21 +56,14 @@ class FormReview {
     void WriteDisplayCopy();
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
-    void Measure(OpenForm& form) const;
-    FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink) const;
-    void DrawBoxes(const OpenForm& form);
-    void DrawBox(const OpenForm& form, std::size_t number);
-    void DrawSkipped(const OpenForm& form);
-    void ClearBoxes();
     void TakeOffScreen();
-    void ShowState(const OpenForm& form);
-    void ShowChecked(const OpenForm& form);
 
     ReviewContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;
     ReviewList& list_;
+    FormScreen screen_;
     imaging::ImageLoader loader_;
     bool hasPage_ = false;  // the loader holds the form's page
     std::optional<OpenForm> form_;

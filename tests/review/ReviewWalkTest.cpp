@@ -60,8 +60,8 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
 
     Accept();
     EXPECT_EQ(transcript_.Lines(),
-              (Names{"view: clear", "rects: clear", "rows: clear", "choice: ", "panel Message: ",
-                     "panel ElapsedTime: ", "select: c 100", "panel File: Reviewed: 0 of 2"}));
+              (Names{"view: clear", "rows: clear", "choice: ", "panel Message: ", "panel ElapsedTime: ",
+                     "select: c 100", "panel File: Reviewed: 0 of 2"}));
     EXPECT_EQ(ReadText(folders_.ProcessFinal + "b.xml"), saved);
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
     EXPECT_FALSE(review_.HasForm());
@@ -86,7 +86,7 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(transcript_.Joined(),
               "panel File: Profiles:1, Active:1 | panel Message:  | panel ElapsedTime:  | view: clear | "
               "rows: clear | choice: ");
-    EXPECT_FALSE(review_.InReview());
+    EXPECT_FALSE(review_.IsOn());
 }
 
 TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
@@ -101,7 +101,7 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
     EXPECT_EQ(transcript_.Lines(), (Names{"select: a 100", "ask: Save changes to Form <a>?"}));
     Accept();
     Toggle();
-    EXPECT_TRUE(review_.InReview());
+    EXPECT_TRUE(review_.IsOn());
     EXPECT_EQ(review_.OpenLine(), 0U);
     EXPECT_EQ(Result("a.xml"), before);
 
