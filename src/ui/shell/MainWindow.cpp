@@ -19,6 +19,7 @@ using commands::Command;
 
 // What the window remembers about itself lies beside the settings, in a group of its own.
 constexpr std::string_view kWindowSection = "Window";
+constexpr std::string_view kLabelsShown = "ToolbarLabels";
 
 QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
     return QByteArray::fromBase64(
@@ -65,8 +66,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
-    UpdateCommands();
     RestoreShape();
+    UpdateCommands();
 }
 
 MainWindow::~MainWindow() = default;
@@ -101,6 +102,12 @@ void MainWindow::ConnectViewCommands() {
     gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
     gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
     gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+    gate_.SetHandler(Command::ToolbarLabels, [this] {
+        const bool shown = !toolbars_.LabelsShown();
+        toolbars_.ShowLabels(shown);
+        context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, kLabelsShown,
+                                         shown ? "1" : "0");
+    });
 }
 
 void MainWindow::ConnectCommands() {
@@ -132,6 +139,7 @@ void MainWindow::UpdateCommands() {
     for (const Command command : {Command::SelectBox, Command::AddBox})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.InReview());
+    toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
     for (const Command command : {Command::Okay, Command::AcceptForm, Command::RejectForm})
         toolbars_.SetVisible(command, review_.InReview() && !state_.processing);
 }
@@ -176,6 +184,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 void MainWindow::RestoreShape() {
     restoreGeometry(ReadShape(context_.store, "Geometry"));
     splitter_->restoreState(ReadShape(context_.store, "Splitter"));
+    toolbars_.ShowLabels(
+        context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, kLabelsShown) == "1");
 }
 
 void MainWindow::RememberShape() {
