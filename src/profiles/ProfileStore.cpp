@@ -59,6 +59,7 @@ ProfileStore::ProfileStore(const StoreContext& context, OpenProfile& profile,
       records_(records),
       editor_(editor),
       screen_(screen),
+      scratch_(context.files, context.folders.Temp),
       thumbnails_(context.files, context.log, context.person, context.folders.Profiles) {}
 
 bool ProfileStore::MayLeave() {
@@ -81,7 +82,7 @@ bool ProfileStore::Create(const std::string& path, const std::string& imagePath,
     const std::string name = app::BaseName(path);
     if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
         context_.files.FileExists(imagePath))
-        WriteScratch("temp2.tif", context_.files.Read(imagePath));
+        Note(scratch_.WriteOriginal(context_.files.Read(imagePath)));
     const std::optional<boxes::FoundBoxes> found = boxes::FindBoxesOnImage(
         imagePath, name, sizes, reach, {context_.files, context_.person, context_.log, context_.clock});
     if (!found)
@@ -174,16 +175,12 @@ void ProfileStore::WriteDisplayCopy(const std::string& image, const imaging::Pag
     const bool isTiff = imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff;
     const bool isTurned = specimen == Specimen::OfNewProfile && page.inverted;
     if (!isTiff || isTurned)
-        WriteScratch("temp.tif", imaging::EncodeGroup4Tiff(page.bitmap));
+        Note(scratch_.WriteConverted(page));
 }
 
-// A copy that cannot be written costs no more than itself.
-void ProfileStore::WriteScratch(const std::string& name, const app::Bytes& content) {
-    try {
-        context_.files.Write(context_.folders.Temp + name, content, app::Keep::AsScratch);
-    } catch (const app::FileError& error) {
-        notes_.push_back(std::string(error.what()) + ".");
-    }
+void ProfileStore::Note(const std::string& failure) {
+    if (!failure.empty())
+        notes_.push_back(failure + ".");
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.

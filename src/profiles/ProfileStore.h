@@ -10,6 +10,7 @@
 #include "app/WorkingFolders.h"
 #include "boxes/BoxAnalysis.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
@@ -81,7 +82,7 @@ class ProfileStore {
     void KeepSize(const imaging::Bitmap& picture);
 
     void WriteDisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
-    void WriteScratch(const std::string& name, const app::Bytes& content);
+    void Note(const std::string& failure);
     void FitView();
     void WriteDocument();
 
@@ -90,6 +91,7 @@ class ProfileStore {
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;
     ProfileScreen screen_;
+    imaging::ScratchImages scratch_;
     Thumbnails thumbnails_;
     std::vector<StripEntry> strip_;
     std::vector<std::string> notes_;

@@ -9,6 +9,7 @@
 #include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
 #include "recognition/Classification.h"
+#include "recognition/PageLoading.h"
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::recognition {
@@ -22,6 +23,7 @@ using profiles::ProfileRecord;
 
 // What came of one file, as far as showing and moving it need to know.
 struct ProcessRun::FileOutcome {
+    std::optional<imaging::Page> page;
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
     bool hasResult = false;
@@ -31,10 +33,7 @@ struct ProcessRun::FileOutcome {
 
 ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders)
-    : context_(context),
-      settings_(settings),
-      folders_(folders),
-      loader_(context.files, context.log, context.person, folders.Temp) {}
+    : context_(context), settings_(settings), folders_(folders), scratch_(context.files, folders.Temp) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
     if (profiles.empty()) {
@@ -125,9 +124,12 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
                            FileOutcome& outcome) {
-    if (!loader_.LoadImageForProcessing(folders_.ProcessIn + name))
+    outcome.page = LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
+    if (!outcome.page)
         return;
-    const imaging::Page& page = loader_.CurrentPage();
+    const imaging::Page& page = *outcome.page;
+    if (const std::string failure = scratch_.WritePage(page); !failure.empty())
+        LogAbout(name, failure);
     Classification classification = ClassifyImage(name, page, profiles, context_.log);
     if (classification.winner < 0)
         return;
@@ -151,8 +153,8 @@ void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profil
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (loader_.HasPage())
-        context_.page.ShowPicture(loader_.CurrentPage().bitmap);
+    if (outcome.page)
+        context_.page.ShowPicture(outcome.page->bitmap);
     else
         context_.page.Clear();
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {

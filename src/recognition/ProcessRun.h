@@ -11,8 +11,8 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
 #include "imaging/PageScreen.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/MarkReading.h"
@@ -70,7 +70,7 @@ class ProcessRun {
     RunContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
-    imaging::ImageLoader loader_;
+    imaging::ScratchImages scratch_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "recognition/PageLoading.h"
 #include "review/FormReading.h"
 
 namespace tavrene::review {
@@ -18,7 +19,7 @@ FormReview::FormReview(const ReviewContext& context, const app::Settings& settin
       profiles_(profiles),
       list_(list),
       screen_(context),
-      loader_(context.files, context.log, context.person, folders.Temp) {}
+      scratch_(context.files, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     const auto found = std::find_if(profiles_.begin(), profiles_.end(),
@@ -69,7 +70,7 @@ bool FormReview::Prepare(OpenForm& form) {
     form.SavedProfile = profileName;
     form.Opened = form.Result.Marks();
     form.Marks = form.Opened;
-    MeasureForm(form, hasPage_ ? &loader_.CurrentPage() : nullptr, settings_.FillThreshold);
+    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
 }
@@ -92,27 +93,21 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImage(path);
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
     const std::string type = app::UpperCase(app::Extension(image));
-    if (!hasPage_) {
+    if (type == "PNG" && page_)
+        LogFailure(path, scratch_.WriteConverted(*page_));
+    if (!page_)
         context_.page.Clear();
-    } else if (type == "PNG" || type == "TIF") {
-        if (type == "PNG")
-            WriteDisplayCopy();
-        context_.page.ShowPicture(loader_.CurrentPage().bitmap);
-    } else {
-        // With the greys and colours that the page in memory has lost.
-        context_.page.ShowFile(path);
-    }
+    else if (type == "PNG" || type == "TIF")
+        context_.page.ShowPicture(page_->bitmap);
+    else
+        context_.page.ShowFile(path);  // with the greys and colours that the page in memory has lost
 }
 
-// The copy serves other programs only, so one that cannot be written is not missed.
-void FormReview::WriteDisplayCopy() {
-    try {
-        context_.files.Write(folders_.Temp + "temp.tif",
-                             imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap), app::Keep::AsScratch);
-    } catch (const app::FileError&) {
-    }
+void FormReview::LogFailure(const std::string& image, const std::string& failure) {
+    if (!failure.empty())
+        context_.log.LogProcessEvent(app::FileName(image) + ": " + failure);
 }
 
 void FormReview::SendBack(const OpenForm& form) {
@@ -129,9 +124,9 @@ void FormReview::SendBack(const OpenForm& form) {
 
 // Rewrites the document. False when there is no page to read; the form changes only when all is done.
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
-    if (!hasPage_)
+    if (!page_)
         return false;
-    OpenForm read = ReadForm(form, loader_.CurrentPage(), profile, settings_.FillThreshold);
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
     read.Result.Save(context_.files, folders_.ProcessOut + form.Document);
     form = std::move(read);
     screen_.ShowBoxes(form);
@@ -141,7 +136,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
 }
 
 void FormReview::TakeOffScreen() {
-    hasPage_ = false;
+    page_.reset();
     screen_.Clear();
 }
 
@@ -168,7 +163,8 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        hasPage_ = profile != nullptr && loader_.LoadImageForProcessing(folders_.ProcessOut + image);
+        if (profile != nullptr)
+            LoadForProcessing(folders_.ProcessOut + image);
         if (profile != nullptr && ReadAnew(*form_, *profile)) {
             form_->Changed = true;
             screen_.ShowState(*form_);
@@ -179,6 +175,13 @@ void FormReview::ReadAgainst(const std::string& profileName) {
         throw;
     }
     context_.choice.SetChoice(form_->Profile.Name);
+}
+
+// As a run loads it, with the display copies.
+void FormReview::LoadForProcessing(const std::string& path) {
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (page_)
+        LogFailure(path, scratch_.WritePage(*page_));
 }
 
 int FormReview::NextDoubtful(int number) const {
