@@ -9,7 +9,6 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
-#include "ui/reviewing/ReviewBoxRows.h"
 #include "ui/reviewing/ReviewMarks.h"
 #include "ui/reviewing/ReviewPane.h"
 
@@ -71,7 +70,6 @@ class ReviewMode final : public QObject {
     std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
-    ReviewBoxRows rows_;
     review::ReviewSession session_;
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
