@@ -121,7 +121,7 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
         for (bool killed = true; killed; kills += killed ? 1 : 0) {
             SCOPED_TRACE(kills);
             person_.answers = {Answer::Yes};
-            killed = DiesBefore(kills, [this, accept] { accept ? review_.Accept() : review_.Reject(); });
+            killed = DiesBefore(kills, [this, accept] { accept ? Accept() : Reject(); });
 
             review::ReviewSession next(context_, settings_, folders_, profiles_);
             Do([&next] { next.SettleInterrupted(); });

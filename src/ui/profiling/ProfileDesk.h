@@ -21,7 +21,7 @@ struct DeskContext {
     app::ActivityLog& log;
     const app::Clock& clock;
     commands::CommandGate& gate;
-    commands::FileDialogs& dialogs;
+    app::FileDialogs& dialogs;
 };
 
 /// The controls that show the open profile.
@@ -45,14 +45,16 @@ class ProfileDesk {
     /// Takes the profile off the desk without saving it.
     void Close();
 
-    /// Closes it for review: `Save` and `Delete` are offered again with the next profile.
-    void Leave();
-
     /// Brings what is being typed or dragged to an end, before a command.
     void FinishEdits();
 
     /// Makes the controls show what can be done now.
     void Update();
+
+    /// Whether a profile stands at the desk, which may be one that cannot be read, and whether it can be
+    /// edited.
+    bool HasProfile() const { return commands_.CanDelete(); }
+    bool CanEdit() const { return commands_.CanEdit(); }
 
     /// Whether a command's toggle button is to look pressed.
     bool Presses(commands::Command command) const;
@@ -61,18 +63,16 @@ class ProfileDesk {
     void ConnectCommands();
     void ConnectBoxCommands();
     void ConnectControls();
-    bool CanEdit() const { return commands_.CanEdit() && !state_.processing; }
-    bool HasBox() const { return commands_.CanEdit() && profile_.CurrentBox != 0; }
+    bool HasBox() const { return profile_.CurrentBox != 0; }
 
     commands::AppState& state_;
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::OpenProfile profile_;
-    profiles::EditorScreen screen_;
+    profiles::ProfileScreen screen_;
     profiles::BoxEditor editor_;
     profiles::ProfileStore store_;
     commands::ProfileCommands commands_;
-    bool offersFile_ = true;
 };
 
 }  // namespace tavrene::ui
