@@ -27,7 +27,6 @@ function(tavrene_test name)
   target_link_libraries(test_${name} PRIVATE ${ARG_DEPENDS} tavrene_test_support GTest::gtest_main tavrene_warnings)
   # Optimising the checks' own code under the sanitizers takes five times as long as running it slowly.
   target_compile_options(test_${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O0>)
-  target_compile_definitions(test_${name} PRIVATE TAVRENE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   include(GoogleTest)
   gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
 endfunction()
