@@ -27,19 +27,23 @@ class PointIndex {
     void Move(int number, int fromX, int fromY, int toX, int toY);
 
     /// Calls `visit(number)` for the points of every cell that the window touches, in no order; points
-    /// outside the window may be among them.
+    /// outside the window may be among them. Returns the work: the cells and points visited.
     template <typename Visit>
-    void VisitNear(const Window& window, Visit visit) const {
+    std::size_t VisitNear(const Window& window, Visit visit) const {
         if (window.Right < window.Left || window.Top < window.Bottom)
-            return;
+            return 0;
+        std::size_t work = 0;
         const int lastColumn = CellColumn(window.Right);
         const int lastRow = CellRow(window.Top);
         for (int row = CellRow(window.Bottom); row <= lastRow; ++row) {
             for (int column = CellColumn(window.Left); column <= lastColumn; ++column) {
-                for (const int number : cells_[CellAt(column, row)])
+                const std::vector<int>& cell = cells_[CellAt(column, row)];
+                for (const int number : cell)
                     visit(number);
+                work += 1 + cell.size();
             }
         }
+        return work;
     }
 
   private:

@@ -11,8 +11,11 @@ constexpr int kCellSize = 32;
 
 }  // namespace
 
-SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int height)
-    : segments_(segments), horizontal_(width, height, kCellSize), vertical_(width, height, kCellSize) {
+SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int height, WorkMeter& work)
+    : segments_(segments),
+      work_(work),
+      horizontal_(width, height, kCellSize),
+      vertical_(width, height, kCellSize) {
     int number = 0;
     for (const LineSeg& segment : segments) {
         (segment.IsVertical() ? vertical_ : horizontal_).Add(number++, segment.L, segment.T);
@@ -24,11 +27,11 @@ SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int 
 const std::vector<int>& SegmentIndex::Find(Orientation orientation, const Window& window) {
     found_.clear();
     const PointIndex& index = orientation == Orientation::Vertical ? vertical_ : horizontal_;
-    index.VisitNear(window, [&](int number) {
+    work_.Spend(index.VisitNear(window, [&](int number) {
         const LineSeg& segment = segments_[static_cast<std::size_t>(number)];
         if (window.Contains(segment.L, segment.T))
             found_.push_back(number);
-    });
+    }));
     std::sort(found_.begin(), found_.end());
     return found_;
 }
