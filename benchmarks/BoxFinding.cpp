@@ -61,6 +61,7 @@ void BM_Steps(benchmark::State& state) {
     const auto read = imaging::ReadPage(files, file, imaging::ImageFormat::Tiff);
     const imaging::WorkGrid& grid = std::get<imaging::Page>(read).grid;
     std::size_t segments = 0;
+    std::size_t work = 0;
     for (auto _ : state) {
         boxes::BoxAnalysis analysis(grid.Clone(), kSizes, boxes::ReachFor(kSizes));
         for (int step = 0; step < state.range(1); ++step)
@@ -68,7 +69,9 @@ void BM_Steps(benchmark::State& state) {
         segments = analysis.Segments.size();
         if (state.range(1) == 11)
             boxes::IdentifyBoxes(analysis);
+        work = analysis.Work.Spent();
     }
+    state.counters["work"] = static_cast<double>(work);
     state.counters["segments"] = static_cast<double>(segments);
 }
 

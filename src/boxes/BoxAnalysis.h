@@ -67,8 +67,8 @@ class WorkMeter {
     std::size_t Spent() const { return spent_; }
 
   private:
-    // A full page of small print with fitting sizes takes a hundredth of it.
-    static constexpr std::size_t kMost = 100'000'000;
+    // An A4 page full of small print at 300 dots an inch takes a hundredth of it with fitting sizes.
+    static constexpr std::size_t kMost = 150'000'000;
 
     std::size_t spent_ = 0;
 };

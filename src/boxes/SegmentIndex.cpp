@@ -1,6 +1,7 @@
 #include "boxes/SegmentIndex.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 
 namespace tavrene::boxes {
@@ -32,6 +33,8 @@ const std::vector<int>& SegmentIndex::Find(Orientation orientation, const Window
         if (window.Contains(segment.L, segment.T))
             found_.push_back(number);
     }));
+    // Sorting takes the longest where there is much to sort.
+    work_.Spend(found_.size() * static_cast<std::size_t>(std::bit_width(found_.size())));
     std::sort(found_.begin(), found_.end());
     return found_;
 }
