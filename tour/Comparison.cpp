@@ -10,7 +10,7 @@
 namespace tavrene::tour {
 namespace {
 
-using samples::TruthRecord;
+using samples::GroundTruthRecord;
 
 constexpr const char* kUnclassified = "unclassified";
 constexpr const char* kUnreadable = "unreadable";
@@ -33,13 +33,13 @@ void ReadResult(const app::Files& files, const std::string& path, Comparison& co
             comparison.CheckedBoxes.push_back(mark.Name);
 }
 
-std::string ExpectedProfile(const TruthRecord& record) {
+std::string ExpectedProfile(const GroundTruthRecord& record) {
     switch (record.Expected) {
-        case TruthRecord::Outcome::Unclassified:
+        case GroundTruthRecord::Outcome::Unclassified:
             return kUnclassified;
-        case TruthRecord::Outcome::Unreadable:
+        case GroundTruthRecord::Outcome::Unreadable:
             return kUnreadable;
-        case TruthRecord::Outcome::Matched:
+        case GroundTruthRecord::Outcome::Matched:
             break;
     }
     return record.Profile;
@@ -53,7 +53,7 @@ std::string NamesMissingFrom(const std::vector<std::string>& names, const std::v
     return missing;
 }
 
-std::string DifferenceOf(const Comparison& read, const TruthRecord& truth) {
+std::string DifferenceOf(const Comparison& read, const GroundTruthRecord& truth) {
     if (read.Profile != ExpectedProfile(truth))
         return "is " + ExpectedProfile(truth) + ", was taken for " + read.Profile;
     std::string difference;
@@ -70,7 +70,7 @@ const char* ReadWithoutResult(const std::string& log, const std::string& image) 
 }
 
 Comparison CompareOne(const app::Files& files, const app::WorkingFolders& folders, const std::string& log,
-                      const TruthRecord& truth) {
+                      const GroundTruthRecord& truth) {
     Comparison comparison;
     comparison.Image = truth.Image;
     const std::string result = recognition::ResultPath(folders.ProcessOut, truth.Image);
@@ -105,11 +105,11 @@ const char* TextOf(Verdict verdict) {
 }  // namespace
 
 std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::WorkingFolders& folders,
-                                         const std::vector<TruthRecord>& truth) {
+                                         const std::vector<GroundTruthRecord>& truth) {
     const std::string log = TextOfLogs(files, folders.Log);
     std::vector<Comparison> comparisons;
     comparisons.reserve(truth.size());
-    for (const TruthRecord& record : truth)
+    for (const GroundTruthRecord& record : truth)
         comparisons.push_back(CompareOne(files, folders, log, record));
     return comparisons;
 }

@@ -5,7 +5,7 @@
 
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
-#include "samples/Truth.h"
+#include "samples/GroundTruth.h"
 
 namespace tavrene::tour {
 
@@ -24,7 +24,7 @@ struct Comparison {
 /// Compares the result documents and the process log of a finished run with the truth. A scan that is not in
 /// `ProcessOut` is wrong whatever the truth.
 std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::WorkingFolders& folders,
-                                         const std::vector<samples::TruthRecord>& truth);
+                                         const std::vector<samples::GroundTruthRecord>& truth);
 
 /// The comparisons as a table of text with one line a scan, and below it every difference in words.
 std::string TableOf(const std::vector<Comparison>& comparisons);

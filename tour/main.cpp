@@ -8,12 +8,12 @@
 
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
-#include "samples/Truth.h"
+#include "samples/GroundTruth.h"
 #include "tour/Comparison.h"
 #include "tour/Driver.h"
 #include "tour/Filling.h"
-#include "ui/Composition.h"
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
+#include "ui/shell/Composition.h"
 
 namespace {
 
@@ -50,7 +50,7 @@ void PrintPlaces(const app::WorkingFolders& folders, const QStringList& shots) {
 }
 
 int Drive(const std::string& samplesFolder, const std::string& folder, const std::string& shotsFolder) {
-    const auto truth = samples::ReadTruth(samplesFolder + "/truth.tsv");
+    const auto truth = samples::ReadGroundTruth(samplesFolder + "/truth.tsv");
     ui::Composition program;
     if (!program.Start()) {
         std::cerr << "The program is open already.\n";

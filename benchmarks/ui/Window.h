@@ -8,8 +8,8 @@
 
 #include "FormPage.h"
 #include "profiles/ProfileRecord.h"
-#include "ui/MainWindow.h"
-#include "ui/QtSettingsStore.h"
+#include "ui/settings/QtSettingsStore.h"
+#include "ui/shell/MainWindow.h"
 
 namespace tavrene::bench {
 

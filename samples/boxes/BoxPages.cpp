@@ -174,7 +174,7 @@ void WearPage(BoxPage& page, const BoxPagePlan& plan, Random& dice) {
         case Wear::Dilated:
             return Dilate(page.Grid);
         case Wear::Tilted:
-            return Tilt(page.Grid, page.Truth, dice.Chance(0.5) ? plan.Amount : -plan.Amount);
+            return Tilt(page.Grid, page.GroundTruth, dice.Chance(0.5) ? plan.Amount : -plan.Amount);
         case Wear::None:
         case Wear::Broken:
             return;
@@ -268,7 +268,7 @@ BoxPage PaintPage(const BoxPagePlan& plan) {
     const boxes::BoxSizes sizes = plan.LargestSettings
                                       ? boxes::BoxSizes{20, 50, 20, 40}
                                       : SizesFor(size, plan.Layout->TwoSizes ? second : size);
-    BoxPage page{ToGrid(sheet.Page()), sheet.Truth(), sizes};
+    BoxPage page{ToGrid(sheet.Page()), sheet.GroundTruth(), sizes};
     WearPage(page, plan, dice);
     return page;
 }

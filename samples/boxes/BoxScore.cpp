@@ -71,9 +71,9 @@ std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const st
             rows.push_back({name, {}, {}, {}});
         const BoxPage page = PaintPage(plan);
         const PageFinds finds = FindOnPage(page);
-        rows.back().Rules.Add(ScorePage(page.Truth, finds.Rules));
-        rows.back().First.Add(ScorePage(page.Truth, finds.First));
-        rows.back().Second.Add(ScorePage(page.Truth, finds.Second));
+        rows.back().Rules.Add(ScorePage(page.GroundTruth, finds.Rules));
+        rows.back().First.Add(ScorePage(page.GroundTruth, finds.First));
+        rows.back().Second.Add(ScorePage(page.GroundTruth, finds.Second));
     }
     return rows;
 }

@@ -10,6 +10,7 @@
 #include "app/WorkingFolders.h"
 #include "boxes/BoxAnalysis.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
@@ -18,7 +19,7 @@
 namespace tavrene::profiles {
 
 /// What the store needs of the world; everything must outlive it.
-struct StoreDoors {
+struct StoreContext {
     app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
@@ -32,7 +33,7 @@ struct StoreDoors {
 class ProfileStore {
   public:
     /// `records` are the loaded profiles that recognition uses. All references must outlive the store.
-    ProfileStore(const StoreDoors& doors, OpenProfile& profile, std::vector<ProfileRecord>& records,
+    ProfileStore(const StoreContext& context, OpenProfile& profile, std::vector<ProfileRecord>& records,
                  BoxEditor& editor, const EditorScreen& screen);
 
     /// Asks whether unsaved changes are to be saved, and does so. False when the profile is not to be left.
@@ -83,15 +84,16 @@ class ProfileStore {
     /// The file from which a specimen is shown: that of a TIFF is its own, unless a new profile's had to be
     /// inverted.
     std::string DisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
-    bool WriteScratch(const std::string& name, const app::Bytes& content);
+    void Note(const imaging::ScratchCopy& copy);
     void FitView();
     void WriteDocument();
 
-    StoreDoors doors_;
+    StoreContext context_;
     OpenProfile& profile_;
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;
     EditorScreen screen_;
+    imaging::ScratchImages scratch_;
     Thumbnails thumbnails_;
     std::vector<StripEntry> strip_;
     std::vector<std::string> notes_;

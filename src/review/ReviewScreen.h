@@ -77,7 +77,7 @@ class ReviewRects {
 };
 
 /// What review needs of the world; everything must outlive it.
-struct ReviewDoors {
+struct ReviewContext {
     app::Files& files;
     app::ActivityLog& log;
     app::Operator& person;

@@ -54,7 +54,7 @@ TEST(SecondLook, UnitesWithWhatIsThereAndLosesNothingThatTheRulesKept) {
                                      [&](const BoxRect& other) { return boxes::Overlap(box, other); }));
             all.push_back(box);
         }
-        EXPECT_GE(samples::ScorePage(page.Truth, all).Right.size() * 100, page.Truth.size() * 98);
+        EXPECT_GE(samples::ScorePage(page.GroundTruth, all).Right.size() * 100, page.GroundTruth.size() * 98);
         EXPECT_TRUE(std::is_sorted(look.Candidates.begin(), look.Candidates.end(),
                                    [](const Candidate& a, const Candidate& b) { return a.Odds > b.Odds; }));
         for (const boxes::LeftOutBox& leftOut : first.LeftOut) {
@@ -86,8 +86,8 @@ TEST(SecondLook, TellsOfBoxesBeyondTheSettings) {
     const SecondLook look = LookAgainAt(page);
     ASSERT_TRUE(look.Other);
     EXPECT_TRUE(look.Other->IsLarger);
-    EXPECT_EQ(static_cast<std::size_t>(look.Other->Count), page.Truth.size());
-    const samples::TrueBox& box = page.Truth.front();
+    EXPECT_EQ(static_cast<std::size_t>(look.Other->Count), page.GroundTruth.size());
+    const samples::TrueBox& box = page.GroundTruth.front();
     EXPECT_NEAR(look.Other->Size.Width, box.R - box.L, 2);
     EXPECT_NEAR(look.Other->Size.Height, box.B - box.T, 2);
     const SecondLook later = LookAgainAt(page, BoxesOf(look));
@@ -142,12 +142,12 @@ TEST(FirstLook, DenseHatchingDoesNotUseUpTheBoxNumbers) {
             page.Grid.SetInk(column, 3000 + along);
             page.Grid.SetInk(column + 29, 3000 + along);
         }
-        page.Truth.push_back({static_cast<double>(column), 3000, column + 29.0, 3029});
+        page.GroundTruth.push_back({static_cast<double>(column), 3000, column + 29.0, 3029});
     }
     const BoxAnalysis analysis = samples::AnalysePage(page);
     EXPECT_FALSE(analysis.Work.IsSpent()) << analysis.Work.Spent();
-    const samples::PageScore score = samples::ScorePage(page.Truth, analysis.Boxes);
-    EXPECT_EQ(score.Right.size(), page.Truth.size());
+    const samples::PageScore score = samples::ScorePage(page.GroundTruth, analysis.Boxes);
+    EXPECT_EQ(score.Right.size(), page.GroundTruth.size());
     EXPECT_TRUE(score.False.empty());
 }
 

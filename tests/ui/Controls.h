@@ -12,7 +12,7 @@
 #include <set>
 #include <string>
 
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::test {
 

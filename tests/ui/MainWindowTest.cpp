@@ -177,6 +177,25 @@ TEST_F(MainWindowTest, EscapeClosesTheIdleWindowWhichRemembersItsShape) {
     EXPECT_EQ(window_->size(), QSize(1111, 777));
 }
 
+TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
+    Open();
+    auto& toggle = Find<QAction>(*window_, "ToolbarLabels");
+    EXPECT_FALSE(toggle.isChecked());
+    toggle.trigger();
+    EXPECT_TRUE(toggle.isChecked());
+    Open().resize(1024, 700);
+    QApplication::processEvents();
+    EXPECT_TRUE(Find<QAction>(*window_, "ToolbarLabels").isChecked());
+    for (const char* key : {"New", "ZoomToOrig", "Review"})
+        EXPECT_GT(Button(*window_, "MainToolbar", key).height(), 40) << key;
+    Click("Review");  // which has the most buttons
+    QApplication::processEvents();
+    EXPECT_TRUE(Button(*window_, "CfgToolbar", "Delete").isVisible());
+    Find<QAction>(*window_, "ToolbarLabels").trigger();
+    QApplication::processEvents();
+    EXPECT_LT(Button(*window_, "MainToolbar", "New").height(), 40);
+}
+
 TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {
     for (const char* name : {"a.tif", "b & <c>.tif", "d.png"})
         test::WriteText(folders_.ProcessIn + name, "no image");

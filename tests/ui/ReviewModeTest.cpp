@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "ui/DeskWindow.h"
-#include "ui/RectItem.h"
+#include "ui/page/RectItem.h"
 
 namespace tavrene::ui {
 namespace {

@@ -9,7 +9,7 @@
 #include "support/MemoryStore.h"
 #include "support/TempFolder.h"
 #include "ui/Controls.h"
-#include "ui/SettingsDialog.h"
+#include "ui/settings/SettingsDialog.h"
 
 namespace tavrene::ui {
 namespace {

@@ -63,7 +63,7 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
 
 PageScore Score(const BoxPagePlan& plan) {
     const BoxPage page = PaintPage(plan);
-    return ScorePage(page.Truth, FindOnPage(page).Second);
+    return ScorePage(page.GroundTruth, FindOnPage(page).Second);
 }
 
 void PrintTally(const std::string& name, const Tally& tally) {

@@ -88,12 +88,12 @@ int Ends(const Wall& a, const Wall& b) {
 }
 
 std::optional<Frame> Search::BestFrame(const Wall& left) {
-    const Window window{left.Column + limits_.MinWidth + 1, left.First - kEndReach,
+    const SearchRect searched{left.Column + limits_.MinWidth + 1, left.First - kEndReach,
                         left.Column + limits_.MaxWidth + 1, left.First + kEndReach};
     near_.clear();
-    index_.VisitNear(window, [&](int number) {
+    index_.VisitNear(searched, [&](int number) {
         const Wall& right = rightWalls_[static_cast<std::size_t>(number)];
-        if (window.Contains(right.Column, right.First) && Ends(left, right) <= kEndReach)
+        if (searched.Contains(right.Column, right.First) && Ends(left, right) <= kEndReach)
             near_.push_back(number);
     });
     // They are numbered by column.

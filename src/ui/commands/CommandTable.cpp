@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace tavrene::commands {
 namespace {
@@ -30,6 +31,8 @@ constexpr std::array kCommands = {
                 M::View, "Fit &Page", "Ctrl+2", "FitPage", G::View, S::Shown, false},
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
                 M::View, "Fit &Width", "Ctrl+3", "FitWidth", G::View, S::Shown, false},
+    CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
+                M::View, "Toolbar &Labels", "Ctrl+L", "", G::None, S::Toggle, true},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
                 M::Process, "&Process", "F5", "Process", G::Processing, S::Shown, true},
@@ -74,6 +77,16 @@ constexpr std::array kCommands = {
 };
 // clang-format on
 
+// Shorter than the menu's texts, so that all buttons have room in a narrow window.
+constexpr std::pair<Command, std::string_view> kLabels[] = {
+    {C::New, "New"},           {C::Save, "Save"},         {C::DeleteProfile, "Delete"},
+    {C::ZoomToOrig, "100 %"},  {C::ZoomIn, "Larger"},     {C::ZoomOut, "Smaller"},
+    {C::FitPage, "Page"},      {C::FitWidth, "Width"},    {C::Process, "Process"},
+    {C::Stop, "Stop"},         {C::Review, "Review"},     {C::Okay, "Reviewed"},
+    {C::AcceptForm, "Accept"}, {C::RejectForm, "Reject"}, {C::SelectBox, "Select"},
+    {C::AddBox, "Add"},        {C::DeleteBox, "Delete"},
+};
+
 }  // namespace
 
 std::span<const CommandInfo> CommandTable() {
@@ -85,6 +98,13 @@ const CommandInfo& InfoOf(Command command) {
         if (info.command == command)
             return info;
     return kCommands.front();
+}
+
+std::string_view LabelOf(Command command) {
+    for (const auto& [labelled, label] : kLabels)
+        if (labelled == command)
+            return label;
+    return {};
 }
 
 }  // namespace tavrene::commands

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/Raised.h"
+#include "app/ScopedFlag.h"
 
 namespace tavrene::commands {
 
@@ -13,7 +13,7 @@ Processing::Processing(AppState& state, recognition::ProcessRun& run, std::funct
 void Processing::Process() {
     if (!run_.MayStart(state_.profiles))
         return;
-    const app::Raised processing(state_.processing);
+    const app::ScopedFlag processing(state_.processing);
     runBegins_();
     run_.Run(state_.profiles);
 }

@@ -1,0 +1,117 @@
+#include "ui/profiling/ProfileDesk.h"
+
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+
+using commands::Command;
+using profiles::BoxTool;
+
+ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls)
+    : state_(state),
+      gate_(context.gate),
+      controls_(controls),
+      screen_{controls.view, controls.view, controls.view.Boxes(), controls.rows, controls.pane.Strip()},
+      editor_(profile_, context.person, screen_),
+      store_({context.files, context.person, context.log, context.clock, state.folders}, profile_,
+             state.profiles, editor_, screen_),
+      commands_(state, {store_, profile_, context.person, context.dialogs, controls.view}) {
+    editor_.SetMayStore([this] { return !state_.processing; });
+    ConnectCommands();
+    ConnectBoxCommands();
+    ConnectControls();
+}
+
+void ProfileDesk::ConnectCommands() {
+    const auto connect = [this](Command command, void (commands::ProfileCommands::*run)(),
+                                std::function<bool()> canRun = {}) {
+        const auto busily = [this, run] {
+            const BusyCursor busy;
+            (commands_.*run)();
+        };
+        gate_.SetHandler(command, busily, std::move(canRun));
+    };
+    const auto offersFile = [this] { return offersFile_ || !profile_.Path.empty(); };
+    connect(Command::New, &commands::ProfileCommands::New);
+    connect(Command::Save, &commands::ProfileCommands::Save, offersFile);
+    connect(Command::DeleteProfile, &commands::ProfileCommands::Delete, offersFile);
+}
+
+void ProfileDesk::ConnectBoxCommands() {
+    const auto canEdit = [this] { return commands_.CanEdit(); };
+    gate_.SetHandler(
+        Command::SelectBox, [this] { editor_.SetTool(BoxTool::Select); }, canEdit);
+    gate_.SetHandler(
+        Command::AddBox, [this] { editor_.SetTool(BoxTool::Add); }, canEdit);
+    gate_.SetHandler(
+        Command::DeleteBox, [this] { editor_.DeleteBox(); }, canEdit);
+    gate_.SetHandler(
+        Command::RenameBox, [this] { controls_.rows.EditName(profile_.CurrentBox); },
+        [this] { return HasBox(); });
+    gate_.SetHandler(
+        Command::Undo, [this] { editor_.Undo(); }, [this] { return editor_.CanUndo(); });
+    gate_.SetHandler(
+        Command::Redo, [this] { editor_.Redo(); }, [this] { return editor_.CanRedo(); });
+}
+
+void ProfileDesk::ConnectControls() {
+    controls_.rows.SetListener({[this](int number) { gate_.Take([&] { editor_.RowClicked(number); }); },
+                                [this](int number, const QString& name) {
+                                    gate_.Take([&] { editor_.RowRenamed(number, FromQt(name)); });
+                                }});
+    controls_.view.Boxes().SetListener(
+        {[this](const profiles::RectReport& report) { gate_.Take([&] { editor_.RectSelected(report); }); },
+         [this](int group) { gate_.Take([&] { editor_.RectMoved(group); }); }});
+    controls_.view.SetArrowHandler([this](int dx, int dy) {
+        const bool isTaken = CanEdit() && HasBox();
+        if (isTaken)
+            gate_.Take([&] { editor_.Nudge(dx, dy); });
+        return isTaken;
+    });
+    controls_.pane.Strip().SetListener({[this](int k) {
+                                            gate_.Take([&] {
+                                                const BusyCursor busy;
+                                                commands_.ThumbnailSelected(k);
+                                            });
+                                        },
+                                        [this](int k) {
+                                            std::string name;
+                                            gate_.Guard([&] { name = store_.ThumbnailHover(k); });
+                                            return name;
+                                        }});
+    QObject::connect(&controls_.pane.Active(), &QCheckBox::clicked, &controls_.pane,
+                     [this](bool active) { gate_.Take([&] { commands_.SetActive(active); }); });
+}
+
+void ProfileDesk::Close() {
+    store_.Close();
+    screen_.strip.SelectThumbnail(0);
+}
+
+void ProfileDesk::Leave() {
+    Close();
+    offersFile_ = false;
+}
+
+void ProfileDesk::FinishEdits() {
+    controls_.rows.FinishEdit();
+    controls_.view.CancelTool();
+}
+
+void ProfileDesk::Update() {
+    offersFile_ = offersFile_ || !profile_.Path.empty();
+    BoxLayer& boxes = controls_.view.Boxes();
+    boxes.SetEditable(CanEdit());
+    controls_.rows.SetEditable(CanEdit());
+    controls_.pane.Active().setEnabled(CanEdit());
+    controls_.pane.Active().setChecked(profile_.Active);
+}
+
+bool ProfileDesk::Presses(Command command) const {
+    const BoxTool tool = controls_.view.Boxes().Tool();
+    return CanEdit() && ((command == Command::SelectBox && tool == BoxTool::Select) ||
+                         (command == Command::AddBox && tool == BoxTool::Add));
+}
+
+}  // namespace tavrene::ui

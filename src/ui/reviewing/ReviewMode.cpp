@@ -1,0 +1,181 @@
+#include "ui/reviewing/ReviewMode.h"
+
+#include <QKeyEvent>
+#include <optional>
+#include <utility>
+
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+
+using commands::Command;
+
+namespace {
+
+// What a key in one of the lists means; `canFlip` in a list of boxes that can be flipped.
+std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
+    if ((key.modifiers() & ~Qt::KeypadModifier) != 0)
+        return std::nullopt;
+    switch (key.key()) {
+        case Qt::Key_PageDown:
+            return Command::NextForm;
+        case Qt::Key_PageUp:
+            return Command::PreviousForm;
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return canFlip ? std::optional(Command::FlipBox) : std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
+                       const ReviewControls& controls, std::function<void()> closeProfile)
+    : gate_(context.gate),
+      prompts_(context.prompts),
+      closeProfile_(std::move(closeProfile)),
+      controls_(controls),
+      marks_(controls.view),
+      rows_(controls.boxes),
+      session_({context.files, context.log, context.person, controls.view, controls.view, marks_,
+                controls.boxes, rows_, controls.pane.List(), controls.pane.Choice()},
+               state.settings, state.folders, state.profiles) {
+    ConnectCommands();
+    ConnectFormCommands();
+    ConnectControls();
+}
+
+void ReviewMode::ConnectCommands() {
+    gate_.SetHandler(Command::Review, [this] { Toggle(); });
+    gate_.SetHandler(
+        Command::OpenForm,
+        [this] {
+            if (const auto line = controls_.pane.List().SelectedLine())
+                session_.Open(*line);
+        },
+        [this] { return session_.IsOn() && controls_.pane.List().SelectedLine().has_value(); });
+    const auto hasLines = [this] { return session_.IsOn() && controls_.pane.List().model()->rowCount() > 0; };
+    gate_.SetHandler(
+        Command::NextForm, [this] { OpenNeighbour(1); }, hasLines);
+    gate_.SetHandler(
+        Command::PreviousForm, [this] { OpenNeighbour(-1); }, hasLines);
+}
+
+void ReviewMode::ConnectFormCommands() {
+    const auto connect = [this](Command command, std::function<void()> run) {
+        gate_.SetHandler(command, std::move(run), [this] { return HasForm(); });
+    };
+    connect(Command::Okay, [this] { session_.Save(); });
+    connect(Command::AcceptForm, [this] { session_.Accept(); });
+    connect(Command::RejectForm, [this] { session_.Reject(); });
+    connect(Command::FlipBox, [this] { FlipCurrent(); });
+    connect(Command::NextDoubtful, [this] { NextDoubtful(); });
+}
+
+void ReviewMode::ConnectControls() {
+    controls_.pane.List().SetListener([this](std::size_t line) { gate_.Take([&] { session_.Open(line); }); });
+    connect(&controls_.pane.Choice(), &QComboBox::textActivated, this,
+            [this](const QString& name) { gate_.Take([&] { session_.ReadAgainst(FromQt(name)); }); });
+    marks_.SetListener([this](int group) { gate_.Take([&] { RectClicked(group); }); });
+    // The second click of a double click turns the mark back, as the first one turned it.
+    const auto flip = [this](QTreeWidgetItem* row) {
+        gate_.Take([&] { session_.FlipBox(rows_.NumberOf(row)); });
+    };
+    connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
+    connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
+    connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
+        if (row != nullptr && HasForm())
+            gate_.Take([&] { session_.BoxSelected(rows_.NumberOf(row)); });
+    });
+    controls_.boxes.installEventFilter(this);
+    controls_.pane.List().installEventFilter(this);
+}
+
+void ReviewMode::Toggle() {
+    const BusyCursor busy;
+    if (!prompts_.ProfileThenForm())
+        return;
+    if (session_.IsOn()) {
+        session_.End();
+        return;
+    }
+    closeProfile_();
+    session_.Begin();
+    TakeFirstLine();
+}
+
+// So that the first form is one Enter away. Only a list in sight can have the focus.
+void ReviewMode::TakeFirstLine() {
+    controls_.side.setCurrentWidget(&controls_.pane);
+    controls_.pane.List().setFocus();
+    if (controls_.pane.List().model()->rowCount() > 0)
+        controls_.pane.List().SelectLine(0);
+}
+
+void ReviewMode::OpenNeighbour(int step) {
+    session_.OpenNeighbour(controls_.pane.List().SelectedLine(), step);
+}
+
+void ReviewMode::FlipCurrent() {
+    session_.FlipBox(rows_.CurrentNumber());
+}
+
+void ReviewMode::NextDoubtful() {
+    if (session_.NextDoubtful(rows_.CurrentNumber()))
+        controls_.boxes.setFocus();
+}
+
+void ReviewMode::RectClicked(int group) {
+    // A box without a row leaves none selected, so that no key means another one.
+    rows_.SelectRow(group);
+    controls_.boxes.setFocus();
+    session_.FlipBox(group);
+}
+
+void ReviewMode::RunBegins() {
+    session_.RunBegins();
+    refill_ = true;
+}
+
+void ReviewMode::RunEnded() {
+    if (!std::exchange(refill_, false) || !session_.IsOn())
+        return;
+    session_.Refill();
+    TakeFirstLine();
+}
+
+bool ReviewMode::Bars(Command command) const {
+    return command == Command::New && session_.IsOn();
+}
+
+void ReviewMode::Update() {
+    const bool inReview = session_.IsOn();
+    controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
+    marks_.SetActive(HasForm());
+    controls_.view.SetHint(inReview
+                               ? "Choose a form on the left: a click or Enter opens it."
+                               : "Choose a profile on the left, make one with New,\n"
+                                 "or press Process to read the scans that wait in the folder ProcessIn.");
+    controls_.pane.List().MarkOpen(session_.OpenLine());
+    // With the form all that had its keys is gone; Enter opens the next one.
+    if (std::exchange(hadForm_, HasForm()) && inReview && !hadForm_)
+        controls_.pane.List().setFocus();
+}
+
+bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !session_.IsOn())
+        return false;
+    const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+    const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && HasForm());
+    if (!command)
+        return false;
+    if (!key.isAutoRepeat())
+        gate_.Run(*command);
+    return true;
+}
+
+}  // namespace tavrene::ui
