@@ -89,7 +89,7 @@ int Ends(const Wall& a, const Wall& b) {
 
 std::optional<Frame> Search::BestFrame(const Wall& left) {
     const SearchRect searched{left.Column + limits_.MinWidth + 1, left.First - kEndReach,
-                        left.Column + limits_.MaxWidth + 1, left.First + kEndReach};
+                              left.Column + limits_.MaxWidth + 1, left.First + kEndReach};
     near_.clear();
     index_.VisitNear(searched, [&](int number) {
         const Wall& right = rightWalls_[static_cast<std::size_t>(number)];
