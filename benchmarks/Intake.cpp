@@ -12,7 +12,7 @@
 namespace tavrene::bench {
 namespace {
 
-constexpr int kPages = 500;
+constexpr int kPages = 50;
 
 // A PDF as a scanner makes it: 300 dpi pages in Group 4.
 std::string ScannedPdf() {
