@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "recognition/PageLoading.h"
 #include "review/FormReading.h"
 
 namespace tavrene::review {
@@ -18,7 +19,7 @@ FormReview::FormReview(const ReviewContext& context, const app::Settings& settin
       profiles_(profiles),
       list_(list),
       screen_(context),
-      loader_(context.files, context.log, context.person, folders.Temp) {}
+      scratch_(context.files, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     const auto found = std::find_if(profiles_.begin(), profiles_.end(),
@@ -69,7 +70,7 @@ bool FormReview::Prepare(OpenForm& form) {
     form.SavedProfile = profileName;
     form.Opened = form.Result.Marks();
     form.Marks = form.Opened;
-    MeasureForm(form, hasPage_ ? &loader_.CurrentPage() : nullptr, settings_.FillThreshold);
+    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
 }
@@ -92,8 +93,8 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImage(path);
-    if (!hasPage_)
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (!page_)
         context_.view.Clear();
     else if (app::UpperCase(app::Extension(image)) == "PNG")
         context_.view.ShowFile(CopyForView(path));
@@ -103,14 +104,14 @@ void FormReview::ShowImage(const std::string& image) {
 
 // PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
 std::string FormReview::CopyForView(const std::string& path) {
-    std::string copy = folders_.Temp + "temp.tif";
-    try {
-        context_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
-                             app::Keep::AsScratch);
-    } catch (const app::FileError&) {
-        return path;
-    }
-    return copy;
+    const imaging::ScratchCopy copy = scratch_.WriteConverted(*page_);
+    LogFailure(path, copy);
+    return copy.path.empty() ? path : copy.path;
+}
+
+void FormReview::LogFailure(const std::string& image, const imaging::ScratchCopy& copy) {
+    if (!copy.failure.empty())
+        context_.log.LogProcessEvent(app::FileName(image) + ": " + copy.failure);
 }
 
 void FormReview::SendBack(const OpenForm& form) {
@@ -127,9 +128,9 @@ void FormReview::SendBack(const OpenForm& form) {
 
 // Rewrites the document. False when there is no page to read; the form changes only when all is done.
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
-    if (!hasPage_)
+    if (!page_)
         return false;
-    OpenForm read = ReadForm(form, loader_.CurrentPage(), profile, settings_.FillThreshold);
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
     read.Result.Save(context_.files, folders_.ProcessOut + form.Document);
     form = std::move(read);
     screen_.ShowBoxes(form);
@@ -139,7 +140,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
 }
 
 void FormReview::TakeOffScreen() {
-    hasPage_ = false;
+    page_.reset();
     screen_.Clear();
 }
 
@@ -166,7 +167,8 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        hasPage_ = profile != nullptr && loader_.LoadImageForProcessing(folders_.ProcessOut + image);
+        if (profile != nullptr)
+            LoadForProcessing(folders_.ProcessOut + image);
         if (profile != nullptr && ReadAnew(*form_, *profile)) {
             form_->Changed = true;
             screen_.ShowState(*form_);
@@ -177,6 +179,13 @@ void FormReview::ReadAgainst(const std::string& profileName) {
         throw;
     }
     context_.choice.SetChoice(form_->Profile.Name);
+}
+
+// As a run loads it, with the display copies.
+void FormReview::LoadForProcessing(const std::string& path) {
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (page_)
+        LogFailure(path, scratch_.WritePage(*page_));
 }
 
 int FormReview::NextDoubtful(int number) const {

@@ -6,7 +6,7 @@
 
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/ProfileRecord.h"
 #include "review/FormScreen.h"
 #include "review/OpenForm.h"
@@ -54,6 +54,8 @@ class FormReview {
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
     std::string CopyForView(const std::string& path);
+    void LoadForProcessing(const std::string& path);
+    void LogFailure(const std::string& image, const imaging::ScratchCopy& copy);
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void TakeOffScreen();
@@ -64,8 +66,8 @@ class FormReview {
     const std::vector<profiles::ProfileRecord>& profiles_;
     ReviewList& list_;
     FormScreen screen_;
-    imaging::ImageLoader loader_;
-    bool hasPage_ = false;  // the loader holds the form's page
+    imaging::ScratchImages scratch_;
+    std::optional<imaging::Page> page_;
     std::optional<OpenForm> form_;
 };
 
