@@ -18,6 +18,12 @@ class FileError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// A move between file systems that copied the file but could not delete the source: both are there.
+class SourceRemains : public FileError {
+  public:
+    using FileError::FileError;
+};
+
 /// Whether a written file must outlive a power cut. A scratch file is made anew with every image anyway.
 enum class Keep { Durably, AsScratch };
 
@@ -38,9 +44,10 @@ class Files {
     virtual void CreateFolder(const std::string& path) = 0;
 
     /// Names of the files of `folder` that match `pattern` ("*.Tvp", "*"; case does not count), ordered by
-    /// lower-cased name. Sub-folders and names with a leading dot are left out.
+    /// lower-cased name. Sub-folders are left out, and names with a leading dot unless the pattern has one.
     virtual std::vector<std::string> List(const std::string& folder, std::string_view pattern) const = 0;
 
+    /// The whole content; a file of more than a gigabyte is refused before anything of it is read.
     virtual Bytes Read(const std::string& path) const = 0;
 
     /// Writes a whole file: to a temporary neighbour, then renamed over `path`, so that `path` holds either
@@ -71,7 +78,14 @@ class DiskFiles final : public Files {
     void Append(const std::string& path, std::string_view text) override;
     void Move(const std::string& from, const std::string& to) override;
     void Delete(const std::string& path) override;
+
+  private:
+    void MoveAcross(const std::string& from, const std::string& to);
 };
+
+/// Deletes the temporary neighbours in a folder (path ending in a separator) that processes left which are no
+/// longer running. For the start of the program; what cannot be deleted stays.
+void RemoveDeadTemporaries(Files& files, const std::string& folder);
 
 /// The bytes of a text.
 std::span<const std::byte> AsBytes(std::string_view text);
@@ -86,8 +100,14 @@ std::string FileName(std::string_view path);
 std::string BaseName(std::string_view path);
 std::string Extension(std::string_view path);
 
-/// ASCII letters of `text` in upper or lower case; other characters stay.
+/// ASCII letters of `text` in upper case; other characters stay. For names of the program's own, like
+/// extensions.
 std::string UpperCase(std::string_view text);
+
+/// All letters of `text` in lower case, whatever the locale; what is no UTF-8 stays.
 std::string LowerCase(std::string_view text);
+
+/// `text` with the first `from` in it replaced by `to`.
+std::string ReplaceFirst(std::string text, std::string_view from, std::string_view to);
 
 }  // namespace tavrene::app

@@ -33,6 +33,7 @@ bool RunStartup(Settings& settings, const StartupContext& context) {
     // One more chance only: an operator without a usable folder still gets the window.
     if (!CreateWorkingFolders(context.files, settings.WorkDir))
         context.showSettingsDialog(settings);
+    RemoveLeftovers(context.files, settings.WorkDir);
     context.showMainWindow();
     return true;
 }

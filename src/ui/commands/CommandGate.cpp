@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
+
 namespace tavrene::commands {
 namespace {
 
@@ -41,7 +43,7 @@ void CommandGate::Guard(const std::function<void()>& event) {
     try {
         event();
     } catch (const std::exception& failure) {
-        person_.ShowMessage("", failure.what());
+        person_.ShowMessage("", app::ReasonOf(failure));
     }
     if (log_.TakeLostLines() > 0)
         person_.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
