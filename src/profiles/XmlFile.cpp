@@ -4,6 +4,8 @@
 #include <set>
 #include <sstream>
 
+#include "app/Utf8.h"
+
 namespace tavrene::profiles {
 namespace {
 
@@ -61,6 +63,18 @@ void WriteXml(app::Files& files, const std::string& path, const pugi::xml_docume
     else
         document.save(text);
     files.Write(path, app::AsBytes(text.str()));
+}
+
+std::string XmlText(std::string_view utf8) {
+    std::string text;
+    while (!utf8.empty()) {
+        const char32_t character = app::TakeCharacter(utf8);
+        const bool isWritable = character >= 0x20
+                                    ? character != 0xFFFE && character != 0xFFFF
+                                    : character == '\t' || character == '\n' || character == '\r';
+        app::AppendCharacter(text, isWritable ? character : app::kBrokenCharacter);
+    }
+    return text;
 }
 
 std::int16_t RequiredNumber(const pugi::xml_node& element, const char* attribute) {
