@@ -20,7 +20,7 @@ int NumberOf(const QTreeWidgetItem& row) {
 
 void ShowName(QTreeWidgetItem& row, const QString& name) {
     row.setText(0, name);
-    row.setToolTip(0, name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>");
+    row.setToolTip(0, ToolTipOf(name));
 }
 
 }  // namespace

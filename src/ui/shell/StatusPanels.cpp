@@ -27,8 +27,7 @@ PanelLabel::PanelLabel(const QString& name) {
 
 void PanelLabel::ShowText(const QString& text) {
     setText(text);
-    // As rich text, or a name with a < in it would be taken for a tag.
-    setToolTip(text.isEmpty() ? QString() : "<span>" + text.toHtmlEscaped() + "</span>");
+    setToolTip(ToolTipOf(text));
     repaint();
 }
 
