@@ -71,11 +71,12 @@ void CopyContent(const std::string& from, const std::string& to, const std::stri
 
 }  // namespace
 
-void DiskFiles::Move(const std::string& from, const std::string& to) {
+void DiskFiles::Move(const std::string& from, const std::string& to, Keep keep) {
     if (FolderExists(to))
         throw FileError("Cannot move " + from + ": " + to + " is a folder");
     if (::rename(from.c_str(), to.c_str()) == 0) {
-        disk::FlushFolderOf(to);
+        if (keep == Keep::Durably)
+            disk::FlushFolderOf(to);
         DropOtherLink(from, to);
     } else if (errno == EXDEV) {
         MoveAcross(from, to);

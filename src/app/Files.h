@@ -24,8 +24,10 @@ class SourceRemains : public FileError {
     using FileError::FileError;
 };
 
-/// Whether a written file must outlive a power cut. A scratch file is made anew with every image anyway.
-enum class Keep { Durably, AsScratch };
+/// Whether a written or moved file must outlive a power cut. A scratch file is made anew with every image
+/// anyway. `WithNext` leaves the flush of the folder, which takes as long as all the rest, to the next file
+/// that comes to the same folder at once: what is lost then is lost together.
+enum class Keep { Durably, AsScratch, WithNext };
 
 /// Every file operation of the program. Paths are UTF-8 text. All but the queries throw `FileError` when
 /// refused.
@@ -60,7 +62,7 @@ class Files {
 
     /// Moves a file, replacing `to`, and flushes the folder that it came to. Across file systems the copy is
     /// complete before the source goes.
-    virtual void Move(const std::string& from, const std::string& to) = 0;
+    virtual void Move(const std::string& from, const std::string& to, Keep keep = Keep::Durably) = 0;
 
     virtual void Delete(const std::string& path) = 0;
 };
@@ -76,7 +78,7 @@ class DiskFiles final : public Files {
     Bytes Read(const std::string& path) const override;
     void Write(const std::string& path, std::span<const std::byte> content, Keep keep) override;
     void Append(const std::string& path, std::string_view text) override;
-    void Move(const std::string& from, const std::string& to) override;
+    void Move(const std::string& from, const std::string& to, Keep keep = Keep::Durably) override;
     void Delete(const std::string& path) override;
 
   private:

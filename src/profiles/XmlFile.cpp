@@ -56,13 +56,13 @@ pugi::xml_document ReadXml(const app::Files& files, const std::string& path, Dec
 }
 
 void WriteXml(app::Files& files, const std::string& path, const pugi::xml_document& document,
-              XmlLayout layout) {
+              XmlLayout layout, app::Keep keep) {
     std::ostringstream text;
     if (layout == XmlLayout::Raw)
         document.save(text, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
     else
         document.save(text);
-    files.Write(path, app::AsBytes(text.str()));
+    files.Write(path, app::AsBytes(text.str()), keep);
 }
 
 std::string XmlText(std::string_view utf8) {

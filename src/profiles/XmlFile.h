@@ -29,7 +29,7 @@ pugi::xml_document ReadXml(const app::Files& files, const std::string& path, Dec
 
 /// Composes the text in memory and writes it as a whole. Throws `app::FileError`.
 void WriteXml(app::Files& files, const std::string& path, const pugi::xml_document& document,
-              XmlLayout layout);
+              XmlLayout layout, app::Keep keep = app::Keep::Durably);
 
 /// `utf8` as a document can hold it: control characters that XML has no way to write, and broken sequences,
 /// are replaced by U+FFFD.

@@ -44,7 +44,7 @@ void FormDelivery::StageResult(const ResultHeader& header, std::span<const MarkR
     if (files_.FolderExists(document.place))
         throw app::FileError("Cannot write " + document.place + ": a folder has that name");
     try {
-        SaveResultDocument(files_, document.hidden, header, readings);
+        SaveResultDocument(files_, document.hidden, header, readings, app::Keep::WithNext);
     } catch (const app::FileError& error) {
         // The operator knows the document by the name that it was to have.
         throw app::FileError(app::ReplaceFirst(error.what(), document.hidden, document.place));
@@ -61,7 +61,7 @@ bool FormDelivery::SetOutdatedAside(const std::string& image) {
     Waiting document = WaitingFor(false, image);
     if (!files_.FileExists(document.place) || ImageOfResult(files_, document.place) != image)
         return false;
-    files_.Move(document.place, document.hidden);
+    files_.Move(document.place, document.hidden, app::Keep::WithNext);
     waiting_ = std::move(document);
     return true;
 }
@@ -73,8 +73,9 @@ FormDelivery::Earlier FormDelivery::Deliver(const std::string& image) {
     else if (SetOutdatedAside(image))
         earlier = Earlier::Removed;
     const std::optional<Waiting> document = std::exchange(waiting_, std::nullopt);
+    const app::Keep keep = document && document->isNew ? app::Keep::WithNext : app::Keep::Durably;
     try {
-        files_.Move(folders_.ProcessIn + image, folders_.ProcessOut + image);
+        files_.Move(folders_.ProcessIn + image, folders_.ProcessOut + image, keep);
     } catch (const app::SourceRemains&) {
         if (document)
             Arrive(*document);
@@ -91,7 +92,7 @@ FormDelivery::Earlier FormDelivery::Deliver(const std::string& image) {
 
 void FormDelivery::Arrive(const Waiting& document) {
     if (document.isNew)
-        files_.Move(document.hidden, document.place);
+        files_.Move(document.hidden, document.place, app::Keep::Durably);
     else
         files_.Delete(document.hidden);
 }
@@ -100,7 +101,7 @@ void FormDelivery::TakeBack(const Waiting& document) {
     if (document.isNew || files_.FileExists(document.place))
         files_.Delete(document.hidden);
     else
-        files_.Move(document.hidden, document.place);
+        files_.Move(document.hidden, document.place, app::Keep::Durably);
 }
 
 // Why the image did not move is what has to be told; the document waits for the next run.

@@ -102,8 +102,8 @@ std::string ResultPath(const std::string& folder, const std::string& imageName) 
 }
 
 void SaveResultDocument(app::Files& files, const std::string& path, const ResultHeader& header,
-                        std::span<const MarkReading> readings) {
-    profiles::WriteXml(files, path, Compose(header, readings), profiles::XmlLayout::Indented);
+                        std::span<const MarkReading> readings, app::Keep keep) {
+    profiles::WriteXml(files, path, Compose(header, readings), profiles::XmlLayout::Indented, keep);
 }
 
 std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::string& path) {

@@ -75,7 +75,7 @@ std::string ResultPath(const std::string& folder, const std::string& imageName);
 
 /// Composes and writes a result document, replacing an earlier one as a whole. Throws `app::FileError`.
 void SaveResultDocument(app::Files& files, const std::string& path, const ResultHeader& header,
-                        std::span<const MarkReading> readings);
+                        std::span<const MarkReading> readings, app::Keep keep = app::Keep::Durably);
 
 /// Name and state of every box of a written result document, in its order. Throws `profiles::DocumentError`
 /// or `app::FileError`.

@@ -79,6 +79,11 @@ TEST_F(StartupTest, AThresholdOfZeroTurnsTheDisplayOn) {
     store_.values["DisplayDuringProcess"] = "0";
     Start();
     EXPECT_FALSE(settings_.DisplayDuringProcess);
+    store_.values.erase("FillThreshold");
+    store_.isReadOnly = true;
+    Start();
+    EXPECT_EQ(settings_.FillThreshold, 8);
+    EXPECT_TRUE(settings_.DisplayDuringProcess) << "what was applied is in force, stored or not";
 }
 
 TEST_F(StartupTest, RemovesWhatAKilledInstanceWasWriting) {

@@ -39,10 +39,10 @@ class FaultyFiles final : public app::Files {
         Check("append", path);
         disk_.Append(path, text);
     }
-    void Move(const std::string& from, const std::string& to) override {
+    void Move(const std::string& from, const std::string& to, app::Keep keep = app::Keep::Durably) override {
         Check("move", from);
         if (!isElsewhere || !isElsewhere(from)) {
-            disk_.Move(from, to);
+            disk_.Move(from, to, keep);
             return;
         }
         disk_.Write(to, disk_.Read(from), app::Keep::Durably);
