@@ -20,17 +20,16 @@ QString KeyOf(std::string_view section, std::string_view name) {
 // quotes, for a list, and the blanks around the comma are lost.
 QString TextByHand(const QString& path, std::string_view section, std::string_view name) {
     QFile file(path);
-    const QString start = ToQt(name) + '=';
     const QString heading = '[' + ToQt(section) + ']';
     bool isInside = false;
     if (!file.open(QIODevice::ReadOnly))
         return {};
     for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        const QString text = line.trimmed();
-        if (text.startsWith('['))
-            isInside = text == heading;
-        else if (isInside && text.startsWith(start))
-            return text.mid(start.size()).trimmed();
+        const qsizetype equals = line.indexOf('=');
+        if (line.startsWith('['))
+            isInside = line.trimmed() == heading;
+        else if (isInside && equals >= 0 && line.left(equals).trimmed() == ToQt(name))
+            return line.mid(equals + 1).trimmed();
     }
     return {};
 }

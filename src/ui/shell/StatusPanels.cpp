@@ -5,6 +5,8 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
