@@ -36,8 +36,7 @@ class FormDeliveryTest : public test::RunWorld {
 
     // The program as it starts anew.
     void StartAgain() {
-        recognition::ProcessRun({files_, log_, person_, clock_, screen_, screen_, screen_}, settings_,
-                                folders_)
+        recognition::ProcessRun({files_, log_, person_, clock_, screen_, screen_}, settings_, folders_)
             .Settle();
     }
 
