@@ -50,9 +50,8 @@ class IconsTest : public testing::Test {
         return image;
     }
 
-    // The colours that a picture is painted in, without the shades along its edges. At this size the strokes
-    // end between two pixels, so that a shade covers
-    // less than a hundredth.
+    // The colours that a picture is painted in, without the shades along its edges: at this size the strokes
+    // end between two pixels, and a shade covers less than a hundredth.
     std::vector<QColor> InksOf(std::string_view name) {
         const QImage image = Painted(name, 384);
         std::map<QRgb, int> pixels;

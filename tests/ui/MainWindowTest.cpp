@@ -1,8 +1,10 @@
+#include <QDesktopServices>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QTextBrowser>
 
 #include "ui/DeskWindow.h"
 
@@ -194,6 +196,27 @@ TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
     Find<QAction>(*window_, "ToolbarLabels").trigger();
     QApplication::processEvents();
     EXPECT_LT(Button(*window_, "MainToolbar", "New").height(), 40);
+}
+
+TEST_F(MainWindowTest, OpensTheFolderInUseAndTheNewestLogOnTheDesktop) {
+    Open();
+    QTextBrowser desktop;  // takes what is to be opened
+    QDesktopServices::setUrlHandler("file", &desktop, "setSource");
+    const auto opened = [&](const char* key) {
+        desktop.setSource(QUrl());
+        Find<QAction>(*window_, key).trigger();
+        return FromQt(desktop.source().toLocalFile());
+    };
+    EXPECT_EQ(opened("OpenWorkingFolder") + "/ProcessIn/", folders_.ProcessIn);
+    for (const std::string& name : In(folders_.Log))
+        files_.Delete(folders_.Log + name);
+    EXPECT_EQ(opened("OpenLog"), folders_.Log);
+    test::WriteText(folders_.Log + "TavreneBoxes-Profile-20990101.Log", "");
+    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Profile-20990101.Log");
+    test::WriteText(folders_.Log + "TavreneBoxes-Process-20240229.Log", "");
+    test::WriteText(folders_.Log + "TavreneBoxes-Process-20231231.Log", "");
+    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Process-20240229.Log");
+    QDesktopServices::unsetUrlHandler("file");
 }
 
 TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {

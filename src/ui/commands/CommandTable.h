@@ -31,6 +31,8 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    OpenWorkingFolder,
+    OpenLog,
     ToolbarLabels,
     Settings,
     Exit,

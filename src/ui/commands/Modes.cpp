@@ -41,7 +41,7 @@ const Rule kRules[] = {
     {{C::RenameBox, C::Undo, C::Redo}, "P"},
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
-    {{C::ToolbarLabels, C::Settings, C::About}, kIdle},
+    {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},
     {{C::Exit}, kLetters, Prompts::FormThenProfile},
 
     {{C::PickThumbnail}, "SDUP", Prompts::Profile},

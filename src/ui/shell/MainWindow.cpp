@@ -1,16 +1,20 @@
 #include "ui/shell/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QSplitter>
+#include <QUrl>
 #include <utility>
 
 #include "imaging/Bitmap.h"
+#include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
 #include "ui/commands/WindowLoad.h"
 #include "ui/settings/SettingsDialog.h"
+#include "ui/shell/AboutDialog.h"
 
 namespace tavrene::ui {
 namespace {
@@ -85,8 +89,9 @@ void MainWindow::BuildLayout() {
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
-    setMinimumSize(800, 560);
-    resize(1280, 800);
+    // A laptop at twice the scale has no more room than this.
+    setMinimumSize(640, 320);
+    ResizeWithinScreen(*this, {1280, 800});
 }
 
 void MainWindow::ConnectViewCommands() {
@@ -107,7 +112,11 @@ void MainWindow::ConnectCommands() {
     gate_.SetHandler(Command::Process, [this] { runs_.Process(); });
     gate_.SetHandler(Command::Stop, [this] { runs_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
-    gate_.SetHandler(Command::About, [this] { ShowAbout(); });
+    gate_.SetHandler(Command::OpenWorkingFolder,
+                     [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
+    gate_.SetHandler(Command::OpenLog,
+                     [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
+    gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
     gate_.SetAfterwards([this] {
         UpdateCommands();
         runs_.CloseIfWaiting();
@@ -165,11 +174,9 @@ void MainWindow::ShowSettings() {
     });
 }
 
-void MainWindow::ShowAbout() {
-    QMessageBox::about(this, "About " + ToQt(app::kApplicationName),
-                       "<h3>" + ToQt(app::kApplicationName) +
-                           "</h3><p>Version " TAVRENE_VERSION
-                           "</p><p>Reads the check boxes of scanned paper forms.</p>");
+void MainWindow::OpenOnDesktop(const std::string& path) {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path))))
+        operator_.ShowMessage("", "This desktop has no program that opens " + path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
