@@ -82,6 +82,35 @@ void RenameOver(const std::string& from, const std::string& to, std::string_view
     }
 }
 
+// A rename is on the disk when its folder is. Some file systems refuse to flush a folder; the file is in its
+// place all the same, so that is no failure.
+void FlushFolderOf(const std::string& path) {
+    const std::string folder = FromPath(ToPath(path).parent_path() / ".");
+    const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.Number() >= 0)
+        ::fsync(open.Number());
+}
+
+// The names of a folder's entries that are not hidden and that `wanted(entry, name)` takes, ordered by their
+// lower-cased form.
+template <typename Wanted>
+std::vector<std::string> NamesIn(const std::string& folder, const Wanted& wanted) {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (fs::directory_iterator entry(ToPath(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::string name = FromPath(entry->path().filename());
+        if (!name.starts_with('.') && wanted(*entry, name))
+            names.push_back(std::move(name));
+    }
+    if (error)
+        Refuse("list the folder", folder, error.value());
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return std::pair(LowerCase(a), a) < std::pair(LowerCase(b), b);
+    });
+    return names;
+}
+
 }  // namespace
 
 bool DiskFiles::FileExists(const std::string& path) const {
@@ -102,29 +131,31 @@ std::string DiskFiles::Fingerprint(const std::string& path) const {
            std::to_string(status.st_mtim.tv_nsec) + "-" + std::to_string(status.st_ino);
 }
 
+std::optional<LocalTime> DiskFiles::WrittenAt(const std::string& path) const {
+    struct ::stat status {};
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return ToLocalTime(status.st_mtim.tv_sec);
+}
+
 void DiskFiles::CreateFolder(const std::string& path) {
     if (::mkdir(path.c_str(), 0777) != 0)
         Refuse("create the folder", path, errno);
 }
 
 std::vector<std::string> DiskFiles::List(const std::string& folder, std::string_view pattern) const {
-    std::error_code error;
-    const std::string wanted(pattern);
-    std::vector<std::string> names;
-    for (fs::directory_iterator entry(ToPath(folder), error), end; !error && entry != end;
-         entry.increment(error)) {
+    return NamesIn(folder, [wanted = std::string(pattern)](const fs::directory_entry& entry,
+                                                           const std::string& name) {
         std::error_code ignored;
-        std::string name = FromPath(entry->path().filename());
-        if (!name.starts_with('.') && entry->is_regular_file(ignored) &&
-            ::fnmatch(wanted.c_str(), name.c_str(), FNM_CASEFOLD) == 0)
-            names.push_back(std::move(name));
-    }
-    if (error)
-        Refuse("list the folder", folder, error.value());
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        return std::pair(LowerCase(a), a) < std::pair(LowerCase(b), b);
+        return entry.is_regular_file(ignored) && ::fnmatch(wanted.c_str(), name.c_str(), FNM_CASEFOLD) == 0;
     });
-    return names;
+}
+
+std::vector<std::string> DiskFiles::ListFolders(const std::string& folder) const {
+    return NamesIn(folder, [](const fs::directory_entry& entry, const std::string&) {
+        std::error_code ignored;
+        return entry.is_directory(ignored) && !entry.is_symlink(ignored);
+    });
 }
 
 Bytes DiskFiles::Read(const std::string& path) const {
@@ -161,6 +192,8 @@ void DiskFiles::Write(const std::string& path, std::span<const std::byte> conten
         throw FileError(text);
     }
     RenameOver(temporary, path, "write");
+    if (keep == Keep::Durably)
+        FlushFolderOf(path);
 }
 
 void DiskFiles::Append(const std::string& path, std::string_view text) {
@@ -170,8 +203,10 @@ void DiskFiles::Append(const std::string& path, std::string_view text) {
 }
 
 void DiskFiles::Move(const std::string& from, const std::string& to) {
-    if (::rename(from.c_str(), to.c_str()) == 0)
+    if (::rename(from.c_str(), to.c_str()) == 0) {
+        FlushFolderOf(to);
         return;
+    }
     if (errno != EXDEV)
         Refuse("move", from, errno);
     Write(to, Read(from), Keep::Durably);

@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "app/Clock.h"
 
 namespace tavrene::app {
 
@@ -34,6 +37,9 @@ class Files {
     /// not read. Empty when there is no such file.
     virtual std::string Fingerprint(const std::string& path) const = 0;
 
+    /// When the file was last written, by the local clock; none when there is no such file.
+    virtual std::optional<LocalTime> WrittenAt(const std::string& path) const = 0;
+
     /// Creates one folder; its parent must exist.
     virtual void CreateFolder(const std::string& path) = 0;
 
@@ -41,17 +47,22 @@ class Files {
     /// lower-cased name. Sub-folders and names with a leading dot are left out.
     virtual std::vector<std::string> List(const std::string& folder, std::string_view pattern) const = 0;
 
+    /// Names of the folders in `folder`, in the same order. Hidden ones are left out, and links too, since
+    /// they can lead round in circles.
+    virtual std::vector<std::string> ListFolders(const std::string& folder) const = 0;
+
     virtual Bytes Read(const std::string& path) const = 0;
 
-    /// Writes a whole file: to a temporary neighbour, flushed unless it is scratch, then renamed over `path`,
-    /// so that `path` holds either its old or its new content at any moment.
+    /// Writes a whole file: to a temporary neighbour, then renamed over `path`, so that `path` holds either
+    /// its old or its new content at any moment. File and folder are flushed unless it is scratch.
     virtual void Write(const std::string& path, std::span<const std::byte> content,
                        Keep keep = Keep::Durably) = 0;
 
     /// Appends to a file, creating it when it is missing; opened and closed within the call.
     virtual void Append(const std::string& path, std::string_view text) = 0;
 
-    /// Moves a file, replacing `to`. Across file systems the copy is complete before the source goes.
+    /// Moves a file, replacing `to`, and flushes the folder that it came to. Across file systems the copy is
+    /// complete before the source goes.
     virtual void Move(const std::string& from, const std::string& to) = 0;
 
     virtual void Delete(const std::string& path) = 0;
@@ -63,8 +74,10 @@ class DiskFiles final : public Files {
     bool FileExists(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
     std::string Fingerprint(const std::string& path) const override;
+    std::optional<LocalTime> WrittenAt(const std::string& path) const override;
     void CreateFolder(const std::string& path) override;
     std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override;
+    std::vector<std::string> ListFolders(const std::string& folder) const override;
     Bytes Read(const std::string& path) const override;
     void Write(const std::string& path, std::span<const std::byte> content, Keep keep) override;
     void Append(const std::string& path, std::string_view text) override;

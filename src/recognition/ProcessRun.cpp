@@ -51,7 +51,6 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
 }
 
 void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
-    app::ToleratedLogFailures tolerated(context_.log);
     const app::ScopedFlag running(running_);
     stop_ = false;
     filesDone_ = 0;
@@ -63,7 +62,7 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     context_.rows.ClearRows(profiles::BoxColumns::NameVal);
     TakeFiles(profiles);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
-    Finish(start, tolerated.TakeLostLines());
+    Finish(start);
 }
 
 std::vector<std::string> ProcessRun::ListImages() {
@@ -130,13 +129,14 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     const imaging::Page& page = *outcome.page;
     if (const std::string failure = scratch_.WritePage(page); !failure.empty())
         LogAbout(name, failure);
-    Classification classification = ClassifyImage(name, page, profiles, context_.log);
+    Classification classification = ClassifyImage(page, profiles);
+    context_.log.LogProcessEvent(ClassificationLine(name, classification, profiles));
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
-    SpreadShifts(profiles[winner], match.Shifts);
-    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    SpreadShifts(profiles[winner], match.shifts);
+    outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
 }
 
@@ -215,7 +215,7 @@ void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
     context_.log.LogProcessEvent(name + ": " + what);
 }
 
-void ProcessRun::Finish(double start, int lostLogLines) {
+void ProcessRun::Finish(double start) {
     context_.person.SetProgress(0);
     const long seconds = std::lround(context_.clock.Seconds() - start);
     if (stop_) {
@@ -227,10 +227,9 @@ void ProcessRun::Finish(double start, int lostLogLines) {
     const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";
     context_.person.SetPanel(Panel::ElapsedTime, summary);
     context_.log.LogProcessEvent("Processed " + summary);
-    if (lostLogLines > 0)
-        context_.person.ShowMessage("", std::to_string(lostLogLines) +
-                                            " lines could not be written to the process log in " +
-                                            folders_.Log);
+    if (const int lost = context_.log.TakeLostLines(); lost > 0)
+        context_.person.ShowMessage(
+            "", std::to_string(lost) + " lines could not be written to the process log in " + folders_.Log);
 }
 
 }  // namespace tavrene::recognition

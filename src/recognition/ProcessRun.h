@@ -65,7 +65,7 @@ class ProcessRun {
     void TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier);
     std::optional<app::Bytes> RemoveOutdatedResult(const std::string& name);
     void LogAbout(const std::string& name, const std::string& what);
-    void Finish(double start, int lostLogLines);
+    void Finish(double start);
 
     RunContext context_;
     const app::Settings& settings_;

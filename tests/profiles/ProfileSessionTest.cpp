@@ -295,5 +295,13 @@ TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     EXPECT_PRED2(Has, ReadText(PathOf("A")), "Count=\"4\"");
 }
 
+TEST_F(ProfileSessionTest, AFailingLogCostsOnlyItsLines) {
+    AddProfiles({"A"});
+    files_.refuse = [](const std::string& operation, const std::string&) { return operation == "append"; };
+    OpenAndEdit(1);
+    EXPECT_TRUE(session_.Save());
+    EXPECT_GE(log_.TakeLostLines(), 2) << "opened, and saved";
+}
+
 }  // namespace
 }  // namespace tavrene::profiles

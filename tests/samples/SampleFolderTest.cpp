@@ -4,13 +4,14 @@
 #include "GroundTruth.h"
 #include "outcome/Comparison.h"
 #include "support/RunWorld.h"
+#include "support/SourceFolder.h"
 
 namespace tavrene {
 namespace {
 
 using Names = std::vector<std::string>;
 
-const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+const std::string kSamples = test::SourceFolder() + "/samples/";
 
 /// The committed samples: what the tour shows and what a newcomer tries first.
 using SampleFolderTest = test::RunWorld;

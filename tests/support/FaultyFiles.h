@@ -16,6 +16,9 @@ class FaultyFiles final : public app::Files {
     bool FileExists(const std::string& path) const override { return disk_.FileExists(path); }
     bool FolderExists(const std::string& path) const override { return disk_.FolderExists(path); }
     std::string Fingerprint(const std::string& path) const override { return disk_.Fingerprint(path); }
+    std::optional<app::LocalTime> WrittenAt(const std::string& path) const override {
+        return disk_.WrittenAt(path);
+    }
     void CreateFolder(const std::string& path) override {
         Check("create", path);
         disk_.CreateFolder(path);
@@ -23,6 +26,10 @@ class FaultyFiles final : public app::Files {
     std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override {
         Check("list", folder);
         return disk_.List(folder, pattern);
+    }
+    std::vector<std::string> ListFolders(const std::string& folder) const override {
+        Check("list", folder);
+        return disk_.ListFolders(folder);
     }
     app::Bytes Read(const std::string& path) const override {
         Check("read", path);

@@ -58,13 +58,12 @@ bool CommandGate::MayGoOn(Prompts prompts) const {
 
 void CommandGate::Guard(const std::function<void()>& event) {
     ++depth_;
-    app::ToleratedLogFailures tolerated(context_.log);
     try {
         event();
     } catch (const std::exception& failure) {
         context_.person.ShowMessage("", failure.what());
     }
-    if (tolerated.TakeLostLines() > 0)
+    if (context_.log.TakeLostLines() > 0)
         context_.person.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
     if (--depth_ == 0 && afterwards_)
         afterwards_();

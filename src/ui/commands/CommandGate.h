@@ -46,8 +46,8 @@ class CommandGate {
     /// The same with a handler of the moment: what the person does in a list or view.
     void Take(Command command, const std::function<void()>& event);
 
-    /// Runs what is no command of the person; an exception ends it with a message. A log that cannot be
-    /// written stops nothing: the `Message` panel says so afterwards.
+    /// Runs what is no command of the person; an exception ends it with a message. Lines that
+    /// were lost to the log are told in the `Message` panel afterwards.
     void Guard(const std::function<void()>& event);
 
   private:
