@@ -129,8 +129,8 @@ commands::Mode MainWindow::CurrentMode() const {
                              .isInReview = review.IsOn(),
                              .wasInReview = review.WasOn(),
                              .hasForm = review.HasForm(),
-                             .hasProfile = desk_.HasProfile(),
-                             .canEdit = desk_.CanEdit()});
+                             .hasProfile = desk_.Session().HasProfile(),
+                             .canEdit = desk_.Session().IsOpen()});
 }
 
 // What it says and shows belongs to the run from here on, before its first file.
