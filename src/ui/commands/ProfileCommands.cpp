@@ -28,7 +28,7 @@ void ProfileCommands::New() {
         return;
     }
     if (context_.store.Create(*path, *image, boxes::SizesOf(state_.settings), state_.reach))
-        TellMore();
+        TellMore({}, context_.offerMore());
 }
 
 void ProfileCommands::Save() {
@@ -68,9 +68,11 @@ void ProfileCommands::ForgetNotes() {
     context_.store.TakeNotes();
 }
 
-void ProfileCommands::TellMore(const std::string& heading) {
+void ProfileCommands::TellMore(const std::string& heading, const std::string& offer) {
     std::string text = heading;
     const auto add = [&text](const std::string& sentence) { text += (text.empty() ? "" : " ") + sentence; };
+    if (!offer.empty())
+        add(offer);
     for (const std::string& note : context_.store.TakeNotes())
         add(note);
     for (const std::string& advice : recognition::AdviseOn(context_.profile))

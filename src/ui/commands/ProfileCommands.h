@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "app/FileDialogs.h"
@@ -16,6 +17,9 @@ struct ProfileContext {
     app::Operator& person;
     app::FileDialogs& dialogs;
     imaging::PageScreen& page;
+
+    /// What is to be said of boxes that a new profile may lack; empty for nothing.
+    std::function<std::string()> offerMore;
 };
 
 /// The commands `New`, `Save` and `Delete` and the events of the thumbnail strip. After the texts of a
@@ -46,7 +50,7 @@ class ProfileCommands {
 
   private:
     void ForgetNotes();
-    void TellMore(const std::string& heading = {});
+    void TellMore(const std::string& heading = {}, const std::string& offer = {});
 
     const AppState& state_;
     ProfileContext context_;

@@ -16,7 +16,10 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       editor_(profile_, context.person, screen_),
       store_({context.files, context.person, context.log, context.clock, state.folders}, profile_,
              state.profiles, editor_, screen_),
-      commands_(state, {store_, profile_, context.person, context.dialogs, controls.view}) {
+      more_({context.files, context.person, state, profile_, editor_, controls.view, controls.candidates},
+            [this](const std::function<void()>& event) { gate_.Take(event); }),
+      commands_(state, {store_, profile_, context.person, context.dialogs, controls.view,
+                        [this] { return more_.Offer(); }}) {
     editor_.SetMayStore([this] { return !state_.processing; });
     ConnectCommands();
     ConnectBoxCommands();
@@ -53,6 +56,13 @@ void ProfileDesk::ConnectBoxCommands() {
         Command::Undo, [this] { editor_.Undo(); }, [this] { return editor_.CanUndo(); });
     gate_.SetHandler(
         Command::Redo, [this] { editor_.Redo(); }, [this] { return editor_.CanRedo(); });
+    gate_.SetHandler(
+        Command::FindMoreBoxes,
+        [this] {
+            const BusyCursor busy;
+            more_.Find();
+        },
+        canEdit);
 }
 
 void ProfileDesk::ConnectControls() {
@@ -61,7 +71,12 @@ void ProfileDesk::ConnectControls() {
                                     gate_.Take([&] { editor_.RowRenamed(number, FromQt(name)); });
                                 }});
     controls_.view.Boxes().SetListener(
-        {[this](const imaging::RectReport& report) { gate_.Take([&] { editor_.RectSelected(report); }); },
+        {[this](const imaging::RectReport& report) {
+             gate_.Take([&] {
+                 if (!more_.Clicked(report.group))
+                     editor_.RectSelected(report);
+             });
+         },
          [this](int group) { gate_.Take([&] { editor_.RectMoved(group); }); }});
     controls_.view.SetArrowHandler([this](int dx, int dy) {
         const bool isTaken = CanEdit() && HasBox();
@@ -72,6 +87,7 @@ void ProfileDesk::ConnectControls() {
     controls_.pane.Strip().SetListener({[this](int k) {
                                             gate_.Take([&] {
                                                 const BusyCursor busy;
+                                                more_.Close();
                                                 commands_.ThumbnailSelected(k);
                                             });
                                         },
@@ -101,6 +117,7 @@ void ProfileDesk::FinishEdits() {
 
 void ProfileDesk::Update() {
     offersFile_ = offersFile_ || !profile_.Path.empty();
+    more_.Update();
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());

@@ -10,6 +10,7 @@
 #include "ui/commands/ProfileCommands.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
+#include "ui/profiling/MoreBoxes.h"
 #include "ui/profiling/ProfilePane.h"
 
 namespace tavrene::ui {
@@ -29,6 +30,7 @@ struct DeskControls {
     ImageView& view;
     BoxListView& rows;
     ProfilePane& pane;
+    CandidatePane& candidates;
 };
 
 /// The window's profile desk: puts store, editor and commands together and connects them to the controls.
@@ -47,6 +49,9 @@ class ProfileDesk {
 
     /// Closes it for review: `Save` and `Delete` are offered again with the next profile.
     void Leave();
+
+    /// Takes what may be more boxes off the screen; false when nothing of it was shown.
+    bool CloseCandidates() { return more_.Close(); }
 
     /// Brings what is being typed or dragged to an end, before a command.
     void FinishEdits();
@@ -71,6 +76,7 @@ class ProfileDesk {
     profiles::ProfileScreen screen_;
     profiles::BoxEditor editor_;
     profiles::ProfileStore store_;
+    MoreBoxes more_;
     commands::ProfileCommands commands_;
     bool offersFile_ = true;
 };
