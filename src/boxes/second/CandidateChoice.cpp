@@ -1,8 +1,8 @@
 #include "boxes/second/CandidateChoice.h"
 
 #include <algorithm>
+#include <tuple>
 
-#include "boxes/PointIndex.h"
 #include "boxes/PrintInBoxes.h"
 
 namespace tavrene::boxes {
@@ -108,7 +108,12 @@ int Choice::OddsOf(const Proposal& proposal) const {
     return 0;
 }
 
-// Boxes that were chosen, findable by place.
+// The most probable first, those as probable from the top of the page down and from left to right.
+bool IsBefore(const Candidate& a, const Candidate& b) {
+    return std::tuple(-a.Odds, -a.Box.T, a.Box.L) < std::tuple(-b.Odds, -b.Box.T, b.Box.L);
+}
+
+// Boxes that were chosen.
 class Chosen {
   public:
     void Add(const BoxRect& box) { boxes_.push_back(box); }
@@ -136,8 +141,7 @@ std::vector<Candidate> ChooseCandidates(const std::vector<Proposal>& proposals,
         if (const int odds = choice.OddsOf(proposal); odds > 0)
             likely.push_back({proposal.Ruled.Box, odds});
     }
-    std::stable_sort(likely.begin(), likely.end(),
-                     [](const Candidate& a, const Candidate& b) { return a.Odds > b.Odds; });
+    std::stable_sort(likely.begin(), likely.end(), IsBefore);
     Chosen chosen;
     for (const BoxRect& box : there)
         chosen.Add(box);

@@ -6,6 +6,8 @@
 namespace tavrene::ui {
 namespace {
 
+constexpr int kRowMargin = 6;
+
 int IdOf(const QListWidgetItem* row) {
     return row == nullptr ? 0 : row->data(Qt::UserRole).toInt();
 }
@@ -52,6 +54,7 @@ void CandidatePane::ShowRows(const QString& heading, const std::vector<Row>& row
     for (const Row& row : rows) {
         auto* const item = new QListWidgetItem(row.text, list_);
         item->setData(Qt::UserRole, row.id);
+        item->setSizeHint({0, fontMetrics().height() + kRowMargin});
     }
     setVisible(!heading.isEmpty());
     if (rows.empty())
