@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -108,13 +109,19 @@ void PrintLedger(const std::vector<ScoreRow>& rows) {
                     row.First.False, row.Second.Right, row.Second.False);
 }
 
+// Recall and false boxes; a page without boxes has no recall.
+std::string Cell(const Tally& tally) {
+    std::array<char, 16> recall{};
+    std::snprintf(recall.data(), recall.size(), "%.1f", tally.Recall());
+    return (tally.True == 0 ? "-" : std::string(recall.data())) + ", " + std::to_string(tally.False);
+}
+
 void PrintMarkdown(const std::vector<ScoreRow>& rows) {
     std::printf("| class, outline | boxes | rules: recall, false | first look | with the second look |\n");
     std::printf("|---|---|---|---|---|\n");
     for (const ScoreRow& row : rows)
-        std::printf("| %s | %zu | %.1f, %zu | %.1f, %zu | %.1f, %zu |\n", row.Name.c_str(), row.First.True,
-                    row.Rules.Recall(), row.Rules.False, row.First.Recall(), row.First.False,
-                    row.Second.Recall(), row.Second.False);
+        std::printf("| %s | %zu | %s | %s | %s |\n", row.Name.c_str(), row.First.True, Cell(row.Rules).c_str(),
+                    Cell(row.First).c_str(), Cell(row.Second).c_str());
 }
 
 void Run(const Options& options) {
