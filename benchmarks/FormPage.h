@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/ActivityLog.h"
+#include "app/FileDialogs.h"
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
@@ -15,17 +17,23 @@ namespace tavrene::bench {
 
 /// A 300 dpi A4 form of text and 100 boxes.
 struct FormPage {
-    std::string file;                  ///< The one-bit scan, every third box ticked.
-    profiles::ProfileRecord profile;   ///< Matches at once.
-    profiles::ProfileRecord stranger;  ///< Never matches: its boxes are of another size.
+    std::string file;                     ///< The one-bit scan, every third box ticked.
+    std::vector<profiles::OmrBox> boxes;  ///< The profile's, as its document has them.
+    profiles::ProfileRecord profile;      ///< Matches at once.
+    profiles::ProfileRecord stranger;     ///< Never matches: its boxes are of another size.
 };
 
 /// Painted once for the life of the program.
 const FormPage& TheFormPage();
 
 /// A screen and an operator that nobody looks at.
-class Nobody final : public app::Operator, public imaging::PageScreen, public profiles::BoxRows {
+class Nobody final : public app::Operator,
+                     public app::FileDialogs,
+                     public imaging::PageScreen,
+                     public profiles::BoxRows {
   public:
+    std::optional<std::string> AskSaveFile(const app::FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskOpenFile(const app::FileQuestion&) override { return std::nullopt; }
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
     app::Answer AskYesNo(std::string_view) override { return app::Answer::No; }

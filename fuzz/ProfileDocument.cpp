@@ -24,8 +24,10 @@ class OneFile final : public tavrene::app::Files {
     bool FileExists(const std::string&) const override { return true; }
     bool FolderExists(const std::string&) const override { return true; }
     std::string Fingerprint(const std::string&) const override { return {}; }
+    std::optional<tavrene::app::LocalTime> WrittenAt(const std::string&) const override { return {}; }
     void CreateFolder(const std::string&) override {}
     std::vector<std::string> List(const std::string&, std::string_view) const override { return {}; }
+    std::vector<std::string> ListFolders(const std::string&) const override { return {}; }
     Bytes Read(const std::string&) const override { return content; }
     void Write(const std::string&, std::span<const std::byte> bytes, tavrene::app::Keep) override {
         content.assign(bytes.begin(), bytes.end());

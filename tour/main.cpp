@@ -9,7 +9,7 @@
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
 #include "samples/GroundTruth.h"
-#include "tour/Comparison.h"
+#include "samples/outcome/Comparison.h"
 #include "tour/Driver.h"
 #include "tour/Filling.h"
 #include "ui/base/QtText.h"
@@ -59,12 +59,12 @@ int Drive(const std::string& samplesFolder, const std::string& folder, const std
     tour::Driver driver(program.Window(), ui::ToQt(shotsFolder));
     driver.Drive();
     const app::WorkingFolders folders = app::PathsUnder(folder);
-    const auto comparisons = tour::CompareWithTruth(app::DiskFiles(), folders, truth);
-    std::cout << tour::TableOf(comparisons);
+    const auto comparisons = samples::CompareWithTruth(app::DiskFiles(), folders, truth);
+    std::cout << samples::TableOf(comparisons);
     PrintPlaces(folders, driver.Shots());
     const bool good = std::all_of(
         comparisons.begin(), comparisons.end(),
-        [](const tour::Comparison& comparison) { return comparison.verdict != tour::Verdict::Wrong; });
+        [](const samples::Comparison& comparison) { return comparison.verdict != samples::Verdict::Wrong; });
     return good ? 0 : 1;
 }
 

@@ -8,9 +8,11 @@ BEGIN {
     may["profiles"] = " boxes imaging app "
     may["recognition"] = " profiles imaging app "
     may["review"] = " recognition profiles imaging app "
-    may["ui/commands"] = " review recognition profiles boxes imaging app "
+    may["results"] = " recognition profiles imaging app "
+    may["intake"] = " imaging app "
+    may["ui/commands"] = " review results intake recognition profiles boxes imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.
-    engine = " ui/commands review recognition profiles boxes imaging app "
+    engine = " ui/commands review results intake recognition profiles boxes imaging app "
     may["ui/base"] = engine
     may["ui/page"] = " ui/base" engine
     may["ui/lists"] = " ui/base" engine
@@ -23,6 +25,8 @@ BEGIN {
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "
+    knows["libxlsxwriter"] = " results "
+    knows["Poppler"] = " intake "
     knows["platform"] = " app imaging ui/shell "
     faults = 0
 }
@@ -62,6 +66,10 @@ function library(header) {
         return "libtiff"
     if (header ~ /^pugi/)
         return "pugixml"
+    if (header ~ /^poppler\//)
+        return "Poppler"
+    if (header ~ /^xlsxwriter/)
+        return "libxlsxwriter"
     if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|windows|io)\.h$/)
         return "platform"
     return ""

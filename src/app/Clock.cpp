@@ -1,15 +1,17 @@
 #include "app/Clock.h"
 
 #include <chrono>
-#include <ctime>
 
 namespace tavrene::app {
 
-LocalTime SystemClock::Now() const {
-    const std::time_t now = std::time(nullptr);
+LocalTime ToLocalTime(std::time_t time) {
     std::tm parts{};
-    localtime_r(&now, &parts);
+    localtime_r(&time, &parts);
     return {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec};
+}
+
+LocalTime SystemClock::Now() const {
+    return ToLocalTime(std::time(nullptr));
 }
 
 double SystemClock::Seconds() const {

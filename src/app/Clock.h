@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ctime>
+
 namespace tavrene::app {
 
 /// A moment of the local calendar; months and days count from 1, hours from 0 to 23.
@@ -11,6 +13,9 @@ struct LocalTime {
     int minute = 0;
     int second = 0;
 };
+
+/// The local calendar's moment of a system time.
+LocalTime ToLocalTime(std::time_t time);
 
 /// Where the program takes its time from.
 class Clock {

@@ -3,23 +3,13 @@
 #include <FreeImage.h>
 
 #include <cmath>
-#include <cstring>
-#include <memory>
 #include <stdexcept>
 #include <utility>
 
+#include "imaging/LibraryHandles.h"
 #include "imaging/TiffMessages.h"
 
 namespace tavrene::imaging {
-namespace {
-
-struct CloseMemory {
-    void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
-};
-using Memory = std::unique_ptr<FIMEMORY, CloseMemory>;
-
-}  // namespace
-
 std::string ImageLibraryVersion() {
     const char* const version = FreeImage_GetVersion();
     return version == nullptr ? std::string() : std::string(version);
@@ -84,9 +74,7 @@ void MakeInkDark(Bitmap& bitmap) {
 
 Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decode extent) {
     ListenToTiffLibrary();
-    // The library does not write to the memory that it reads from.
-    auto* const bytes = const_cast<BYTE*>(reinterpret_cast<const BYTE*>(content.data()));
-    const Memory memory(FreeImage_OpenMemory(bytes, static_cast<DWORD>(content.size())));
+    const MemoryHandle memory = MemoryOver(content);
     const int flags = extent == Decode::HeaderOnly ? FIF_LOAD_NOPIXELS : 0;
     Bitmap bitmap(FreeImage_LoadFromMemory(static_cast<FREE_IMAGE_FORMAT>(format), memory.get(), flags));
     return TiffWasDamaged() ? Bitmap() : std::move(bitmap);
@@ -94,15 +82,10 @@ Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decod
 
 app::Bytes EncodeGroup4Tiff(const Bitmap& bitmap) {
     ListenToTiffLibrary();
-    const Memory memory(FreeImage_OpenMemory());
-    BYTE* data = nullptr;
-    DWORD size = 0;
-    if (!FreeImage_SaveToMemory(FIF_TIFF, bitmap.Get(), memory.get(), TIFF_CCITTFAX4) ||
-        !FreeImage_AcquireMemory(memory.get(), &data, &size))
+    const MemoryHandle memory = NewMemory();
+    if (!FreeImage_SaveToMemory(FIF_TIFF, bitmap.Get(), memory.get(), TIFF_CCITTFAX4))
         throw std::runtime_error("The image library cannot write this page as TIFF.");
-    app::Bytes content(size);
-    std::memcpy(content.data(), data, size);
-    return content;
+    return BytesOf(memory);
 }
 
 }  // namespace tavrene::imaging

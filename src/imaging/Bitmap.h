@@ -11,7 +11,17 @@ struct FIBITMAP;
 namespace tavrene::imaging {
 
 /// File types by the image library's format codes.
-enum class ImageFormat { Bmp = 0, Jpeg = 2, Pcx = 10, Png = 13, Tiff = 18, Gif = 25 };
+enum class ImageFormat {
+    Bmp = 0,
+    Jpeg = 2,
+    Pcx = 10,
+    Png = 13,
+    Tiff = 18,
+    Gif = 25,
+    Jpeg2000Stream = 30,
+    Jpeg2000 = 31,
+    Webp = 35
+};
 
 /// The image library's version text; empty when the library cannot be called.
 std::string ImageLibraryVersion();

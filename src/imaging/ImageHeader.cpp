@@ -119,9 +119,12 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
         case ImageFormat::Jpeg:
             return FindJpegResolution(content);
         case ImageFormat::Gif:
+        case ImageFormat::Webp:
             return {};
         case ImageFormat::Bmp:
         case ImageFormat::Pcx:
+        case ImageFormat::Jpeg2000:
+        case ImageFormat::Jpeg2000Stream:
             break;
     }
     return {true, true};
@@ -138,6 +141,11 @@ bool IsWhole(std::span<const std::byte> content, ImageFormat format) {
     return std::search(rest.begin(), rest.end(), kEndOfImage.begin(), kEndOfImage.end()) != rest.end();
 }
 
+bool IsTooLarge(std::int64_t width, std::int64_t height) {
+    const std::int64_t gridColumns = (width + 31) / 32 * 32;
+    return gridColumns > kMaxSide || height > kMaxSide || width * height > kMaxArea;
+}
+
 bool IsTooLarge(std::span<const std::byte> content, ImageFormat format) {
     Size size;
     if (format == ImageFormat::Gif) {
@@ -145,8 +153,7 @@ bool IsTooLarge(std::span<const std::byte> content, ImageFormat format) {
     } else if (const Bitmap header = DecodeImage(content, format, Decode::HeaderOnly)) {
         size = {header.Width(), header.Height()};
     }
-    const std::int64_t gridColumns = (size.width + 31) / 32 * 32;
-    return gridColumns > kMaxSide || size.height > kMaxSide || size.width * size.height > kMaxArea;
+    return IsTooLarge(size.width, size.height);
 }
 
 }  // namespace tavrene::imaging

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 #include "imaging/Bitmap.h"
@@ -19,8 +20,12 @@ struct ResolutionPresence {
 /// Never reads outside `content`, whatever it holds.
 ResolutionPresence FindResolution(std::span<const std::byte> content, ImageFormat format);
 
-/// True when the file says that its picture would make a grid wider or taller than 32,767 cells or larger
-/// than 256 megapixels. Asked before the pixels are unpacked: a few kilobytes can unpack to gigabytes.
+/// True for a picture of that many pixels a side whose grid would be wider or taller than 32,767 cells or
+/// larger than 256 megapixels.
+bool IsTooLarge(std::int64_t width, std::int64_t height);
+
+/// The same of a file, by what it says. Asked before the pixels are unpacked: a few kilobytes can unpack to
+/// gigabytes.
 bool IsTooLarge(std::span<const std::byte> content, ImageFormat format);
 
 /// False for a JPEG file that ends before its picture does: the library would fill up the rest with grey, and

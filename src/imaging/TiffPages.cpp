@@ -3,23 +3,14 @@
 #include <FreeImage.h>
 
 #include <algorithm>
-#include <memory>
 #include <stdexcept>
+#include <utility>
 
+#include "imaging/ImageHeader.h"
 #include "imaging/TiffMessages.h"
 
 namespace tavrene::imaging {
 namespace {
-
-struct CloseDocument {
-    void operator()(FIMULTIBITMAP* document) const { FreeImage_CloseMultiBitmap(document, 0); }
-};
-using Document = std::unique_ptr<FIMULTIBITMAP, CloseDocument>;
-
-struct CloseMemory {
-    void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
-};
-using Memory = std::unique_ptr<FIMEMORY, CloseMemory>;
 
 // Of the text tags only this one comes back from a page of a multi-page file.
 constexpr const char* kLabelTag = "XMLPacket";
@@ -45,14 +36,10 @@ void SetLabel(const Bitmap& picture, const std::string& label) {
     FreeImage_DeleteTag(tag);
 }
 
-TiffPage CopyOfPage(FIMULTIBITMAP* document, int index) {
-    FIBITMAP* const locked = FreeImage_LockPage(document, index);
-    if (locked == nullptr)
-        return {};
-    TiffPage page{Bitmap(FreeImage_Clone(locked)), {}};
-    FreeImage_UnlockPage(document, locked, FALSE);
-    page.label = LabelOf(page.picture);
-    return page;
+DocumentHandle OpenTiff(const MemoryHandle& memory, int flags) {
+    if (FreeImage_GetFileTypeFromMemory(memory.get(), 0) != FIF_TIFF)
+        return nullptr;
+    return DocumentHandle(FreeImage_LoadMultiBitmapFromMemory(FIF_TIFF, memory.get(), flags));
 }
 
 constexpr BYTE kPaper = 0xE0;
@@ -60,22 +47,44 @@ constexpr BYTE kLine = 0x90;
 
 }  // namespace
 
-std::vector<TiffPage> DecodeTiffPages(std::span<const std::byte> content) {
+TiffReader::TiffReader(std::span<const std::byte> content)
+    : memory_(MemoryOver(content)), headerMemory_(MemoryOver(content)) {
     ListenToTiffLibrary();
-    // The library does not write to the memory that it reads from.
-    auto* const bytes = const_cast<BYTE*>(reinterpret_cast<const BYTE*>(content.data()));
-    const Memory memory(FreeImage_OpenMemory(bytes, static_cast<DWORD>(content.size())));
-    if (FreeImage_GetFileTypeFromMemory(memory.get(), 0) != FIF_TIFF)
+    document_ = OpenTiff(memory_, 0);
+    headers_ = OpenTiff(headerMemory_, FIF_LOAD_NOPIXELS);
+    // The library counts only as far as the file is sound.
+    if (!headers_ || TiffWasDamaged())
+        document_.reset();
+}
+
+int TiffReader::PageCount() const {
+    return document_ ? FreeImage_GetPageCount(document_.get()) : 0;
+}
+
+Bitmap TiffReader::Page(int index) const {
+    const auto copyOfPage = [index](const DocumentHandle& document) {
+        FIBITMAP* const locked = FreeImage_LockPage(document.get(), index);
+        Bitmap page(locked == nullptr ? nullptr : FreeImage_Clone(locked));
+        FreeImage_UnlockPage(document.get(), locked, FALSE);
+        return page;
+    };
+    ListenToTiffLibrary();
+    const Bitmap header = copyOfPage(headers_);
+    if (!header || IsTooLarge(header.Width(), header.Height()))
         return {};
-    const Document document(FreeImage_LoadMultiBitmapFromMemory(FIF_TIFF, memory.get(), 0));
-    if (!document)
-        return {};
+    Bitmap page = copyOfPage(document_);
+    return TiffWasDamaged() ? Bitmap() : std::move(page);
+}
+
+std::vector<TiffPage> DecodeTiffPages(std::span<const std::byte> content) {
+    const TiffReader reader(content);
     std::vector<TiffPage> pages;
-    const int count = FreeImage_GetPageCount(document.get());
-    for (int index = 0; index < count; ++index) {
-        pages.push_back(CopyOfPage(document.get(), index));
-        if (!pages.back().picture || TiffWasDamaged())
+    for (int index = 0; index < reader.PageCount(); ++index) {
+        Bitmap picture = reader.Page(index);
+        if (!picture)
             return {};
+        std::string label = LabelOf(picture);
+        pages.push_back({std::move(picture), std::move(label)});
     }
     return pages;
 }
@@ -85,22 +94,18 @@ app::Bytes EncodeTiffPages(std::span<const TiffPage> pages) {
         return {};
     ListenToTiffLibrary();
     // A document without a name lives in memory and is never saved by being closed.
-    const Document document(FreeImage_OpenMultiBitmap(FIF_TIFF, "", TRUE, FALSE, TRUE, 0));
+    const DocumentHandle document(FreeImage_OpenMultiBitmap(FIF_TIFF, "", TRUE, FALSE, TRUE, 0));
     if (!document)
         throw std::runtime_error("The image library cannot make a TIFF of several pages.");
     for (const TiffPage& page : pages) {
         SetLabel(page.picture, page.label);
         FreeImage_AppendPage(document.get(), page.picture.Get());
     }
-    const Memory memory(FreeImage_OpenMemory());
-    BYTE* data = nullptr;
-    DWORD size = 0;
+    const MemoryHandle memory = NewMemory();
     if (FreeImage_GetPageCount(document.get()) != static_cast<int>(pages.size()) ||
-        !FreeImage_SaveMultiBitmapToMemory(FIF_TIFF, document.get(), memory.get(), 0) ||
-        !FreeImage_AcquireMemory(memory.get(), &data, &size))
+        !FreeImage_SaveMultiBitmapToMemory(FIF_TIFF, document.get(), memory.get(), 0))
         throw std::runtime_error("The image library cannot write a TIFF of several pages.");
-    const auto bytes = std::as_bytes(std::span(data, size));
-    return {bytes.begin(), bytes.end()};
+    return BytesOf(memory);
 }
 
 Bitmap ReducedPicture(const Bitmap& picture, int width, int maxHeight) {

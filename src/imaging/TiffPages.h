@@ -6,8 +6,28 @@
 
 #include "app/Files.h"
 #include "imaging/Bitmap.h"
+#include "imaging/LibraryHandles.h"
 
 namespace tavrene::imaging {
+
+/// The pages of a TIFF, each decoded when it is asked for.
+class TiffReader {
+  public:
+    /// `content` must outlive the reader. What is no TIFF, or ends within its list of pages, has none.
+    explicit TiffReader(std::span<const std::byte> content);
+
+    int PageCount() const;
+
+    /// Page `index`, counted from 0; no bitmap when it is damaged or beyond the sizes that `IsTooLarge`
+    /// allows.
+    Bitmap Page(int index) const;
+
+  private:
+    MemoryHandle memory_;
+    MemoryHandle headerMemory_;
+    DocumentHandle document_;
+    DocumentHandle headers_;  // the same pages without their pixels
+};
 
 /// One page of a multi-page TIFF with a text of its own, which travels in the file and is shown nowhere.
 struct TiffPage {

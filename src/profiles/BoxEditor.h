@@ -18,10 +18,6 @@ class BoxEditor {
     /// The references must outlive the editor.
     BoxEditor(OpenProfile& profile, app::Operator& person, const ProfileScreen& screen);
 
-    /// Whether what is selected or moved in the image view belongs to this editor; while it does not (a run
-    /// goes on, the view serves the review), selecting stores nothing. Without a rule it always does.
-    void SetMayStore(std::function<bool()> mayStore) { mayStore_ = std::move(mayStore); }
-
     /// Takes all boxes off the screen and out of the profile, and forgets the edits.
     void Clear();
 
@@ -59,7 +55,7 @@ class BoxEditor {
 
   private:
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
-    bool MayStore() const { return profile_.IsOpen && (!mayStore_ || mayStore_()); }
+    bool MayStore() const { return profile_.IsOpen; }
     bool AddDrawnBox(const imaging::RectReport& report);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
     std::string FreeName(int& number) const;
@@ -74,7 +70,6 @@ class BoxEditor {
     OpenProfile& profile_;
     app::Operator& person_;
     ProfileScreen screen_;
-    std::function<bool()> mayStore_;
     BoxHistory history_;
     imaging::BoxTool tool_ = imaging::BoxTool::Select;
 };

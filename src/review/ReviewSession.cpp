@@ -21,14 +21,14 @@ ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& 
       mover_(context.files, folders) {}
 
 void ReviewSession::Begin() {
-    isOn_ = true;
+    stage_ = Stage::On;
     FormScreen(context_).Clear();
     ShowList();
 }
 
 void ReviewSession::End() {
     form_.Close();
-    isOn_ = false;
+    stage_ = Stage::Over;
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles_));
     FormScreen screen(context_);
     screen.ClearPanels();
@@ -41,7 +41,7 @@ void ReviewSession::RunBegins() {
 }
 
 void ReviewSession::Refill() {
-    if (isOn_)
+    if (IsOn())
         ShowList();
 }
 
@@ -56,14 +56,7 @@ std::optional<std::size_t> ReviewSession::OpenLine() const {
 }
 
 void ReviewSession::Open(std::size_t line) {
-    if (!isOn_ || line >= list_.Lines().size())
-        return;
-    const std::string document = list_.Lines()[line].Document;
-    // The form that is asked about, which stays open unless its saving succeeds.
-    if (const std::optional<std::size_t> open = OpenLine(); open && form_.Form()->Changed)
-        context_.lines.SelectLine(*open);
-    if (!MayLeave())
-        return;
+    const std::string document = list_.Lines().at(line).Document;
     context_.lines.SelectLine(line);
     tried_ = line;
     form_.Open(document);
@@ -71,13 +64,14 @@ void ReviewSession::Open(std::size_t line) {
         tried_.reset();
 }
 
-void ReviewSession::OpenNeighbour(std::optional<std::size_t> selected, int step) {
+std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
     const std::optional<std::size_t> open = OpenLine();
     const std::optional<std::size_t> from = open ? open : selected;
     const bool isNext = !open && selected != tried_ && step > 0;
     const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + (isNext ? 0 : step) : 0;
-    if (line >= 0)
-        Open(static_cast<std::size_t>(line));
+    if (line < 0 || line >= std::ssize(list_.Lines()))
+        return std::nullopt;
+    return static_cast<std::size_t>(line);
 }
 
 void ReviewSession::FlipBox(int row) {
@@ -106,11 +100,28 @@ bool ReviewSession::NextDoubtful(int row) {
 bool ReviewSession::MayLeave() {
     if (!HasForm() || !form_.Form()->Changed)
         return true;
-    const app::Answer answer =
-        context_.person.AskYesNoCancel("Save changes to Form <" + form_.Form()->Name + ">?");
-    if (answer == app::Answer::Yes)
+    switch (context_.person.AskYesNoCancel("Save changes to Form <" + form_.Form()->Name + ">?")) {
+        case app::Answer::No:
+            return true;
+        case app::Answer::Cancel:
+            SelectOpenLine();
+            return false;
+        case app::Answer::Yes:
+            break;
+    }
+    try {
         Save();
-    return answer != app::Answer::Cancel;
+    } catch (...) {
+        SelectOpenLine();
+        throw;
+    }
+    return true;
+}
+
+// The form that is not left is the one that counts, wherever the person has clicked.
+void ReviewSession::SelectOpenLine() {
+    if (const std::optional<std::size_t> line = OpenLine())
+        context_.lines.SelectLine(*line);
 }
 
 void ReviewSession::Save() {
@@ -131,15 +142,6 @@ void ReviewSession::Save() {
     list_.Change(form.Document, true, form.Result.Confidence());
     context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
     list_.ShowCounts();
-}
-
-void ReviewSession::Accept() {
-    if (MayLeave())
-        Decide(Decision::Accept);
-}
-
-void ReviewSession::Reject() {
-    Decide(Decision::Reject);
 }
 
 // What an earlier decision left half done is settled first, since there is one note for all moves.

@@ -34,7 +34,10 @@ class ReviewSession {
 
     /// Takes form and list from the screen, without saving; the person leaves review.
     void End();
-    bool IsOn() const { return isOn_; }
+    bool IsOn() const { return stage_ == Stage::On; }
+
+    /// Whether the person is in review or has been there.
+    bool WasOn() const { return stage_ != Stage::NotYet; }
 
     /// Takes the open form from the screen, and leaves no decision half done: a run begins.
     void RunBegins();
@@ -49,15 +52,15 @@ class ReviewSession {
     std::optional<std::size_t> OpenLine() const;
 
     /// The prompt before the open form is left, which saves it on Yes; false when the command at hand is to
-    /// be abandoned.
+    /// be abandoned. Where the form stays open, its line is selected.
     bool MayLeave();
 
-    /// Opens the form of a line. Cancel at the prompt keeps the open one, and its line selected.
+    /// Opens the form of a line. Unsaved changes of the open one are lost: the prompt comes before.
     void Open(std::size_t line);
 
-    /// Opens the form `step` lines below the open one. While none is open, the next one is the `selected`
-    /// one, unless that has just been tried.
-    void OpenNeighbour(std::optional<std::size_t> selected, int step);
+    /// The line `step` lines below that of the open form, where there is one. While none is open, the next
+    /// one is the `selected` one, unless that has just been tried.
+    std::optional<std::size_t> Neighbour(std::optional<std::size_t> selected, int step) const;
 
     /// Turns the mark of a row round and brings its box into view.
     void FlipBox(int row);
@@ -74,14 +77,16 @@ class ReviewSession {
     /// Marks the open form as reviewed and writes its marks; counts it when it was not reviewed before.
     void Save();
 
-    /// Moves image and document of the open form out of `ProcessOut` and selects the next line. Accepting
-    /// offers to save unsaved changes first, rejecting does not.
-    void Accept();
-    void Reject();
+    /// Moves image and document of the open form out of `ProcessOut` and selects the next line.
+    void Accept() { Decide(Decision::Accept); }
+    void Reject() { Decide(Decision::Reject); }
 
   private:
+    enum class Stage { NotYet, On, Over };
+
     void TrySettle();
     void ShowList();
+    void SelectOpenLine();
     void Decide(Decision decision);
     void LogDecision(const FormMove& move);
 
@@ -91,7 +96,7 @@ class ReviewSession {
     ReviewList list_;
     FormReview form_;
     FormMover mover_;
-    bool isOn_ = false;
+    Stage stage_ = Stage::NotYet;
     std::optional<std::size_t> tried_;  ///< The line that was opened last, or could not be opened.
 };
 

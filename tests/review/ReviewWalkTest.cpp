@@ -66,7 +66,7 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
     EXPECT_FALSE(review_.HasForm());
 
-    Do([this] { review_.OpenNeighbour(1, 1); });
+    OpenNeighbour(1, 1);
     EXPECT_EQ(review_.OpenLine(), 1U) << "the selected form is the next one";
     Reject();  // never saved: no counter falls
     EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 1");
@@ -98,7 +98,7 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
     // Cancel: the form stays, whatever the command was.
     person_.answers = {Answer::Cancel, Answer::Cancel, Answer::Cancel};
     Open(1);
-    EXPECT_EQ(transcript_.Lines(), (Names{"select: a 100", "ask: Save changes to Form <a>?"}));
+    EXPECT_EQ(transcript_.Lines(), (Names{"ask: Save changes to Form <a>?", "select: a 100"}));
     Accept();
     Toggle();
     EXPECT_TRUE(review_.IsOn());
@@ -107,10 +107,10 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
 
     // No: the marks are dropped.
     person_.answers = {Answer::No};
-    Do([this] { review_.OpenNeighbour({}, 1); });
+    OpenNeighbour({}, 1);
     EXPECT_EQ(review_.OpenLine(), 1U);
     EXPECT_EQ(Result("a.xml"), before);
-    Do([this] { review_.OpenNeighbour({}, -1); });
+    OpenNeighbour({}, -1);
     EXPECT_EQ(transcript_.LinesOf("row: "), (Names{"1 Q1|1", "2 Q2|0", "3 Q3|0", "4 Q4|0"}));
 
     // Yes: they are saved, and then the command goes on.

@@ -8,14 +8,20 @@
 namespace tavrene::test {
 
 /// The disk, but a test can refuse any call: `refuse` gets the operation ("read", "write", "append", "move",
-/// "delete", "list", "create") and the path (of a move, the source) and answers true to make it fail.
+/// "delete", "list", "create") and the path (of a move, the source) and answers true to make it fail. A move
+/// from where `isElsewhere` says that another file system is copies, and then asks for the "unlink".
 class FaultyFiles final : public app::Files {
   public:
     std::function<bool(const std::string& operation, const std::string& path)> refuse;
 
+    std::function<bool(const std::string& path)> isElsewhere;
+
     bool FileExists(const std::string& path) const override { return disk_.FileExists(path); }
     bool FolderExists(const std::string& path) const override { return disk_.FolderExists(path); }
     std::string Fingerprint(const std::string& path) const override { return disk_.Fingerprint(path); }
+    std::optional<app::LocalTime> WrittenAt(const std::string& path) const override {
+        return disk_.WrittenAt(path);
+    }
     void CreateFolder(const std::string& path) override {
         Check("create", path);
         disk_.CreateFolder(path);
@@ -23,6 +29,10 @@ class FaultyFiles final : public app::Files {
     std::vector<std::string> List(const std::string& folder, std::string_view pattern) const override {
         Check("list", folder);
         return disk_.List(folder, pattern);
+    }
+    std::vector<std::string> ListFolders(const std::string& folder) const override {
+        Check("list", folder);
+        return disk_.ListFolders(folder);
     }
     app::Bytes Read(const std::string& path) const override {
         Check("read", path);
@@ -36,9 +46,16 @@ class FaultyFiles final : public app::Files {
         Check("append", path);
         disk_.Append(path, text);
     }
-    void Move(const std::string& from, const std::string& to) override {
+    void Move(const std::string& from, const std::string& to, app::Keep keep = app::Keep::Durably) override {
         Check("move", from);
-        disk_.Move(from, to);
+        if (!isElsewhere || !isElsewhere(from)) {
+            disk_.Move(from, to, keep);
+            return;
+        }
+        disk_.Write(to, disk_.Read(from), app::Keep::Durably);
+        if (refuse && refuse("unlink", from))
+            throw app::SourceRemains("Cannot delete " + from + ": refused by the test");
+        disk_.Delete(from);
     }
     void Delete(const std::string& path) override {
         Check("delete", path);

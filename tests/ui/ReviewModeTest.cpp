@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "support/SourceFolder.h"
 #include "ui/DeskWindow.h"
 #include "ui/page/ImageView.h"
 
@@ -105,7 +106,7 @@ class SamplesInReviewTest : public ReviewWindow {
         return Rows().indexOfTopLevelItem(Rows().findItems(box, Qt::MatchExactly).at(0));
     }
 
-    const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+    const std::string kSamples = test::SourceFolder() + "/samples/";
 };
 
 void Replace(std::string& text, const std::string& before, const std::string& after) {

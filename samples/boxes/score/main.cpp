@@ -120,8 +120,8 @@ void PrintMarkdown(const std::vector<ScoreRow>& rows) {
     std::printf("| class, outline | boxes | rules: recall, false | first look | with the second look |\n");
     std::printf("|---|---|---|---|---|\n");
     for (const ScoreRow& row : rows)
-        std::printf("| %s | %zu | %s | %s | %s |\n", row.Name.c_str(), row.First.True, Cell(row.Rules).c_str(),
-                    Cell(row.First).c_str(), Cell(row.Second).c_str());
+        std::printf("| %s | %zu | %s | %s | %s |\n", row.Name.c_str(), row.First.True,
+                    Cell(row.Rules).c_str(), Cell(row.First).c_str(), Cell(row.Second).c_str());
 }
 
 void Run(const Options& options) {

@@ -33,7 +33,7 @@ bool IsBoxShaped(BoxSize size) {
 class Choice {
   public:
     Choice(const std::vector<Proposal>& proposals, const std::vector<BoxRect>& there, const BoxSizes& sizes)
-        : settings_(sizes) {
+        : settings_(sizes), thereCount_(static_cast<int>(there.size())) {
         for (const Proposal& proposal : proposals)
             print_.Add(proposal.Ruled);
         for (const BoxRect& box : there)
@@ -74,6 +74,7 @@ class Choice {
     }
 
     BoxSizes settings_;
+    int thereCount_;
     PrintInBoxes print_;
     SizeTable there_;
     SizeTable sharp_;
@@ -95,7 +96,8 @@ int Choice::OddsOf(const Proposal& proposal) const {
             return 80 + shown;
         if (IsClosed(proposal) && fits)
             return 60 + shown;
-        if (fits && sound >= 2 * kInNumber)
+        // Zeros of a large type are as straight; on a form of boxes of another size they are no third kind.
+        if (fits && sound >= std::max(2 * kInNumber, 2 * thereCount_))
             return 50 + shown;
         return 0;
     }

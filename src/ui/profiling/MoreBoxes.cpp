@@ -164,7 +164,7 @@ bool MoreBoxes::Close() {
 }
 
 void MoreBoxes::Update() {
-    if (!desk_.empty() && (desk_ != DeskKey() || context_.state.processing))
+    if (!desk_.empty() && desk_ != DeskKey())
         Close();
 }
 

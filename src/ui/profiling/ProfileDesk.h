@@ -4,10 +4,9 @@
 #include "app/Clock.h"
 #include "app/Files.h"
 #include "app/Operator.h"
-#include "profiles/ProfileStore.h"
+#include "profiles/ProfileSession.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/ProfileCommands.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/profiling/MoreBoxes.h"
@@ -33,22 +32,19 @@ struct DeskControls {
     CandidatePane& candidates;
 };
 
-/// The window's profile desk: puts store, editor and commands together and connects them to the controls.
+/// The window's profile desk: owns the session and connects it to the controls.
 class ProfileDesk {
   public:
     ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls);
 
     /// Fills strip and profile list; a step of loading the window.
-    void Load() { commands_.LoadStrip(); }
+    void Load() { session_.FillStrip(); }
 
     /// The prompt before the open profile is left; false when the command at hand is to be abandoned.
-    bool MayLeave() { return commands_.MayLeave(); }
+    bool MayLeave() { return session_.MayLeave(); }
 
     /// Takes the profile off the desk without saving it.
     void Close();
-
-    /// Closes it for review: `Save` and `Delete` are offered again with the next profile.
-    void Leave();
 
     /// Takes what may be more boxes off the screen; false when nothing of it was shown.
     bool CloseCandidates() { return more_.Close(); }
@@ -59,6 +55,8 @@ class ProfileDesk {
     /// Makes the controls show what can be done now.
     void Update();
 
+    const profiles::ProfileSession& Session() const { return session_; }
+
     /// Whether a command's toggle button is to look pressed.
     bool Presses(commands::Command command) const;
 
@@ -66,19 +64,15 @@ class ProfileDesk {
     void ConnectCommands();
     void ConnectBoxCommands();
     void ConnectControls();
-    bool CanEdit() const { return commands_.CanEdit() && !state_.processing; }
-    bool HasBox() const { return commands_.CanEdit() && profile_.CurrentBox != 0; }
+    void Pick(int thumbnail);
+    bool CanEdit() const { return session_.IsOpen(); }
+    bool HasBox() const { return session_.Profile().CurrentBox != 0; }
 
     commands::AppState& state_;
     commands::CommandGate& gate_;
     DeskControls controls_;
-    profiles::OpenProfile profile_;
-    profiles::ProfileScreen screen_;
-    profiles::BoxEditor editor_;
-    profiles::ProfileStore store_;
+    profiles::ProfileSession session_;
     MoreBoxes more_;
-    commands::ProfileCommands commands_;
-    bool offersFile_ = true;
 };
 
 }  // namespace tavrene::ui

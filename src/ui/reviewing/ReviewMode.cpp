@@ -36,7 +36,6 @@ std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
 ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
                        const ReviewControls& controls, std::function<void()> closeProfile)
     : gate_(context.gate),
-      prompts_(context.prompts),
       closeProfile_(std::move(closeProfile)),
       controls_(controls),
       marks_(controls.view),
@@ -56,39 +55,41 @@ void ReviewMode::ConnectCommands() {
             if (const auto line = controls_.pane.List().SelectedLine())
                 session_.Open(*line);
         },
-        [this] { return session_.IsOn() && controls_.pane.List().SelectedLine().has_value(); });
-    const auto hasLines = [this] { return session_.IsOn() && controls_.pane.List().model()->rowCount() > 0; };
+        [this] { return controls_.pane.List().SelectedLine().has_value(); });
+    ConnectNeighbour(Command::NextForm, 1);
+    ConnectNeighbour(Command::PreviousForm, -1);
+}
+
+void ReviewMode::ConnectNeighbour(Command command, int step) {
+    const auto line = [this, step] { return session_.Neighbour(controls_.pane.List().SelectedLine(), step); };
     gate_.SetHandler(
-        Command::NextForm, [this] { OpenNeighbour(1); }, hasLines);
-    gate_.SetHandler(
-        Command::PreviousForm, [this] { OpenNeighbour(-1); }, hasLines);
+        command, [this, line] { session_.Open(*line()); }, [line] { return line().has_value(); });
 }
 
 void ReviewMode::ConnectFormCommands() {
-    const auto connect = [this](Command command, std::function<void()> run) {
-        gate_.SetHandler(command, std::move(run), [this] { return HasForm(); });
-    };
-    connect(Command::Okay, [this] { session_.Save(); });
-    connect(Command::AcceptForm, [this] { session_.Accept(); });
-    connect(Command::RejectForm, [this] { session_.Reject(); });
-    connect(Command::FlipBox, [this] { FlipCurrent(); });
-    connect(Command::NextDoubtful, [this] { NextDoubtful(); });
+    gate_.SetHandler(Command::Okay, [this] { session_.Save(); });
+    gate_.SetHandler(Command::AcceptForm, [this] { session_.Accept(); });
+    gate_.SetHandler(Command::RejectForm, [this] { session_.Reject(); });
+    gate_.SetHandler(Command::FlipBox, [this] { session_.FlipBox(controls_.boxes.CurrentNumber()); });
+    gate_.SetHandler(Command::NextDoubtful, [this] { NextDoubtful(); });
 }
 
 void ReviewMode::ConnectControls() {
-    controls_.pane.List().SetListener([this](std::size_t line) { gate_.Take([&] { session_.Open(line); }); });
-    connect(&controls_.pane.Choice(), &QComboBox::textActivated, this,
-            [this](const QString& name) { gate_.Take([&] { session_.ReadAgainst(FromQt(name)); }); });
-    marks_.SetListener([this](int group) { gate_.Take([&] { RectClicked(group); }); });
+    controls_.pane.List().SetListener(
+        [this](std::size_t line) { gate_.Take(Command::PickForm, [&] { session_.Open(line); }); });
+    connect(&controls_.pane.Choice(), &QComboBox::textActivated, this, [this](const QString& name) {
+        gate_.Take(Command::PickProfile, [&] { session_.ReadAgainst(FromQt(name)); });
+    });
+    marks_.SetListener([this](int group) { gate_.Take(Command::PickMark, [&] { RectClicked(group); }); });
     // The second click of a double click turns the mark back, as the first one turned it.
     const auto flip = [this](QTreeWidgetItem* row) {
-        gate_.Take([&] { session_.FlipBox(controls_.boxes.NumberOf(row)); });
+        gate_.Take(Command::PickMark, [&] { session_.FlipBox(controls_.boxes.NumberOf(row)); });
     };
     connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
-        if (row != nullptr && HasForm())
-            gate_.Take([&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
+        if (row != nullptr)
+            gate_.Take(Command::PickMark, [&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -96,8 +97,6 @@ void ReviewMode::ConnectControls() {
 
 void ReviewMode::Toggle() {
     const BusyCursor busy;
-    if (!prompts_.ProfileThenForm())
-        return;
     if (session_.IsOn()) {
         session_.End();
         return;
@@ -115,14 +114,6 @@ void ReviewMode::TakeFirstLine() {
         controls_.pane.List().SelectLine(0);
 }
 
-void ReviewMode::OpenNeighbour(int step) {
-    session_.OpenNeighbour(controls_.pane.List().SelectedLine(), step);
-}
-
-void ReviewMode::FlipCurrent() {
-    session_.FlipBox(controls_.boxes.CurrentNumber());
-}
-
 void ReviewMode::NextDoubtful() {
     if (session_.NextDoubtful(controls_.boxes.CurrentNumber()))
         controls_.boxes.setFocus();
@@ -135,33 +126,24 @@ void ReviewMode::RectClicked(int group) {
     session_.FlipBox(group);
 }
 
-void ReviewMode::RunBegins() {
-    session_.RunBegins();
-    refill_ = true;
-}
-
 void ReviewMode::RunEnded() {
-    if (!std::exchange(refill_, false) || !session_.IsOn())
+    if (!session_.IsOn())
         return;
     session_.Refill();
     TakeFirstLine();
 }
 
-bool ReviewMode::Bars(Command command) const {
-    return command == Command::New && session_.IsOn();
-}
-
 void ReviewMode::Update() {
     const bool inReview = session_.IsOn();
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
-    marks_.SetActive(HasForm());
+    marks_.SetActive(session_.HasForm());
     controls_.view.SetHint(inReview
                                ? "Choose a form on the left: a click or Enter opens it."
                                : "Choose a profile on the left, make one with New,\n"
                                  "or press Process to read the scans that wait in the folder ProcessIn.");
     controls_.pane.List().MarkOpen(session_.OpenLine());
     // With the form all that had its keys is gone; Enter opens the next one.
-    if (std::exchange(hadForm_, HasForm()) && inReview && !hadForm_)
+    if (std::exchange(hadForm_, session_.HasForm()) && inReview && !hadForm_)
         controls_.pane.List().setFocus();
 }
 
@@ -169,7 +151,7 @@ bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !session_.IsOn())
         return false;
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
-    const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && HasForm());
+    const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && session_.HasForm());
     if (!command)
         return false;
     if (!key.isAutoRepeat())

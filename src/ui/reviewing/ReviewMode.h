@@ -7,7 +7,6 @@
 #include "review/ReviewSession.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/SavePrompts.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/reviewing/ReviewMarks.h"
@@ -21,7 +20,6 @@ struct ReviewModeContext {
     app::Operator& person;
     app::ActivityLog& log;
     commands::CommandGate& gate;
-    const commands::SavePrompts& prompts;
 };
 
 /// The controls that show the form under review.
@@ -45,15 +43,11 @@ class ReviewMode final : public QObject {
     /// The prompt before the open form is left; false when the command at hand is to be abandoned.
     bool MayLeave() { return session_.MayLeave(); }
 
-    /// A run takes the form from the screen; when it has ended, the list is filled anew. `RunEnded` without a
-    /// begun run does nothing.
-    void RunBegins();
+    /// A run takes the form from the screen; when it has ended, the list is filled anew.
+    void RunBegins() { session_.RunBegins(); }
     void RunEnded();
 
-    bool InReview() const { return session_.IsOn(); }
-
-    /// Whether a command has no place in review.
-    bool Bars(commands::Command command) const;
+    const review::ReviewSession& Session() const { return session_; }
 
     /// Makes the controls show what can be done now.
     void Update();
@@ -64,24 +58,20 @@ class ReviewMode final : public QObject {
 
   private:
     void ConnectCommands();
+    void ConnectNeighbour(commands::Command command, int step);
     void ConnectFormCommands();
     void ConnectControls();
     void Toggle();
     void TakeFirstLine();
-    void OpenNeighbour(int step);
-    void FlipCurrent();
     void NextDoubtful();
     void RectClicked(int group);
-    bool HasForm() const { return session_.HasForm(); }
 
     commands::CommandGate& gate_;
-    const commands::SavePrompts& prompts_;
     std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
     review::ReviewSession session_;
-    bool hadForm_ = false;
-    bool refill_ = false;  ///< A run has taken the form from the screen.
+    bool hadForm_ = false;  ///< A form was open after the last command.
 };
 
 }  // namespace tavrene::ui

@@ -51,20 +51,13 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       dialogs_(*this),
       log_(context.files, context.clock, operator_, state_.folders.Log),
       run_({context.files, log_, operator_, context.clock, *view_, *boxes_}, state_.settings, state_.folders),
-      gate_(operator_, log_, state_.processing),
+      gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
+             [this] { return review_.MayLeave(); }}),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
             {*view_, *boxes_, *profiles_, *candidates_}),
-      prompts_([this] { return desk_.MayLeave(); }, [this] { return review_.MayLeave(); }),
-      review_(state_, {context.files, operator_, log_, gate_, prompts_}, {*view_, *boxes_, *side_, *forms_},
-              [this] { desk_.Leave(); }),
-      processing_(
-          state_, run_,
-          [this] {
-              desk_.Close();
-              review_.RunBegins();
-              UpdateCommands();
-          },
-          [this] { close(); }),
+      review_(state_, {context.files, operator_, log_, gate_}, {*view_, *boxes_, *side_, *forms_},
+              [this] { desk_.Close(); }),
+      runs_(state_, run_, {[this] { RunBegins(); }, [this] { review_.RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
     setWindowTitle(ToQt(app::kApplicationName));
@@ -123,45 +116,66 @@ void MainWindow::ConnectViewCommands() {
 }
 
 void MainWindow::ConnectCommands() {
-    gate_.SetHandler(Command::Process, [this] {
-        if (!prompts_.ProfileThenForm())
-            return;
-        gate_.Guard([this] { processing_.Process(); });
-        review_.RunEnded();
-    });
-    gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
+    gate_.SetHandler(Command::Process, [this] { runs_.Process(); });
+    gate_.SetHandler(Command::Stop, [this] { runs_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
     gate_.SetHandler(Command::OpenWorkingFolder,
                      [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
     gate_.SetHandler(Command::OpenLog,
                      [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
     gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
-    gate_.SetHandler(Command::Exit, [this] { close(); });
     gate_.SetAfterwards([this] {
         UpdateCommands();
-        processing_.CloseIfWaiting();
+        runs_.CloseIfWaiting();
     });
 }
 
+commands::Mode MainWindow::CurrentMode() const {
+    const review::ReviewSession& review = review_.Session();
+    return commands::ModeOf({.isRunning = runs_.IsRunning(),
+                             .isInReview = review.IsOn(),
+                             .wasInReview = review.WasOn(),
+                             .hasForm = review.HasForm(),
+                             .hasProfile = desk_.Session().HasProfile(),
+                             .canEdit = desk_.Session().IsOpen()});
+}
+
+// What it says and shows belongs to the run from here on, before its first file.
+void MainWindow::RunBegins() {
+    desk_.Close();
+    review_.RunBegins();
+    UpdateCommands();
+}
+
 void MainWindow::RunCommand(Command command) {
+    if (command == Command::Exit) {
+        close();
+        return;
+    }
     desk_.FinishEdits();
     gate_.Run(command);
 }
 
 void MainWindow::UpdateCommands() {
-    toolbars_.Update([this](Command command) { return gate_.Offers(command) && !review_.Bars(command); });
+    const commands::Mode mode = CurrentMode();
+    toolbars_.Update([this, mode](Command command) {
+        return ButtonState{gate_.Offers(command), commands::IsShownIn(command, mode)};
+    });
     desk_.Update();
     review_.Update();
     for (const Command command : {Command::SelectBox, Command::AddBox})
         toolbars_.SetPressed(command, desk_.Presses(command));
-    toolbars_.SetPressed(Command::Review, review_.InReview());
+    toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
-    for (const Command command : {Command::Okay, Command::AcceptForm, Command::RejectForm})
-        toolbars_.SetVisible(command, review_.InReview() && !state_.processing);
 }
 
 void MainWindow::Load() {
-    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+    commands::LoadWindow(state_,
+                         {log_, operator_, &imaging::ImageLibraryVersion,
+                          [this] {
+                              run_.Settle();
+                              desk_.Load();
+                          }},
                          gate_);
     gate_.Guard([this] { review_.Load(); });
 }
@@ -180,8 +194,8 @@ void MainWindow::OpenOnDesktop(const std::string& path) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     desk_.FinishEdits();
-    gate_.Guard([this, event] {
-        if (!processing_.MayClose() || !prompts_.FormThenProfile())
+    gate_.Take(Command::Exit, [this, event] {
+        if (!runs_.MayClose())
             return;
         RememberShape();
         event->accept();

@@ -9,8 +9,7 @@
 #include "recognition/ProcessRun.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/Processing.h"
-#include "ui/commands/SavePrompts.h"
+#include "ui/commands/RunSession.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/profiling/ProfileDesk.h"
@@ -51,6 +50,8 @@ class MainWindow final : public QMainWindow {
     void BuildLayout();
     void ConnectViewCommands();
     void ConnectCommands();
+    commands::Mode CurrentMode() const;
+    void RunBegins();
     void RunCommand(commands::Command command);
     void UpdateCommands();
     void ShowSettings();
@@ -74,9 +75,8 @@ class MainWindow final : public QMainWindow {
     recognition::ProcessRun run_;
     commands::CommandGate gate_;
     ProfileDesk desk_;
-    commands::SavePrompts prompts_;
     ReviewMode review_;
-    commands::Processing processing_;
+    commands::RunSession runs_;
     Toolbars toolbars_;
 };
 

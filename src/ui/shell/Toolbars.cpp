@@ -46,8 +46,7 @@ void Toolbars::AddCommand(QMainWindow& window, const commands::CommandInfo& info
     action->setIcon(IconOf(info.icon));
     action->setIconVisibleInMenu(true);
     action->setShortcuts(QKeySequence::listFromString(ToQt(info.shortcut), QKeySequence::PortableText));
-    action->setCheckable(info.start == commands::StartState::Toggle);
-    action->setVisible(info.start != commands::StartState::Hidden);
+    action->setCheckable(info.isToggle);
     QObject::connect(action, &QAction::triggered, &window, [this, command = info.command] { run_(command); });
     actions_[info.command] = action;
     AddToToolbar(info, action);
@@ -76,9 +75,12 @@ void Toolbars::AddToMenu(const commands::CommandInfo& info, QAction* action) {
     menu->addAction(action);
 }
 
-void Toolbars::Update(const std::function<bool(commands::Command)>& offers) {
-    for (const auto& [command, action] : actions_)
-        action->setEnabled(offers(command));
+void Toolbars::Update(const std::function<ButtonState(commands::Command)>& stateOf) {
+    for (const auto& [command, action] : actions_) {
+        const ButtonState state = stateOf(command);
+        action->setEnabled(state.isEnabled);
+        action->setVisible(state.isShown);
+    }
 }
 
 void Toolbars::ShowLabels(bool shown) {

@@ -10,6 +10,12 @@
 
 namespace tavrene::ui {
 
+/// How a command's button presents itself.
+struct ButtonState {
+    bool isEnabled = false;
+    bool isShown = true;
+};
+
 /// The two toolbars and the menu bar of the window, built from the command table. Toolbar and menu share the
 /// actions; an action's object name is its key.
 class Toolbars {
@@ -17,8 +23,7 @@ class Toolbars {
     /// `run` is called when a command is chosen.
     Toolbars(QMainWindow& window, std::function<void(commands::Command)> run);
 
-    /// Enables the commands that `offers` names and disables all others.
-    void Update(const std::function<bool(commands::Command)>& offers);
+    void Update(const std::function<ButtonState(commands::Command)>& stateOf);
 
     /// Shows a toggle button pressed or released; nothing is run.
     void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
@@ -26,8 +31,6 @@ class Toolbars {
     /// Words under the pictures of the buttons, or none.
     void ShowLabels(bool shown);
     bool LabelsShown() const;
-
-    void SetVisible(commands::Command command, bool visible) { actions_.at(command)->setVisible(visible); }
 
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);

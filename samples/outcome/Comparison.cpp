@@ -1,4 +1,4 @@
-#include "tour/Comparison.h"
+#include "outcome/Comparison.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -7,10 +7,8 @@
 #include "profiles/XmlFile.h"
 #include "recognition/ResultDocument.h"
 
-namespace tavrene::tour {
+namespace tavrene::samples {
 namespace {
-
-using samples::GroundTruthRecord;
 
 constexpr const char* kUnclassified = "unclassified";
 constexpr const char* kUnreadable = "unreadable";
@@ -133,4 +131,4 @@ std::string TableOf(const std::vector<Comparison>& comparisons) {
     return table.str();
 }
 
-}  // namespace tavrene::tour
+}  // namespace tavrene::samples

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "GroundTruth.h"
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
-#include "samples/GroundTruth.h"
 
-namespace tavrene::tour {
+namespace tavrene::samples {
 
 enum class Verdict { Right, BeyondRules, Wrong };
 
@@ -24,9 +24,9 @@ struct Comparison {
 /// Compares the result documents and the process log of a finished run with the truth. A scan that is not in
 /// `ProcessOut` is wrong whatever the truth.
 std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::WorkingFolders& folders,
-                                         const std::vector<samples::GroundTruthRecord>& truth);
+                                         const std::vector<GroundTruthRecord>& truth);
 
 /// The comparisons as a table of text with one line a scan, and below it every difference in words.
 std::string TableOf(const std::vector<Comparison>& comparisons);
 
-}  // namespace tavrene::tour
+}  // namespace tavrene::samples

@@ -8,12 +8,18 @@
 namespace tavrene::commands {
 
 /// The commands `Process` and `Stop`, and what closing the window means while a run goes on.
-class Processing {
+class RunSession {
   public:
-    /// `runBegins` is called when a run is about to start, `closeWindow` when a close that had to wait for
-    /// the end of a run can go on. The references must outlive the object.
-    Processing(AppState& state, recognition::ProcessRun& run, std::function<void()> runBegins,
-               std::function<void()> closeWindow);
+    struct Listener {
+        std::function<void()> begins;  ///< A run is about to start.
+        std::function<void()> ended;   ///< It has ended, well or not.
+        std::function<void()> close;   ///< The window can close, which had to wait for the end of the run.
+    };
+
+    /// The references must outlive the object.
+    RunSession(const AppState& state, recognition::ProcessRun& run, Listener listener);
+
+    bool IsRunning() const { return isRunning_; }
 
     /// Runs over all files of `ProcessIn`; returns when the run has ended.
     void Process();
@@ -27,10 +33,10 @@ class Processing {
     void CloseIfWaiting();
 
   private:
-    AppState& state_;
+    const AppState& state_;
     recognition::ProcessRun& run_;
-    std::function<void()> runBegins_;
-    std::function<void()> closeWindow_;
+    Listener listener_;
+    bool isRunning_ = false;
     bool closeAfterRun_ = false;
 };
 

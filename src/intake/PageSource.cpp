@@ -1,0 +1,84 @@
+#include "intake/PageSource.h"
+
+#include <utility>
+
+#include "imaging/ImageHeader.h"
+#include "imaging/ScanPicture.h"
+#include "imaging/TiffPages.h"
+#include "intake/PdfPages.h"
+
+namespace tavrene::intake {
+namespace {
+
+using imaging::Bitmap;
+using imaging::ImageFormat;
+
+Reason DamagedPage(int index) {
+    return {"Page " + std::to_string(index + 1) + " is damaged or too large."};
+}
+
+class TiffSource final : public PageSource {
+  public:
+    explicit TiffSource(app::Bytes content) : content_(std::move(content)), reader_(content_) {}
+
+    int PageCount() const override { return reader_.PageCount(); }
+
+    std::variant<Bitmap, Reason> Page(int index) override {
+        Bitmap page = reader_.Page(index);
+        if (!page)
+            return DamagedPage(index);
+        return page;
+    }
+
+  private:
+    app::Bytes content_;
+    imaging::TiffReader reader_;
+};
+
+class PictureSource final : public PageSource {
+  public:
+    PictureSource(app::Bytes content, ImageFormat format) : content_(std::move(content)), format_(format) {}
+
+    int PageCount() const override { return 1; }
+
+    std::variant<Bitmap, Reason> Page(int index) override {
+        if (imaging::IsTooLarge(content_, format_) || !imaging::IsWhole(content_, format_))
+            return DamagedPage(index);
+        Bitmap picture = imaging::DecodeImage(content_, format_);
+        if (!picture)
+            return DamagedPage(index);
+        // Where the file carries no resolution the library makes one up.
+        const imaging::ResolutionPresence carried = imaging::FindResolution(content_, format_);
+        if (!carried.x || !carried.y)
+            imaging::SetResolution(picture, 0, 0);
+        return picture;
+    }
+
+  private:
+    app::Bytes content_;
+    ImageFormat format_;
+};
+
+}  // namespace
+
+std::variant<std::unique_ptr<PageSource>, Reason> OpenPages(app::Bytes content) {
+    if (IsPdf(content))
+        return OpenPdf(std::move(content));
+    const std::optional<ImageFormat> format = imaging::FormatOfContent(content);
+    if (!format)
+        return Reason{"This is no PDF and no picture that can be read."};
+    if (*format != ImageFormat::Tiff)
+        return std::make_unique<PictureSource>(std::move(content), *format);
+    auto tiff = std::make_unique<TiffSource>(std::move(content));
+    if (tiff->PageCount() == 0)
+        return Reason{"The file is damaged."};
+    return tiff;
+}
+
+int CountPages(app::Bytes content) {
+    const auto pages = OpenPages(std::move(content));
+    const auto* const source = std::get_if<std::unique_ptr<PageSource>>(&pages);
+    return source == nullptr ? 0 : (*source)->PageCount();
+}
+
+}  // namespace tavrene::intake
