@@ -72,6 +72,8 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
     RebuildStrip();
+    if (const std::string offer = context_.offerMore ? context_.offerMore() : ""; !offer.empty())
+        notes_.push_back(offer);
     if (profile_.CurrentProfile == 0)
         notes_.emplace_back("The new profile lies outside the Profiles folder, so no run will use it.");
     return true;

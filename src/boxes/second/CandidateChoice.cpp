@@ -1,8 +1,8 @@
 #include "boxes/second/CandidateChoice.h"
 
 #include <algorithm>
+#include <tuple>
 
-#include "boxes/PointIndex.h"
 #include "boxes/PrintInBoxes.h"
 
 namespace tavrene::boxes {
@@ -33,7 +33,7 @@ bool IsBoxShaped(BoxSize size) {
 class Choice {
   public:
     Choice(const std::vector<Proposal>& proposals, const std::vector<BoxRect>& there, const BoxSizes& sizes)
-        : settings_(sizes) {
+        : settings_(sizes), thereCount_(static_cast<int>(there.size())) {
         for (const Proposal& proposal : proposals)
             print_.Add(proposal.Ruled);
         for (const BoxRect& box : there)
@@ -74,6 +74,7 @@ class Choice {
     }
 
     BoxSizes settings_;
+    int thereCount_;
     PrintInBoxes print_;
     SizeTable there_;
     SizeTable sharp_;
@@ -95,7 +96,8 @@ int Choice::OddsOf(const Proposal& proposal) const {
             return 80 + shown;
         if (IsClosed(proposal) && fits)
             return 60 + shown;
-        if (fits && sound >= 2 * kInNumber)
+        // Zeros of a large type are as straight; on a form of boxes of another size they are no third kind.
+        if (fits && sound >= std::max(2 * kInNumber, 2 * thereCount_))
             return 50 + shown;
         return 0;
     }
@@ -108,7 +110,12 @@ int Choice::OddsOf(const Proposal& proposal) const {
     return 0;
 }
 
-// Boxes that were chosen, findable by place.
+// The most probable first, those as probable from the top of the page down and from left to right.
+bool IsBefore(const Candidate& a, const Candidate& b) {
+    return std::tuple(-a.Odds, -a.Box.T, a.Box.L) < std::tuple(-b.Odds, -b.Box.T, b.Box.L);
+}
+
+// Boxes that were chosen.
 class Chosen {
   public:
     void Add(const BoxRect& box) { boxes_.push_back(box); }
@@ -136,8 +143,7 @@ std::vector<Candidate> ChooseCandidates(const std::vector<Proposal>& proposals,
         if (const int odds = choice.OddsOf(proposal); odds > 0)
             likely.push_back({proposal.Ruled.Box, odds});
     }
-    std::stable_sort(likely.begin(), likely.end(),
-                     [](const Candidate& a, const Candidate& b) { return a.Odds > b.Odds; });
+    std::stable_sort(likely.begin(), likely.end(), IsBefore);
     Chosen chosen;
     for (const BoxRect& box : there)
         chosen.Add(box);

@@ -56,6 +56,8 @@ constexpr std::array kCommands = {
                 M::Boxes, "&Undo", "Ctrl+Z", "", false, true},
     CommandInfo{C::Redo, T::None, "Redo", "Make the change again that was taken back",
                 M::Boxes, "R&edo", "Ctrl+Shift+Z", "", false, false},
+    CommandInfo{C::FindMoreBoxes, T::None, "FindMoreBoxes", "Look for boxes of the page that are not in the list",
+                M::Boxes, "&Find More Boxes", "Ctrl+M", "", false, true},
     CommandInfo{C::OpenForm, T::None, "OpenForm", "Open the form of the selected line",
                 M::Review, "Open &Form\tEnter", "", "", false, true},
     CommandInfo{C::NextForm, T::None, "NextForm", "Open the form below",

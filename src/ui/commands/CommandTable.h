@@ -26,6 +26,7 @@ enum class Command {
     RenameBox,
     Undo,
     Redo,
+    FindMoreBoxes,
     OpenForm,
     NextForm,
     PreviousForm,

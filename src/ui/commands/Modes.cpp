@@ -38,7 +38,7 @@ const Rule kRules[] = {
     {{C::Okay, C::RejectForm}, "F", Prompts::None, "", "RF"},
     {{C::AcceptForm}, "F", Prompts::Form, "", "RF"},
     {{C::SelectBox, C::AddBox, C::DeleteBox}, "P"},
-    {{C::RenameBox, C::Undo, C::Redo}, "P"},
+    {{C::RenameBox, C::Undo, C::Redo, C::FindMoreBoxes}, "P"},
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
     {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},

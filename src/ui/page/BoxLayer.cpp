@@ -137,6 +137,11 @@ int BoxLayer::BoxAt(const QPointF& point) const {
     return found;
 }
 
+bool BoxLayer::IsEditable(int group) const {
+    const auto box = boxes_.find(group);
+    return box != boxes_.end() && box->second.style == imaging::RectStyle::Editable;
+}
+
 QRectF BoxLayer::PlaceOf(int group) const {
     const auto box = boxes_.find(group);
     return box == boxes_.end() ? QRectF() : box->second.place;

@@ -58,6 +58,9 @@ class BoxLayer final {
     /// The box at a point, the smallest where several lie over each other; 0 for none.
     int BoxAt(const QPointF& point) const;
     int SelectedBox() const { return selected_; }
+
+    /// Whether a box can be moved and resized; any other is told of when it is clicked.
+    bool IsEditable(int group) const;
     int NextGroup() const { return nextGroup_; }
 
     /// Where a box is shown; an empty rectangle for one that is not there.

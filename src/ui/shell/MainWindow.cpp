@@ -43,6 +43,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       splitter_(new QSplitter(this)),
       view_(new ImageView(context.files, this)),
       boxes_(new BoxListView(this)),
+      candidates_(new CandidatePane(this)),
       side_(new QStackedWidget(this)),
       profiles_(new ProfilePane(this)),
       forms_(new ReviewPane(this)),
@@ -53,7 +54,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
              [this] { return review_.MayLeave(); }}),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
-            {*view_, *boxes_, *profiles_}),
+            {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, gate_}, {*view_, *boxes_, *side_, *forms_},
               [this] { desk_.Close(); }),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { review_.RunEnded(); }, [this] { close(); }}),
@@ -76,16 +77,22 @@ void MainWindow::BuildLayout() {
     side_->addWidget(profiles_);
     side_->addWidget(forms_);
     side_->setMinimumWidth(150);
-    boxes_->setMinimumWidth(180);
+    auto* const lists = new QSplitter(Qt::Vertical, splitter_);
+    lists->setObjectName("Splitter2");
+    lists->setChildrenCollapsible(false);
+    lists->setMinimumWidth(180);
+    lists->addWidget(boxes_);
+    lists->addWidget(candidates_);
     view_->setMinimumWidth(300);
     splitter_->addWidget(side_);
     splitter_->addWidget(view_);
-    splitter_->addWidget(boxes_);
+    splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
     setCentralWidget(splitter_);
     const std::initializer_list<QWidget*> order = {
-        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_};
+        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_,
+        &candidates_->List()};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
@@ -196,10 +203,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else
+    if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
+    else if (!desk_.CloseCandidates())
+        close();
 }
 
 void MainWindow::RestoreShape() {

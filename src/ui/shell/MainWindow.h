@@ -65,6 +65,7 @@ class MainWindow final : public QMainWindow {
     QSplitter* splitter_;
     ImageView* view_;
     BoxListView* boxes_;
+    CandidatePane* candidates_;
     QStackedWidget* side_;
     ProfilePane* profiles_;
     ReviewPane* forms_;
