@@ -83,6 +83,15 @@ Best BestProfile(std::span<const ProfileRecord> profiles, std::span<const Profil
 
 }  // namespace
 
+Classification Classify(const imaging::Page& page, std::span<const ProfileRecord> profiles) {
+    Classification result;
+    result.matches = MatchProfiles(page, profiles);
+    const Best best = BestProfile(profiles, result.matches);
+    if (best.score > kLowConfidence)
+        result.winner = static_cast<int>(best.index);
+    return result;
+}
+
 Classification ClassifyImage(const std::string& imageName, const imaging::Page& page,
                              std::span<const ProfileRecord> profiles, app::ActivityLog& log) {
     Classification result;

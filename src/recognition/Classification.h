@@ -30,6 +30,9 @@ struct Classification {
 /// A form belongs to a profile when more than half of its sampled outlines were found.
 inline constexpr int kLowConfidence = 50;
 
+/// Decides as below, without a word.
+Classification Classify(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles);
+
 /// Decides which of the profiles the page is a form of, by looking for the printed outlines of a sample of
 /// each active profile's boxes within `kMaxShift` pixels of their place, and logs one line. A profile without
 /// boxes ends the scan for itself and all later ones.

@@ -1,0 +1,57 @@
+#include "recognition/precise/PreciseMark.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <vector>
+
+namespace tavrene::recognition::precise {
+namespace {
+
+constexpr int kBorder = 4;
+
+int CountInRow(const BitPlane& pixels, int row, int first, int last) {
+    using Word = BitPlane::Word;
+    const Word* const words = pixels.Row(row);
+    int count = 0;
+    for (int index = first / BitPlane::kWordBits; index <= last / BitPlane::kWordBits; ++index) {
+        const int start = index * BitPlane::kWordBits;
+        Word word = words[index];
+        if (first > start)
+            word &= ~Word{0} << static_cast<unsigned>(first - start);
+        if (last < start + BitPlane::kWordBits - 1)
+            word &= ~Word{0} >> static_cast<unsigned>(start + BitPlane::kWordBits - 1 - last);
+        count += std::popcount(word);
+    }
+    return count;
+}
+
+}  // namespace
+
+double FillInside(const BitPlane& pixels, const GridRect& place) {
+    const std::int64_t width = std::int64_t{place.col1} - place.col0 + 1 - 2 * kBorder;
+    const std::int64_t height = std::int64_t{place.row1} - place.row0 + 1 - 2 * kBorder;
+    if (width <= 0 || height <= 0)
+        return 0;
+    const int first = std::max(0, place.col0 + kBorder);
+    const int last = std::min(pixels.Width() - 1, place.col1 - kBorder);
+    const int lastRow = std::min(pixels.Height() - 1, place.row1 - kBorder);
+    std::int64_t ink = 0;
+    for (int row = std::max(0, place.row0 + kBorder); row <= lastRow && first <= last; ++row)
+        ink += CountInRow(pixels, row, first, last);
+    return static_cast<double>(ink * 100) / static_cast<double>(width * height);
+}
+
+double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale) {
+    std::vector<double> sides;
+    for (const profiles::OmrBox& box : profile.Boxes)
+        sides.push_back(std::min((box.R - box.L) * static_cast<double>(scale.sx),
+                                 (box.T - box.B) * static_cast<double>(scale.sy)));
+    if (sides.empty())
+        return 0;
+    const auto middle = sides.begin() + static_cast<std::ptrdiff_t>(sides.size() / 2);
+    std::nth_element(sides.begin(), middle, sides.end());
+    return *middle;
+}
+
+}  // namespace tavrene::recognition::precise

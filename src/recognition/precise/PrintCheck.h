@@ -1,0 +1,40 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "imaging/PageReader.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/precise/CellPage.h"
+#include "recognition/precise/MapSearch.h"
+
+namespace tavrene::recognition {
+
+/// What is printed on the specimen of a profile, as far as it tells forms apart.
+struct SpecimenPrint {
+    /// Points of the print, spread over the page: pixels of the specimen, page frame as in the profile.
+    std::vector<precise::CellPoint> points;
+    /// Ink inside each box, percent of the area that is counted: a printed letter, say.
+    std::vector<double> inside;
+    /// The profile's boxes lie on this print. Where they do not, the image is not the one the profile was made
+    /// from, and says nothing.
+    bool belongs = false;
+};
+
+/// Takes the print of a specimen.
+SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRecord& profile);
+
+namespace precise {
+
+/// How far the print of a specimen lies on the ink of a page: 1 is wholly, 0 no better than by chance.
+/// `points` are where the profile would have them on the page, in cells; `reach` (cells) is how near ink must be.
+double PrintShare(CellPage& page, std::span<const CellPoint> points, const Alignment& alignment,
+                  std::span<const SoughtBox> boxes, int reach);
+
+/// The map, turned and stretched so that also the print far from the boxes lies on ink: a few boxes, or one
+/// column of them, leave that open.
+PageMap TurnedByPrint(CellPage& page, std::span<const CellPoint> points, const Alignment& alignment,
+                      std::span<const SoughtBox> boxes, double shiftReach);
+
+}  // namespace precise
+}  // namespace tavrene::recognition

@@ -1,0 +1,92 @@
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+
+#include "recognition/FormScale.h"
+#include "recognition/MarkReading.h"
+#include "recognition/precise/BoxRefinement.h"
+#include "recognition/precise/PreciseMark.h"
+#include "recognition/precise/PrintCheck.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using precise::BitPlane;
+using precise::CellPoint;
+
+constexpr std::size_t kPoints = 1500;
+constexpr int kTile = 32;                // cells
+constexpr double kMargin = 0.02;         // of the page on each side: there lie the scanner's shadows
+constexpr double kOutlineShare = 0.72;   // of an outline that must be there for a box to lie on the print
+constexpr int kReach = 4;
+
+// The ink of a page by tile, without its margins.
+std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells) {
+    const int across = cells.Width() / kTile + 1;
+    std::vector<std::vector<CellPoint>> tiles(static_cast<std::size_t>(across) *
+                                              static_cast<std::size_t>(cells.Height() / kTile + 1));
+    const auto marginX = static_cast<int>(kMargin * cells.Width());
+    const auto marginY = static_cast<int>(kMargin * cells.Height());
+    const BitPlane solid = Eroded2(cells);
+    for (int row = marginY; row < cells.Height() - marginY; ++row) {
+        for (int index = 0; index < cells.Words(); ++index) {
+            BitPlane::Word word = cells.Row(row)[index] & ~solid.Row(row)[index];
+            for (; word != 0; word &= word - 1) {
+                const int column = index * BitPlane::kWordBits + std::countr_zero(word);
+                if (column >= marginX && column < cells.Width() - marginX)
+                    tiles[static_cast<std::size_t>(row / kTile * across + column / kTile)].push_back(
+                        {static_cast<double>(column), static_cast<double>(row)});
+            }
+        }
+    }
+    return tiles;
+}
+
+// The most points a tile may give so that all together are about `kPoints`.
+std::size_t FairPart(const std::vector<std::vector<CellPoint>>& tiles) {
+    std::size_t part = 1;
+    for (std::size_t sum = 0; part < kPoints; ++part) {
+        sum = 0;
+        for (const auto& tile : tiles)
+            sum += std::min(tile.size(), part);
+        if (sum >= kPoints)
+            break;
+    }
+    return part;
+}
+
+std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, int height) {
+    const std::vector<std::vector<CellPoint>> tiles = InkByTile(page.Cells());
+    const std::size_t part = FairPart(tiles);
+    std::vector<CellPoint> points;
+    for (const auto& tile : tiles) {
+        const std::size_t taken = std::min(tile.size(), part);
+        for (std::size_t k = 0; k < taken; ++k) {
+            const CellPoint& cell = tile[k * tile.size() / taken];
+            points.push_back({page.ToPixels(cell.x), imaging::FlipVertically(double(height), page.ToPixels(cell.y))});
+        }
+    }
+    return points;
+}
+
+}  // namespace
+
+SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRecord& profile) {
+    SpecimenPrint print;
+    const BitPlane pixels = WithoutNoise(precise::PlaneOf(specimen.grid));
+    precise::CellPages pages(pixels);
+    const FormScale scale = ScaleBetween(specimen, profile);
+    print.points = SpreadPoints(pages.ForBoxesOf(precise::TypicalBox(profile, scale)), specimen.grid.Rows());
+    precise::OutlineFinder finder(pixels, 1);
+    std::size_t lying = 0;
+    for (const profiles::OmrBox& box : profile.Boxes) {
+        const GridRect place = PlaceOf(specimen.grid, box, scale, {});
+        if (finder.Find(place, kReach).ratio >= kOutlineShare)
+            ++lying;
+        print.inside.push_back(precise::FillInside(pixels, place));
+    }
+    print.belongs = 2 * lying > profile.Boxes.size() && !print.points.empty();
+    return print;
+}
+
+}  // namespace tavrene::recognition
