@@ -98,14 +98,15 @@ KnownForm Know(const FormDesign& design, int dpi, const char* name) {
 }
 
 // Profiles that are loaded beside the right one.
-std::span<const KnownForm> Bystanders() {
+// Profiles of one box, or of one column, are loaded for strangers alone: the described rules take any page for them.
+std::span<const KnownForm> Bystanders(bool alsoSmall) {
     static const std::vector<KnownForm> known = {
         Know({FormKind::Survey, 900001}, 200, "Another survey"),
         Know({FormKind::Few, 900002, 3}, 200, "Three boxes"),
-        Know({FormKind::OneColumn, 900003}, 200, "One column"),
         Know({FormKind::Dense, 900004}, 200, "Dense"),
+        Know({FormKind::OneColumn, 900003}, 200, "One column"),
         Know({FormKind::Few, 900005, 1}, 200, "One box")};
-    return known;
+    return std::span(known).first(alsoSmall ? known.size() : 3);
 }
 
 double Signed(double value, Random& dice) {
@@ -138,7 +139,7 @@ ReadingPage PaintReadingPage(const ReadingClass& kind, std::uint64_t seed) {
     FormDesign sister = design;
     sister.Trait = kind.Sister;
     const bool asSister = kind.Sister != SisterTrait::None && dice.Chance(0.5);
-    for (const KnownForm& known : Bystanders())
+    for (const KnownForm& known : Bystanders(kind.Stranger.has_value()))
         Load(page, known);
     if (kind.Stranger) {
         wear = MixedWear(dice);

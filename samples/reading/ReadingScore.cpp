@@ -85,34 +85,27 @@ std::string Fault(const ReadingPage& page, const Answer& answer) {
 
 }  // namespace
 
-std::vector<ReadingRow> ScoreReadings(std::size_t pages, Seeds seeds, const std::string& part,
-                                      const std::function<void(const std::string&)>& tell) {
-    std::vector<ReadingRow> rows;
-    std::uint64_t classNumber = 0;
-    for (const ReadingClass& kind : ReadingClasses()) {
-        ++classNumber;
-        if (kind.Name.find(part) == std::string::npos)
-            continue;
-        ReadingRow row;
-        row.Class = &kind;
-        for (std::size_t k = 0; k < pages; ++k) {
-            const std::uint64_t seed = classNumber * 1000000 + 2 * k + (seeds == Seeds::Odd ? 1 : 0);
-            const ReadingPage page = PaintReadingPage(kind, seed);
-            const Answer described = ReadAsDescribed(page);
-            const Answer precise = ReadWithPrecision(page);
-            ++row.Pages;
-            for (const auto& marked : page.Marked)
-                row.Boxes += marked ? 1U : 0U;
-            Count(page, described, row.Described);
-            Count(page, precise, row.Precise);
-            CountFlags(page, described, precise, row);
-            const std::string fault = Fault(page, precise);
-            if (tell && !fault.empty())
-                tell(kind.Name + ", seed " + std::to_string(seed) + ": " + fault);
-        }
-        rows.push_back(row);
+ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, Seeds seeds,
+                      const std::function<void(const std::string&)>& tell) {
+    ReadingRow row;
+    row.Class = &kind;
+    const auto number = static_cast<std::uint64_t>(&kind - ReadingClasses().data()) + 1;
+    for (std::size_t k = 0; k < pages; ++k) {
+        const std::uint64_t seed = number * 1000000 + 2 * k + (seeds == Seeds::Odd ? 1 : 0);
+        const ReadingPage page = PaintReadingPage(kind, seed);
+        const Answer described = ReadAsDescribed(page);
+        const Answer precise = ReadWithPrecision(page);
+        ++row.Pages;
+        for (const auto& marked : page.Marked)
+            row.Boxes += marked ? 1U : 0U;
+        Count(page, described, row.Described);
+        Count(page, precise, row.Precise);
+        CountFlags(page, described, precise, row);
+        const std::string fault = Fault(page, precise);
+        if (tell && !fault.empty())
+            tell(kind.Name + ", seed " + std::to_string(seed) + ": " + fault);
     }
-    return rows;
+    return row;
 }
 
 }  // namespace tavrene::samples

@@ -12,12 +12,12 @@ using profiles::OmrBox;
 using profiles::ProfileRecord;
 
 // How far paper and scanners move a form.
-constexpr double kShiftMm = 12;
+constexpr double kShiftMm = 14;
 constexpr double kTurn = 3.2 * 3.14159265358979 / 180;
-constexpr double kStretch = 0.036;
+constexpr double kStretch = 0.038;
 
-constexpr double kLeastPrint = 0.75;
-constexpr double kSurePrint = 0.85;   // below it, the print itself may turn the map into place
+constexpr double kLeastPrint = 0.8;
+constexpr double kSurePrint = 0.9;   // below it, the print itself may turn the map into place
 constexpr double kClearPrint = 0.95;  // nothing that fits fewer boxes can beat it
 constexpr double kSamePrint = 0.05;
 constexpr double kPrintMm = 0.5;
@@ -149,12 +149,16 @@ FormMatch FormMatcher::MatchOneWay(bool turned) {
         return a.alignment.bound > b.alignment.bound;
     });
     double bestPrint = 0;
+    double clearBound = 0;
     for (FormMatch& match : matches) {
-        if (bestPrint > kClearPrint)
+        if (match.alignment.bound < clearBound)
             break;
         Judge(match, bestPrint);
-        if (match.accepted)
-            bestPrint = std::max(bestPrint, match.print);
+        if (!match.accepted)
+            continue;
+        bestPrint = std::max(bestPrint, match.print);
+        if (match.print > kClearPrint)
+            clearBound = std::max(clearBound, match.alignment.bound);
     }
     const auto best = std::min_element(
         matches.begin(), matches.end(),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -9,6 +10,7 @@ namespace tavrene::recognition::precise {
 namespace {
 
 constexpr int kBorder = 4;
+constexpr double kFineDpi = 300;
 
 int CountInRow(const BitPlane& pixels, int row, int first, int last) {
     using Word = BitPlane::Word;
@@ -28,18 +30,22 @@ int CountInRow(const BitPlane& pixels, int row, int first, int last) {
 
 }  // namespace
 
-double FillInside(const BitPlane& pixels, const GridRect& place) {
-    const std::int64_t width = std::int64_t{place.col1} - place.col0 + 1 - 2 * kBorder;
-    const std::int64_t height = std::int64_t{place.row1} - place.row0 + 1 - 2 * kBorder;
+double FillInside(const BitPlane& pixels, const GridRect& place, int border) {
+    const std::int64_t width = std::int64_t{place.col1} - place.col0 + 1 - 2 * border;
+    const std::int64_t height = std::int64_t{place.row1} - place.row0 + 1 - 2 * border;
     if (width <= 0 || height <= 0)
         return 0;
-    const int first = std::max(0, place.col0 + kBorder);
-    const int last = std::min(pixels.Width() - 1, place.col1 - kBorder);
-    const int lastRow = std::min(pixels.Height() - 1, place.row1 - kBorder);
+    const int first = std::max(0, place.col0 + border);
+    const int last = std::min(pixels.Width() - 1, place.col1 - border);
+    const int lastRow = std::min(pixels.Height() - 1, place.row1 - border);
     std::int64_t ink = 0;
-    for (int row = std::max(0, place.row0 + kBorder); row <= lastRow && first <= last; ++row)
+    for (int row = std::max(0, place.row0 + border); row <= lastRow && first <= last; ++row)
         ink += CountInRow(pixels, row, first, last);
     return static_cast<double>(ink * 100) / static_cast<double>(width * height);
+}
+
+int BorderOf(const imaging::Page& page) {
+    return std::max(kBorder, static_cast<int>(std::lround(kBorder * page.DPI_X / kFineDpi)));
 }
 
 double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale) {

@@ -68,13 +68,16 @@ std::vector<MarkReading> ReadMarksAt(const imaging::Page& page, const BitPlane& 
                                      const ProfileRecord& profile, std::span<const BoxShift> shifts,
                                      const SpecimenPrint* print, std::int16_t fillThreshold) {
     const FormScale scale = ScaleBetween(page, profile);
+    const int border = precise::BorderOf(page);
     std::vector<MarkReading> marks;
     marks.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
         const GridRect place = PlaceOf(page.grid, profile.Boxes[k], scale, shifts[k]);
-        double fill = precise::FillInside(pixels, place);
-        if (print != nullptr && print->belongs && print->inside[k] >= kPrintedInside)
-            fill = std::max(0.0, fill - print->inside[k]);
+        const double printed =
+            print != nullptr && print->belongs ? print->Inside(k, border / static_cast<double>(scale.sx)) : 0;
+        double fill = precise::FillInside(pixels, place, border);
+        if (printed >= kPrintedInside)
+            fill = std::max(0.0, fill - printed);
         marks.push_back({profile.Boxes[k].Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
     }
     return marks;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 
 #include "recognition/FormScale.h"
@@ -71,6 +72,11 @@ std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, int height) {
 
 }  // namespace
 
+double SpecimenPrint::Inside(std::size_t index, double border) const {
+    const auto step = static_cast<std::size_t>(std::max(0L, std::lround(border) - 1));
+    return inside[index][std::min(step, kBorders - 1)];
+}
+
 SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRecord& profile) {
     SpecimenPrint print;
     const BitPlane pixels = WithoutNoise(precise::PlaneOf(specimen.grid));
@@ -83,7 +89,9 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
         if (finder.Find(place, kReach).ratio >= kOutlineShare)
             ++lying;
-        print.inside.push_back(precise::FillInside(pixels, place));
+        auto& inside = print.inside.emplace_back();
+        for (std::size_t k = 0; k < SpecimenPrint::kBorders; ++k)
+            inside[k] = precise::FillInside(pixels, place, static_cast<int>(k) + 1);
     }
     print.belongs = 2 * lying > profile.Boxes.size() && !print.points.empty();
     return print;
