@@ -15,11 +15,13 @@ namespace {
 constexpr std::int16_t kThreshold = 8;
 
 const imaging::Page& ThePage() {
-    static const auto read = imaging::ReadPage(app::DiskFiles(), TheFormPage().file, imaging::ImageFormat::Tiff);
+    static const auto read =
+        imaging::ReadPage(app::DiskFiles(), TheFormPage().file, imaging::ImageFormat::Tiff);
     return std::get<imaging::Page>(read);
 }
 
-// The form's profile behind others with boxes of the same size, all elsewhere: candidates abound, and none fits.
+// The form's profile behind others with boxes of the same size, all elsewhere: candidates abound, and none
+// fits.
 std::vector<profiles::ProfileRecord> AmongStrangers(int strangers) {
     std::vector<profiles::ProfileRecord> profiles;
     for (int k = 0; k < strangers; ++k) {
@@ -46,8 +48,8 @@ void BM_ReadAsDescribed(benchmark::State& state) {
         recognition::Classification found = recognition::Classify(ThePage(), profiles);
         const auto winner = static_cast<std::size_t>(found.winner);
         recognition::SpreadShifts(profiles[winner], found.matches[winner].Shifts);
-        benchmark::DoNotOptimize(recognition::ReadMarks(ThePage(), profiles[winner],
-                                                        found.matches[winner].Shifts, kThreshold));
+        benchmark::DoNotOptimize(
+            recognition::ReadMarks(ThePage(), profiles[winner], found.matches[winner].Shifts, kThreshold));
     }
 }
 

@@ -15,10 +15,11 @@ constexpr double kWidth = 210;  // A4, millimetres
 constexpr double kHeight = 297;
 constexpr double kLarger = 1.045;
 
-constexpr std::array kWords = {"please",  "mark",   "every",  "line",    "that",    "holds",  "for",     "you",
-                               "number",  "of",     "days",   "in",      "service", "House",  "Board",   "Office",
-                               "Nothing", "under",  "Total",  "health",  "date",    "within", "January", "OBED",
-                               "street",  "people", "Please", "between", "and",     "15",     "2040",    "HELD"};
+constexpr std::array kWords = {"please", "mark",    "every",   "line",   "that",   "holds",   "for",
+                               "you",    "number",  "of",      "days",   "in",     "service", "House",
+                               "Board",  "Office",  "Nothing", "under",  "Total",  "health",  "date",
+                               "within", "January", "OBED",    "street", "people", "Please",  "between",
+                               "and",    "15",      "2040",    "HELD"};
 
 Typeface& Face(bool bold) {
     static Typeface plain(Typeface::Style::Sans);

@@ -84,8 +84,8 @@ void AddPrint(Rows& rows) {
 void AddResolutions(Rows& rows) {
     for (const int dpi : {100, 150, 300, 400, 600}) {
         for (const bool same : {true, false}) {
-            ReadingClass& row = rows.Add(std::to_string(dpi) + " dpi, tilt 0.7°" +
-                                         (same ? "" : ", profile of 200 dpi"));
+            ReadingClass& row =
+                rows.Add(std::to_string(dpi) + " dpi, tilt 0.7°" + (same ? "" : ", profile of 200 dpi"));
             row.ScanDpi = dpi;
             row.ProfileDpi = same ? dpi : 200;
             row.Wear.TiltDegrees = 0.7;
@@ -100,8 +100,8 @@ void AddResolutions(Rows& rows) {
 
 void AddProfiles(Rows& rows) {
     for (int boxes = 1; boxes <= 6; ++boxes) {
-        ReadingClass& row = rows.Add("profile of " + std::to_string(boxes) + (boxes == 1 ? " box" : " boxes") +
-                                     ", tilt 0.7°");
+        ReadingClass& row = rows.Add("profile of " + std::to_string(boxes) +
+                                     (boxes == 1 ? " box" : " boxes") + ", tilt 0.7°");
         row.Kind = FormKind::Few;
         row.Boxes = boxes;
         row.Wear.TiltDegrees = 0.7;

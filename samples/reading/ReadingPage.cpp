@@ -9,8 +9,8 @@
 namespace tavrene::samples {
 namespace {
 
-constexpr std::array kTurns = {FormKind::Survey, FormKind::TwoColumns, FormKind::Table, FormKind::Dense,
-                               FormKind::Survey, FormKind::Letters};
+constexpr std::array kTurns = {FormKind::Survey, FormKind::TwoColumns, FormKind::Table,
+                               FormKind::Dense,  FormKind::Survey,     FormKind::Letters};
 constexpr int kInset = 4;
 constexpr double kLeastMark = 0.14;  // of the inside: fainter marks are a matter of the threshold
 constexpr double kStained = 0.02;
@@ -98,14 +98,14 @@ KnownForm Know(const FormDesign& design, int dpi, const char* name) {
 }
 
 // Profiles that are loaded beside the right one.
-// Profiles of one box, or of one column, are loaded for strangers alone: the described rules take any page for them.
+// Profiles of one box, or of one column, are loaded for strangers alone: the described rules take any page
+// for them.
 std::span<const KnownForm> Bystanders(bool alsoSmall) {
-    static const std::vector<KnownForm> known = {
-        Know({FormKind::Survey, 900001}, 200, "Another survey"),
-        Know({FormKind::Few, 900002, 3}, 200, "Three boxes"),
-        Know({FormKind::Dense, 900004}, 200, "Dense"),
-        Know({FormKind::OneColumn, 900003}, 200, "One column"),
-        Know({FormKind::Few, 900005, 1}, 200, "One box")};
+    static const std::vector<KnownForm> known = {Know({FormKind::Survey, 900001}, 200, "Another survey"),
+                                                 Know({FormKind::Few, 900002, 3}, 200, "Three boxes"),
+                                                 Know({FormKind::Dense, 900004}, 200, "Dense"),
+                                                 Know({FormKind::OneColumn, 900003}, 200, "One column"),
+                                                 Know({FormKind::Few, 900005, 1}, 200, "One box")};
     return std::span(known).first(alsoSmall ? known.size() : 3);
 }
 

@@ -48,8 +48,8 @@ ReadingRow SumOf(std::span<const ReadingRow> rows, Belongs belongs) {
 
 std::string TableLine(const std::string& name, const ReadingRow& row, bool stranger) {
     const auto fields = [&](const ReadingTally& tally) {
-        return (stranger ? "–" : Share(tally.Recognised, row.Pages, 1)) + " | " + std::to_string(tally.Mistaken) +
-               " | " + Share(tally.Right, tally.Boxes, 2);
+        return (stranger ? "–" : Share(tally.Recognised, row.Pages, 1)) + " | " +
+               std::to_string(tally.Mistaken) + " | " + Share(tally.Right, tally.Boxes, 2);
     };
     return "| " + name + " | " + std::to_string(row.Pages) + " | " + fields(row.Described) + " | " +
            fields(row.Precise) + " | " + Share(row.Flagged, row.DescribedErrors, 1) + " |\n";
@@ -95,7 +95,8 @@ std::string LineOf(const ReadingRow& row) {
     std::ostringstream line;
     line << row.Class->Name << '\t' << row.Pages << '\t' << row.Boxes;
     for (const ReadingTally* const tally : {&row.Described, &row.Precise})
-        line << '\t' << tally->Recognised << '\t' << tally->Mistaken << '\t' << tally->Boxes << '\t' << tally->Right;
+        line << '\t' << tally->Recognised << '\t' << tally->Mistaken << '\t' << tally->Boxes << '\t'
+             << tally->Right;
     line << '\t' << row.DescribedErrors << '\t' << row.Flagged;
     return line.str();
 }
@@ -123,7 +124,8 @@ std::vector<ReadingRow> RowsFrom(std::istream& lines) {
 
 std::string TableOf(std::span<const ReadingRow> rows) {
     std::string text =
-        "| pages | number | described: forms | mistaken | boxes | precise: forms | mistaken | boxes | flagged |\n"
+        "| pages | number | described: forms | mistaken | boxes | precise: forms | mistaken | boxes | "
+        "flagged |\n"
         "|---|---|---|---|---|---|---|---|---|\n";
     const auto isForm = [](const ReadingClass& kind) { return !kind.Stranger; };
     const auto isStranger = [](const ReadingClass& kind) { return kind.Stranger.has_value(); };
@@ -155,8 +157,8 @@ std::string CurvesOf(std::span<const ReadingRow> rows) {
         }
         if (points.size() < 2)
             continue;
-        Figure figure(out, 20 + static_cast<double>(k % across) * 220, 50 + static_cast<double>(k / across) * 150,
-                      points.back()->Class->At);
+        Figure figure(out, 20 + static_cast<double>(k % across) * 220,
+                      50 + static_cast<double>(k / across) * 150, points.back()->Class->At);
         figure.Frame(units[k]);
         figure.Line(points, false);
         figure.Line(points, true);

@@ -64,8 +64,8 @@ void CountFlags(const ReadingPage& page, const Answer& described, const Answer& 
         if (!IsWrong(page, described, k))
             continue;
         ++row.DescribedErrors;
-        const bool differs = precise.form != described.form ||
-                             precise.marks[k].Checked != described.marks[k].Checked;
+        const bool differs =
+            precise.form != described.form || precise.marks[k].Checked != described.marks[k].Checked;
         row.Flagged += differs ? 1U : 0U;
     }
 }

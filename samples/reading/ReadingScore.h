@@ -30,8 +30,8 @@ struct ReadingRow {
 
 enum class Seeds { Even, Odd };
 
-/// Reads `pages` pages of a class both ways. Even seeds are those that the constants were chosen on. `tell`, if there
-/// is one, hears of every page that precise alignment has wrong.
+/// Reads `pages` pages of a class both ways. Even seeds are those that the constants were chosen on. `tell`,
+/// if there is one, hears of every page that precise alignment has wrong.
 ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, Seeds seeds,
                       const std::function<void(const std::string&)>& tell = {});
 

@@ -143,9 +143,9 @@ WorkGrid ThroughJpeg(Canvas page, int quality, Random& dice) {
             page.Set(x, y, static_cast<Shade>(std::clamp(shade, 0.0, 255.0)));
         }
     }
-    const std::string file = (std::filesystem::temp_directory_path() /
-                              ("tavrene-scan-" + std::to_string(dice.Next()) + ".jpg"))
-                                 .string();
+    const std::string file =
+        (std::filesystem::temp_directory_path() / ("tavrene-scan-" + std::to_string(dice.Next()) + ".jpg"))
+            .string();
     SaveImage(ToGrey(page), imaging::ImageFormat::Jpeg, file, quality);
     auto read = imaging::ReadPage(app::DiskFiles(), file, imaging::ImageFormat::Jpeg);
     std::filesystem::remove(file);
@@ -168,8 +168,7 @@ imaging::Page CleanScan(const Canvas& sheet) {
 imaging::Page Scan(const Canvas& sheet, const ScanWear& wear, Random& dice) {
     Canvas page = Moved(sheet, wear, dice);
     AddEdgesAndHoles(page, wear, dice);
-    WorkGrid grid =
-        wear.JpegQuality > 0 ? ThroughJpeg(page, wear.JpegQuality, dice) : ToGrid(page);
+    WorkGrid grid = wear.JpegQuality > 0 ? ThroughJpeg(page, wear.JpegQuality, dice) : ToGrid(page);
     for (int k = 0; k < wear.Fat; ++k)
         Dilate(grid);
     if (wear.Thin > 0)

@@ -13,18 +13,19 @@ struct ScanWear {
     double ShiftY = 0;
     double StretchX = 0;  ///< 0.03 is 3 % longer.
     double StretchY = 0;
-    double Bend = 0;         ///< How far a slow bend moves a place at most.
-    double Thin = 0;         ///< Share of the outermost ink pixels that are gone.
-    int Fat = 0;             ///< Pixels added all around.
-    double Noise = 0;        ///< Share of all pixels turned over.
-    int DroppedLines = 0;    ///< Scan lines lost, as many doubled.
-    double BlackEdges = 0;   ///< Width of the shadow on two edges.
-    bool Holes = false;      ///< Two punched holes, seen black.
+    double Bend = 0;        ///< How far a slow bend moves a place at most.
+    double Thin = 0;        ///< Share of the outermost ink pixels that are gone.
+    int Fat = 0;            ///< Pixels added all around.
+    double Noise = 0;       ///< Share of all pixels turned over.
+    int DroppedLines = 0;   ///< Scan lines lost, as many doubled.
+    double BlackEdges = 0;  ///< Width of the shadow on two edges.
+    bool Holes = false;     ///< Two punched holes, seen black.
     bool UpsideDown = false;
-    int JpegQuality = 0;     ///< 0: two colours. Else grey paper through a JPEG file of this quality.
+    int JpegQuality = 0;  ///< 0: two colours. Else grey paper through a JPEG file of this quality.
 };
 
-/// The sheet as the scanner gives it, binarised as the program does. The scan tells the resolution of the canvas.
+/// The sheet as the scanner gives it, binarised as the program does. The scan tells the resolution of the
+/// canvas.
 imaging::Page Scan(const Canvas& sheet, const ScanWear& wear, Random& dice);
 
 /// A scan as it is, without any wear: a specimen.

@@ -27,7 +27,8 @@ void ExpectEqual(const BitPlane& plane, Plain plain, const char* what) {
     for (int row = 0; row < plane.Height(); ++row) {
         for (int column = 0; column < plane.Width(); ++column)
             ASSERT_EQ(plane.Has(column, row), plain(column, row)) << what << " " << column << "," << row;
-        ASSERT_EQ(plane.Row(row)[plane.Words() - 1] & ~plane.LastWordMask(), 0U) << what << ": ink beyond the width";
+        ASSERT_EQ(plane.Row(row)[plane.Words() - 1] & ~plane.LastWordMask(), 0U)
+            << what << ": ink beyond the width";
     }
 }
 

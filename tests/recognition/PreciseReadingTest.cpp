@@ -1,5 +1,3 @@
-#include "recognition/precise/PreciseReading.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,6 +6,9 @@
 #include "reading/ReadingPage.h"
 #include "reading/ReadingScore.h"
 #include "recognition/precise/MapSearch.h"
+#include "recognition/precise/SecondOpinion.h"
+#include "recognition/precise/ShiftFit.h"
+#include "recognition/precise/PreciseReading.h"
 
 namespace tavrene::recognition {
 namespace {
@@ -117,14 +118,37 @@ TEST_F(PreciseReadingTest, AnUpsideDownPageIsReadWhereItsBoxesAre) {
     const double height = forms_[form].Page.Height();
     EXPECT_NEAR(reading.marks.front().rect.left, width - first.x - first.width, 0.02 * width + 3);
     EXPECT_NEAR(reading.marks.front().rect.top, height - first.y - first.height, 0.02 * width + 3);
-    // Its document's shifts read the same again.
-    std::vector<BoxShift> shifts;
-    for (const MarkReading& mark : reading.marks)
-        shifts.push_back(mark.Shift);
+    // A document keeps shifts alone. They read the same again, also where some are missing.
+    std::vector<std::optional<BoxShift>> known;
+    for (std::size_t k = 0; k < reading.marks.size(); ++k) {
+        known.emplace_back(reading.marks[k].Shift);
+        if (k % 4 == 1)
+            known.back().reset();
+    }
     samples::Random dice(5);
-    const auto again = ReadMarksPrecisely(Scan(Filled(form), wear, dice), profiles_[form], shifts,
-                                          &prints_[form], kThreshold);
+    const imaging::Page page = Scan(Filled(form), wear, dice);
+    const std::vector<BoxShift> shifts = CompleteShifts(page, profiles_[form], known);
+    for (std::size_t k = 0; k < shifts.size(); ++k) {
+        EXPECT_NEAR(shifts[k].dx, reading.marks[k].Shift.dx, 3) << k;
+        EXPECT_NEAR(shifts[k].dy, reading.marks[k].Shift.dy, 3) << k;
+    }
+    const auto again = ReadMarksPrecisely(page, profiles_[form], shifts, &prints_[form], kThreshold);
     ASSERT_EQ(again.size(), reading.marks.size());
+    for (std::size_t k = 0; k < again.size(); ++k)
+        EXPECT_EQ(again[k].Checked, reading.marks[k].Checked) << again[k].Name;
+}
+
+TEST_F(PreciseReadingTest, ASecondOpinionSaysWhereReadingsDiffer) {
+    const std::size_t form = Add({FormKind::Survey, 3});
+    const PreciseReading precise = ReadForm(form, {});
+    std::vector<MarkReading> marks = precise.marks;
+    EXPECT_TRUE(CompareReadings(0, marks, precise).Agrees());
+    marks[4].Checked = !marks[4].Checked;
+    EXPECT_EQ(CompareReadings(0, marks, precise).boxes, std::vector<std::size_t>{4});
+    EXPECT_TRUE(CompareReadings(-1, {}, precise).onlyPrecise);
+    EXPECT_TRUE(CompareReadings(1, marks, precise).otherProfile);
+    EXPECT_TRUE(CompareReadings(1, marks, PreciseReading{}).otherProfile);
+    EXPECT_TRUE(CompareReadings(-1, {}, PreciseReading{}).Agrees());
 }
 
 TEST_F(PreciseReadingTest, StrangersAndSistersAreToldApart) {

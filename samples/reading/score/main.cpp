@@ -15,8 +15,10 @@ using namespace tavrene::samples;
 constexpr const char* kUsage =
     "Scores both readings on painted scans whose marks are known.\n"
     "  tavrene-score-reading [--pages N] [--strangers N] [--class TEXT] [--even] [--tell]\n"
-    "                                     one line a class, fields parted by tabs: name, pages, boxes; described:\n"
-    "                                     forms recognised, mistaken, boxes of these, right; the same precise;\n"
+    "                                     one line a class, fields parted by tabs: name, pages, boxes; "
+    "described:\n"
+    "                                     forms recognised, mistaken, boxes of these, right; the same "
+    "precise;\n"
     "                                     errors of the described reading, and how many the other one flags\n"
     "  tavrene-score-reading --table FILE   the lines of FILE as a table\n"
     "  tavrene-score-reading --curves FILE  the same as a picture (SVG)\n"

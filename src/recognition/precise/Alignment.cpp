@@ -1,7 +1,7 @@
+#include "recognition/precise/Alignment.h"
+
 #include <algorithm>
 #include <cmath>
-
-#include "recognition/precise/MapSearch.h"
 
 namespace tavrene::recognition::precise {
 namespace {
@@ -30,9 +30,9 @@ std::optional<Offset> OffsetAround(std::span<const SoughtBox> boxes, const Align
     std::vector<std::pair<double, std::size_t>> near;
     for (std::size_t k = 0; k < boxes.size(); ++k) {
         if (k != index && alignment.seen[k])
-            near.emplace_back(std::hypot(boxes[k].place.x - boxes[index].place.x,
-                                         boxes[k].place.y - boxes[index].place.y),
-                              k);
+            near.emplace_back(
+                std::hypot(boxes[k].place.x - boxes[index].place.x, boxes[k].place.y - boxes[index].place.y),
+                k);
     }
     if (near.size() < kLeastNeighbours)
         return std::nullopt;

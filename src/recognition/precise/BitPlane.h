@@ -28,8 +28,8 @@ class BitPlane {
     int Height() const { return height_; }
     int Words() const { return words_; }
 
-    /// Word 0 of row `row`, which may lie up to `kGuardRows` beyond the plane; the words -1 to `Words()` may be
-    /// read. Bit k of word w is column w x 64 + k.
+    /// Word 0 of row `row`, which may lie up to `kGuardRows` beyond the plane; the words -1 to `Words()` may
+    /// be read. Bit k of word w is column w x 64 + k.
     const Word* Row(int row) const { return cells_.data() + Offset(row); }
     Word* Row(int row) { return cells_.data() + Offset(row); }
 

@@ -9,8 +9,8 @@
 namespace tavrene::recognition::precise {
 namespace {
 
-// How far a box may lie from where the map or its neighbours put it, and how much of its outline must be there
-// then; pixels of 200 dpi.
+// How far a box may lie from where the map or its neighbours put it, and how much of its outline must be
+// there then; pixels of 200 dpi.
 constexpr double kReach = 4;
 constexpr double kNear = 3;
 constexpr double kNearRatio = 0.72;

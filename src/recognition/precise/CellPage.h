@@ -52,8 +52,8 @@ class CellPages {
     /// `page` without its noise; must outlive this.
     explicit CellPages(const BitPlane& page) : page_(page) {}
 
-    /// The page halved until `boxSize` pixels are less than 20 cells. A box of 10 to 20 cells is fine enough to
-    /// be told from letters and coarse enough for quick work.
+    /// The page halved until `boxSize` pixels are less than 20 cells. A box of 10 to 20 cells is fine enough
+    /// to be told from letters and coarse enough for quick work.
     CellPage& ForBoxesOf(double boxSize);
 
     const BitPlane& Pixels() const { return page_; }

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "recognition/precise/MapSearch.h"
 #include "recognition/precise/PreciseMark.h"
+#include "recognition/precise/PrintCheck.h"
 
 namespace tavrene::recognition::precise {
 namespace {
@@ -17,7 +19,7 @@ constexpr double kTurn = 3.2 * 3.14159265358979 / 180;
 constexpr double kStretch = 0.038;
 
 constexpr double kLeastPrint = 0.8;
-constexpr double kSurePrint = 0.9;   // below it, the print itself may turn the map into place
+constexpr double kSurePrint = 0.9;    // below it, the print itself may turn the map into place
 constexpr double kClearPrint = 0.95;  // nothing that fits fewer boxes can beat it
 constexpr double kSamePrint = 0.05;
 constexpr double kPrintMm = 0.5;
@@ -111,8 +113,7 @@ void FormMatcher::Lay(std::size_t index, bool turned, std::vector<FormMatch>& ma
 
 void FormMatcher::JudgeByPrint(FormMatch& match, const SpecimenPrint& print, double bestPrint) {
     const ProfileRecord& profile = profiles_[static_cast<std::size_t>(match.profile)];
-    const std::vector<CellPoint> points =
-        OnPage(match, page_, ScaleBetween(page_, profile), print.points);
+    const std::vector<CellPoint> points = OnPage(match, page_, ScaleBetween(page_, profile), print.points);
     const double perMm = PixelsPerMm(page_, profile);
     const int reach = PrintReach(*match.page, perMm);
     match.print = PrintShare(*match.page, points, match.alignment, match.boxes, reach);

@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "recognition/FormScale.h"
+#include "recognition/precise/Alignment.h"
+#include "recognition/precise/CellPage.h"
 #include "recognition/precise/PreciseReading.h"
 
 namespace tavrene::recognition::precise {
@@ -24,8 +26,8 @@ struct FormMatch {
 class FormMatcher {
   public:
     /// Everything must outlive this.
-    FormMatcher(const imaging::Page& page, CellPages& cells, std::span<const profiles::ProfileRecord> profiles,
-                const PrintSource& prints)
+    FormMatcher(const imaging::Page& page, CellPages& cells,
+                std::span<const profiles::ProfileRecord> profiles, const PrintSource& prints)
         : page_(page), cells_(cells), profiles_(profiles), prints_(prints) {}
 
     /// The best match, upside down only when there is none upright; the nearest one, not accepted, when there
@@ -44,8 +46,8 @@ class FormMatcher {
     const PrintSource& prints_;
 };
 
-/// A place of the profile (pixels of its specimen, page frame) on the page as the profile alone has it: pixels,
-/// grid frame.
+/// A place of the profile (pixels of its specimen, page frame) on the page as the profile alone has it:
+/// pixels, grid frame.
 CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, double x, double y, bool turned);
 
 /// Pixels of the page in a millimetre.

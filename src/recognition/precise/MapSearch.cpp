@@ -104,8 +104,8 @@ class Search {
         const double dy = b.place.y - a.place.y;
         const double ex = seenB.x - seenA.x - dx;
         const double ey = seenB.y - seenA.y - dy;
-        // ex = stretchX dx - turn dy and ey = stretchY dy + turn dx leave one unknown free. The smallest sum of
-        // squares solves the two by two system of their products.
+        // ex = stretchX dx - turn dy and ey = stretchY dy + turn dx leave one unknown free. The smallest sum
+        // of squares solves the two by two system of their products.
         const double square = dx * dx + dy * dy;
         const double xx = square;
         const double yy = square;

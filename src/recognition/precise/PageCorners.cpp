@@ -79,8 +79,8 @@ PageCorners FindCorners(const BitPlane& cells) {
     const auto leftAt = [&right](int row, int index) { return Behind(right.Row(row), index, back); };
     const auto downAt = [&up](int row, int index) { return up.Row(row - (kStroke - 1))[index]; };
     PageCorners corners;
-    corners.lowerLeft = RowByRow(
-        cells, [&](int row, int index) { return right.Row(row)[index] & up.Row(row)[index]; });
+    corners.lowerLeft =
+        RowByRow(cells, [&](int row, int index) { return right.Row(row)[index] & up.Row(row)[index]; });
     corners.lowerRight =
         RowByRow(cells, [&](int row, int index) { return leftAt(row, index) & up.Row(row)[index]; });
     corners.upperLeft =

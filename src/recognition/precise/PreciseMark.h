@@ -8,12 +8,12 @@
 
 namespace tavrene::recognition::precise {
 
-/// Ink within the box less `border` pixels on every side, in percent of that area; 0 for a box that this leaves
-/// nothing of.
+/// Ink within the box less `border` pixels on every side, in percent of that area; 0 for a box that this
+/// leaves nothing of.
 double FillInside(const BitPlane& pixels, const GridRect& place, int border);
 
-/// How much of a box is left out on every side: four pixels, and on pages finer than 300 dpi, where the printed
-/// line is broader than that, as much of the box as there.
+/// How much of a box is left out on every side: four pixels, and on pages finer than 300 dpi, where the
+/// printed line is broader than that, as much of the box as there.
 int BorderOf(const imaging::Page& page);
 
 /// The smaller side of the profile's middling box, in pixels of the page.

@@ -78,7 +78,8 @@ std::vector<MarkReading> ReadMarksAt(const imaging::Page& page, const BitPlane& 
         double fill = precise::FillInside(pixels, place, border);
         if (printed >= kPrintedInside)
             fill = std::max(0.0, fill - printed);
-        marks.push_back({profile.Boxes[k].Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
+        marks.push_back(
+            {profile.Boxes[k].Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
     }
     return marks;
 }

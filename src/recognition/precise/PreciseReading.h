@@ -8,7 +8,7 @@
 #include "imaging/PageReader.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/MarkReading.h"
-#include "recognition/precise/PrintCheck.h"
+#include "recognition/precise/SpecimenPrint.h"
 
 namespace tavrene::recognition {
 
@@ -25,16 +25,16 @@ struct PreciseReading {
     std::vector<MarkReading> marks;  ///< The winner's boxes, in its order.
 };
 
-/// Decides which of the active profiles the page is a form of, and reads it. All boxes of a profile are laid on the
-/// page by one map (shift, turn, stretch), the print of the specimen decides whether it is the form, and each
-/// box is then found to the pixel. Profiles without boxes are passed over. Checked when the ink inside reaches
-/// `fillThreshold` percent of the area that is counted.
+/// Decides which of the active profiles the page is a form of, and reads it. All boxes of a profile are laid
+/// on the page by one map (shift, turn, stretch), the print of the specimen decides whether it is the form,
+/// and each box is then found to the pixel. Profiles without boxes are passed over. Checked when the ink
+/// inside reaches `fillThreshold` percent of the area that is counted.
 PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
                              const PrintSource& prints, std::int16_t fillThreshold);
 
-/// Reads the boxes of a profile at known shifts, one a box, as precise alignment measures marks. `print` may be null.
-std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page,
-                                            const profiles::ProfileRecord& profile,
+/// Reads the boxes of a profile at known shifts, one a box, as precise alignment measures marks. `print` may
+/// be null.
+std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page, const profiles::ProfileRecord& profile,
                                             std::span<const BoxShift> shifts, const SpecimenPrint* print,
                                             std::int16_t fillThreshold);
 

@@ -180,7 +180,8 @@ PageMap TurnedByPrint(CellPage& page, std::span<const CellPoint> points, const A
     PageMap map = alignment.map;
     std::vector<Tile> tiles = CutIntoTiles(points, page.Cells());
     const BitPlane& ink = page.NearInk(1);
-    // What no sighting is near is the less certain the farther it is; each one that is made steadies the next.
+    // What no sighting is near is the less certain the farther it is; each one that is made steadies the
+    // next.
     while (!tiles.empty()) {
         const auto next = std::min_element(tiles.begin(), tiles.end(), [&](const Tile& a, const Tile& b) {
             return NearestDistance(a.middle, sightings) < NearestDistance(b.middle, sightings);

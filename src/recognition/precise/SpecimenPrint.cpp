@@ -1,3 +1,5 @@
+#include "recognition/precise/SpecimenPrint.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -6,8 +8,8 @@
 #include "recognition/FormScale.h"
 #include "recognition/MarkReading.h"
 #include "recognition/precise/BoxRefinement.h"
+#include "recognition/precise/CellPage.h"
 #include "recognition/precise/PreciseMark.h"
-#include "recognition/precise/PrintCheck.h"
 
 namespace tavrene::recognition {
 namespace {
@@ -16,9 +18,9 @@ using precise::BitPlane;
 using precise::CellPoint;
 
 constexpr std::size_t kPoints = 1500;
-constexpr int kTile = 32;                // cells
-constexpr double kMargin = 0.02;         // of the page on each side: there lie the scanner's shadows
-constexpr double kOutlineShare = 0.72;   // of an outline that must be there for a box to lie on the print
+constexpr int kTile = 32;               // cells
+constexpr double kMargin = 0.02;        // of the page on each side: there lie the scanner's shadows
+constexpr double kOutlineShare = 0.72;  // of an outline that must be there for a box to lie on the print
 constexpr int kReach = 4;
 
 // The ink of a page by tile, without its margins.
@@ -64,7 +66,8 @@ std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, int height) {
         const std::size_t taken = std::min(tile.size(), part);
         for (std::size_t k = 0; k < taken; ++k) {
             const CellPoint& cell = tile[k * tile.size() / taken];
-            points.push_back({page.ToPixels(cell.x), imaging::FlipVertically(double(height), page.ToPixels(cell.y))});
+            points.push_back(
+                {page.ToPixels(cell.x), imaging::FlipVertically(double(height), page.ToPixels(cell.y))});
         }
     }
     return points;
