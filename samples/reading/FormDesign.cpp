@@ -180,12 +180,15 @@ void PaintLetters(Sheet& sheet, int more) {
 
 void PaintDense(Sheet& sheet, int more) {
     const double top = Head(sheet);
-    const double pitch = sheet.Dice().Between(6.8, 8);
+    const double pitch = sheet.Dice().Between(6.8, 8.8);
+    const double across = sheet.Dice().Between(11, 16);
+    const double first = sheet.Dice().Between(26, 40);
+    const int columns = static_cast<int>((190 - first) / across);
     const int rows = static_cast<int>((255 - top) / pitch) + more;
     for (int row = 0; row < rows; ++row) {
         sheet.Text(18, top + row * pitch + 3.2, 8, std::to_string(row + 1));
-        for (int column = 0; column < 10; ++column)
-            sheet.Box(30 + column * 15.5, top + row * pitch);
+        for (int column = 0; column < columns; ++column)
+            sheet.Box(first + column * across, top + row * pitch);
     }
 }
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <filesystem>
 #include <numbers>
-#include <stdexcept>
 #include <variant>
+#include <vector>
 
 #include "app/Files.h"
 #include "boxes/BoxSheet.h"
@@ -26,30 +26,37 @@ class Way {
           middleY_(sheet.Height() / 2.0),
           perMm_(sheet.Dpi() / 25.4),
           cosine_(std::cos(wear.TiltDegrees * std::numbers::pi / 180)),
-          sine_(std::sin(wear.TiltDegrees * std::numbers::pi / 180)),
-          phaseX_(dice.Between(0, 2 * std::numbers::pi)),
-          phaseY_(dice.Between(0, 2 * std::numbers::pi)),
-          period_(sheet.Height() * dice.Between(0.9, 1.6)) {}
+          sine_(std::sin(wear.TiltDegrees * std::numbers::pi / 180)) {
+        const double phaseX = dice.Between(0, 2 * std::numbers::pi);
+        const double phaseY = dice.Between(0, 2 * std::numbers::pi);
+        const double period = sheet.Height() * dice.Between(0.9, 1.6);
+        bendByY_ = Wave(sheet.Height(), period, phaseX);
+        bendByX_ = Wave(sheet.Width(), period, phaseY);
+    }
 
-    Point OnSheet(double x, double y) const {
-        const double bendX = wear_.Bend * perMm_ * std::sin(2 * std::numbers::pi * y / period_ + phaseX_);
-        const double bendY = wear_.Bend * perMm_ * std::sin(2 * std::numbers::pi * x / period_ + phaseY_);
-        const double offX = x - middleX_ - wear_.ShiftX * perMm_ + bendX;
-        const double offY = y - middleY_ - wear_.ShiftY * perMm_ + bendY;
+    Point OnSheet(int x, int y) const {
+        const double offX = x - middleX_ - wear_.ShiftX * perMm_ + bendByY_[static_cast<std::size_t>(y)];
+        const double offY = y - middleY_ - wear_.ShiftY * perMm_ + bendByX_[static_cast<std::size_t>(x)];
         return {middleX_ + (offX * cosine_ + offY * sine_) / (1 + wear_.StretchX),
                 middleY_ + (offY * cosine_ - offX * sine_) / (1 + wear_.StretchY)};
     }
 
   private:
+    std::vector<double> Wave(int length, double period, double phase) const {
+        std::vector<double> wave;
+        for (int k = 0; k < length; ++k)
+            wave.push_back(wear_.Bend * perMm_ * std::sin(2 * std::numbers::pi * k / period + phase));
+        return wave;
+    }
+
     const ScanWear& wear_;
     double middleX_;
     double middleY_;
     double perMm_;
     double cosine_;
     double sine_;
-    double phaseX_;
-    double phaseY_;
-    double period_;
+    std::vector<double> bendByX_;
+    std::vector<double> bendByY_;
 };
 
 Shade Between(const Canvas& sheet, const Point& place) {

@@ -6,9 +6,9 @@
 #include "reading/ReadingPage.h"
 #include "reading/ReadingScore.h"
 #include "recognition/precise/MapSearch.h"
+#include "recognition/precise/PreciseReading.h"
 #include "recognition/precise/SecondOpinion.h"
 #include "recognition/precise/ShiftFit.h"
-#include "recognition/precise/PreciseReading.h"
 
 namespace tavrene::recognition {
 namespace {

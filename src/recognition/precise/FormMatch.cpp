@@ -18,7 +18,7 @@ constexpr double kShiftMm = 14;
 constexpr double kTurn = 3.2 * 3.14159265358979 / 180;
 constexpr double kStretch = 0.038;
 
-constexpr double kLeastPrint = 0.8;
+constexpr double kLeastPrint = 0.75;
 constexpr double kSurePrint = 0.9;    // below it, the print itself may turn the map into place
 constexpr double kClearPrint = 0.95;  // nothing that fits fewer boxes can beat it
 constexpr double kSamePrint = 0.05;

@@ -18,13 +18,31 @@ using precise::BitPlane;
 using precise::CellPoint;
 
 constexpr std::size_t kPoints = 1500;
+constexpr std::size_t kLeastPoints = 200;
 constexpr int kTile = 32;               // cells
 constexpr double kMargin = 0.02;        // of the page on each side: there lie the scanner's shadows
 constexpr double kOutlineShare = 0.72;  // of an outline that must be there for a box to lie on the print
 constexpr int kReach = 4;
 
-// The ink of a page by tile, without its margins.
-std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells) {
+// Where the profile's boxes are printed.
+BitPlane BoxesOf(const precise::CellPage& page, const imaging::Page& specimen,
+                 const profiles::ProfileRecord& profile, const FormScale& scale) {
+    constexpr int around = 2;  // cells
+    BitPlane boxes(page.Cells().Width(), page.Cells().Height());
+    for (const profiles::OmrBox& box : profile.Boxes) {
+        const GridRect place = PlaceOf(specimen.grid, box, scale, {});
+        for (int row = place.row0 / page.Factor() - around; row <= place.row1 / page.Factor() + around;
+             ++row) {
+            for (int column = place.col0 / page.Factor() - around;
+                 column <= place.col1 / page.Factor() + around; ++column)
+                boxes.Set(column, row);
+        }
+    }
+    return boxes;
+}
+
+// The ink of a page by tile, without its margins and what is to be left out.
+std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells, const BitPlane& leftOut) {
     const int across = cells.Width() / kTile + 1;
     std::vector<std::vector<CellPoint>> tiles(static_cast<std::size_t>(across) *
                                               static_cast<std::size_t>(cells.Height() / kTile + 1));
@@ -33,7 +51,7 @@ std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells) {
     const BitPlane solid = Eroded2(cells);
     for (int row = marginY; row < cells.Height() - marginY; ++row) {
         for (int index = 0; index < cells.Words(); ++index) {
-            BitPlane::Word word = cells.Row(row)[index] & ~solid.Row(row)[index];
+            BitPlane::Word word = cells.Row(row)[index] & ~solid.Row(row)[index] & ~leftOut.Row(row)[index];
             for (; word != 0; word &= word - 1) {
                 const int column = index * BitPlane::kWordBits + std::countr_zero(word);
                 if (column >= marginX && column < cells.Width() - marginX)
@@ -58,8 +76,8 @@ std::size_t FairPart(const std::vector<std::vector<CellPoint>>& tiles) {
     return part;
 }
 
-std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, int height) {
-    const std::vector<std::vector<CellPoint>> tiles = InkByTile(page.Cells());
+std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlane& leftOut, int height) {
+    const std::vector<std::vector<CellPoint>> tiles = InkByTile(page.Cells(), leftOut);
     const std::size_t part = FairPart(tiles);
     std::vector<CellPoint> points;
     for (const auto& tile : tiles) {
@@ -85,7 +103,12 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
     const BitPlane pixels = WithoutNoise(precise::PlaneOf(specimen.grid));
     precise::CellPages pages(pixels);
     const FormScale scale = ScaleBetween(specimen, profile);
-    print.points = SpreadPoints(pages.ForBoxesOf(precise::TypicalBox(profile, scale)), specimen.grid.Rows());
+    const precise::CellPage& page = pages.ForBoxesOf(precise::TypicalBox(profile, scale));
+    // The boxes have been matched before the print is asked: two forms with the same boxes differ elsewhere.
+    const int height = specimen.grid.Rows();
+    print.points = SpreadPoints(page, BoxesOf(page, specimen, profile, scale), height);
+    if (print.points.size() < kLeastPoints)
+        print.points = SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height);
     precise::OutlineFinder finder(pixels, 1);
     std::size_t lying = 0;
     for (const profiles::OmrBox& box : profile.Boxes) {
