@@ -27,20 +27,25 @@ std::size_t Index(int value) {
 }
 
 // One running sum for every line from `firstLine` on: over the cells from `from`, whether there is ink within
-// `play` lines of each.
+// `play` lines of each. `cellsOfLines` is memory to work in.
 template <typename Ink>
-void SumLines(std::vector<int>& sums, int firstLine, int lines, int from, int cells, int play, Ink ink) {
+void SumLines(std::vector<int>& sums, std::vector<char>& cellsOfLines, int firstLine, int lines, int from,
+              int cells, int play, Ink ink) {
+    cellsOfLines.clear();
+    for (int line = firstLine - play; line < firstLine + lines + play; ++line) {
+        for (int cell = from; cell < from + cells; ++cell)
+            cellsOfLines.push_back(ink(line, cell) ? 1 : 0);
+    }
     sums.assign(Index(lines) * Index(cells + 1), 0);
     for (int line = 0; line < lines; ++line) {
-        int* next = sums.data() + Index(line) * Index(cells + 1);
-        int sum = 0;
-        for (int cell = from; cell < from + cells; ++cell) {
-            bool any = false;
-            for (int off = -play; off <= play && !any; ++off)
-                any = ink(firstLine + line + off, cell);
-            sum += any ? 1 : 0;
-            *++next = sum;
+        int* const sum = sums.data() + Index(line) * Index(cells + 1);
+        for (int off = 0; off <= 2 * play; ++off) {
+            const char* const row = cellsOfLines.data() + Index(line + off) * Index(cells);
+            for (int cell = 0; cell < cells; ++cell)
+                sum[cell + 1] |= row[cell];
         }
+        for (int cell = 0; cell < cells; ++cell)
+            sum[cell + 1] += sum[cell];
     }
 }
 
@@ -54,10 +59,10 @@ void OutlineFinder::SumSides(const GridRect& expected, int reach) {
     const auto upright = [this](int column, int row) { return pixels_.Has(column, row); };
     const int across = width_ + 2 * reach;
     const int up = height_ + 2 * reach;
-    SumLines(lower_, expected.row0 - reach, lines, expected.col0 - reach, across, play_, level);
-    SumLines(upper_, expected.row1 - reach, lines, expected.col0 - reach, across, play_, level);
-    SumLines(left_, expected.col0 - reach, lines, expected.row0 - reach, up, play_, upright);
-    SumLines(right_, expected.col1 - reach, lines, expected.row0 - reach, up, play_, upright);
+    SumLines(lower_, ink_, expected.row0 - reach, lines, expected.col0 - reach, across, play_, level);
+    SumLines(upper_, ink_, expected.row1 - reach, lines, expected.col0 - reach, across, play_, level);
+    SumLines(left_, ink_, expected.col0 - reach, lines, expected.row0 - reach, up, play_, upright);
+    SumLines(right_, ink_, expected.col1 - reach, lines, expected.row0 - reach, up, play_, upright);
 }
 
 int OutlineFinder::CountAt(int dx, int dy, int reach) const {

@@ -42,6 +42,7 @@ class OutlineFinder {
     std::vector<int> left_;
     std::vector<int> right_;
     std::vector<int> counts_;
+    std::vector<char> ink_;
 };
 
 /// A box on its way from the map to its pixel. Pixels, grid frame.
