@@ -89,6 +89,18 @@ app::Bytes ContentOrNothing(const app::Files& files, const std::string& path) {
 
 }  // namespace
 
+std::string_view ReasonOf(PageError error) {
+    switch (error) {
+        case PageError::UnknownType:
+            return "Unrecognized File type";
+        case PageError::TooManyColors:
+            return "Unable to process since image has more than 2 colors";
+        case PageError::NotABitmap:
+            break;
+    }
+    return "Image not in bitmap format";
+}
+
 std::optional<ImageFormat> FormatOfExtension(std::string_view path) {
     const std::string extension = app::UpperCase(app::Extension(path));
     for (const ExtensionFormat& entry : kExtensions) {
@@ -107,9 +119,17 @@ std::variant<Page, PageError> ReadSpecimen(const app::Files& files, const std::s
     return ReadPage(files, path, SpecimenFormat(path));
 }
 
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path) {
+    const std::optional<ImageFormat> format = FormatOfExtension(path);
+    if (!format)
+        return PageError::UnknownType;
+    return ReadPage(files, path, *format);
+}
+
 std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
     const app::Bytes content = ContentOrNothing(files, path);
     Page page;
+    page.format = format;
     page.bitmap = Decoded(content, format);
     if (page.bitmap) {
         const ResolutionPresence carried = FindResolution(content, format);

@@ -58,6 +58,7 @@ ProfileStore::ProfileStore(const StoreContext& context, OpenProfile& profile,
       records_(records),
       editor_(editor),
       screen_(screen),
+      scratch_(context.files, context.folders.Temp),
       thumbnails_(context.files, context.log, context.person, context.folders.Profiles) {}
 
 bool ProfileStore::MayLeave() {
@@ -80,7 +81,7 @@ bool ProfileStore::Create(const std::string& path, const std::string& imagePath,
     const std::string name = app::BaseName(path);
     if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
         context_.files.FileExists(imagePath))
-        WriteScratch("temp2.tif", context_.files.Read(imagePath));
+        Note(scratch_.WriteOriginal(context_.files.Read(imagePath)));
     const std::optional<boxes::FoundBoxes> found = boxes::FindBoxesOnImage(
         imagePath, name, sizes, reach, {context_.files, context_.person, context_.log, context_.clock});
     if (!found)
@@ -173,19 +174,14 @@ std::string ProfileStore::DisplayCopy(const std::string& image, const imaging::P
     const bool isTurned = specimen == Specimen::OfNewProfile && page.inverted;
     if (isTiff && !isTurned)
         return image;
-    const std::string copy = "temp.tif";
-    return WriteScratch(copy, imaging::EncodeGroup4Tiff(page.bitmap)) ? context_.folders.Temp + copy : image;
+    const imaging::ScratchCopy copy = scratch_.WriteConverted(page);
+    Note(copy);
+    return copy.path.empty() ? image : copy.path;
 }
 
-// A copy that cannot be written costs no more than itself.
-bool ProfileStore::WriteScratch(const std::string& name, const app::Bytes& content) {
-    try {
-        context_.files.Write(context_.folders.Temp + name, content, app::Keep::AsScratch);
-        return true;
-    } catch (const app::FileError& error) {
-        notes_.push_back(std::string(error.what()) + ".");
-        return false;
-    }
+void ProfileStore::Note(const imaging::ScratchCopy& copy) {
+    if (!copy.failure.empty())
+        notes_.push_back(copy.failure + ".");
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.

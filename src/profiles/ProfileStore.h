@@ -10,6 +10,7 @@
 #include "app/WorkingFolders.h"
 #include "boxes/BoxAnalysis.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
@@ -83,7 +84,7 @@ class ProfileStore {
     /// The file from which a specimen is shown: that of a TIFF is its own, unless a new profile's had to be
     /// inverted.
     std::string DisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
-    bool WriteScratch(const std::string& name, const app::Bytes& content);
+    void Note(const imaging::ScratchCopy& copy);
     void FitView();
     void WriteDocument();
 
@@ -92,6 +93,7 @@ class ProfileStore {
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;
     EditorScreen screen_;
+    imaging::ScratchImages scratch_;
     Thumbnails thumbnails_;
     std::vector<StripEntry> strip_;
     std::vector<std::string> notes_;

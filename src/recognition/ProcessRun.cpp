@@ -9,6 +9,7 @@
 #include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
 #include "recognition/Classification.h"
+#include "recognition/PageLoading.h"
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::recognition {
@@ -22,6 +23,7 @@ using profiles::ProfileRecord;
 
 // What came of one file, as far as showing and moving it need to know.
 struct ProcessRun::FileOutcome {
+    std::string shownImage;  // empty where there is nothing to show
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
     bool hasResult = false;
@@ -31,10 +33,7 @@ struct ProcessRun::FileOutcome {
 
 ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders)
-    : context_(context),
-      settings_(settings),
-      folders_(folders),
-      loader_(context.files, context.log, context.person, folders.Temp) {}
+    : context_(context), settings_(settings), folders_(folders), scratch_(context.files, folders.Temp) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
     if (profiles.empty()) {
@@ -127,16 +126,21 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
                            FileOutcome& outcome) {
-    if (!loader_.LoadImageForProcessing(folders_.ProcessIn + name))
+    const std::optional<imaging::Page> page =
+        LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
+    if (!page)
         return;
-    const imaging::Page& page = loader_.CurrentPage();
-    Classification classification = ClassifyImage(name, page, profiles, context_.log);
+    const imaging::ScratchCopy copy = scratch_.WritePage(*page);
+    outcome.shownImage = copy.path;
+    if (!copy.failure.empty())
+        LogAbout(name, copy.failure);
+    Classification classification = ClassifyImage(name, *page, profiles, context_.log);
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.Shifts);
-    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    outcome.readings = ReadMarks(*page, profiles[winner], match.Shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
 }
 
@@ -153,10 +157,10 @@ void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profil
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (loader_.DisplayCopy().empty())
+    if (outcome.shownImage.empty())
         context_.view.Clear();
     else
-        context_.view.ShowFile(loader_.DisplayCopy());
+        context_.view.ShowFile(outcome.shownImage);
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];

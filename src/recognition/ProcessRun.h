@@ -11,9 +11,9 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
 #include "imaging/PageRects.h"
 #include "imaging/PageView.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/MarkReading.h"
@@ -72,7 +72,7 @@ class ProcessRun {
     RunContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
-    imaging::ImageLoader loader_;
+    imaging::ScratchImages scratch_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;

@@ -36,7 +36,6 @@ struct OpenForm {
     std::vector<imaging::PageRect> SkippedRects;
     int Skipped = 0;
 
-    int CheckedCount = 0;
     bool Changed = false;  ///< A mark or the profile was altered and is not saved.
 };
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "imaging/ImageHeader.h"
-#include "imaging/ImageLoader.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "painter/ImageFiles.h"
 #include "support/RunWorld.h"
 
@@ -212,25 +212,30 @@ TEST_F(PageReaderTest, RefusesAFaxWithBrokenLines) {
     Expect("fax.tif", PageError::NotABitmap);
 }
 
-TEST_F(PageReaderTest, TheLoaderKeepsDisplayCopiesOfTheCurrentImageOnly) {
-    ImageLoader loader(files_, log_, person_, work_.Path() + "/");
+TEST_F(PageReaderTest, ScratchImagesAreOfTheCurrentPageOnly) {
+    ScratchImages scratch(files_, work_.Path() + "/");
     Save(samples::ToBilevel(picture_, Photometric::MinIsBlack), "scan.tif");
     Save(samples::ToBilevel(Canvas(50, 50, 200)), "blank.tif");
-    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("scan.tif")));
-    EXPECT_EQ(loader.DisplayCopy(), work_.File("temp2.tif"));
+    EXPECT_EQ(scratch.WritePage(std::get<Page>(Read("scan.tif"))).path, work_.File("temp2.tif"));
     const Page shown = Expect("temp2.tif");
     EXPECT_FALSE(shown.inverted);
     EXPECT_FALSE(Expect("temp.tif").inverted);
 
     files_.Delete(work_.File("temp.tif"));
-    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("blank.tif")));
+    scratch.WritePage(std::get<Page>(Read("blank.tif")));
     EXPECT_EQ(std::get<Page>(Read("temp2.tif")).grid.Width(), 50);
     EXPECT_FALSE(files_.FileExists(work_.File("temp.tif")));
 
-    EXPECT_FALSE(loader.LoadImageForProcessing(work_.File("form.tiff")));
-    EXPECT_EQ(loader.DisplayCopy(), "");
-    EXPECT_TRUE(transcript_.Lines().empty());
-    EXPECT_EQ(ProcessLog(), std::vector<std::string>{"form.tiff: Unrecognized File type"});
+    ScratchImages nowhere(files_, work_.Path() + "/gone/");
+    const ScratchCopy none = nowhere.WriteConverted(shown);
+    EXPECT_EQ(none.path, "");
+    EXPECT_NE(none.failure.find("gone/temp.tif"), std::string::npos) << none.failure;
+}
+
+TEST_F(PageReaderTest, FourLettersAreNoFileType) {
+    const auto read = ReadPage(files_, work_.File("form.tiff"));
+    ASSERT_EQ(std::get<PageError>(read), PageError::UnknownType);
+    EXPECT_EQ(ReasonOf(PageError::UnknownType), "Unrecognized File type");
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(transcript_.Joined(),
               "panel File: Profiles:1, Active:1 | panel Message:  | panel ElapsedTime:  | view: clear | "
               "rects: clear | rows: clear | rows: one column | choice: ");
-    EXPECT_FALSE(review_.InReview());
+    EXPECT_FALSE(review_.IsOn());
 }
 
 TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
@@ -101,7 +101,7 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
     EXPECT_EQ(transcript_.Lines(), (Names{"select: a 100", "ask: Save changes to Form <a>?"}));
     Accept();
     Toggle();
-    EXPECT_TRUE(review_.InReview());
+    EXPECT_TRUE(review_.IsOn());
     EXPECT_EQ(review_.OpenLine(), 0U);
     EXPECT_EQ(Result("a.xml"), before);
 

@@ -4,11 +4,10 @@
 #include <string>
 
 #include "FakeReviewScreen.h"
+#include "review/ReviewSession.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/ReviewCommands.h"
-#include "ui/commands/WindowLoad.h"
 
 namespace tavrene::test {
 
@@ -25,7 +24,7 @@ class ReviewWorld : public RunWorld {
     }
 
     void LoadProfiles() {
-        state_.profiles = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
+        profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
     }
 
     /// Reads all waiting scans and enters review.
@@ -40,7 +39,10 @@ class ReviewWorld : public RunWorld {
     }
 
     void Toggle() {
-        Do([this] { review_.Toggle({nullptr, [this] { return review_.MayLeave(); }}); });
+        Do([this] {
+            if (review_.MayLeave())
+                review_.IsOn() ? review_.End() : review_.Begin();
+        });
     }
 
     /// One command of the person: the transcript holds what came of it and nothing else.
@@ -55,7 +57,7 @@ class ReviewWorld : public RunWorld {
         Do([this, row] { review_.FlipBox(row); });
     }
     void Okay() {
-        Do([this] { review_.Okay(); });
+        Do([this] { review_.Save(); });
     }
     void Accept() {
         Do([this] { review_.Accept(); });
@@ -64,7 +66,7 @@ class ReviewWorld : public RunWorld {
         Do([this] { review_.Reject(); });
     }
     void Choose(const std::string& profile) {
-        Do([this, &profile] { review_.ChooseProfile(profile); });
+        Do([this, &profile] { review_.ReadAgainst(profile); });
     }
 
     std::string Result(const std::string& name) const { return ReadText(folders_.ProcessOut + name); }
@@ -87,12 +89,12 @@ class ReviewWorld : public RunWorld {
     }
 
     TestForm form_ = TestForm::Grid(2, 2);
-    commands::AppState state_ = commands::InitialState(settings_);
     FakeReviewScreen list_{transcript_};
     review::ReviewContext context_{files_, log_,    person_, screen_, screen_,
                                    list_,  screen_, list_,   list_,   list_};
-    commands::CommandGate gate_{person_, log_, state_.processing};
-    commands::ReviewCommands review_{state_, context_, [] {}};
+    const bool processing_ = false;
+    commands::CommandGate gate_{person_, log_, processing_};
+    review::ReviewSession review_{context_, settings_, folders_, profiles_};
 };
 
 }  // namespace tavrene::test

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace tavrene::commands {
 namespace {
@@ -30,6 +31,8 @@ constexpr std::array kCommands = {
                 M::View, "Fit &Page", "Ctrl+2", "FitPage", G::View, S::Shown, false},
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
                 M::View, "Fit &Width", "Ctrl+3", "FitWidth", G::View, S::Shown, false},
+    CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
+                M::View, "Toolbar &Labels", "Ctrl+L", "", G::None, S::Toggle, true},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
                 M::Process, "&Process", "F5", "Process", G::Processing, S::Shown, true},
@@ -65,6 +68,10 @@ constexpr std::array kCommands = {
                 M::Review, "&Turn Mark\tSpace", "", "", G::None, S::Shown, true},
     CommandInfo{C::NextDoubtful, T::None, "NextDoubtful", "Go to the next box whose ink is near the threshold",
                 M::Review, "Next &Doubtful Box", "Ctrl+D", "", G::None, S::Shown, false},
+    CommandInfo{C::OpenWorkingFolder, T::None, "OpenWorkingFolder", "Show the working folder on the desktop",
+                M::File, "Open &Working Folder", "Ctrl+Shift+O", "", G::None, S::Shown, true},
+    CommandInfo{C::OpenLog, T::None, "OpenLog", "Read the newest log",
+                M::File, "Open &Log", "Ctrl+Shift+L", "", G::None, S::Shown, false},
     CommandInfo{C::Settings, T::None, "Settings", "Folder, box sizes and processing options",
                 M::File, "Se&ttings...", "Ctrl+,", "", G::None, S::Shown, true},
     CommandInfo{C::Exit, T::None, "Exit", "Close the program",
@@ -73,6 +80,16 @@ constexpr std::array kCommands = {
                 M::Help, "&About...", "F1", "", G::None, S::Shown, false},
 };
 // clang-format on
+
+// Shorter than the menu's texts, so that all buttons have room in a narrow window.
+constexpr std::pair<Command, std::string_view> kLabels[] = {
+    {C::New, "New"},           {C::Save, "Save"},         {C::DeleteProfile, "Delete"},
+    {C::ZoomToOrig, "100 %"},  {C::ZoomIn, "Larger"},     {C::ZoomOut, "Smaller"},
+    {C::FitPage, "Page"},      {C::FitWidth, "Width"},    {C::Process, "Process"},
+    {C::Stop, "Stop"},         {C::Review, "Review"},     {C::Okay, "Reviewed"},
+    {C::AcceptForm, "Accept"}, {C::RejectForm, "Reject"}, {C::SelectBox, "Select"},
+    {C::AddBox, "Add"},        {C::DeleteBox, "Delete"},
+};
 
 }  // namespace
 
@@ -85,6 +102,13 @@ const CommandInfo& InfoOf(Command command) {
         if (info.command == command)
             return info;
     return kCommands.front();
+}
+
+std::string_view LabelOf(Command command) {
+    for (const auto& [labelled, label] : kLabels)
+        if (labelled == command)
+            return label;
+    return {};
 }
 
 }  // namespace tavrene::commands

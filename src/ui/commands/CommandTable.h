@@ -31,6 +31,9 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    OpenWorkingFolder,
+    OpenLog,
+    ToolbarLabels,
     Settings,
     Exit,
     About
@@ -65,5 +68,9 @@ struct CommandInfo {
 std::span<const CommandInfo> CommandTable();
 
 const CommandInfo& InfoOf(Command command);
+
+/// The word or two under a command's button, where buttons carry labels; empty for a command without a
+/// button.
+std::string_view LabelOf(Command command);
 
 }  // namespace tavrene::commands

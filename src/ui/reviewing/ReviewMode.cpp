@@ -35,16 +35,15 @@ std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
 
 ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
                        const ReviewControls& controls, std::function<void()> closeProfile)
-    : state_(state),
-      gate_(context.gate),
+    : gate_(context.gate),
       prompts_(context.prompts),
+      closeProfile_(std::move(closeProfile)),
       controls_(controls),
       marks_(controls.view),
       rows_(controls.boxes),
-      commands_(state,
-                {context.files, context.log, context.person, controls.view, controls.view, marks_,
-                 controls.boxes, rows_, controls.pane.List(), controls.pane.Choice()},
-                std::move(closeProfile)) {
+      session_({context.files, context.log, context.person, controls.view, controls.view, marks_,
+                controls.boxes, rows_, controls.pane.List(), controls.pane.Choice()},
+               state.settings, state.folders, state.profiles) {
     ConnectCommands();
     ConnectFormCommands();
     ConnectControls();
@@ -56,12 +55,10 @@ void ReviewMode::ConnectCommands() {
         Command::OpenForm,
         [this] {
             if (const auto line = controls_.pane.List().SelectedLine())
-                commands_.Open(*line);
+                session_.Open(*line);
         },
-        [this] { return commands_.InReview() && controls_.pane.List().SelectedLine().has_value(); });
-    const auto hasLines = [this] {
-        return commands_.InReview() && controls_.pane.List().model()->rowCount() > 0;
-    };
+        [this] { return session_.IsOn() && controls_.pane.List().SelectedLine().has_value(); });
+    const auto hasLines = [this] { return session_.IsOn() && controls_.pane.List().model()->rowCount() > 0; };
     gate_.SetHandler(
         Command::NextForm, [this] { OpenNeighbour(1); }, hasLines);
     gate_.SetHandler(
@@ -72,28 +69,27 @@ void ReviewMode::ConnectFormCommands() {
     const auto connect = [this](Command command, std::function<void()> run) {
         gate_.SetHandler(command, std::move(run), [this] { return HasForm(); });
     };
-    connect(Command::Okay, [this] { commands_.Okay(); });
-    connect(Command::AcceptForm, [this] { commands_.Accept(); });
-    connect(Command::RejectForm, [this] { commands_.Reject(); });
+    connect(Command::Okay, [this] { session_.Save(); });
+    connect(Command::AcceptForm, [this] { session_.Accept(); });
+    connect(Command::RejectForm, [this] { session_.Reject(); });
     connect(Command::FlipBox, [this] { FlipCurrent(); });
     connect(Command::NextDoubtful, [this] { NextDoubtful(); });
 }
 
 void ReviewMode::ConnectControls() {
-    controls_.pane.List().SetListener(
-        [this](std::size_t line) { gate_.Take([&] { commands_.Open(line); }); });
+    controls_.pane.List().SetListener([this](std::size_t line) { gate_.Take([&] { session_.Open(line); }); });
     connect(&controls_.pane.Choice(), &QComboBox::textActivated, this,
-            [this](const QString& name) { gate_.Take([&] { commands_.ChooseProfile(FromQt(name)); }); });
+            [this](const QString& name) { gate_.Take([&] { session_.ReadAgainst(FromQt(name)); }); });
     marks_.SetListener([this](int group) { gate_.Take([&] { RectClicked(group); }); });
     // The second click of a double click turns the mark back, as the first one turned it.
     const auto flip = [this](QTreeWidgetItem* row) {
-        gate_.Take([&] { commands_.FlipBox(rows_.NumberOf(row)); });
+        gate_.Take([&] { session_.FlipBox(rows_.NumberOf(row)); });
     };
     connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr && HasForm())
-            gate_.Take([&] { commands_.BoxSelected(rows_.NumberOf(row)); });
+            gate_.Take([&] { session_.BoxSelected(rows_.NumberOf(row)); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -101,9 +97,15 @@ void ReviewMode::ConnectControls() {
 
 void ReviewMode::Toggle() {
     const BusyCursor busy;
-    commands_.Toggle(prompts_);
-    if (commands_.InReview() && !commands_.HasForm())
-        TakeFirstLine();
+    if (!prompts_.ProfileThenForm())
+        return;
+    if (session_.IsOn()) {
+        session_.End();
+        return;
+    }
+    closeProfile_();
+    session_.Begin();
+    TakeFirstLine();
 }
 
 // So that the first form is one Enter away. Only a list in sight can have the focus.
@@ -115,15 +117,15 @@ void ReviewMode::TakeFirstLine() {
 }
 
 void ReviewMode::OpenNeighbour(int step) {
-    commands_.OpenNeighbour(controls_.pane.List().SelectedLine(), step);
+    session_.OpenNeighbour(controls_.pane.List().SelectedLine(), step);
 }
 
 void ReviewMode::FlipCurrent() {
-    commands_.FlipBox(rows_.CurrentNumber());
+    session_.FlipBox(rows_.CurrentNumber());
 }
 
 void ReviewMode::NextDoubtful() {
-    if (commands_.NextDoubtful(rows_.CurrentNumber()))
+    if (session_.NextDoubtful(rows_.CurrentNumber()))
         controls_.boxes.setFocus();
 }
 
@@ -131,41 +133,41 @@ void ReviewMode::RectClicked(int group) {
     // A box without a row leaves none selected, so that no key means another one.
     rows_.SelectRow(group);
     controls_.boxes.setFocus();
-    commands_.FlipBox(group);
+    session_.FlipBox(group);
 }
 
 void ReviewMode::RunBegins() {
-    commands_.RunBegins();
+    session_.RunBegins();
     refill_ = true;
 }
 
 void ReviewMode::RunEnded() {
-    if (!std::exchange(refill_, false) || !commands_.InReview())
+    if (!std::exchange(refill_, false) || !session_.IsOn())
         return;
-    commands_.Refill();
+    session_.Refill();
     TakeFirstLine();
 }
 
 bool ReviewMode::Bars(Command command) const {
-    return command == Command::New && commands_.InReview();
+    return command == Command::New && session_.IsOn();
 }
 
 void ReviewMode::Update() {
-    const bool inReview = commands_.InReview();
+    const bool inReview = session_.IsOn();
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
     marks_.SetActive(HasForm());
     controls_.view.SetHint(inReview
                                ? "Choose a form on the left: a click or Enter opens it."
                                : "Choose a profile on the left, make one with New,\n"
                                  "or press Process to read the scans that wait in the folder ProcessIn.");
-    controls_.pane.List().MarkOpen(commands_.OpenLine());
+    controls_.pane.List().MarkOpen(session_.OpenLine());
     // With the form all that had its keys is gone; Enter opens the next one.
     if (std::exchange(hadForm_, HasForm()) && inReview && !hadForm_)
         controls_.pane.List().setFocus();
 }
 
 bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || !commands_.InReview())
+    if (event->type() != QEvent::KeyPress || !session_.IsOn())
         return false;
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
     const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && HasForm());

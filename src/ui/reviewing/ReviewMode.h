@@ -4,8 +4,10 @@
 #include <QStackedWidget>
 #include <functional>
 
+#include "review/ReviewSession.h"
+#include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/ReviewCommands.h"
+#include "ui/commands/SavePrompts.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/reviewing/ReviewBoxRows.h"
@@ -31,7 +33,7 @@ struct ReviewControls {
     ReviewPane& pane;
 };
 
-/// The window's review: puts the review commands together and connects them to the controls.
+/// The window's review: owns the session and connects it to the controls.
 class ReviewMode final : public QObject {
   public:
     /// `closeProfile` takes the open profile from the desk when review begins.
@@ -39,17 +41,17 @@ class ReviewMode final : public QObject {
                const ReviewControls& controls, std::function<void()> closeProfile);
 
     /// A step of loading the window, before anything can run.
-    void Load() { commands_.Load(); }
+    void Load() { session_.SettleInterrupted(); }
 
     /// The prompt before the open form is left; false when the command at hand is to be abandoned.
-    bool MayLeave() { return commands_.MayLeave(); }
+    bool MayLeave() { return session_.MayLeave(); }
 
     /// A run takes the form from the screen; when it has ended, the list is filled anew. `RunEnded` without a
     /// begun run does nothing.
     void RunBegins();
     void RunEnded();
 
-    bool InReview() const { return commands_.InReview(); }
+    bool InReview() const { return session_.IsOn(); }
 
     /// Whether a command has no place in review.
     bool Bars(commands::Command command) const;
@@ -71,15 +73,15 @@ class ReviewMode final : public QObject {
     void FlipCurrent();
     void NextDoubtful();
     void RectClicked(int group);
-    bool HasForm() { return commands_.InReview() && commands_.HasForm(); }
+    bool HasForm() const { return session_.HasForm(); }
 
-    const commands::AppState& state_;
     commands::CommandGate& gate_;
     const commands::SavePrompts& prompts_;
+    std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
     ReviewBoxRows rows_;
-    commands::ReviewCommands commands_;
+    review::ReviewSession session_;
     bool hadForm_ = false;
     bool refill_ = false;  ///< A run has taken the form from the screen.
 };

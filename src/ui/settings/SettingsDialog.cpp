@@ -63,6 +63,9 @@ void SettingsDialog::ShowSizes() {
         // The rules have been applied; the bar is only to stand where they left it.
         const QSignalBlocker settled(control);
         control->setValue(sizes_.Position(bar));
+        QSpinBox* const number = NumberOf(bar);
+        const QSignalBlocker typed(number);
+        number->setValue(sizes_.Pixels(bar));
     }
     const boxes::BoxSizes sizes = sizes_.Sizes();
     smallest_->ShowSize(sizes.BoxMinWidth, sizes.BoxMinHeight);

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <array>
 
 #include "app/Files.h"
@@ -27,12 +28,16 @@ class SettingsDialog final : public QDialog {
     // Made in SettingsDialogLayout.cpp.
     void Build();
     void BuildBars();
+    void BuildNumbers();
     void BuildProcessingControls();
+    QWidget* Frames();
+    QLayout* SizeNumbers(commands::Bar width, commands::Bar height);
     QWidget* PathFrame();
     QWidget* SizeFrame();
     QWidget* ProcessingFrame();
     QWidget* Buttons();
     QScrollBar* BarOf(commands::Bar bar) const { return bars_[static_cast<std::size_t>(bar)]; }
+    QSpinBox* NumberOf(commands::Bar bar) const { return numbers_[static_cast<std::size_t>(bar)]; }
 
     void MoveBar(commands::Bar bar, int position);
     void LoadFolder();
@@ -52,6 +57,7 @@ class SettingsDialog final : public QDialog {
 
     FolderChooser* folder_ = nullptr;
     std::array<QScrollBar*, 4> bars_{};
+    std::array<QSpinBox*, 4> numbers_{};
     BoxPreview* smallest_ = nullptr;
     BoxPreview* largest_ = nullptr;
     QLabel* sizeLabel_ = nullptr;
@@ -59,6 +65,7 @@ class SettingsDialog final : public QDialog {
     QCheckBox* single_ = nullptr;
     QScrollBar* threshold_ = nullptr;
     QLabel* thresholdLabel_ = nullptr;
+    QSpinBox* thresholdNumber_ = nullptr;
 };
 
 }  // namespace tavrene::ui

@@ -1,7 +1,9 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
+#include <QScrollArea>
 
+#include "ui/base/FitToScreen.h"
 #include "ui/settings/SettingsDialog.h"
 
 namespace tavrene::ui {
@@ -12,6 +14,7 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kSpacing = 10;
+constexpr QSize kFirstSize(760, 640);
 
 QLabel* HelpLabel(const QString& text) {
     auto* const label = new QLabel(text);
@@ -32,8 +35,17 @@ QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, const char* a
     return bar;
 }
 
-// A preview with its caption above it and its two bars along its lower and right edge.
-QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widthBar, QScrollBar* heightBar) {
+QSpinBox* MakeNumber(const QString& name, const QString& accessibleName, int lowest, int highest) {
+    auto* const number = new QSpinBox;
+    number->setObjectName(name);
+    number->setAccessibleName(accessibleName);
+    number->setRange(lowest, highest);
+    return number;
+}
+
+// A preview with its caption above it, its two bars along its lower and right edge, and the numbers below.
+QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widthBar, QScrollBar* heightBar,
+                      QLayout* numbers) {
     auto* const layout = new QGridLayout;
     layout->setSpacing(4);
     widthBar->setFixedWidth(BoxPreview::kSide);
@@ -42,6 +54,7 @@ QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widt
     layout->addWidget(preview, 1, 0);
     layout->addWidget(heightBar, 1, 1);
     layout->addWidget(widthBar, 2, 0);
+    layout->addLayout(numbers, 3, 0, 1, 2);
     return layout;
 }
 
@@ -49,18 +62,34 @@ QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widt
 
 void SettingsDialog::Build() {
     BuildBars();
+    BuildNumbers();
     BuildProcessingControls();
-    auto* const layout = new QGridLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    // On a small screen the frames scroll, and the buttons stay in sight.
+    auto* const frames = new QScrollArea;
+    frames->setObjectName("Frames");
+    frames->setFrameShape(QFrame::NoFrame);
+    frames->setFocusPolicy(Qt::NoFocus);
+    frames->setWidgetResizable(true);
+    frames->setWidget(Frames());
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, kMargin, kMargin);
+    layout->addWidget(frames, 1);
+    layout->addWidget(Buttons(), 0, Qt::AlignRight);
+    ResizeWithinScreen(*this, kFirstSize);
+}
+
+QWidget* SettingsDialog::Frames() {
+    auto* const frames = new QWidget;
+    auto* const layout = new QGridLayout(frames);
+    layout->setContentsMargins(kMargin, kMargin, 0, 0);
     layout->setSpacing(kSpacing);
     layout->addWidget(PathFrame(), 0, 0);
     layout->addWidget(SizeFrame(), 0, 1);
     layout->addWidget(ProcessingFrame(), 1, 0, 1, 2);
-    layout->addWidget(Buttons(), 2, 0, 1, 2, Qt::AlignRight);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(0, 1);
-    setMinimumSize(720, 580);
+    return frames;
 }
 
 void SettingsDialog::BuildBars() {
@@ -85,6 +114,29 @@ void SettingsDialog::BuildBars() {
     sizeLabel_->setAlignment(Qt::AlignCenter);
 }
 
+void SettingsDialog::BuildNumbers() {
+    for (const Bar bar : commands::kAllBars) {
+        const QScrollBar* const control = BarOf(bar);
+        QSpinBox* const number =
+            MakeNumber("num" + control->objectName(), control->accessibleName() + " in pixels",
+                       commands::BoxSizeBars::kLowest, commands::BoxSizeBars::MostPixels(bar));
+        numbers_[static_cast<std::size_t>(bar)] = number;
+        connect(number, &QSpinBox::valueChanged, this, [this, bar](int pixels) {
+            sizes_.SetPixels(bar, pixels);
+            ShowSizes();
+        });
+    }
+}
+
+QLayout* SettingsDialog::SizeNumbers(Bar width, Bar height) {
+    auto* const layout = new QHBoxLayout;
+    layout->setSpacing(4);
+    layout->addWidget(NumberOf(width));
+    layout->addWidget(new QLabel("x"));
+    layout->addWidget(NumberOf(height));
+    return layout;
+}
+
 void SettingsDialog::BuildProcessingControls() {
     display_ = new QCheckBox("Display Image/Results during extraction process");
     display_->setObjectName("chkDisplayDuringProcess");
@@ -96,6 +148,11 @@ void SettingsDialog::BuildProcessingControls() {
     thresholdLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     thresholdLabel_->setMinimumWidth(fontMetrics().horizontalAdvance("1000"));
     connect(threshold_, &QScrollBar::valueChanged, thresholdLabel_, qOverload<int>(&QLabel::setNum));
+    thresholdNumber_ =
+        MakeNumber("numHScroll3", threshold_->accessibleName(), threshold_->minimum(), threshold_->maximum());
+    thresholdNumber_->setSuffix(" %");
+    connect(threshold_, &QScrollBar::valueChanged, thresholdNumber_, &QSpinBox::setValue);
+    connect(thresholdNumber_, &QSpinBox::valueChanged, threshold_, &QScrollBar::setValue);
 }
 
 QWidget* SettingsDialog::PathFrame() {
@@ -118,9 +175,11 @@ QWidget* SettingsDialog::SizeFrame() {
     connect(reset, &QPushButton::clicked, this, [this] { Reset(); });
     auto* const previews = new QHBoxLayout;
     previews->addStretch();
-    previews->addLayout(PreviewBlock("MIN", smallest_, BarOf(Bar::MinWidth), BarOf(Bar::MinHeight)));
+    previews->addLayout(PreviewBlock("MIN", smallest_, BarOf(Bar::MinWidth), BarOf(Bar::MinHeight),
+                                     SizeNumbers(Bar::MinWidth, Bar::MinHeight)));
     previews->addSpacing(24);
-    previews->addLayout(PreviewBlock("MAX", largest_, BarOf(Bar::MaxWidth), BarOf(Bar::MaxHeight)));
+    previews->addLayout(PreviewBlock("MAX", largest_, BarOf(Bar::MaxWidth), BarOf(Bar::MaxHeight),
+                                     SizeNumbers(Bar::MaxWidth, Bar::MaxHeight)));
     previews->addStretch();
     auto* const frame = new QGroupBox("Box Size");
     auto* const layout = new QVBoxLayout(frame);
@@ -151,6 +210,7 @@ QWidget* SettingsDialog::ProcessingFrame() {
                       2, 0, 1, 2);
     layout->addWidget(threshold_, 3, 0);
     layout->addWidget(thresholdLabel_, 3, 1);
+    layout->addWidget(thresholdNumber_, 3, 2);
     layout->setColumnStretch(0, 1);
     return frame;
 }

@@ -1,6 +1,7 @@
 #include "ui/shell/Composition.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStandardPaths>
 
@@ -34,6 +35,9 @@ void PrepareApplication() {
     QApplication::setApplicationName(ToQt(app::kApplicationName));
     QApplication::setApplicationVersion(TAVRENE_VERSION);
     QApplication::setStyle(new CalmStyle);
+    // The desktop finds its own entry, and with it the name and picture, by this name.
+    QApplication::setDesktopFileName("org.tavrene.CheckBoxes");
+    QApplication::setWindowIcon(QIcon(":/tavrene-checkboxes.svg"));
     // A dialog of start-up that closes before there is a window must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
 }

@@ -1,108 +1,79 @@
 #include "ui/shell/Icons.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPalette>
-#include <QStringList>
-#include <functional>
-#include <map>
+#include <QSvgRenderer>
+#include <array>
+#include <utility>
 
 #include "ui/base/QtText.h"
-#include "ui/shell/IconData.h"
 
 namespace tavrene::ui {
 namespace {
 
-constexpr double kSquare = 24;
-constexpr double kLineWidth = 1.5;
+// A colour of the files and what it becomes on a light and on a dark window. A few hues tell commands apart
+// at a glance; each has its own tone for dark windows, where the one for light ones would drown.
+struct Ink {
+    const char* inFile;
+    const char* onLight;
+    const char* onDark;
+};
+constexpr std::array kInks = {
+    Ink{"#0a5fa8", "#0a5fa8", "#7db9f0"},
+    Ink{"#0a6e3d", "#0a6e3d", "#63cf97"},
+    Ink{"#bf3325", "#bf3325", "#f58e80"},
+};
+constexpr const char* kLine = "currentColor";
+// Signs inside a filled shape are cut out of it: they show the window behind.
+constexpr const char* kGround = "#f0f0f0";
 
-QPainterPath ParsePath(std::string_view text) {
-    static const std::map<QChar, std::function<void(QPainterPath&, const double*)>> kSteps = {
-        {'M', [](QPainterPath& path, const double* v) { path.moveTo(v[0], v[1]); }},
-        {'L', [](QPainterPath& path, const double* v) { path.lineTo(v[0], v[1]); }},
-        {'C', [](QPainterPath& path, const double* v) { path.cubicTo(v[0], v[1], v[2], v[3], v[4], v[5]); }},
-        {'O', [](QPainterPath& path, const double* v) { path.addEllipse(QPointF(v[0], v[1]), v[2], v[2]); }},
-        {'R', [](QPainterPath& path, const double* v) { path.addRect(v[0], v[1], v[2], v[3]); }},
-        {'Z', [](QPainterPath& path, const double*) { path.closeSubpath(); }},
-    };
-    QPainterPath path;
-    const QStringList words = ToQt(text).split(' ');
-    for (qsizetype i = 0; i < words.size();) {
-        const QChar step = words[i++].front();
-        double values[6] = {};
-        for (int k = 0; k < 6 && i < words.size() && !words[i].front().isLetter(); ++k)
-            values[k] = words[i++].toDouble();
-        kSteps.at(step)(path, values);
-    }
-    return path;
+QByteArray InInksOf(QByteArray picture, const QPalette& palette, bool enabled) {
+    const QColor window = palette.color(QPalette::Window);
+    const QByteArray line =
+        palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::WindowText)
+            .name()
+            .toLatin1();
+    const bool dark = window.lightnessF() < 0.5;
+    picture.replace(kLine, line);
+    picture.replace(kGround, window.name().toLatin1());
+    for (const Ink& ink : kInks)
+        picture.replace(ink.inFile, !enabled ? line.constData() : dark ? ink.onDark : ink.onLight);
+    return picture;
 }
 
-QColor ColorOf(Ink ink) {
-    const QPalette palette = QGuiApplication::palette();
-    switch (ink) {
-        case Ink::Paper:
-            return palette.color(QPalette::Base);
-        case Ink::Blue:
-            return {0, 102, 170};
-        case Ink::Green:
-            return {0, 130, 80};
-        case Ink::Red:
-            return {196, 60, 40};
-        case Ink::Amber:
-            return {222, 160, 40};
-        case Ink::Line:
-            break;
-    }
-    return palette.color(QPalette::WindowText);
-}
-
-void PaintPart(QPainter& painter, const IconPart& part) {
-    const QColor color = ColorOf(part.ink);
-    const bool paper = part.ink == Ink::Paper;
-    const QColor outline = paper ? ColorOf(Ink::Line) : part.filled ? color.darker(125) : color;
-    const double width = part.filled || part.ink == Ink::Line ? kLineWidth : kLineWidth + 0.4;
-    painter.setPen(QPen(outline, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(part.filled ? QBrush(color) : QBrush(Qt::NoBrush));
-    painter.drawPath(ParsePath(part.path));
-}
-
-// Paints its picture anew for every size, so that it is crisp on every screen.
-class PathIconEngine final : public QIconEngine {
+// Paints its picture anew for every size and palette, so that it is crisp on every screen and follows a
+// desktop that turns dark in the evening.
+class SvgInkEngine final : public QIconEngine {
   public:
-    explicit PathIconEngine(std::span<const IconPart> parts) : parts_(parts) {}
+    explicit SvgInkEngine(QByteArray picture) : picture_(std::move(picture)) {}
 
-    QIconEngine* clone() const override { return new PathIconEngine(parts_); }
+    QIconEngine* clone() const override { return new SvgInkEngine(picture_); }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setOpacity(mode == QIcon::Disabled ? 0.28 : 1.0);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / kSquare, rect.height() / kSquare);
-        for (const IconPart& part : parts_)
-            PaintPart(*painter, part);
-        painter->restore();
+        QSvgRenderer renderer(InInksOf(picture_, QGuiApplication::palette(), mode != QIcon::Disabled));
+        renderer.render(painter, rect);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, picture.rect(), mode, state);
-        return picture;
+        QPixmap pixels(size);
+        pixels.fill(Qt::transparent);
+        QPainter painter(&pixels);
+        paint(&painter, pixels.rect(), mode, state);
+        return pixels;
     }
 
   private:
-    std::span<const IconPart> parts_;
+    QByteArray picture_;
 };
 
 }  // namespace
 
 QIcon IconOf(std::string_view name) {
-    const auto parts = PartsOfIcon(name);
-    return parts.empty() ? QIcon() : QIcon(new PathIconEngine(parts));
+    QFile file(":/icons/" + ToQt(name) + ".svg");
+    return file.open(QIODevice::ReadOnly) ? QIcon(new SvgInkEngine(file.readAll())) : QIcon();
 }
 
 }  // namespace tavrene::ui

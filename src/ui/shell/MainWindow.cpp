@@ -1,16 +1,20 @@
 #include "ui/shell/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QSplitter>
+#include <QUrl>
 #include <utility>
 
 #include "imaging/Bitmap.h"
+#include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
 #include "ui/commands/WindowLoad.h"
 #include "ui/settings/SettingsDialog.h"
+#include "ui/shell/AboutDialog.h"
 
 namespace tavrene::ui {
 namespace {
@@ -19,6 +23,7 @@ using commands::Command;
 
 // What the window remembers about itself lies beside the settings, in a group of its own.
 constexpr std::string_view kWindowSection = "Window";
+constexpr std::string_view kLabelsShown = "ToolbarLabels";
 
 QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
     return QByteArray::fromBase64(
@@ -66,8 +71,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
-    UpdateCommands();
     RestoreShape();
+    UpdateCommands();
 }
 
 MainWindow::~MainWindow() = default;
@@ -92,8 +97,9 @@ void MainWindow::BuildLayout() {
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
-    setMinimumSize(800, 560);
-    resize(1280, 800);
+    // A laptop at twice the scale has no more room than this.
+    setMinimumSize(640, 320);
+    ResizeWithinScreen(*this, {1280, 800});
 }
 
 void MainWindow::ConnectViewCommands() {
@@ -102,6 +108,12 @@ void MainWindow::ConnectViewCommands() {
     gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
     gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
     gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+    gate_.SetHandler(Command::ToolbarLabels, [this] {
+        const bool shown = !toolbars_.LabelsShown();
+        toolbars_.ShowLabels(shown);
+        context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, kLabelsShown,
+                                         shown ? "1" : "0");
+    });
 }
 
 void MainWindow::ConnectCommands() {
@@ -113,7 +125,11 @@ void MainWindow::ConnectCommands() {
     });
     gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
-    gate_.SetHandler(Command::About, [this] { ShowAbout(); });
+    gate_.SetHandler(Command::OpenWorkingFolder,
+                     [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
+    gate_.SetHandler(Command::OpenLog,
+                     [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
+    gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
     gate_.SetHandler(Command::Exit, [this] { close(); });
     gate_.SetAfterwards([this] {
         UpdateCommands();
@@ -133,6 +149,7 @@ void MainWindow::UpdateCommands() {
     for (const Command command : {Command::SelectBox, Command::AddBox})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.InReview());
+    toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
     for (const Command command : {Command::Okay, Command::AcceptForm, Command::RejectForm})
         toolbars_.SetVisible(command, review_.InReview() && !state_.processing);
 }
@@ -149,11 +166,9 @@ void MainWindow::ShowSettings() {
     });
 }
 
-void MainWindow::ShowAbout() {
-    QMessageBox::about(this, "About " + ToQt(app::kApplicationName),
-                       "<h3>" + ToQt(app::kApplicationName) +
-                           "</h3><p>Version " TAVRENE_VERSION
-                           "</p><p>Reads the check boxes of scanned paper forms.</p>");
+void MainWindow::OpenOnDesktop(const std::string& path) {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path))))
+        operator_.ShowMessage("", "This desktop has no program that opens " + path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -177,6 +192,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 void MainWindow::RestoreShape() {
     restoreGeometry(ReadShape(context_.store, "Geometry"));
     splitter_->restoreState(ReadShape(context_.store, "Splitter"));
+    toolbars_.ShowLabels(
+        context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, kLabelsShown) == "1");
 }
 
 void MainWindow::RememberShape() {

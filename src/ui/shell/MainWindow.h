@@ -54,7 +54,7 @@ class MainWindow final : public QMainWindow {
     void RunCommand(commands::Command command);
     void UpdateCommands();
     void ShowSettings();
-    void ShowAbout();
+    void OpenOnDesktop(const std::string& path);
     void RestoreShape();
     void RememberShape();
 

@@ -62,6 +62,7 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
     if (info.separatorBefore)
         toolbar->addSeparator();
     action->setParent(toolbar);
+    action->setIconText(ToQt(commands::LabelOf(info.command)));
     toolbar->addAction(action);
     QWidget* const button = toolbar->widgetForAction(action);
     button->setAccessibleName(ToQt(info.toolTip));
@@ -78,6 +79,15 @@ void Toolbars::AddToMenu(const commands::CommandInfo& info, QAction* action) {
 void Toolbars::Update(const std::function<bool(commands::Command)>& offers) {
     for (const auto& [command, action] : actions_)
         action->setEnabled(offers(command));
+}
+
+void Toolbars::ShowLabels(bool shown) {
+    for (const auto& [name, toolbar] : toolbars_)
+        toolbar->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+}
+
+bool Toolbars::LabelsShown() const {
+    return toolbars_.at(commands::Toolbar::Main)->toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
 }
 
 }  // namespace tavrene::ui

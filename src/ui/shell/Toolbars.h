@@ -23,6 +23,10 @@ class Toolbars {
     /// Shows a toggle button pressed or released; nothing is run.
     void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
 
+    /// Words under the pictures of the buttons, or none.
+    void ShowLabels(bool shown);
+    bool LabelsShown() const;
+
     void SetVisible(commands::Command command, bool visible) { actions_.at(command)->setVisible(visible); }
 
   private:
