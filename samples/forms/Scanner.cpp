@@ -78,8 +78,7 @@ void ThinOut(Canvas& scan, Random& random, double share) {
     const auto isDark = [&whole](int x, int y) { return whole.At(x, y) < 128; };
     for (int y = 0; y < scan.Height(); ++y)
         for (int x = 0; x < scan.Width(); ++x) {
-            const bool inside =
-                isDark(x - 1, y) && isDark(x + 1, y) && isDark(x, y - 1) && isDark(x, y + 1);
+            const bool inside = isDark(x - 1, y) && isDark(x + 1, y) && isDark(x, y - 1) && isDark(x, y + 1);
             if (isDark(x, y) && !inside && random.Chance(share))
                 scan.Set(x, y, kWhite);
         }

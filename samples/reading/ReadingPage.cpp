@@ -98,7 +98,7 @@ KnownForm Know(const FormDesign& design, int dpi, const char* name) {
 }
 
 // Profiles that are loaded beside the right one.
-// Profiles of one box, or of one column, are loaded for strangers alone: the described rules take any page
+// Profiles of few boxes, or of one column, are loaded for strangers alone: the described rules take any page
 // for them.
 std::span<const KnownForm> Bystanders(bool alsoSmall) {
     static const std::vector<KnownForm> known = {Know({FormKind::Survey, 900001}, 200, "Another survey"),

@@ -127,12 +127,13 @@ TEST_F(PreciseReadingTest, AnUpsideDownPageIsReadWhereItsBoxesAre) {
     }
     samples::Random dice(5);
     const imaging::Page page = Scan(Filled(form), wear, dice);
-    const std::vector<BoxShift> shifts = CompleteShifts(page, profiles_[form], known);
-    for (std::size_t k = 0; k < shifts.size(); ++k) {
-        EXPECT_NEAR(shifts[k].dx, reading.marks[k].Shift.dx, 3) << k;
-        EXPECT_NEAR(shifts[k].dy, reading.marks[k].Shift.dy, 3) << k;
+    const FormPlaces places = CompleteShifts(page, profiles_[form], known);
+    EXPECT_TRUE(places.turned);
+    for (std::size_t k = 0; k < places.shifts.size(); ++k) {
+        EXPECT_NEAR(places.shifts[k].dx, reading.marks[k].Shift.dx, 3) << k;
+        EXPECT_NEAR(places.shifts[k].dy, reading.marks[k].Shift.dy, 3) << k;
     }
-    const auto again = ReadMarksPrecisely(page, profiles_[form], shifts, &prints_[form], kThreshold);
+    const auto again = ReadMarksPrecisely(page, profiles_[form], places, &prints_[form], kThreshold);
     ASSERT_EQ(again.size(), reading.marks.size());
     for (std::size_t k = 0; k < again.size(); ++k)
         EXPECT_EQ(again[k].Checked, reading.marks[k].Checked) << again[k].Name;

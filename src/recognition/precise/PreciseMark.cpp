@@ -10,6 +10,7 @@ namespace tavrene::recognition::precise {
 namespace {
 
 constexpr int kBorder = 4;
+constexpr double kLeastBeside = 0.3;  // of the area that is counted
 constexpr double kFineDpi = 300;
 
 int CountInRow(const BitPlane& pixels, int row, int first, int last) {
@@ -42,6 +43,29 @@ double FillInside(const BitPlane& pixels, const GridRect& place, int border) {
     for (int row = std::max(0, place.row0 + border); row <= lastRow && first <= last; ++row)
         ink += CountInRow(pixels, row, first, last);
     return static_cast<double>(ink * 100) / static_cast<double>(width * height);
+}
+
+std::optional<double> FillBeside(const BitPlane& pixels, const GridRect& place, int border,
+                                 const BitPlane& letter, bool turned) {
+    const int width = place.col1 - place.col0 + 1;
+    const int height = place.row1 - place.row0 + 1;
+    int ink = 0;
+    int area = 0;
+    for (int row = border; row < height - border; ++row) {
+        for (int column = border; column < width - border; ++column) {
+            const int across = (turned ? width - 1 - column : column) * letter.Width() / width;
+            const int up = (turned ? height - 1 - row : row) * letter.Height() / height;
+            if (letter.Has(across, up))
+                continue;
+            ++area;
+            if (pixels.Has(place.col0 + column, place.row0 + row))
+                ++ink;
+        }
+    }
+    const int whole = (width - 2 * border) * (height - 2 * border);
+    if (area <= 0 || area < kLeastBeside * whole)
+        return std::nullopt;
+    return 100.0 * ink / area;
 }
 
 int BorderOf(const imaging::Page& page) {

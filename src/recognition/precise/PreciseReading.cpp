@@ -1,5 +1,6 @@
 #include "recognition/precise/PreciseReading.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/Numeric.h"
@@ -15,9 +16,6 @@ using precise::CellPoint;
 using precise::FormMatch;
 using profiles::OmrBox;
 using profiles::ProfileRecord;
-
-// A letter printed in a box is taken off its ink; less than this is dirt of the specimen.
-constexpr double kPrintedInside = 2;
 
 // A pixel of 200 dpi, and how far ink may lie beside an outline, in pixels of the page.
 double UnitOf(const imaging::Page& page, const ProfileRecord& profile) {
@@ -64,22 +62,31 @@ std::vector<BoxShift> RefinedShifts(const imaging::Page& page, const ProfileReco
     return shifts;
 }
 
+// Where a letter fills a coarse box, only its ink can be taken off; else what is near it is left out.
+double FillOfLettered(const BitPlane& pixels, const GridRect& place, int border, const SpecimenPrint& print,
+                      std::size_t index, const FormScale& scale, bool turned) {
+    if (const auto beside = precise::FillBeside(pixels, place, border, print.letters[index], turned))
+        return *beside;
+    const auto& inside = print.inside[index];
+    const auto onSpecimen = static_cast<std::size_t>(std::max(1L, std::lround(border / double{scale.sx})));
+    return std::max(
+        0.0, precise::FillInside(pixels, place, border) - inside[std::min(onSpecimen, inside.size()) - 1]);
+}
+
 std::vector<MarkReading> ReadMarksAt(const imaging::Page& page, const BitPlane& pixels,
-                                     const ProfileRecord& profile, std::span<const BoxShift> shifts,
+                                     const ProfileRecord& profile, const FormPlaces& places,
                                      const SpecimenPrint* print, std::int16_t fillThreshold) {
     const FormScale scale = ScaleBetween(page, profile);
     const int border = precise::BorderOf(page);
     std::vector<MarkReading> marks;
     marks.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
-        const GridRect place = PlaceOf(page.grid, profile.Boxes[k], scale, shifts[k]);
-        const double printed =
-            print != nullptr && print->belongs ? print->Inside(k, border / static_cast<double>(scale.sx)) : 0;
-        double fill = precise::FillInside(pixels, place, border);
-        if (printed >= kPrintedInside)
-            fill = std::max(0.0, fill - printed);
+        const GridRect place = PlaceOf(page.grid, profile.Boxes[k], scale, places.shifts[k]);
+        const double fill = print != nullptr && print->belongs && print->letters[k].Width() > 0
+                                ? FillOfLettered(pixels, place, border, *print, k, scale, places.turned)
+                                : precise::FillInside(pixels, place, border);
         marks.push_back(
-            {profile.Boxes[k].Name, shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
+            {profile.Boxes[k].Name, places.shifts[k], OnPage(page.grid, place), fill, fill >= fillThreshold});
     }
     return marks;
 }
@@ -102,16 +109,16 @@ PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const ProfileR
     reading.winner = match.profile;
     reading.turned = match.turned;
     const auto index = static_cast<std::size_t>(match.profile);
-    const std::vector<BoxShift> shifts = RefinedShifts(page, profiles[index], pixels, match);
-    reading.marks = ReadMarksAt(page, pixels, profiles[index], shifts, prints(index), fillThreshold);
+    const FormPlaces places{RefinedShifts(page, profiles[index], pixels, match), match.turned};
+    reading.marks = ReadMarksAt(page, pixels, profiles[index], places, prints(index), fillThreshold);
     return reading;
 }
 
 std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page, const ProfileRecord& profile,
-                                            std::span<const BoxShift> shifts, const SpecimenPrint* print,
+                                            const FormPlaces& places, const SpecimenPrint* print,
                                             std::int16_t fillThreshold) {
     const BitPlane pixels = WithoutNoise(precise::PlaneOf(page.grid));
-    return ReadMarksAt(page, pixels, profile, shifts, print, fillThreshold);
+    return ReadMarksAt(page, pixels, profile, places, print, fillThreshold);
 }
 
 }  // namespace tavrene::recognition

@@ -15,6 +15,12 @@ namespace tavrene::recognition {
 /// The print of the specimen of profile `index`; null where there is none. Asked only when it matters.
 using PrintSource = std::function<const SpecimenPrint*(std::size_t index)>;
 
+/// Where the boxes of a profile lie on a page.
+struct FormPlaces {
+    std::vector<BoxShift> shifts;  ///< One a box, from where the profile has it upright.
+    bool turned = false;           ///< The page lies upside down.
+};
+
 /// What precise alignment makes of a page.
 struct PreciseReading {
     int winner = -1;              ///< Index of the profile, or -1 when the page is none of them.
@@ -32,10 +38,9 @@ struct PreciseReading {
 PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
                              const PrintSource& prints, std::int16_t fillThreshold);
 
-/// Reads the boxes of a profile at known shifts, one a box, as precise alignment measures marks. `print` may
-/// be null.
+/// Reads the boxes of a profile at known places as precise alignment measures marks. `print` may be null.
 std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page, const profiles::ProfileRecord& profile,
-                                            std::span<const BoxShift> shifts, const SpecimenPrint* print,
+                                            const FormPlaces& places, const SpecimenPrint* print,
                                             std::int16_t fillThreshold);
 
 }  // namespace tavrene::recognition

@@ -49,21 +49,22 @@ Fit FitOneWay(const imaging::Page& page, const profiles::ProfileRecord& profile,
 
 }  // namespace
 
-std::vector<BoxShift> CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
-                                     std::span<const std::optional<BoxShift>> known) {
+FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                          std::span<const std::optional<BoxShift>> known) {
     const FormScale scale = ScaleBetween(page, profile);
     const Fit upright = FitOneWay(page, profile, scale, known, false);
     const Fit turned = FitOneWay(page, profile, scale, known, true);
     const Fit& fit = turned.cost < upright.cost ? turned : upright;
-    std::vector<BoxShift> shifts;
-    shifts.reserve(profile.Boxes.size());
+    FormPlaces places;
+    places.turned = fit.turned;
+    places.shifts.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
         const CellPoint nominal = PlaceOn(page, scale, profile.Boxes[k], false);
         const CellPoint mapped = fit.map(PlaceOn(page, scale, profile.Boxes[k], fit.turned));
-        shifts.push_back(known[k].value_or(
+        places.shifts.push_back(known[k].value_or(
             BoxShift{app::RoundToInt16(mapped.x - nominal.x), app::RoundToInt16(mapped.y - nominal.y)}));
     }
-    return shifts;
+    return places;
 }
 
 }  // namespace tavrene::recognition

@@ -23,6 +23,9 @@ constexpr int kTile = 32;               // cells
 constexpr double kMargin = 0.02;        // of the page on each side: there lie the scanner's shadows
 constexpr double kOutlineShare = 0.72;  // of an outline that must be there for a box to lie on the print
 constexpr int kReach = 4;
+constexpr std::size_t kBorder = 4;  // pixels of a box that are its printed line and the play around it
+constexpr int kLine = 3;
+constexpr double kPrintedInside = 2;  // percent: less is dirt of the specimen
 
 // Where the profile's boxes are printed.
 BitPlane BoxesOf(const precise::CellPage& page, const imaging::Page& specimen,
@@ -91,12 +94,21 @@ std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlan
     return points;
 }
 
-}  // namespace
-
-double SpecimenPrint::Inside(std::size_t index, double border) const {
-    const auto step = static_cast<std::size_t>(std::max(0L, std::lround(border) - 1));
-    return inside[index][std::min(step, kBorders - 1)];
+// Print is spread a little by a fat scan, and a box is found to the pixel, not better.
+BitPlane LetterIn(const BitPlane& pixels, const GridRect& place, const imaging::Page& specimen) {
+    constexpr int around = 2;  // pixels of 200 dpi
+    const int reach = specimen.DPI_X > 0 ? std::clamp(around * specimen.DPI_X / 200, 1, 8) : around;
+    BitPlane box(place.col1 - place.col0 + 1, place.row1 - place.row0 + 1);
+    for (int row = kLine; row < box.Height() - kLine; ++row) {
+        for (int column = kLine; column < box.Width() - kLine; ++column) {
+            if (pixels.Has(place.col0 + column, place.row0 + row))
+                box.Set(column, row);
+        }
+    }
+    return Dilated(box, reach);
 }
+
+}  // namespace
 
 SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRecord& profile) {
     SpecimenPrint print;
@@ -116,8 +128,10 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
         if (finder.Find(place, kReach).ratio >= kOutlineShare)
             ++lying;
         auto& inside = print.inside.emplace_back();
-        for (std::size_t k = 0; k < SpecimenPrint::kBorders; ++k)
+        for (std::size_t k = 0; k < inside.size(); ++k)
             inside[k] = precise::FillInside(pixels, place, static_cast<int>(k) + 1);
+        print.letters.push_back(inside[kBorder - 1] >= kPrintedInside ? LetterIn(pixels, place, specimen)
+                                                                      : BitPlane());
     }
     print.belongs = 2 * lying > profile.Boxes.size() && !print.points.empty();
     return print;
