@@ -80,7 +80,7 @@ const FormPage& TheFormPage() {
 Workplace::Workplace()
     : folders(app::PathsUnder(ScratchFolder())),
       log(files, clock, nobody, folders.Log),
-      run({files, log, nobody, clock, nobody, nobody, nobody}, settings, folders) {
+      run({files, log, nobody, clock, nobody, nobody}, settings, folders) {
     settings.FillThreshold = app::kDefaultFillThreshold;
     app::CreateWorkingFolders(files, ScratchFolder());
 }

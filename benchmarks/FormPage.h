@@ -6,8 +6,7 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ProcessRun.h"
@@ -25,10 +24,7 @@ struct FormPage {
 const FormPage& TheFormPage();
 
 /// A screen and an operator that nobody looks at.
-class Nobody final : public app::Operator,
-                     public imaging::PageView,
-                     public imaging::PageRects,
-                     public profiles::BoxRows {
+class Nobody final : public app::Operator, public imaging::PageScreen, public profiles::BoxRows {
   public:
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
@@ -39,16 +35,22 @@ class Nobody final : public app::Operator,
     void SetProgress(int) override {}
     void RunPendingEvents() override {}
     void ShowFile(const std::string&) override {}
+    void ShowPicture(const imaging::Bitmap&) override {}
     void Clear() override {}
     double Zoom() const override { return 100; }
     void SetZoom(double) override {}
     void Refresh() override {}
-    void DrawRect(int, const imaging::PageRect&, imaging::RectStyle) override {}
+    imaging::ScrollOffset Scroll() const override { return {}; }
+    void PutRect(int, const imaging::PageRect&, imaging::RectStyle) override {}
+    void RemoveRect(int) override {}
     void ClearRects() override {}
-    void ClearRows() override {}
-    void AddValColumn() override {}
-    void RemoveExtraColumns() override {}
-    void AddRow(int, std::string_view, std::string_view) override {}
+    void Emphasise(int) override {}
+    void SetTool(imaging::BoxTool, int) override {}
+    void ClearRows(profiles::BoxColumns) override {}
+    void PutRow(int, const profiles::BoxRow&) override {}
+    void RemoveRow(int) override {}
+    void SelectRow(int) override {}
+    void RefreshRows() override {}
 };
 
 /// A working folder in the scratch folder and everything that a run on it needs.

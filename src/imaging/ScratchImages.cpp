@@ -10,12 +10,13 @@ constexpr const char* kShown = "temp2.tif";
 constexpr const char* kConverted = "temp.tif";
 
 // Encoding and writing fail in one way: by saying why.
-template <typename Make>
-ScratchCopy Attempt(Make make) {
+template <typename Write>
+std::string FailureOf(Write write) {
     try {
-        return make();
+        write();
+        return {};
     } catch (const std::exception& error) {
-        return {{}, error.what()};
+        return error.what();
     }
 }
 
@@ -24,27 +25,25 @@ ScratchCopy Attempt(Make make) {
 ScratchImages::ScratchImages(app::Files& files, std::string tempFolder)
     : files_(files), tempFolder_(std::move(tempFolder)) {}
 
-ScratchCopy ScratchImages::WritePage(const Page& page) {
-    return Attempt([&] {
+std::string ScratchImages::WritePage(const Page& page) {
+    return FailureOf([&] {
         const app::Bytes content = EncodeGroup4Tiff(page.bitmap);
-        ScratchCopy shown = Write(kShown, content);
+        Write(kShown, content);
         if (page.format == ImageFormat::Tiff && page.inverted)
-            shown.failure = Attempt([&] { return Write(kConverted, content); }).failure;
-        return shown;
+            Write(kConverted, content);
     });
 }
 
-ScratchCopy ScratchImages::WriteConverted(const Page& page) {
-    return Attempt([&] { return Write(kConverted, EncodeGroup4Tiff(page.bitmap)); });
+std::string ScratchImages::WriteConverted(const Page& page) {
+    return FailureOf([&] { Write(kConverted, EncodeGroup4Tiff(page.bitmap)); });
 }
 
-ScratchCopy ScratchImages::WriteOriginal(std::span<const std::byte> content) {
-    return Attempt([&] { return Write(kShown, content); });
+std::string ScratchImages::WriteOriginal(std::span<const std::byte> content) {
+    return FailureOf([&] { Write(kShown, content); });
 }
 
-ScratchCopy ScratchImages::Write(const char* name, std::span<const std::byte> content) {
+void ScratchImages::Write(const char* name, std::span<const std::byte> content) {
     files_.Write(tempFolder_ + name, content, app::Keep::AsScratch);
-    return {tempFolder_ + name, {}};
 }
 
 }  // namespace tavrene::imaging

@@ -52,7 +52,8 @@ class LostLineNote {
 }  // namespace
 
 ProfileStore::ProfileStore(const StoreContext& context, OpenProfile& profile,
-                           std::vector<ProfileRecord>& records, BoxEditor& editor, const EditorScreen& screen)
+                           std::vector<ProfileRecord>& records, BoxEditor& editor,
+                           const ProfileScreen& screen)
     : context_(context),
       profile_(profile),
       records_(records),
@@ -147,16 +148,17 @@ void ProfileStore::Load(const std::string& path) {
 void ProfileStore::ShowSpecimen(const std::string& image, Specimen specimen) {
     const auto read = imaging::ReadSpecimen(context_.files, image);
     const imaging::Page* const page = std::get_if<imaging::Page>(&read);
-    screen_.view.SetZoom(100);
+    screen_.page.SetZoom(100);
     if (page != nullptr) {
         KeepSize(page->bitmap);
-        screen_.view.ShowFile(DisplayCopy(image, *page, specimen));
+        WriteDisplayCopy(image, *page, specimen);
+        screen_.page.ShowPicture(page->bitmap);
     } else if (std::get<imaging::PageError>(read) == imaging::PageError::TooManyColors) {
         KeepSize(imaging::DecodeImage(context_.files.Read(image), imaging::SpecimenFormat(image),
                                       imaging::Decode::HeaderOnly));
-        screen_.view.ShowFile(image);
+        screen_.page.ShowFile(image);
     } else {
-        screen_.view.Clear();
+        screen_.page.Clear();
         notes_.push_back(
             "The specimen image " + image +
             (context_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
@@ -168,27 +170,24 @@ void ProfileStore::KeepSize(const imaging::Bitmap& picture) {
     profile_.ImageHeight = picture.Height();
 }
 
-std::string ProfileStore::DisplayCopy(const std::string& image, const imaging::Page& page,
-                                      Specimen specimen) {
+// Of a TIFF only a new profile's has one, and that only when it had to be inverted.
+void ProfileStore::WriteDisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen) {
     const bool isTiff = imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff;
     const bool isTurned = specimen == Specimen::OfNewProfile && page.inverted;
-    if (isTiff && !isTurned)
-        return image;
-    const imaging::ScratchCopy copy = scratch_.WriteConverted(page);
-    Note(copy);
-    return copy.path.empty() ? image : copy.path;
+    if (!isTiff || isTurned)
+        Note(scratch_.WriteConverted(page));
 }
 
-void ProfileStore::Note(const imaging::ScratchCopy& copy) {
-    if (!copy.failure.empty())
-        notes_.push_back(copy.failure + ".");
+void ProfileStore::Note(const std::string& failure) {
+    if (!failure.empty())
+        notes_.push_back(failure + ".");
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.
 void ProfileStore::FitView() {
     for (double zoom = 100; profile_.ImageWidth * zoom / 100 > kFittingWidth;) {
         zoom *= kFittingStep;
-        screen_.view.SetZoom(zoom);
+        screen_.page.SetZoom(zoom);
     }
 }
 
@@ -304,7 +303,7 @@ int ProfileStore::NumberOf(const std::string& path) const {
 
 void ProfileStore::Close() {
     editor_.Clear();
-    screen_.view.Clear();
+    screen_.page.Clear();
     profile_ = OpenProfile();
 }
 

@@ -34,7 +34,7 @@ class ProfileStore {
   public:
     /// `records` are the loaded profiles that recognition uses. All references must outlive the store.
     ProfileStore(const StoreContext& context, OpenProfile& profile, std::vector<ProfileRecord>& records,
-                 BoxEditor& editor, const EditorScreen& screen);
+                 BoxEditor& editor, const ProfileScreen& screen);
 
     /// Asks whether unsaved changes are to be saved, and does so. False when the profile is not to be left.
     bool MayLeave();
@@ -81,10 +81,8 @@ class ProfileStore {
     void ShowSpecimen(const std::string& image, Specimen specimen);
     void KeepSize(const imaging::Bitmap& picture);
 
-    /// The file from which a specimen is shown: that of a TIFF is its own, unless a new profile's had to be
-    /// inverted.
-    std::string DisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
-    void Note(const imaging::ScratchCopy& copy);
+    void WriteDisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
+    void Note(const std::string& failure);
     void FitView();
     void WriteDocument();
 
@@ -92,7 +90,7 @@ class ProfileStore {
     OpenProfile& profile_;
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;
-    EditorScreen screen_;
+    ProfileScreen screen_;
     imaging::ScratchImages scratch_;
     Thumbnails thumbnails_;
     std::vector<StripEntry> strip_;

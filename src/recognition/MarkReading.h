@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "imaging/PageReader.h"
-#include "imaging/PageRects.h"
+#include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/FormScale.h"
 #include "recognition/Outline.h"

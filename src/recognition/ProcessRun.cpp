@@ -23,7 +23,7 @@ using profiles::ProfileRecord;
 
 // What came of one file, as far as showing and moving it need to know.
 struct ProcessRun::FileOutcome {
-    std::string shownImage;  // empty where there is nothing to show
+    std::optional<imaging::Page> page;
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
     bool hasResult = false;
@@ -59,10 +59,8 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
     context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
-    context_.view.Clear();
-    context_.rects.ClearRects();
-    context_.rows.ClearRows();
-    context_.rows.AddValColumn();
+    context_.page.Clear();
+    context_.rows.ClearRows(profiles::BoxColumns::NameVal);
     TakeFiles(profiles);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
     Finish(start, tolerated.TakeLostLines());
@@ -109,9 +107,9 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     const bool display = settings_.DisplayDuringProcess;
     context_.person.SetPanel(Panel::File, name);
     if (display) {
-        context_.rects.ClearRects();
-        context_.rows.ClearRows();
-        context_.view.SetZoom(100);
+        context_.page.ClearRects();
+        context_.rows.ClearRows(profiles::BoxColumns::NameVal);
+        context_.page.SetZoom(100);
     }
     FileOutcome outcome;
     try {
@@ -126,21 +124,19 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
                            FileOutcome& outcome) {
-    const std::optional<imaging::Page> page =
-        LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
-    if (!page)
+    outcome.page = LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
+    if (!outcome.page)
         return;
-    const imaging::ScratchCopy copy = scratch_.WritePage(*page);
-    outcome.shownImage = copy.path;
-    if (!copy.failure.empty())
-        LogAbout(name, copy.failure);
-    Classification classification = ClassifyImage(name, *page, profiles, context_.log);
+    const imaging::Page& page = *outcome.page;
+    if (const std::string failure = scratch_.WritePage(page); !failure.empty())
+        LogAbout(name, failure);
+    Classification classification = ClassifyImage(name, page, profiles, context_.log);
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.Shifts);
-    outcome.readings = ReadMarks(*page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
 }
 
@@ -157,18 +153,18 @@ void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profil
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (outcome.shownImage.empty())
-        context_.view.Clear();
+    if (outcome.page)
+        context_.page.ShowPicture(outcome.page->bitmap);
     else
-        context_.view.ShowFile(outcome.shownImage);
+        context_.page.Clear();
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];
-        context_.rects.DrawRect(number, outcome.readings[k].rect,
-                                mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
-        context_.rows.AddRow(number, mark.Name, mark.Checked ? "1" : "0");
+        context_.page.PutRect(number, outcome.readings[k].rect,
+                              mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
+        context_.rows.PutRow(number, {mark.Name, mark.Checked ? "1" : "0"});
     }
-    context_.view.Refresh();
+    context_.page.Refresh();
 }
 
 // A move that fails leaves image and results as they were before this file was taken.

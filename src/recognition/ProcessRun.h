@@ -11,8 +11,7 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
@@ -26,8 +25,7 @@ struct RunContext {
     app::ActivityLog& log;
     app::Operator& person;
     const app::Clock& clock;
-    imaging::PageView& view;
-    imaging::PageRects& rects;
+    imaging::PageScreen& page;
     profiles::BoxRows& rows;
 };
 

@@ -94,24 +94,20 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
     page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    const std::string type = app::UpperCase(app::Extension(image));
+    if (type == "PNG" && page_)
+        LogFailure(path, scratch_.WriteConverted(*page_));
     if (!page_)
-        context_.view.Clear();
-    else if (app::UpperCase(app::Extension(image)) == "PNG")
-        context_.view.ShowFile(CopyForView(path));
+        context_.page.Clear();
+    else if (type == "PNG" || type == "TIF")
+        context_.page.ShowPicture(page_->bitmap);
     else
-        context_.view.ShowFile(path);
+        context_.page.ShowFile(path);  // with the greys and colours that the page in memory has lost
 }
 
-// PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
-std::string FormReview::CopyForView(const std::string& path) {
-    const imaging::ScratchCopy copy = scratch_.WriteConverted(*page_);
-    LogFailure(path, copy);
-    return copy.path.empty() ? path : copy.path;
-}
-
-void FormReview::LogFailure(const std::string& image, const imaging::ScratchCopy& copy) {
-    if (!copy.failure.empty())
-        context_.log.LogProcessEvent(app::FileName(image) + ": " + copy.failure);
+void FormReview::LogFailure(const std::string& image, const std::string& failure) {
+    if (!failure.empty())
+        context_.log.LogProcessEvent(app::FileName(image) + ": " + failure);
 }
 
 void FormReview::SendBack(const OpenForm& form) {

@@ -53,9 +53,8 @@ class FormReview {
     bool Prepare(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
-    std::string CopyForView(const std::string& path);
     void LoadForProcessing(const std::string& path);
-    void LogFailure(const std::string& image, const imaging::ScratchCopy& copy);
+    void LogFailure(const std::string& image, const std::string& failure);
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void TakeOffScreen();

@@ -35,8 +35,8 @@ std::string CheckedText(const OpenForm& form, std::size_t count) {
 }  // namespace
 
 void FormScreen::Clear() {
-    context_.view.Clear();
-    ClearBoxes();
+    context_.page.Clear();
+    context_.rows.ClearRows(profiles::BoxColumns::Name);
     context_.choice.SetChoice("");
 }
 
@@ -46,36 +46,35 @@ void FormScreen::ClearPanels() {
 }
 
 void FormScreen::ClearBoxes() {
-    context_.rects.ClearRects();
-    context_.rows.ClearRows();
-    context_.rows.RemoveExtraColumns();
+    context_.page.ClearRects();
+    context_.rows.ClearRows(profiles::BoxColumns::Name);
 }
 
 void FormScreen::ShowBoxes(const OpenForm& form) {
-    ClearBoxes();
-    context_.rows.AddValColumn();
-    context_.inkRows.AddInkColumn();
-    for (std::size_t k = 0; k < form.Marks.size(); ++k) {
-        const int number = static_cast<int>(k) + 1;
-        const FormBox& box = form.Boxes[k];
-        context_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
-        context_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
-        if (box.rect)
-            context_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
-    }
+    context_.page.ClearRects();
+    context_.rows.ClearRows(profiles::BoxColumns::NameValInk);
+    for (int number = 1; static_cast<std::size_t>(number) <= form.Marks.size(); ++number)
+        PutBox(form, number);
+}
+
+void FormScreen::PutBox(const OpenForm& form, int number) {
+    const auto k = static_cast<std::size_t>(number) - 1;
+    const ResultMark& mark = form.Marks[k];
+    const FormBox& box = form.Boxes[k];
+    context_.rows.PutRow(number, {mark.Name, ValOf(mark), InkText(box), box.isDoubtful});
+    if (box.rect)
+        context_.page.PutRect(number, *box.rect, StyleOf(mark));
 }
 
 // Their groups follow those of the rows, so that no row answers for them.
 void FormScreen::ShowSkipped(const OpenForm& form) {
     int group = static_cast<int>(form.Marks.size());
     for (const imaging::PageRect& rect : form.SkippedRects)
-        context_.rects.DrawRect(++group, rect, RectStyle::Skipped);
+        context_.page.PutRect(++group, rect, RectStyle::Skipped);
 }
 
 void FormScreen::ShowMark(const OpenForm& form, int number) {
-    const ResultMark& mark = form.Marks[static_cast<std::size_t>(number) - 1];
-    context_.inkRows.SetVal(number, ValOf(mark));
-    context_.changingRects.ChangeRects(number, StyleOf(mark));
+    PutBox(form, number);
     context_.person.SetPanel(Panel::ElapsedTime, CheckedText(form, form.Marks.size()));
 }
 

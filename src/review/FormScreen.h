@@ -27,6 +27,8 @@ class FormScreen {
     void ClearBoxes();
 
   private:
+    void PutBox(const OpenForm& form, int number);
+
     ReviewContext context_;
 };
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "imaging/PageRects.h"
+#include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ResultDocument.h"
 

@@ -87,7 +87,7 @@ void ReviewSession::FlipBox(int row) {
 
 void ReviewSession::BoxSelected(int row) {
     if (HasForm())
-        context_.changingRects.EmphasiseRects(row);
+        context_.page.Emphasise(row);
 }
 
 bool ReviewSession::NextDoubtful(int row) {
@@ -98,8 +98,8 @@ bool ReviewSession::NextDoubtful(int row) {
         context_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
         return false;
     }
-    context_.inkRows.SelectRow(next);
-    context_.changingRects.EmphasiseRects(next);
+    context_.rows.SelectRow(next);
+    context_.page.Emphasise(next);
     return true;
 }
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "ui/DeskWindow.h"
-#include "ui/page/RectItem.h"
+#include "ui/page/ImageView.h"
 
 namespace tavrene::ui {
 namespace {
@@ -61,11 +61,9 @@ class ReviewWindow : public test::DeskWindow {
 
     /// Where the box of a group is drawn.
     QPointF Middle(int group) {
-        for (QGraphicsItem* const item : View().items())
-            if (const auto* const rect = dynamic_cast<RectItem*>(item); rect && rect->Group() == group)
-                return rect->Rect().center();
-        ADD_FAILURE() << "no box " << group;
-        return {};
+        const QRectF place = dynamic_cast<ImageView&>(View()).Boxes().PlaceOf(group);
+        EXPECT_FALSE(place.isNull()) << "no box " << group;
+        return place.center();
     }
 
     bool Offers(const char* key) { return Find<QAction>(*window_, key).isEnabled(); }

@@ -18,13 +18,13 @@ void ProfileCommands::New() {
     if (!MayLeave())
         return;
     const std::optional<std::string> path =
-        context_.dialogs.AskSaveFile({state_.folders.Profiles, "New.Tvp", kProfileFilter});
+        context_.dialogs.AskSaveFile({"New Profile", state_.folders.Profiles, "New.Tvp", kProfileFilter});
     if (!path)
         return;
-    const std::optional<std::string> image =
-        context_.dialogs.AskOpenFile({state_.folders.ProfileImages, "", kImageFilter});
+    const std::optional<std::string> image = context_.dialogs.AskOpenFile(
+        {"Image of the Blank Form", state_.folders.ProfileImages, "", kImageFilter});
     if (!image) {
-        context_.view.Clear();
+        context_.page.Clear();
         return;
     }
     if (context_.store.Create(*path, *image, boxes::SizesOf(state_.settings), state_.reach))

@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "app/FileDialogs.h"
 #include "app/Operator.h"
 #include "profiles/ProfileStore.h"
 #include "ui/commands/AppState.h"
-#include "ui/commands/FileDialogs.h"
 
 namespace tavrene::commands {
 
@@ -14,8 +14,8 @@ struct ProfileContext {
     profiles::ProfileStore& store;
     profiles::OpenProfile& profile;
     app::Operator& person;
-    FileDialogs& dialogs;
-    imaging::PageView& view;
+    app::FileDialogs& dialogs;
+    imaging::PageScreen& page;
 };
 
 /// The commands `New`, `Save` and `Delete` and the events of the thumbnail strip. After the texts of a

@@ -11,16 +11,35 @@ namespace tavrene::ui {
 namespace {
 
 constexpr int kValColumn = 1;
+constexpr int kInkColumn = 2;
 constexpr int kValWidth = 52;
+constexpr int kInkMargin = 24;
 constexpr int kRowMargin = 6;
 
-int NumberOf(const QTreeWidgetItem& row) {
-    return row.data(0, Qt::UserRole).toInt();
-}
+// Reads on light and dark bases alike.
+const QColor kDoubt(255, 180, 0, 90);
 
 void ShowName(QTreeWidgetItem& row, const QString& name) {
     row.setText(0, name);
     row.setToolTip(0, name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>");
+}
+
+// Room for the widest ink, as a doubtful row shows it.
+int InkWidth(QFont font) {
+    font.setBold(true);
+    return QFontMetrics(font).horizontalAdvance("100.0%") + kInkMargin;
+}
+
+void ShowDoubt(QTreeWidgetItem& row, bool isDoubtful) {
+    const QString why = isDoubtful ? "The ink is near the threshold: look at this box" : QString();
+    for (int column = 0; column <= kInkColumn; ++column) {
+        QFont bold = row.font(column);
+        bold.setBold(true);
+        row.setData(column, Qt::FontRole, isDoubtful ? QVariant(bold) : QVariant());
+        row.setData(column, Qt::BackgroundRole, isDoubtful ? QVariant(QBrush(kDoubt)) : QVariant());
+    }
+    row.setToolTip(kInkColumn, why);
+    row.setData(0, Qt::AccessibleDescriptionRole, why);
 }
 
 }  // namespace
@@ -87,48 +106,47 @@ void BoxListView::FinishEdit() {
     }
 }
 
-void BoxListView::ClearRows() {
+int BoxListView::NumberOf(const QTreeWidgetItem* row) {
+    return row == nullptr ? 0 : row->data(0, Qt::UserRole).toInt();
+}
+
+void BoxListView::ClearRows(profiles::BoxColumns columns) {
     clear();
+    setColumnCount(static_cast<int>(columns) + 1);
+    for (int column = kValColumn; column < columnCount(); ++column) {
+        headerItem()->setText(column, column == kValColumn ? "Val" : "Ink");
+        headerItem()->setTextAlignment(column, Qt::AlignCenter);
+        header()->setSectionResizeMode(column, QHeaderView::Fixed);
+        header()->resizeSection(column, column == kValColumn ? kValWidth : InkWidth(font()));
+    }
 }
 
-void BoxListView::AddValColumn() {
-    if (columnCount() > kValColumn)
-        return;
-    setHeaderLabels({"Check box", "Val"});
-    header()->setSectionResizeMode(kValColumn, QHeaderView::Fixed);
-    header()->resizeSection(kValColumn, kValWidth);
-    headerItem()->setTextAlignment(kValColumn, Qt::AlignCenter);
+void BoxListView::PutRow(int number, const profiles::BoxRow& row) {
+    QTreeWidgetItem* const present = RowOf(number);
+    QTreeWidgetItem& item = present == nullptr ? AddRow(number) : *present;
+    ShowName(item, ToQt(row.name));
+    if (columnCount() > kValColumn) {
+        item.setText(kValColumn, ToQt(row.val));
+        item.setTextAlignment(kValColumn, Qt::AlignCenter);
+    }
+    if (columnCount() > kInkColumn) {
+        item.setText(kInkColumn, ToQt(row.ink));
+        item.setTextAlignment(kInkColumn, Qt::AlignRight | Qt::AlignVCenter);
+        ShowDoubt(item, row.isDoubtful);
+    }
 }
 
-void BoxListView::RemoveExtraColumns() {
-    setColumnCount(1);
-}
-
-void BoxListView::AddRow(int number, std::string_view name, std::string_view value) {
-    InsertRow(number, name);
-    if (columnCount() <= kValColumn)
-        return;
-    QTreeWidgetItem& row = *topLevelItem(PlaceFor(number) - 1);
-    row.setText(kValColumn, ToQt(value));
-    row.setTextAlignment(kValColumn, Qt::AlignCenter);
-}
-
-void BoxListView::InsertRow(int number, std::string_view name) {
+QTreeWidgetItem& BoxListView::AddRow(int number) {
     auto* const row = new QTreeWidgetItem;
-    ShowName(*row, ToQt(name));
     row->setData(0, Qt::UserRole, number);
     row->setSizeHint(0, {0, fontMetrics().height() + kRowMargin});
     row->setFlags(row->flags() | Qt::ItemIsEditable);
     insertTopLevelItem(PlaceFor(number), row);
+    return *row;
 }
 
 void BoxListView::RemoveRow(int number) {
     delete RowOf(number);
-}
-
-void BoxListView::RenameRow(int number, std::string_view name) {
-    if (QTreeWidgetItem* const row = RowOf(number))
-        ShowName(*row, ToQt(name));
 }
 
 void BoxListView::SelectRow(int number) {
@@ -149,7 +167,7 @@ int BoxListView::PlaceFor(int number) const {
     int last = topLevelItemCount();
     while (first < last) {
         const int middle = (first + last) / 2;
-        if (NumberOf(*topLevelItem(middle)) <= number)
+        if (NumberOf(topLevelItem(middle)) <= number)
             first = middle + 1;
         else
             last = middle;
@@ -159,12 +177,12 @@ int BoxListView::PlaceFor(int number) const {
 
 QTreeWidgetItem* BoxListView::RowOf(int number) const {
     QTreeWidgetItem* const row = topLevelItem(PlaceFor(number) - 1);
-    return row != nullptr && NumberOf(*row) == number ? row : nullptr;
+    return NumberOf(row) == number ? row : nullptr;
 }
 
 void BoxListView::TellClicked(const QTreeWidgetItem* row) {
     if (row != nullptr && listener_.clicked)
-        listener_.clicked(NumberOf(*row));
+        listener_.clicked(NumberOf(row));
 }
 
 void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {

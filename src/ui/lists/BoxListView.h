@@ -4,13 +4,13 @@
 #include <QTreeWidget>
 #include <functional>
 
-#include "profiles/EditorScreen.h"
+#include "profiles/BoxRows.h"
 
 namespace tavrene::ui {
 
-/// The box list `lvwSettings`: one row a box, with its name and at times its state. Names can be edited in
-/// place while a profile is open.
-class BoxListView final : public QTreeWidget, public profiles::EditableRows {
+/// The box list `lvwSettings`: one row a box, with its name and at times its mark and ink. Names can be
+/// edited in place while a profile is open.
+class BoxListView final : public QTreeWidget, public profiles::BoxRows {
   public:
     struct Listener {
         std::function<void(int number)> clicked;  ///< By mouse or keyboard.
@@ -30,13 +30,13 @@ class BoxListView final : public QTreeWidget, public profiles::EditableRows {
     /// Takes over what is being typed, as Enter would.
     void FinishEdit();
 
-    void ClearRows() override;
-    void AddValColumn() override;
-    void RemoveExtraColumns() override;
-    void AddRow(int number, std::string_view name, std::string_view value) override;
-    void InsertRow(int number, std::string_view name) override;
+    /// The box's number of a row, or of the current row; 0 for none.
+    static int NumberOf(const QTreeWidgetItem* row);
+    int CurrentNumber() const { return NumberOf(currentItem()); }
+
+    void ClearRows(profiles::BoxColumns columns) override;
+    void PutRow(int number, const profiles::BoxRow& row) override;
     void RemoveRow(int number) override;
-    void RenameRow(int number, std::string_view name) override;
     void SelectRow(int number) override;
     void RefreshRows() override;
 
@@ -50,6 +50,7 @@ class BoxListView final : public QTreeWidget, public profiles::EditableRows {
     class NameDelegate;
 
     QTreeWidgetItem* RowOf(int number) const;
+    QTreeWidgetItem& AddRow(int number);
     int PlaceFor(int number) const;
     void TellClicked(const QTreeWidgetItem* row);
 

@@ -30,15 +30,17 @@ imaging::PageRect ToPageRect(const QRectF& rect) {
 
 }  // namespace
 
-BoxLayer::BoxLayer(ImageView& view) : view_(view), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
-    tools_[profiles::BoxTool::Select] = std::make_unique<SelectTool>(*this);
-    tools_[profiles::BoxTool::Add] = std::make_unique<DrawTool>(*this);
+BoxLayer::BoxLayer(ImageView& view)
+    : view_(view), items_(new QGraphicsItemGroup), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
+    tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
+    tools_[imaging::BoxTool::Add] = std::make_unique<DrawTool>(*this);
     QPen pen(QColor(213, 94, 0), 1.5, Qt::DashLine);
     pen.setCosmetic(true);
     drawn_->setPen(pen);
     drawn_->setBrush(QColor(213, 94, 0, 40));
     drawn_->setZValue(2);
     drawn_->setVisible(false);
+    view_.scene()->addItem(items_);
     view_.scene()->addItem(frame_);
     view_.scene()->addItem(drawn_);
 }
@@ -49,50 +51,51 @@ void BoxLayer::SetEditable(bool editable) {
     if (editable == editable_)
         return;
     editable_ = editable;
-    view_.SetTool(editable ? tools_[tool_].get() : nullptr);
+    view_.UseTool(editable ? tools_[tool_].get() : nullptr);
 }
 
-void BoxLayer::SetTool(profiles::BoxTool tool) {
+void BoxLayer::SetTool(imaging::BoxTool tool, int nextGroup) {
+    nextGroup_ = nextGroup;
+    if (tool == tool_)
+        return;
     tool_ = tool;
     if (editable_)
-        view_.SetTool(tools_[tool_].get());
+        view_.UseTool(tools_[tool_].get());
 }
 
 void BoxLayer::Clear() {
-    for (const auto& [group, box] : boxes_)
-        delete box.item;
+    qDeleteAll(items_->childItems());
     boxes_.clear();
     ShowDrawn({});
     Mark(0);
 }
 
-void BoxLayer::PutBox(int group, const imaging::PageRect& box) {
+void BoxLayer::Put(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
     ShowDrawn({});
-    if (!boxes_.contains(group))
-        boxes_[group].item = view_.AddRect(group, profiles::PaintedPart(box), imaging::RectStyle::Plain);
-    ShowAt(group, ToRect(box));
-    view_.MakeReachable(ToRect(box));
+    Shown& box = boxes_[group];
+    if (box.item == nullptr)
+        box.item = new RectItem(items_);
+    box.style = style;
+    box.item->SetStyle(style);
+    ShowAt(group, ToRect(rect));
+    if (style == imaging::RectStyle::Editable)
+        view_.MakeReachable(ToRect(rect));
 }
 
-void BoxLayer::RemoveBox(int group) {
+void BoxLayer::Remove(int group) {
     const auto box = boxes_.find(group);
     if (box == boxes_.end())
         return;
-    delete box->second.item;
-    boxes_.erase(box);
     if (group == selected_)
         Mark(0);
+    delete box->second.item;
+    boxes_.erase(box);
 }
 
-void BoxLayer::SelectBox(int group) {
+void BoxLayer::Emphasise(int group) {
     Mark(group);
     if (selected_ != 0)
         view_.ensureVisible(PlaceOf(selected_), kScrollMargin, kScrollMargin);
-}
-
-profiles::ScrollOffset BoxLayer::Scroll() const {
-    const QTransform shown = view_.viewportTransform();
-    return {-shown.dx(), -shown.dy()};
 }
 
 double BoxLayer::Scale() const {
@@ -144,8 +147,10 @@ void BoxLayer::ShowAt(int group, const QRectF& place) {
     if (box == boxes_.end())
         return;
     box->second.place = place;
-    box->second.item->SetRect(profiles::PaintedPart(ToPageRect(place)));
-    if (group == selected_)
+    const bool isEditable = box->second.style == imaging::RectStyle::Editable;
+    const imaging::PageRect rect = ToPageRect(place);
+    box->second.item->SetRect(isEditable ? imaging::PaintedPart(rect) : rect);
+    if (group == selected_ && isEditable)
         frame_->SetRect(place);
 }
 
@@ -155,7 +160,7 @@ void BoxLayer::ShowDrawn(const QRectF& rect) {
 }
 
 void BoxLayer::TellSelected(int group, const QRectF& place) {
-    listener_.selected(profiles::ReportOf(group, ToPageRect(place), view_.Zoom(), Scroll()));
+    listener_.selected(imaging::ReportOf(group, ToPageRect(place), view_.Zoom(), view_.Scroll()));
     // A rectangle that was not taken as a box leaves the selection as it was.
     if (boxes_.contains(group))
         Mark(group);
@@ -166,8 +171,14 @@ void BoxLayer::TellMoved(int group) {
 }
 
 void BoxLayer::Mark(int group) {
-    selected_ = boxes_.contains(group) ? group : 0;
-    frame_->SetRect(PlaceOf(selected_));
+    if (const auto before = boxes_.find(selected_); before != boxes_.end())
+        before->second.item->SetEmphasised(false);
+    const auto box = boxes_.find(group);
+    selected_ = box == boxes_.end() ? 0 : group;
+    const bool isEditable = selected_ != 0 && box->second.style == imaging::RectStyle::Editable;
+    frame_->SetRect(isEditable ? box->second.place : QRectF());
+    if (selected_ != 0)
+        box->second.item->SetEmphasised(!isEditable);
 }
 
 }  // namespace tavrene::ui

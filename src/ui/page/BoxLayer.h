@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QGraphicsItemGroup>
 #include <QGraphicsRectItem>
 #include <functional>
 #include <map>
 #include <memory>
 
-#include "profiles/EditorScreen.h"
+#include "imaging/PageScreen.h"
 #include "ui/page/HandleFrame.h"
 #include "ui/page/PageTool.h"
 #include "ui/page/RectItem.h"
@@ -14,38 +15,38 @@ namespace tavrene::ui {
 
 class ImageView;
 
-/// The boxes over the page that can be selected, moved, resized and drawn anew. It shows them and tells of
-/// what the person does with them; where a box really is, the listener decides by putting it there.
-class BoxLayer final : public profiles::EditableBoxes {
+/// The rectangles over the page, one a group. Editable ones can be selected, moved, resized and drawn anew:
+/// the layer shows them and tells of what the person does with them; where a box really is, the listener
+/// decides by putting it there.
+class BoxLayer final {
   public:
     struct Listener {
-        std::function<void(const profiles::RectReport&)> selected;  ///< Also after a move and for a new one.
-        std::function<void(int group)> moved;                       ///< Moved or resized; told first.
+        std::function<void(const imaging::RectReport&)> selected;  ///< Also after a move and for a new one.
+        std::function<void(int group)> moved;                      ///< Moved or resized; told first.
     };
 
     /// The view owns the layer and the items in its scene.
     explicit BoxLayer(ImageView& view);
-    ~BoxLayer() override;
+    ~BoxLayer();
 
     void SetListener(Listener listener) { listener_ = std::move(listener); }
 
     /// Whether the tools act.
     void SetEditable(bool editable);
-    profiles::BoxTool Tool() const { return tool_; }
+    imaging::BoxTool Tool() const { return tool_; }
 
-    /// Forgets all boxes.
+    // What the view does for `imaging::PageScreen`.
+
+    void Put(int group, const imaging::PageRect& rect, imaging::RectStyle style);
+    void Remove(int group);
     void Clear();
-
-    void PutBox(int group, const imaging::PageRect& box) override;
-    void RemoveBox(int group) override;
-    void SelectBox(int group) override;
-    void SetTool(profiles::BoxTool tool) override;
-    void SetNextGroup(int group) override { nextGroup_ = group; }
-    profiles::ScrollOffset Scroll() const override;
+    void Emphasise(int group);
+    void SetTool(imaging::BoxTool tool, int nextGroup);
+    bool IsEmpty() const { return boxes_.empty(); }
 
     // For the tools; rectangles and points in the page frame.
 
-    /// Pixels of the screen an image pixel.
+    /// How many pixels of the screen one pixel of the page takes.
     double Scale() const;
 
     /// The point on whole pixels of the page.
@@ -75,6 +76,7 @@ class BoxLayer final : public profiles::EditableBoxes {
     struct Shown {
         RectItem* item;
         QRectF place;
+        imaging::RectStyle style;
     };
     void Mark(int group);
 
@@ -83,11 +85,12 @@ class BoxLayer final : public profiles::EditableBoxes {
 
     ImageView& view_;
     Listener listener_;
+    QGraphicsItemGroup* items_;  ///< Parent of all rectangles, so that they go in one step.
     std::map<int, Shown> boxes_;
     HandleFrame* frame_;
     QGraphicsRectItem* drawn_;
-    std::map<profiles::BoxTool, std::unique_ptr<PageTool>> tools_;
-    profiles::BoxTool tool_ = profiles::BoxTool::Select;
+    std::map<imaging::BoxTool, std::unique_ptr<PageTool>> tools_;
+    imaging::BoxTool tool_ = imaging::BoxTool::Select;
     bool editable_ = false;
     int selected_ = 0;
     int nextGroup_ = 1;

@@ -1,6 +1,5 @@
 #include "ui/page/ImageView.h"
 
-#include <QGraphicsItemGroup>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -40,14 +39,13 @@ constexpr QPoint kTopLeft(std::numeric_limits<int>::min(), std::numeric_limits<i
 }  // namespace
 
 ImageView::ImageView(const app::Files& files, QWidget* parent)
-    : QGraphicsView(parent), files_(files), page_(new PageItem), rects_(new QGraphicsItemGroup) {
+    : QGraphicsView(parent), files_(files), page_(new PageItem) {
     setObjectName("ImgEdit1");
     setAccessibleName("Page image");
     setFrameShape(QFrame::NoFrame);
     setScene(new QGraphicsScene(this));
     scene()->setItemIndexMethod(QGraphicsScene::NoIndex);
     scene()->addItem(page_);
-    scene()->addItem(rects_);
     setBackgroundBrush(palette().color(QPalette::Window).darker(112));
     setRenderHint(QPainter::SmoothPixmapTransform);
     setTransformationAnchor(QGraphicsView::AnchorViewCenter);
@@ -87,6 +85,10 @@ void ImageView::ShowFile(const std::string& path) {
     SetPage(ReadPageImage(files_, path));
 }
 
+void ImageView::ShowPicture(const imaging::Bitmap& picture) {
+    SetPage(ToImage(picture));
+}
+
 void ImageView::Clear() {
     ClearRects();
     SetPage({});
@@ -101,25 +103,13 @@ void ImageView::SetZoom(double percent) {
         ScrollTo(kTopLeft);
 }
 
+imaging::ScrollOffset ImageView::Scroll() const {
+    const QTransform shown = viewportTransform();
+    return {-shown.dx(), -shown.dy()};
+}
+
 void ImageView::Refresh() {
     viewport()->repaint();
-}
-
-void ImageView::DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
-    AddRect(group, rect, style);
-}
-
-RectItem* ImageView::AddRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
-    auto* const item = new RectItem(group, rect, style);
-    item->setParentItem(rects_);
-    return item;
-}
-
-std::vector<RectItem*> ImageView::Rects() const {
-    std::vector<RectItem*> rects;
-    for (QGraphicsItem* const item : rects_->childItems())
-        rects.push_back(static_cast<RectItem*>(item));
-    return rects;
 }
 
 void ImageView::MakeReachable(const QRectF& rect) {
@@ -127,16 +117,11 @@ void ImageView::MakeReachable(const QRectF& rect) {
         scene()->setSceneRect(sceneRect().united(rect));
 }
 
-void ImageView::SetTool(PageTool* tool) {
+void ImageView::UseTool(PageTool* tool) {
     CancelTool();
     tool_ = tool;
     viewport()->setCursor(Qt::ArrowCursor);
     ShowCursorAt(mapToScene(viewport()->mapFromGlobal(QCursor::pos())));
-}
-
-void ImageView::ClearRects() {
-    boxes_->Clear();
-    qDeleteAll(rects_->childItems());
 }
 
 void ImageView::ZoomIn() {
@@ -167,7 +152,7 @@ void ImageView::FitWidth() {
 void ImageView::paintEvent(QPaintEvent* event) {
     QGraphicsView::paintEvent(event);
     isUnseen_ = false;
-    if (HasPage() || !rects_->childItems().isEmpty())
+    if (HasPage() || !boxes_->IsEmpty())
         return;
     QPainter painter(viewport());
     PaintNoPage(painter, viewport()->rect(), palette(), hint_);

@@ -4,22 +4,19 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "app/Files.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "ui/page/BoxLayer.h"
 #include "ui/page/PageItem.h"
 #include "ui/page/PageTool.h"
-#include "ui/page/RectItem.h"
 
 namespace tavrene::ui {
 
 /// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
 /// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
 /// pointer, and the page can be dragged by the middle button.
-class ImageView final : public QGraphicsView, public imaging::PageView, public imaging::PageRects {
+class ImageView final : public QGraphicsView, public imaging::PageScreen {
   public:
     /// `files` must outlive the view.
     ImageView(const app::Files& files, QWidget* parent);
@@ -28,29 +25,26 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     /// view was cleared between them, any other from its top left corner. Rectangles stay, because a form's
     /// boxes are drawn before its page is shown.
     void ShowFile(const std::string& path) override;
-
-    /// Takes the page and all rectangles away.
+    void ShowPicture(const imaging::Bitmap& picture) override;
     void Clear() override;
     double Zoom() const override { return zoom_; }
 
     /// Set while there is no page, the next page starts at its top left corner.
     void SetZoom(double percent) override;
+    imaging::ScrollOffset Scroll() const override;
     void Refresh() override;
-
-    void DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override;
-    void ClearRects() override;
+    void PutRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
+        boxes_->Put(group, rect, style);
+    }
+    void RemoveRect(int group) override { boxes_->Remove(group); }
+    void ClearRects() override { boxes_->Clear(); }
+    void Emphasise(int group) override { boxes_->Emphasise(group); }
+    void SetTool(imaging::BoxTool tool, int nextGroup) override { boxes_->SetTool(tool, nextGroup); }
 
     /// What is said in the place of a page while there is none.
     void SetHint(const QString& hint);
 
-    /// The boxes that can be edited; they go with the other rectangles.
     BoxLayer& Boxes() { return *boxes_; }
-
-    /// Adds a rectangle that is the caller's to change; `ClearRects` takes it away.
-    RectItem* AddRect(int group, const imaging::PageRect& rect, imaging::RectStyle style);
-
-    /// All rectangles that are drawn.
-    std::vector<RectItem*> Rects() const;
 
     /// The page in its own frame; empty without one.
     QRectF PageRect() const { return page_->boundingRect(); }
@@ -59,7 +53,7 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
     void MakeReachable(const QRectF& rect);
 
     /// The tool of the left button; null for none. It must outlive its use.
-    void SetTool(PageTool* tool);
+    void UseTool(PageTool* tool);
 
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool() { return tool_ != nullptr && tool_->Cancel(); }
@@ -94,7 +88,6 @@ class ImageView final : public QGraphicsView, public imaging::PageView, public i
 
     const app::Files& files_;
     PageItem* page_;
-    QGraphicsItem* rects_;  ///< Parent of all rectangles, so that they go in one step.
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
     std::function<bool(int, int)> takeArrow_;

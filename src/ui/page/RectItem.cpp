@@ -32,7 +32,7 @@ Look LookOf(imaging::RectStyle style) {
             return {QColor(213, 94, 0), 2, 0.62};
         case imaging::RectStyle::Skipped:
             return {QColor(110, 110, 110), 2, 0.3};
-        case imaging::RectStyle::Plain:
+        case imaging::RectStyle::Editable:
             break;
     }
     return {QColor(0, 114, 178), 1.5, 1};
@@ -67,9 +67,6 @@ void PaintEmphasis(QPainter& painter, const QRectF& rect, double scale, double d
 }
 
 }  // namespace
-
-RectItem::RectItem(int group, const imaging::PageRect& rect, imaging::RectStyle style)
-    : group_(group), rect_(rect.left, rect.top, rect.width, rect.height), style_(style) {}
 
 void RectItem::SetRect(const imaging::PageRect& rect) {
     prepareGeometryChange();

@@ -2,21 +2,17 @@
 
 #include <QGraphicsItem>
 
-#include "imaging/PageRects.h"
+#include "imaging/PageScreen.h"
 
 namespace tavrene::ui {
 
-/// One rectangle over the page, in the group of its box's number. Colours and line styles stay apart for
+/// One rectangle over the page. Colours and line styles stay apart for
 /// colour-blind eyes, and a light seam keeps them visible on black ink; lines keep their width at every zoom.
 class RectItem final : public QGraphicsItem {
   public:
-    /// `rect` in the page frame, image pixels.
-    RectItem(int group, const imaging::PageRect& rect, imaging::RectStyle style);
+    explicit RectItem(QGraphicsItem* parent) : QGraphicsItem(parent) {}
 
-    int Group() const { return group_; }
-
-    /// Page frame, image pixels.
-    QRectF Rect() const { return rect_; }
+    /// In the page frame, image pixels.
     void SetRect(const imaging::PageRect& rect);
     void SetStyle(imaging::RectStyle style);
 
@@ -27,9 +23,8 @@ class RectItem final : public QGraphicsItem {
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
   private:
-    int group_;
     QRectF rect_;
-    imaging::RectStyle style_;
+    imaging::RectStyle style_ = imaging::RectStyle::Editable;
     bool emphasised_ = false;
 };
 

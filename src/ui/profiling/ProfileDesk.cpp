@@ -6,13 +6,13 @@
 namespace tavrene::ui {
 
 using commands::Command;
-using profiles::BoxTool;
+using imaging::BoxTool;
 
 ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls)
     : state_(state),
       gate_(context.gate),
       controls_(controls),
-      screen_{controls.view, controls.view, controls.view.Boxes(), controls.rows, controls.pane.Strip()},
+      screen_{controls.view, controls.rows, controls.pane.Strip()},
       editor_(profile_, context.person, screen_),
       store_({context.files, context.person, context.log, context.clock, state.folders}, profile_,
              state.profiles, editor_, screen_),
@@ -61,7 +61,7 @@ void ProfileDesk::ConnectControls() {
                                     gate_.Take([&] { editor_.RowRenamed(number, FromQt(name)); });
                                 }});
     controls_.view.Boxes().SetListener(
-        {[this](const profiles::RectReport& report) { gate_.Take([&] { editor_.RectSelected(report); }); },
+        {[this](const imaging::RectReport& report) { gate_.Take([&] { editor_.RectSelected(report); }); },
          [this](int group) { gate_.Take([&] { editor_.RectMoved(group); }); }});
     controls_.view.SetArrowHandler([this](int dx, int dy) {
         const bool isTaken = CanEdit() && HasBox();

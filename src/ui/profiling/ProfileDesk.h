@@ -21,7 +21,7 @@ struct DeskContext {
     app::ActivityLog& log;
     const app::Clock& clock;
     commands::CommandGate& gate;
-    commands::FileDialogs& dialogs;
+    app::FileDialogs& dialogs;
 };
 
 /// The controls that show the open profile.
@@ -68,7 +68,7 @@ class ProfileDesk {
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::OpenProfile profile_;
-    profiles::EditorScreen screen_;
+    profiles::ProfileScreen screen_;
     profiles::BoxEditor editor_;
     profiles::ProfileStore store_;
     commands::ProfileCommands commands_;

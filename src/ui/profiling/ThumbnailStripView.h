@@ -3,7 +3,7 @@
 #include <QListView>
 #include <functional>
 
-#include "profiles/EditorScreen.h"
+#include "profiles/ProfileScreen.h"
 
 namespace tavrene::ui {
 

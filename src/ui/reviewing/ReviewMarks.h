@@ -3,15 +3,13 @@
 #include <functional>
 #include <utility>
 
-#include "review/ReviewScreen.h"
 #include "ui/page/ImageView.h"
 #include "ui/page/PageTool.h"
 
 namespace tavrene::ui {
 
-/// The drawn boxes while a form is under review: they change their style, one group stands out, and a click
-/// on one is told.
-class ReviewMarks final : public review::ReviewRects, public PageTool {
+/// The pointer while a form is under review: a click on a drawn box is told.
+class ReviewMarks final : public PageTool {
   public:
     /// `view` must outlive the object.
     explicit ReviewMarks(ImageView& view) : view_(view) {}
@@ -22,9 +20,6 @@ class ReviewMarks final : public review::ReviewRects, public PageTool {
     /// Whether clicks are taken.
     void SetActive(bool active);
 
-    void ChangeRects(int group, imaging::RectStyle style) override;
-    void EmphasiseRects(int group) override;
-
     void Press(const QPointF& point) override { pressed_ = GroupAt(point); }
     void Drag(const QPointF&) override {}
     void Release(const QPointF& point) override;
@@ -32,7 +27,7 @@ class ReviewMarks final : public review::ReviewRects, public PageTool {
     QCursor CursorAt(const QPointF& point) const override;
 
   private:
-    int GroupAt(const QPointF& point) const;
+    int GroupAt(const QPointF& point) const { return view_.Boxes().BoxAt(point); }
 
     ImageView& view_;
     std::function<void(int)> clicked_;

@@ -40,9 +40,8 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       closeProfile_(std::move(closeProfile)),
       controls_(controls),
       marks_(controls.view),
-      rows_(controls.boxes),
-      session_({context.files, context.log, context.person, controls.view, controls.view, marks_,
-                controls.boxes, rows_, controls.pane.List(), controls.pane.Choice()},
+      session_({context.files, context.log, context.person, controls.view, controls.boxes,
+                controls.pane.List(), controls.pane.Choice()},
                state.settings, state.folders, state.profiles) {
     ConnectCommands();
     ConnectFormCommands();
@@ -83,13 +82,13 @@ void ReviewMode::ConnectControls() {
     marks_.SetListener([this](int group) { gate_.Take([&] { RectClicked(group); }); });
     // The second click of a double click turns the mark back, as the first one turned it.
     const auto flip = [this](QTreeWidgetItem* row) {
-        gate_.Take([&] { session_.FlipBox(rows_.NumberOf(row)); });
+        gate_.Take([&] { session_.FlipBox(controls_.boxes.NumberOf(row)); });
     };
     connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr && HasForm())
-            gate_.Take([&] { session_.BoxSelected(rows_.NumberOf(row)); });
+            gate_.Take([&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -121,17 +120,17 @@ void ReviewMode::OpenNeighbour(int step) {
 }
 
 void ReviewMode::FlipCurrent() {
-    session_.FlipBox(rows_.CurrentNumber());
+    session_.FlipBox(controls_.boxes.CurrentNumber());
 }
 
 void ReviewMode::NextDoubtful() {
-    if (session_.NextDoubtful(rows_.CurrentNumber()))
+    if (session_.NextDoubtful(controls_.boxes.CurrentNumber()))
         controls_.boxes.setFocus();
 }
 
 void ReviewMode::RectClicked(int group) {
     // A box without a row leaves none selected, so that no key means another one.
-    rows_.SelectRow(group);
+    controls_.boxes.SelectRow(group);
     controls_.boxes.setFocus();
     session_.FlipBox(group);
 }

@@ -10,7 +10,6 @@
 #include "ui/commands/SavePrompts.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
-#include "ui/reviewing/ReviewBoxRows.h"
 #include "ui/reviewing/ReviewMarks.h"
 #include "ui/reviewing/ReviewPane.h"
 
@@ -80,7 +79,6 @@ class ReviewMode final : public QObject {
     std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
-    ReviewBoxRows rows_;
     review::ReviewSession session_;
     bool hadForm_ = false;
     bool refill_ = false;  ///< A run has taken the form from the screen.

@@ -39,8 +39,8 @@ constexpr int kHeight = 460;
 
 class FileDialog final : public QFileDialog {
   public:
-    FileDialog(QWidget& window, const QString& title, const commands::FileQuestion& question)
-        : QFileDialog(&window, title, ToQt(question.startFolder)) {
+    FileDialog(QWidget& window, const app::FileQuestion& question)
+        : QFileDialog(&window, ToQt(question.title), ToQt(question.startFolder)) {
         setObjectName("FileDialog");
         setOption(QFileDialog::DontUseNativeDialog);
         setOption(QFileDialog::HideNameFilterDetails);
@@ -84,16 +84,16 @@ class FileDialog final : public QFileDialog {
 
 }  // namespace
 
-std::optional<std::string> QtFileDialogs::AskSaveFile(const commands::FileQuestion& question) {
-    FileDialog dialog(window_, "New Profile", question);
+std::optional<std::string> QtFileDialogs::AskSaveFile(const app::FileQuestion& question) {
+    FileDialog dialog(window_, question);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.SetExtension(ExtensionOf(question.filter));
     return dialog.Ask();
 }
 
-std::optional<std::string> QtFileDialogs::AskOpenFile(const commands::FileQuestion& question) {
-    FileDialog dialog(window_, "Image of the Blank Form", question);
+std::optional<std::string> QtFileDialogs::AskOpenFile(const app::FileQuestion& question) {
+    FileDialog dialog(window_, question);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return dialog.Ask();
 }

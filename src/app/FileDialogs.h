@@ -3,16 +3,17 @@
 #include <optional>
 #include <string>
 
-namespace tavrene::commands {
+namespace tavrene::app {
 
 /// What a file dialog starts with. `filter` has the form "text|patterns", the patterns separated by `;`.
 struct FileQuestion {
+    std::string title;
     std::string startFolder;  ///< Ends in a separator.
     std::string fileName;     ///< Proposed name; empty for none.
     std::string filter;
 };
 
-/// The two dialogs in which the person chooses a file; both give a whole path, or nothing when cancelled.
+/// The dialogs in which the person chooses a file; they give a whole path, or nothing when cancelled.
 class FileDialogs {
   public:
     virtual ~FileDialogs() = default;
@@ -25,4 +26,4 @@ class FileDialogs {
     virtual std::optional<std::string> AskOpenFile(const FileQuestion& question) = 0;
 };
 
-}  // namespace tavrene::commands
+}  // namespace tavrene::app
