@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/ActivityLog.h"
 #include "app/Operator.h"
@@ -15,9 +16,10 @@ namespace tavrene::bench {
 
 /// A 300 dpi A4 form of text and 100 boxes.
 struct FormPage {
-    std::string file;                  ///< The one-bit scan, every third box ticked.
-    profiles::ProfileRecord profile;   ///< Matches at once.
-    profiles::ProfileRecord stranger;  ///< Never matches: its boxes are of another size.
+    std::string file;                     ///< The one-bit scan, every third box ticked.
+    std::vector<profiles::OmrBox> boxes;  ///< The profile's, as its document has them.
+    profiles::ProfileRecord profile;      ///< Matches at once.
+    profiles::ProfileRecord stranger;     ///< Never matches: its boxes are of another size.
 };
 
 /// Painted once for the life of the program.

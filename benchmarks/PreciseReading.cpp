@@ -27,13 +27,13 @@ std::vector<profiles::ProfileRecord> AmongStrangers(int strangers) {
     for (int k = 0; k < strangers; ++k) {
         profiles::ProfileRecord stranger = TheFormPage().profile;
         for (std::size_t box = 0; box < stranger.Boxes.size(); ++box) {
-            profiles::OmrBox& moved = stranger.Boxes[box];
+            profiles::PrintedBox& moved = stranger.Boxes[box];
             const int dx = static_cast<int>((box * 37 + static_cast<std::size_t>(k) * 101) % 400);
             const int dy = static_cast<int>((box * 53 + static_cast<std::size_t>(k) * 67) % 90);
             moved.L = static_cast<std::int16_t>(moved.L + dx);
             moved.R = static_cast<std::int16_t>(moved.R + dx);
-            moved.T = static_cast<std::int16_t>(moved.T + dy);
-            moved.B = static_cast<std::int16_t>(moved.B + dy);
+            moved.lower = static_cast<std::int16_t>(moved.lower + dy);
+            moved.upper = static_cast<std::int16_t>(moved.upper + dy);
         }
         profiles.push_back(stranger);
     }
@@ -45,11 +45,11 @@ std::vector<profiles::ProfileRecord> AmongStrangers(int strangers) {
 void BM_ReadAsDescribed(benchmark::State& state) {
     const auto profiles = AmongStrangers(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        recognition::Classification found = recognition::Classify(ThePage(), profiles);
+        recognition::Classification found = recognition::ClassifyImage(ThePage(), profiles);
         const auto winner = static_cast<std::size_t>(found.winner);
-        recognition::SpreadShifts(profiles[winner], found.matches[winner].Shifts);
+        recognition::SpreadShifts(profiles[winner], found.matches[winner].shifts);
         benchmark::DoNotOptimize(
-            recognition::ReadMarks(ThePage(), profiles[winner], found.matches[winner].Shifts, kThreshold));
+            recognition::ReadMarks(ThePage(), profiles[winner], found.matches[winner].shifts, kThreshold));
     }
 }
 

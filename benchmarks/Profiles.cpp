@@ -29,7 +29,7 @@ struct Desk {
     void AddProfile(const std::string& name) {
         const std::string image = work.folders.ProfileImages + name + ".tif";
         std::filesystem::copy_file(TheFormPage().file, image);
-        const std::vector<profiles::OmrBox>& boxes = TheFormPage().profile.Boxes;
+        const std::vector<profiles::OmrBox>& boxes = TheFormPage().boxes;
         const auto found = static_cast<std::int16_t>(boxes.size());
         profiles::SaveProfileDocument(
             work.files, work.folders.Profiles + name + ".Tvp",

@@ -242,17 +242,15 @@ void PaintBoxes(Sheet& sheet, const FormDesign& design) {
     }
 }
 
-// As recognition holds it: the middle of the printed line, lower edge first. The ordinate y is the pixel line
-// above it.
+// As a document has it: the middle of the printed line. The ordinate y is the pixel line above it.
 profiles::OmrBox BoxOf(const MarkArea& area, int lineWidth, std::size_t number) {
-    profiles::OmrBox box;
     const double inset = (lineWidth - 1) / 2.0;
+    profiles::OmrBox box;
     box.Name = "Q" + std::to_string(number);
     box.L = app::RoundToInt16(area.x + inset);
     box.R = app::RoundToInt16(area.x + area.width - 1 - inset);
-    box.B = app::RoundToInt16(area.y + inset + 1);
-    box.T = app::RoundToInt16(area.y + area.height - inset);
-    box.ExpectedOutline = app::WrapToInt16(2 * ((box.R - box.L) + (box.T - box.B)) - 4);
+    box.T = app::RoundToInt16(area.y + inset + 1);
+    box.B = app::RoundToInt16(area.y + area.height - inset);
     return box;
 }
 
@@ -284,7 +282,8 @@ BlankForm PaintBlank(const FormDesign& design, int dpi) {
     form.Profile.Active = true;
     form.Profile.DPI_X = form.Profile.DPI_Y = static_cast<std::int16_t>(dpi);
     for (const MarkArea& area : form.Areas)
-        form.Profile.Boxes.push_back(BoxOf(area, sheet.LineWidth(), form.Profile.Boxes.size() + 1));
+        form.Profile.Boxes.push_back(
+            PrintedBoxOf(BoxOf(area, sheet.LineWidth(), form.Profile.Boxes.size() + 1)));
     return form;
 }
 

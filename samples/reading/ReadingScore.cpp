@@ -16,14 +16,14 @@ struct Answer {
 };
 
 Answer ReadAsDescribed(const ReadingPage& page) {
-    recognition::Classification found = recognition::Classify(page.Scan, page.Profiles);
+    recognition::Classification found = recognition::ClassifyImage(page.Scan, page.Profiles);
     if (found.winner < 0)
         return {};
     const auto index = static_cast<std::size_t>(found.winner);
     try {
-        recognition::SpreadShifts(page.Profiles[index], found.matches[index].Shifts);
+        recognition::SpreadShifts(page.Profiles[index], found.matches[index].shifts);
         return {found.winner, recognition::ReadMarks(page.Scan, page.Profiles[index],
-                                                     found.matches[index].Shifts, kThreshold)};
+                                                     found.matches[index].shifts, kThreshold)};
     } catch (const recognition::ReadingError&) {
         return {};  // the form fails: no result
     }

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <iterator>
 
 #include "app/ActivityLog.h"
+#include "app/Utf8.h"
 
 namespace tavrene::app {
 namespace {
@@ -14,39 +14,6 @@ constexpr std::array<char32_t, 32> kHighControls = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
-constexpr char32_t kBroken = 0xFFFD;
-
-std::size_t SequenceLength(unsigned char lead) {
-    if (lead < 0x80)
-        return 1;
-    if (lead >= 0xC2 && lead < 0xE0)
-        return 2;
-    if (lead >= 0xE0 && lead < 0xF0)
-        return 3;
-    return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
-}
-
-// Takes one character off the front of `rest`; a broken sequence gives up one byte.
-char32_t TakeCharacter(std::string_view& rest) {
-    const auto lead = static_cast<unsigned char>(rest.front());
-    const std::size_t length = SequenceLength(lead);
-    if (length == 0 || length > rest.size()) {
-        rest.remove_prefix(1);
-        return kBroken;
-    }
-    char32_t character = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-    for (std::size_t k = 1; k < length; ++k) {
-        const auto next = static_cast<unsigned char>(rest[k]);
-        if ((next & 0xC0U) != 0x80U) {
-            rest.remove_prefix(1);
-            return kBroken;
-        }
-        character = (character << 6U) | (next & 0x3FU);
-    }
-    rest.remove_prefix(length);
-    return character;
-}
 
 char ByteOf(char32_t character) {
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))

@@ -1,6 +1,5 @@
 #include "profiles/ProfileStore.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -32,23 +31,6 @@ pugi::xml_document LoadNamed(const app::Files& files, const std::string& path) {
     }
 }
 
-// Says once that lines of the log were lost, at the end of an operation that did its work without them.
-class LostLineNote {
-  public:
-    LostLineNote(app::ActivityLog& log, std::vector<std::string>& notes) : tolerated_(log), notes_(notes) {}
-    ~LostLineNote() {
-        const std::string note = "The profile log could not be written.";
-        if (tolerated_.TakeLostLines() > 0 && std::find(notes_.begin(), notes_.end(), note) == notes_.end())
-            notes_.push_back(note);
-    }
-    LostLineNote(const LostLineNote&) = delete;
-    LostLineNote& operator=(const LostLineNote&) = delete;
-
-  private:
-    app::ToleratedLogFailures tolerated_;
-    std::vector<std::string>& notes_;
-};
-
 }  // namespace
 
 ProfileStore::ProfileStore(const StoreContext& context, OpenProfile& profile,
@@ -78,7 +60,6 @@ bool ProfileStore::MayLeave() {
 
 bool ProfileStore::Create(const std::string& path, const std::string& imagePath, const boxes::BoxSizes& sizes,
                           const boxes::PairReach& reach) {
-    const LostLineNote lostLines(context_.log, notes_);
     const std::string name = app::BaseName(path);
     if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
         context_.files.FileExists(imagePath))
@@ -117,7 +98,6 @@ void ProfileStore::OpenCreated(const std::string& path, pugi::xml_document docum
 }
 
 void ProfileStore::Load(const std::string& path) {
-    const LostLineNote lostLines(context_.log, notes_);
     const int number = NumberOf(path);
     Close();
     profile_.Path = path;
@@ -194,7 +174,6 @@ void ProfileStore::FitView() {
 bool ProfileStore::Save() {
     if (!profile_.IsOpen)
         return false;
-    const LostLineNote lostLines(context_.log, notes_);
     const std::string onDisk = context_.files.Fingerprint(profile_.Path);
     if (!onDisk.empty() && onDisk != profile_.Fingerprint &&
         context_.person.AskYesNo("The file " + profile_.Path +
@@ -228,7 +207,6 @@ void ProfileStore::WriteDocument() {
 bool ProfileStore::Delete() {
     if (profile_.Path.empty() || context_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
         return false;
-    const LostLineNote lostLines(context_.log, notes_);
     if (context_.files.FileExists(profile_.Path))
         context_.files.Delete(profile_.Path);
     context_.log.LogProfileEvent("Deleted Profile: " + profile_.Name);
@@ -240,7 +218,6 @@ bool ProfileStore::Delete() {
 }
 
 void ProfileStore::RebuildThumbnails() {
-    const LostLineNote lostLines(context_.log, notes_);
     records_ = LoadActiveProfiles(context_.files, context_.log, context_.person, context_.folders.Profiles);
     strip_ = ListEntries();
     thumbnails_.Rebuild(strip_, screen_.strip);

@@ -29,7 +29,7 @@ struct StoreContext {
 
 /// The profiles of the `Profiles` folder: makes, opens, saves and deletes them, and keeps the loaded records
 /// and the thumbnail strip in line with the folder. What fails throws with a text for the operator; the file
-/// and the profile at the desk then are as they were. A log line that cannot be written costs that line only.
+/// and the profile at the desk then are as they were.
 class ProfileStore {
   public:
     /// `records` are the loaded profiles that recognition uses. All references must outlive the store.

@@ -33,12 +33,12 @@ struct MarkReading {
 };
 
 /// Fills `shifts` (one a box) from those of the sampled boxes: linear between the leftmost and the rightmost,
-/// and between the lowest and the highest sampled box. Throws `ReadingError` when the sampled boxes share one
-/// column or one row.
+/// and between the highest and the lowest sampled box, by their lower edges. Throws `ReadingError` when the
+/// sampled boxes share one column or one row.
 void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> shifts);
 
 /// Where a shifted box lies on a page: grid frame.
-GridRect PlaceOf(const imaging::WorkGrid& grid, const profiles::OmrBox& box, const FormScale& scale,
+GridRect PlaceOf(const imaging::WorkGrid& grid, const profiles::PrintedBox& box, const FormScale& scale,
                  const BoxShift& shift);
 
 /// A place in the page frame.

@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::review {
@@ -39,7 +40,7 @@ void ReviewList::ReadLines() {
             reviewed_ += line->Reviewed ? 1 : 0;
             lines_.push_back(*std::move(line));
         } catch (const std::exception& error) {
-            context_.log.LogProcessEvent(std::string("Review: Form left out: ") + error.what());
+            context_.log.LogProcessEvent(std::string("Review: Form left out: ") + app::ReasonOf(error));
         }
     }
 }

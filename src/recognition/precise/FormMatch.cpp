@@ -10,7 +10,7 @@
 namespace tavrene::recognition::precise {
 namespace {
 
-using profiles::OmrBox;
+using profiles::PrintedBox;
 using profiles::ProfileRecord;
 
 // How far paper and scanners move a form.
@@ -91,12 +91,13 @@ void FormMatcher::Lay(std::size_t index, bool turned, std::vector<FormMatch>& ma
     CellPage& cells = cells_.ForBoxesOf(TypicalBox(profile, scale));
     std::vector<SoughtBox> boxes;
     boxes.reserve(profile.Boxes.size());
-    for (const OmrBox& box : profile.Boxes) {
+    for (const PrintedBox& box : profile.Boxes) {
         const CellPoint place =
-            NominalPlace(page_, scale, (box.L + box.R) / 2.0, (box.T + box.B) / 2.0, turned);
-        boxes.push_back({{cells.ToCells(place.x), cells.ToCells(place.y)},
-                         &cells.PlacesFor((box.R - box.L) * static_cast<double>(scale.sx) / cells.Factor(),
-                                          (box.T - box.B) * static_cast<double>(scale.sy) / cells.Factor())});
+            NominalPlace(page_, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
+        boxes.push_back(
+            {{cells.ToCells(place.x), cells.ToCells(place.y)},
+             &cells.PlacesFor((box.R - box.L) * static_cast<double>(scale.sx) / cells.Factor(),
+                              (box.lower - box.upper) * static_cast<double>(scale.sy) / cells.Factor())});
     }
     const double cellsPerMm = PixelsPerMm(page_, profile) / cells.Factor();
     const CellPoint middle{cells.Cells().Width() / 2.0, cells.Cells().Height() / 2.0};

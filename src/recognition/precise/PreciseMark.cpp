@@ -74,9 +74,9 @@ int BorderOf(const imaging::Page& page) {
 
 double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale) {
     std::vector<double> sides;
-    for (const profiles::OmrBox& box : profile.Boxes)
+    for (const profiles::PrintedBox& box : profile.Boxes)
         sides.push_back(std::min((box.R - box.L) * static_cast<double>(scale.sx),
-                                 (box.T - box.B) * static_cast<double>(scale.sy)));
+                                 (box.lower - box.upper) * static_cast<double>(scale.sy)));
     if (sides.empty())
         return 0;
     const auto middle = sides.begin() + static_cast<std::ptrdiff_t>(sides.size() / 2);

@@ -14,7 +14,7 @@ namespace {
 using precise::BitPlane;
 using precise::CellPoint;
 using precise::FormMatch;
-using profiles::OmrBox;
+using profiles::PrintedBox;
 using profiles::ProfileRecord;
 
 // A pixel of 200 dpi, and how far ink may lie beside an outline, in pixels of the page.
@@ -27,12 +27,12 @@ std::vector<precise::BoxToRefine> Mapped(const FormMatch& match, const ProfileRe
     std::vector<precise::BoxToRefine> boxes;
     boxes.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
-        const OmrBox& box = profile.Boxes[k];
+        const PrintedBox& box = profile.Boxes[k];
         const CellPoint mapped = match.alignment.map(match.boxes[k].place);
         const CellPoint seen = match.alignment.seen[k].value_or(mapped);
         // A shift is told against the upright place, whichever way the page lies.
         const CellPoint upright =
-            precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.T + box.B) / 2.0, false);
+            precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, false);
         precise::BoxToRefine refined;
         refined.x = match.page->ToPixels(mapped.x);
         refined.y = match.page->ToPixels(mapped.y);

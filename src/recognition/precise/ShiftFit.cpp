@@ -11,13 +11,13 @@ namespace {
 using precise::CellPoint;
 using precise::PageMap;
 using precise::Sighting;
-using profiles::OmrBox;
+using profiles::PrintedBox;
 
 // How farther than usual a form may lie before its being upside down is the better explanation: pixels.
 constexpr double kShiftReach = 100;
 
-CellPoint PlaceOn(const imaging::Page& page, const FormScale& scale, const OmrBox& box, bool turned) {
-    return precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.T + box.B) / 2.0, turned);
+CellPoint PlaceOn(const imaging::Page& page, const FormScale& scale, const PrintedBox& box, bool turned) {
+    return precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
 }
 
 struct Fit {

@@ -32,7 +32,7 @@ BitPlane BoxesOf(const precise::CellPage& page, const imaging::Page& specimen,
                  const profiles::ProfileRecord& profile, const FormScale& scale) {
     constexpr int around = 2;  // cells
     BitPlane boxes(page.Cells().Width(), page.Cells().Height());
-    for (const profiles::OmrBox& box : profile.Boxes) {
+    for (const profiles::PrintedBox& box : profile.Boxes) {
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
         for (int row = place.row0 / page.Factor() - around; row <= place.row1 / page.Factor() + around;
              ++row) {
@@ -123,7 +123,7 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
         print.points = SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height);
     precise::OutlineFinder finder(pixels, 1);
     std::size_t lying = 0;
-    for (const profiles::OmrBox& box : profile.Boxes) {
+    for (const profiles::PrintedBox& box : profile.Boxes) {
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
         if (finder.Find(place, kReach).ratio >= kOutlineShare)
             ++lying;

@@ -28,7 +28,7 @@ class SpecimenPrints {
     struct Known {
         std::string image;
         std::string fingerprint;
-        std::vector<profiles::OmrBox> boxes;
+        std::vector<profiles::PrintedBox> boxes;
         std::optional<SpecimenPrint> print;
     };
 

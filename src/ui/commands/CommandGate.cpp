@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
+
 namespace tavrene::commands {
 namespace {
 
@@ -38,13 +40,12 @@ void CommandGate::Run(Command command) {
 }
 
 void CommandGate::Guard(const std::function<void()>& event) {
-    app::ToleratedLogFailures tolerated(log_);
     try {
         event();
     } catch (const std::exception& failure) {
-        person_.ShowMessage("", failure.what());
+        person_.ShowMessage("", app::ReasonOf(failure));
     }
-    if (tolerated.TakeLostLines() > 0)
+    if (log_.TakeLostLines() > 0)
         person_.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
     if (afterwards_)
         afterwards_();

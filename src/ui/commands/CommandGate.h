@@ -30,8 +30,8 @@ class CommandGate {
     /// Runs a command. During a run all but `Stop` and `Exit` are ignored.
     void Run(Command command);
 
-    /// Runs what an event of the window asks for; an exception ends it with a message. A log that cannot be
-    /// written stops nothing: the `Message` panel says so afterwards.
+    /// Runs what an event of the window asks for; an exception ends it with a message. Lines
+    /// that were lost to the log are told in the `Message` panel afterwards.
     void Guard(const std::function<void()>& event);
 
     /// The same for what the person does in lists and views, which a run ignores.

@@ -81,7 +81,7 @@ class ReviewListView::Lines final : public QAbstractTableModel {
             case Qt::DisplayRole:
                 return ToQt(line.Name);
             case Qt::ToolTipRole:
-                return "<span>" + ToQt(line.Name).toHtmlEscaped() + "</span>";
+                return ToolTipOf(ToQt(line.Name));
             case Qt::CheckStateRole:
                 return line.Reviewed ? Qt::Checked : Qt::Unchecked;
             default:

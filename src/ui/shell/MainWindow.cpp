@@ -154,7 +154,12 @@ void MainWindow::UpdateCommands() {
 }
 
 void MainWindow::Load() {
-    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+    commands::LoadWindow(state_,
+                         {log_, operator_, &imaging::ImageLibraryVersion,
+                          [this] {
+                              run_.Settle();
+                              desk_.Load();
+                          }},
                          gate_);
     gate_.Guard([this] { review_.Load(); });
 }
