@@ -70,7 +70,7 @@ bool FormReview::Prepare(OpenForm& form) {
     form.SavedProfile = profileName;
     form.Opened = form.Result.Marks();
     form.Marks = form.Opened;
-    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
+    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
 }
@@ -126,7 +126,7 @@ void FormReview::SendBack(const OpenForm& form) {
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     if (!page_)
         return false;
-    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold, context_.precise);
     read.Result.Save(context_.files, folders_.ProcessOut + form.Document);
     form = std::move(read);
     screen_.ShowBoxes(form);

@@ -99,19 +99,25 @@ PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const ProfileR
     precise::CellPages cells(pixels);
     const FormMatch match = precise::FormMatcher(page, cells, profiles, prints).Match();
     PreciseReading reading;
-    if (match.profile < 0)
-        return reading;
-    reading.nearest = match.profile;
-    reading.Confidence = app::RoundToInt16(match.alignment.share * 100);
-    reading.print = match.print;
     if (!match.accepted)
         return reading;
+    reading.Confidence = app::RoundToInt16(match.alignment.share * 100);
+    reading.print = match.print;
     reading.winner = match.profile;
     reading.turned = match.turned;
     const auto index = static_cast<std::size_t>(match.profile);
     const FormPlaces places{RefinedShifts(page, profiles[index], pixels, match), match.turned};
     reading.marks = ReadMarksAt(page, pixels, profiles[index], places, prints(index), fillThreshold);
     return reading;
+}
+
+Classification AsClassification(const PreciseReading& reading, std::size_t profiles) {
+    Classification classification;
+    classification.matches.resize(profiles);
+    classification.winner = classification.best = reading.winner;
+    if (reading.winner >= 0)
+        classification.matches[static_cast<std::size_t>(reading.winner)].Confidence = reading.Confidence;
+    return classification;
 }
 
 std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page, const ProfileRecord& profile,

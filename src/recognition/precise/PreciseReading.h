@@ -7,6 +7,7 @@
 
 #include "imaging/PageReader.h"
 #include "profiles/ProfileRecord.h"
+#include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
 #include "recognition/precise/SpecimenPrint.h"
 
@@ -24,8 +25,7 @@ struct FormPlaces {
 /// What precise alignment makes of a page.
 struct PreciseReading {
     int winner = -1;              ///< Index of the profile, or -1 when the page is none of them.
-    int nearest = -1;             ///< The profile that came nearest, the winner included; -1 when none did.
-    std::int16_t Confidence = 0;  ///< Percent of the boxes of `nearest` that lie where they should.
+    std::int16_t Confidence = 0;  ///< Percent of the winner's boxes that lie where they should.
     double print = 0;             ///< How far the print of its specimen agrees, 0 to 1; 0 without one.
     bool turned = false;          ///< The page lies upside down. `Shift` and `rect` tell where the boxes are.
     std::vector<MarkReading> marks;  ///< The winner's boxes, in its order.
@@ -37,6 +37,9 @@ struct PreciseReading {
 /// inside reaches `fillThreshold` percent of the area that is counted.
 PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
                              const PrintSource& prints, std::int16_t fillThreshold);
+
+/// The reading as a classification of so many profiles, so that the log tells of both ways in the same words.
+Classification AsClassification(const PreciseReading& reading, std::size_t profiles);
 
 /// Reads the boxes of a profile at known places as precise alignment measures marks. `print` may be null.
 std::vector<MarkReading> ReadMarksPrecisely(const imaging::Page& page, const profiles::ProfileRecord& profile,

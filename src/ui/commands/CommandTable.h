@@ -34,6 +34,9 @@ enum class Command {
     OpenWorkingFolder,
     OpenLog,
     ToolbarLabels,
+    PreciseAlignment,
+    SecondOpinion,
+    ReadAgain,
     Settings,
     Exit,
     About

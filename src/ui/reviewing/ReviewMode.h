@@ -22,6 +22,7 @@ struct ReviewModeContext {
     app::ActivityLog& log;
     commands::CommandGate& gate;
     const commands::SavePrompts& prompts;
+    recognition::PreciseReader& precise;
 };
 
 /// The controls that show the form under review.
@@ -49,6 +50,9 @@ class ReviewMode final : public QObject {
     /// begun run does nothing.
     void RunBegins();
     void RunEnded();
+
+    /// Fills the list anew in review: results have been added.
+    void Refill();
 
     bool InReview() const { return session_.IsOn(); }
 

@@ -5,9 +5,11 @@
 #include <QKeyEvent>
 #include <QSplitter>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <utility>
 
 #include "imaging/Bitmap.h"
+#include "recognition/precise/ReadAgain.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/Places.h"
@@ -24,6 +26,8 @@ using commands::Command;
 // What the window remembers about itself lies beside the settings, in a group of its own.
 constexpr std::string_view kWindowSection = "Window";
 constexpr std::string_view kLabelsShown = "ToolbarLabels";
+constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
+constexpr std::string_view kSecondOpinion = "SecondOpinion";
 
 QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
     return QByteArray::fromBase64(
@@ -40,6 +44,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     : context_(context),
       state_(commands::InitialState(settings)),
       panels_(new StatusPanels(this)),
+      opinions_(new OpinionBar(this)),
       splitter_(new QSplitter(this)),
       view_(new ImageView(context.files, this)),
       boxes_(new BoxListView(this)),
@@ -49,13 +54,15 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       operator_(*this, *panels_),
       dialogs_(*this),
       log_(context.files, context.clock, operator_, state_.folders.Log),
-      run_({context.files, log_, operator_, context.clock, *view_, *boxes_}, state_.settings, state_.folders),
+      precise_(context.files, state_.reading),
+      run_({context.files, log_, operator_, context.clock, *view_, *boxes_, &precise_}, state_.settings,
+           state_.folders),
       gate_(operator_, log_, state_.processing),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
             {*view_, *boxes_, *profiles_}),
       prompts_([this] { return desk_.MayLeave(); }, [this] { return review_.MayLeave(); }),
-      review_(state_, {context.files, operator_, log_, gate_, prompts_}, {*view_, *boxes_, *side_, *forms_},
-              [this] { desk_.Leave(); }),
+      review_(state_, {context.files, operator_, log_, gate_, prompts_, precise_},
+              {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Leave(); }),
       processing_(
           state_, run_,
           [this] {
@@ -70,6 +77,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
+    ConnectReading();
     RestoreShape();
     UpdateCommands();
 }
@@ -90,7 +98,13 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(boxes_);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
-    setCentralWidget(splitter_);
+    auto* const middle = new QWidget(this);
+    auto* const column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(opinions_);
+    column->addWidget(splitter_, 1);
+    setCentralWidget(middle);
     const std::initializer_list<QWidget*> order = {
         &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
@@ -120,6 +134,7 @@ void MainWindow::ConnectCommands() {
         if (!prompts_.ProfileThenForm())
             return;
         gate_.Guard([this] { processing_.Process(); });
+        ShowOpinions();
         review_.RunEnded();
     });
     gate_.SetHandler(Command::Stop, [this] { processing_.Stop(); });
@@ -136,6 +151,40 @@ void MainWindow::ConnectCommands() {
     });
 }
 
+void MainWindow::ConnectReading() {
+    gate_.SetHandler(Command::PreciseAlignment,
+                     [this] { SwitchReading(state_.reading.preciseAlignment, kPreciseAlignment); });
+    gate_.SetHandler(Command::SecondOpinion,
+                     [this] { SwitchReading(state_.reading.secondOpinion, kSecondOpinion); });
+    gate_.SetHandler(
+        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
+    opinions_->SetListener([this] { RunCommand(Command::ReadAgain); });
+    const auto stored = [this](std::string_view name) {
+        return context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, name);
+    };
+    state_.reading = {stored(kPreciseAlignment) == "1", stored(kSecondOpinion) != "0"};
+}
+
+void MainWindow::SwitchReading(bool& option, std::string_view name) {
+    option = !option;
+    context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
+}
+
+void MainWindow::ShowOpinions() {
+    unread_ = run_.Opinions().unread;
+    opinions_->Show(recognition::TextOf(run_.Opinions()), !unread_.empty());
+}
+
+void MainWindow::ReadAgain() {
+    const auto count = recognition::ReadFormsAgain(std::exchange(unread_, {}), state_.folders.ProcessOut,
+                                                   context_.files, log_, operator_, precise_, state_.profiles,
+                                                   state_.settings.FillThreshold);
+    opinions_->Show(std::to_string(count) + (count == 1 ? " form was" : " forms were") +
+                        " read by Precise Alignment and can be reviewed.",
+                    false);
+    review_.Refill();
+}
+
 void MainWindow::RunCommand(Command command) {
     desk_.FinishEdits();
     gate_.Run(command);
@@ -149,6 +198,8 @@ void MainWindow::UpdateCommands() {
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.InReview());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
+    toolbars_.SetPressed(Command::PreciseAlignment, state_.reading.preciseAlignment);
+    toolbars_.SetPressed(Command::SecondOpinion, state_.reading.secondOpinion);
     for (const Command command : {Command::Okay, Command::AcceptForm, Command::RejectForm})
         toolbars_.SetVisible(command, review_.InReview() && !state_.processing);
 }
