@@ -77,7 +77,7 @@ constexpr std::array kCommands = {
                 M::Process, "Precise &Alignment", "Ctrl+Shift+P", "", G::None, S::Toggle, true},
     CommandInfo{C::SecondOpinion, T::None, "SecondOpinion",
                 "While Precise Alignment is off, say where it would read otherwise",
-                M::Process, "Second &Opinion", "Ctrl+Shift+O", "", G::None, S::Toggle, false},
+                M::Process, "Second &Opinion", "Ctrl+Shift+D", "", G::None, S::Toggle, false},
     CommandInfo{C::ReadAgain, T::None, "ReadAgain",
                 "Read the forms of the last run that only Precise Alignment recognises",
                 M::Process, "Read Turned Forms A&gain", "Ctrl+F5", "", G::None, S::Shown, false},
