@@ -25,6 +25,7 @@ using profiles::ProfileRecord;
 // What came of one file, as far as it is shown.
 struct ProcessRun::FileOutcome {
     std::optional<imaging::Page> page;
+    int winner = -1;  // index of the profile it was read as
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
 };
@@ -58,6 +59,7 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     formStays_ = false;
     filesDone_ = 0;
     currentName_.clear();
+    opinions_ = {};
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
     context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
@@ -146,6 +148,8 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     } catch (const std::exception& error) {
         LogAbout(name, app::ReasonOf(error));
     }
+    // Also of a form that the described rules failed on.
+    AskSecondOpinion(name, profiles, outcome);
     if (display)
         ShowPage(outcome);
     return MoveToProcessOut(name);
@@ -159,6 +163,8 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     const imaging::Page& page = *outcome.page;
     if (const std::string failure = scratch_.WritePage(page); !failure.empty())
         LogAbout(name, failure);
+    if (context_.precise != nullptr && context_.precise->Reads())
+        return RecognisePrecisely(name, profiles, outcome);
     Classification classification = ClassifyImage(page, profiles);
     context_.log.LogProcessEvent(ClassificationLine(name, classification, profiles));
     if (classification.winner < 0)
@@ -169,6 +175,33 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
     delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
     outcome.marks = delivery_.StagedMarks();
+    outcome.winner = classification.winner;
+}
+
+void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const ProfileRecord> profiles,
+                                    FileOutcome& outcome) {
+    PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
+    context_.log.LogProcessEvent(
+        ClassificationLine(name, AsClassification(reading, profiles.size()), profiles));
+    if (reading.winner < 0)
+        return;
+    outcome.readings = std::move(reading.marks);
+    delivery_.StageResult(
+        {profiles[static_cast<std::size_t>(reading.winner)].Name, name, "0", reading.Confidence},
+        outcome.readings);
+    outcome.marks = delivery_.StagedMarks();
+    outcome.winner = reading.winner;
+}
+
+// What it says is for the person alone: result and log are those of the described rules.
+void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const ProfileRecord> profiles,
+                                  const FileOutcome& outcome) {
+    if (context_.precise == nullptr || !context_.precise->GivesSecondOpinion() || !outcome.page)
+        return;
+    const PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
+    opinions_.Add(name, CompareReadings(outcome.winner, outcome.readings, reading));
+    for (std::string& profile : context_.precise->TakeReplaced())
+        opinions_.replaced.push_back(std::move(profile));
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {

@@ -17,6 +17,7 @@
 #include "profiles/ProfileRecord.h"
 #include "recognition/FormDelivery.h"
 #include "recognition/MarkReading.h"
+#include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::recognition {
 
@@ -28,6 +29,7 @@ struct RunContext {
     const app::Clock& clock;
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
+    PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
@@ -49,6 +51,9 @@ class ProcessRun {
 
     bool IsRunning() const { return running_; }
 
+    /// What the second opinion on the forms of the last run has come to.
+    const OpinionTally& Opinions() const { return opinions_; }
+
     /// Ends, with a line in the log, what an earlier run left half done when it was cut short. For the start
     /// of the program; a run begins with it, too.
     void Settle();
@@ -64,6 +69,10 @@ class ProcessRun {
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FileOutcome& outcome);
+    void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                            FileOutcome& outcome);
+    void AskSecondOpinion(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                          const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
     bool MoveToProcessOut(const std::string& name);
     void StayBehind(const std::string& name, const std::string& reason);
@@ -82,6 +91,7 @@ class ProcessRun {
     int filesDone_ = 0;
     bool formStays_ = false;  // the last form is on the screen
     std::string currentName_;
+    OpinionTally opinions_;
     std::map<std::string, std::string> stuck_;  // files that could not be moved: name, and state at that time
 };
 

@@ -65,7 +65,7 @@ bool FormReview::Prepare(OpenForm& form) {
     form.OpenedProfile = *profile;
     if (page_)
         FindLostShifts(form, *page_);
-    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
+    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
 }
@@ -161,7 +161,7 @@ void FormReview::ShowInList(const OpenForm& form) {
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     if (!page_ || !MayOverwrite(form))
         return false;
-    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold, context_.precise);
     read.Result.Save(context_.files, PathOf(form));
     read.Fingerprint = context_.files.Fingerprint(PathOf(form));
     form = std::move(read);

@@ -10,6 +10,7 @@
 #include "app/Operator.h"
 #include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
+#include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::review {
 
@@ -58,6 +59,7 @@ struct ReviewContext {
     profiles::BoxRows& rows;
     ReviewLines& lines;
     ProfileChoice& choice;
+    recognition::PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
 };
 
 }  // namespace tavrene::review

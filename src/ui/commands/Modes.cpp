@@ -42,6 +42,7 @@ const Rule kRules[] = {
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
     {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},
+    {{C::PreciseAlignment, C::SecondOpinion, C::ReadAgain}, kIdle},
     {{C::Exit}, kLetters, Prompts::FormThenProfile},
 
     {{C::PickThumbnail}, "SDUP", Prompts::Profile},

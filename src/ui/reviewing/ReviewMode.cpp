@@ -41,7 +41,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       controls_(controls),
       marks_(controls.view),
       session_({context.files, context.log, context.person, controls.view, controls.boxes,
-                controls.pane.List(), controls.pane.Choice()},
+                controls.pane.List(), controls.pane.Choice(), &context.precise},
                state.settings, state.folders, state.profiles) {
     ConnectCommands();
     ConnectFormCommands();
@@ -147,6 +147,11 @@ void ReviewMode::RectClicked(int group) {
     controls_.boxes.SelectRow(group);
     controls_.boxes.setFocus();
     session_.FlipBox(group);
+}
+
+void ReviewMode::Refill() {
+    if (session_.IsOn())
+        session_.Refill();
 }
 
 void ReviewMode::RunEnded() {

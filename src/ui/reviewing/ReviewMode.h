@@ -22,6 +22,7 @@ struct ReviewModeContext {
     app::Operator& person;
     app::ActivityLog& log;
     commands::CommandGate& gate;
+    recognition::PreciseReader& precise;
 };
 
 /// The controls that show the form under review.
@@ -48,6 +49,9 @@ class ReviewMode final : public QObject {
     /// A run takes the form from the screen; when it has ended, the list is filled anew.
     void RunBegins() { session_.RunBegins(); }
     void RunEnded();
+
+    /// Fills the list anew in review: results have been added.
+    void Refill();
 
     const review::ReviewSession& Session() const { return session_; }
 
