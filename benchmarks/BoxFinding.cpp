@@ -44,10 +44,10 @@ void BM_FindBoxes(benchmark::State& state) {
     Nobody person;
     const app::SystemClock clock;
     app::ActivityLog log(files, clock, person, ScratchFolder() + "/");
-    const boxes::PipelineDoors doors{files, person, log, clock};
+    const boxes::PipelineContext context{files, person, log, clock};
     std::size_t found = 0;
     for (auto _ : state)
-        found = boxes::FindBoxesOnImage(page, "page", kSizes, boxes::ReachFor(kSizes), doors)->Boxes.size();
+        found = boxes::FindBoxesOnImage(page, "page", kSizes, boxes::ReachFor(kSizes), context)->Boxes.size();
     state.counters["boxes"] = static_cast<double>(found);
     if (found < kBoxes * 9 / 10)
         state.SkipWithError("the boxes were not found");

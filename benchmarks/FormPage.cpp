@@ -20,21 +20,27 @@ profiles::OmrBox BoxAt(int column, int row, int size) {
     box.Name = "Q" + std::to_string(row + 1) + "." + std::to_string(column + 1);
     box.L = static_cast<std::int16_t>(left);
     box.R = static_cast<std::int16_t>(left + size);
-    box.B = static_cast<std::int16_t>(top);  // recognition's order: the lower edge, T, is the larger
-    box.T = static_cast<std::int16_t>(top + size);
-    box.ExpectedOutline = static_cast<std::int16_t>(4 * size - 4);
+    box.T = static_cast<std::int16_t>(top);
+    box.B = static_cast<std::int16_t>(top + size);
     return box;
 }
 
-profiles::ProfileRecord ProfileOf(const std::string& name, int boxSize) {
+std::vector<profiles::OmrBox> BoxesOf(int boxSize) {
+    std::vector<profiles::OmrBox> boxes;
+    for (int row = 0; row < kRows; ++row) {
+        for (int column = 0; column < kColumns; ++column)
+            boxes.push_back(BoxAt(column, row, boxSize));
+    }
+    return boxes;
+}
+
+profiles::ProfileRecord ProfileOf(const std::string& name, const std::vector<profiles::OmrBox>& boxes) {
     profiles::ProfileRecord profile;
     profile.Name = name;
     profile.Active = true;
     profile.DPI_X = profile.DPI_Y = kDpi;
-    for (int row = 0; row < kRows; ++row) {
-        for (int column = 0; column < kColumns; ++column)
-            profile.Boxes.push_back(BoxAt(column, row, boxSize));
-    }
+    for (const profiles::OmrBox& box : boxes)
+        profile.Boxes.push_back(profiles::PrintedBoxOf(box));
     return profile;
 }
 
@@ -55,15 +61,16 @@ void PaintText(samples::Canvas& canvas) {
 
 FormPage Painted() {
     FormPage page;
-    page.profile = ProfileOf("Form", kBoxSize);
-    page.stranger = ProfileOf("Stranger", 2 * kBoxSize);
+    page.boxes = BoxesOf(kBoxSize);
+    page.profile = ProfileOf("Form", page.boxes);
+    page.stranger = ProfileOf("Stranger", BoxesOf(2 * kBoxSize));
     samples::Canvas canvas(2480, 3508, kDpi);
     PaintText(canvas);
-    for (std::size_t k = 0; k < page.profile.Boxes.size(); ++k) {
-        const profiles::OmrBox& box = page.profile.Boxes[k];
-        canvas.DrawRect(box.L - 1, box.B - 2, kBoxSize + 3, kBoxSize + 3, 3);
+    for (std::size_t k = 0; k < page.boxes.size(); ++k) {
+        const profiles::OmrBox& box = page.boxes[k];
+        canvas.DrawRect(box.L - 1, box.T - 2, kBoxSize + 3, kBoxSize + 3, 3);
         if (k % 3 == 0)
-            canvas.DrawLine({box.L + 8.0, box.B + 8.0}, {box.R - 8.0, box.T - 8.0}, 4);
+            canvas.DrawLine({box.L + 8.0, box.T + 8.0}, {box.R - 8.0, box.B - 8.0}, 4);
     }
     page.file = ScratchFolder() + "/page.tif";
     samples::SaveImage(samples::ToBilevel(canvas), imaging::ImageFormat::Tiff, page.file);
@@ -80,7 +87,7 @@ const FormPage& TheFormPage() {
 Workplace::Workplace()
     : folders(app::PathsUnder(ScratchFolder())),
       log(files, clock, nobody, folders.Log),
-      run({files, log, nobody, clock, nobody, nobody, nobody}, settings, folders) {
+      run({files, log, nobody, clock, nobody, nobody}, settings, folders) {
     settings.FillThreshold = app::kDefaultFillThreshold;
     app::CreateWorkingFolders(files, ScratchFolder());
 }

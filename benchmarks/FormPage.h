@@ -1,13 +1,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/ActivityLog.h"
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ProcessRun.h"
@@ -16,19 +16,17 @@ namespace tavrene::bench {
 
 /// A 300 dpi A4 form of text and 100 boxes.
 struct FormPage {
-    std::string file;                  ///< The one-bit scan, every third box ticked.
-    profiles::ProfileRecord profile;   ///< Matches at once.
-    profiles::ProfileRecord stranger;  ///< Never matches: its boxes are of another size.
+    std::string file;                     ///< The one-bit scan, every third box ticked.
+    std::vector<profiles::OmrBox> boxes;  ///< The profile's, as its document has them.
+    profiles::ProfileRecord profile;      ///< Matches at once.
+    profiles::ProfileRecord stranger;     ///< Never matches: its boxes are of another size.
 };
 
 /// Painted once for the life of the program.
 const FormPage& TheFormPage();
 
 /// A screen and an operator that nobody looks at.
-class Nobody final : public app::Operator,
-                     public imaging::PageView,
-                     public imaging::PageRects,
-                     public profiles::BoxRows {
+class Nobody final : public app::Operator, public imaging::PageScreen, public profiles::BoxRows {
   public:
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
@@ -39,16 +37,22 @@ class Nobody final : public app::Operator,
     void SetProgress(int) override {}
     void RunPendingEvents() override {}
     void ShowFile(const std::string&) override {}
+    void ShowPicture(const imaging::Bitmap&) override {}
     void Clear() override {}
     double Zoom() const override { return 100; }
     void SetZoom(double) override {}
     void Refresh() override {}
-    void DrawRect(int, const imaging::PageRect&, imaging::RectStyle) override {}
+    imaging::ScrollOffset Scroll() const override { return {}; }
+    void PutRect(int, const imaging::PageRect&, imaging::RectStyle) override {}
+    void RemoveRect(int) override {}
     void ClearRects() override {}
-    void ClearRows() override {}
-    void AddValColumn() override {}
-    void RemoveExtraColumns() override {}
-    void AddRow(int, std::string_view, std::string_view) override {}
+    void Emphasise(int) override {}
+    void SetTool(imaging::BoxTool, int) override {}
+    void ClearRows(profiles::BoxColumns) override {}
+    void PutRow(int, const profiles::BoxRow&) override {}
+    void RemoveRow(int) override {}
+    void SelectRow(int) override {}
+    void RefreshRows() override {}
 };
 
 /// A working folder in the scratch folder and everything that a run on it needs.

@@ -10,26 +10,8 @@
 namespace tavrene::bench {
 namespace {
 
-// The editor's side of a window that nobody looks at.
-class NobodysDesk final : public profiles::EditableBoxes,
-                          public profiles::EditableRows,
-                          public profiles::ThumbnailStrip {
+class NobodysStrip final : public profiles::ThumbnailStrip {
   public:
-    void PutBox(int, const imaging::PageRect&) override {}
-    void RemoveBox(int) override {}
-    void SelectBox(int) override {}
-    void SetTool(profiles::BoxTool) override {}
-    void SetNextGroup(int) override {}
-    profiles::ScrollOffset Scroll() const override { return {}; }
-    void ClearRows() override {}
-    void AddValColumn() override {}
-    void RemoveExtraColumns() override {}
-    void AddRow(int, std::string_view, std::string_view) override {}
-    void InsertRow(int, std::string_view) override {}
-    void RemoveRow(int) override {}
-    void RenameRow(int, std::string_view) override {}
-    void SelectRow(int) override {}
-    void RefreshRows() override {}
     void ShowThumbnails(std::span<const profiles::StripThumbnail>) override {}
     void SelectThumbnail(int) override {}
 };
@@ -47,7 +29,7 @@ struct Desk {
     void AddProfile(const std::string& name) {
         const std::string image = work.folders.ProfileImages + name + ".tif";
         std::filesystem::copy_file(TheFormPage().file, image);
-        const std::vector<profiles::OmrBox>& boxes = TheFormPage().profile.Boxes;
+        const std::vector<profiles::OmrBox>& boxes = TheFormPage().boxes;
         const auto found = static_cast<std::int16_t>(boxes.size());
         profiles::SaveProfileDocument(
             work.files, work.folders.Profiles + name + ".Tvp",
@@ -55,10 +37,10 @@ struct Desk {
     }
 
     Workplace work;
-    NobodysDesk desk;
+    NobodysStrip strip;
     profiles::OpenProfile profile;
     std::vector<profiles::ProfileRecord> records;
-    profiles::EditorScreen screen{work.nobody, work.nobody, desk, desk, desk};
+    profiles::ProfileScreen screen{work.nobody, work.nobody, strip};
     profiles::BoxEditor editor{profile, work.nobody, screen};
     profiles::ProfileStore store{
         {work.files, work.nobody, work.log, work.clock, work.folders}, profile, records, editor, screen};

@@ -1,6 +1,5 @@
 #include "tour/Driver.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
@@ -11,13 +10,16 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
-#include <QToolBar>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <stdexcept>
 
+#include "driving/Controls.h"
+
 namespace tavrene::tour {
 namespace {
+
+using driving::Find;
 
 constexpr int kWidth = 1280;
 constexpr int kHeight = 860;
@@ -49,14 +51,6 @@ int CountChecked(const QTreeWidget& boxes) {
     for (int row = 0; row < boxes.topLevelItemCount(); ++row)
         checked += boxes.topLevelItem(row)->text(1) == "1" ? 1 : 0;
     return checked;
-}
-
-template <typename Control>
-Control& Find(QWidget& window, const char* name) {
-    auto* const control = window.findChild<Control*>(name);
-    if (control == nullptr)
-        throw std::runtime_error(std::string("The window has no ") + name + ".");
-    return *control;
 }
 
 }  // namespace
@@ -96,13 +90,7 @@ void Driver::timerEvent(QTimerEvent*) {
 }
 
 void Driver::Press(const char* key) {
-    auto& toolbar = Find<QToolBar>(window_, "MainToolbar");
-    auto* const action = toolbar.findChild<QAction*>(key, Qt::FindDirectChildrenOnly);
-    auto* const button =
-        action == nullptr ? nullptr : qobject_cast<QAbstractButton*>(toolbar.widgetForAction(action));
-    if (button == nullptr)
-        throw std::runtime_error(std::string("The toolbar has no button ") + key + ".");
-    button->click();
+    driving::Button(window_, "MainToolbar", key).click();
     QApplication::processEvents();
 }
 

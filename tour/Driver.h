@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "ui/MainWindow.h"
+#include "ui/shell/MainWindow.h"
 
 namespace tavrene::tour {
 

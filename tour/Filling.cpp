@@ -10,8 +10,8 @@
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
 #include "profiles/XmlFile.h"
-#include "ui/QtSettingsStore.h"
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
+#include "ui/settings/QtSettingsStore.h"
 
 namespace tavrene::tour {
 namespace {

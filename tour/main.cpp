@@ -8,12 +8,12 @@
 
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
-#include "samples/Truth.h"
-#include "tour/Comparison.h"
+#include "samples/GroundTruth.h"
+#include "samples/outcome/Comparison.h"
 #include "tour/Driver.h"
 #include "tour/Filling.h"
-#include "ui/Composition.h"
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
+#include "ui/shell/Composition.h"
 
 namespace {
 
@@ -50,7 +50,7 @@ void PrintPlaces(const app::WorkingFolders& folders, const QStringList& shots) {
 }
 
 int Drive(const std::string& samplesFolder, const std::string& folder, const std::string& shotsFolder) {
-    const auto truth = samples::ReadTruth(samplesFolder + "/truth.tsv");
+    const auto truth = samples::ReadGroundTruth(samplesFolder + "/truth.tsv");
     ui::Composition program;
     if (!program.Start()) {
         std::cerr << "The program is open already.\n";
@@ -59,12 +59,12 @@ int Drive(const std::string& samplesFolder, const std::string& folder, const std
     tour::Driver driver(program.Window(), ui::ToQt(shotsFolder));
     driver.Drive();
     const app::WorkingFolders folders = app::PathsUnder(folder);
-    const auto comparisons = tour::CompareWithTruth(app::DiskFiles(), folders, truth);
-    std::cout << tour::TableOf(comparisons);
+    const auto comparisons = samples::CompareWithTruth(app::DiskFiles(), folders, truth);
+    std::cout << samples::TableOf(comparisons);
     PrintPlaces(folders, driver.Shots());
     const bool good = std::all_of(
         comparisons.begin(), comparisons.end(),
-        [](const tour::Comparison& comparison) { return comparison.verdict != tour::Verdict::Wrong; });
+        [](const samples::Comparison& comparison) { return comparison.verdict != samples::Verdict::Wrong; });
     return good ? 0 : 1;
 }
 

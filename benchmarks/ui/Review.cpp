@@ -14,14 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// As a profile document has it: the upper edge is `T`.
-std::vector<profiles::OmrBox> BoxesOfDocument() {
-    std::vector<profiles::OmrBox> boxes = TheFormPage().profile.Boxes;
-    for (profiles::OmrBox& box : boxes)
-        std::swap(box.T, box.B);
-    return boxes;
-}
-
 std::string TextOf(const app::Bytes& content) {
     return {reinterpret_cast<const char*>(content.data()), content.size()};
 }
@@ -33,7 +25,7 @@ std::string FolderWithForms(int forms) {
     Workplace work;
     fs::create_directory(folder);
     app::CreateWorkingFolders(work.files, folder);
-    WriteProfile(folders, BoxesOfDocument());
+    WriteProfile(folders, TheFormPage().boxes);
     fs::copy_file(TheFormPage().file, work.folders.ProcessIn + "page.tif",
                   fs::copy_options::overwrite_existing);
     work.run.Run(std::vector{TheFormPage().profile});
@@ -96,7 +88,7 @@ void OpenForms(benchmark::State& state, const char* zoom) {
     desk.window.Get<QAction>(zoom).trigger();
     for (auto _ : state)
         desk.Open(line = (line + 3) % 5);
-    if (desk.Boxes() != static_cast<int>(TheFormPage().profile.Boxes.size()))
+    if (desk.Boxes() != static_cast<int>(TheFormPage().boxes.size()))
         state.SkipWithError("the form was not opened");
 }
 

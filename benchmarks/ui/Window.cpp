@@ -2,7 +2,7 @@
 
 #include "Floor.h"
 #include "profiles/ProfileDocument.h"
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::bench {
 
@@ -10,7 +10,7 @@ Window::Window(const std::string& folder) : store_(ui::ToQt(ScratchFolder())) {
     app::Settings settings;
     settings.WorkDir = folder;
     settings.FillThreshold = app::kDefaultFillThreshold;
-    window_ = std::make_unique<ui::MainWindow>(settings, ui::WindowDoors{store_, files_, clock_});
+    window_ = std::make_unique<ui::MainWindow>(settings, ui::WindowContext{store_, files_, clock_});
     window_->Load();
     window_->resize(1280, 900);
     window_->show();

@@ -3,24 +3,15 @@
 #include <QApplication>
 #include <QWidget>
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 #include "FormPage.h"
+#include "driving/Controls.h"
 #include "profiles/ProfileRecord.h"
-#include "ui/MainWindow.h"
-#include "ui/QtSettingsStore.h"
+#include "ui/settings/QtSettingsStore.h"
+#include "ui/shell/MainWindow.h"
 
 namespace tavrene::bench {
-
-/// The control of that object name.
-template <typename Control>
-Control& Find(const QWidget& window, const char* name) {
-    auto* const control = window.findChild<Control*>(name);
-    if (control == nullptr)
-        throw std::runtime_error(std::string("no control ") + name);
-    return *control;
-}
 
 /// The real window over a working folder (without a trailing separator), which exists.
 class Window {
@@ -29,7 +20,7 @@ class Window {
 
     template <typename Control>
     Control& Get(const char* name) const {
-        return Find<Control>(*window_, name);
+        return driving::Find<Control>(*window_, name);
     }
 
   private:

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "ui/Composition.h"
+#include "ui/shell/Composition.h"
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -117,7 +117,7 @@ void WearPage(BoxPage& page, const BoxPagePlan& plan, Random& dice) {
         case Wear::Dilated:
             return Dilate(page.Grid);
         case Wear::Tilted:
-            return Tilt(page.Grid, page.Truth, dice.Chance(0.5) ? plan.Amount : -plan.Amount);
+            return Tilt(page.Grid, page.GroundTruth, dice.Chance(0.5) ? plan.Amount : -plan.Amount);
         case Wear::None:
         case Wear::Broken:
             return;
@@ -167,7 +167,8 @@ BoxPage PaintPage(const BoxPagePlan& plan) {
     BoxSheet sheet(static_cast<int>(148 * plan.Dpi / 25.4), static_cast<int>(210 * plan.Dpi / 25.4), plan.Dpi,
                    plan.Style, plan.Seed);
     plan.Layout->Paint(sheet, size, second);
-    BoxPage page{ToGrid(sheet.Page()), sheet.Truth(), SizesFor(size, plan.Layout->TwoSizes ? second : size)};
+    BoxPage page{ToGrid(sheet.Page()), sheet.GroundTruth(),
+                 SizesFor(size, plan.Layout->TwoSizes ? second : size)};
     WearPage(page, plan, dice);
     return page;
 }

@@ -26,7 +26,7 @@ struct BoxPagePlan {
 /// A painted page with its true boxes and the sizes that an operator would set for it.
 struct BoxPage {
     imaging::WorkGrid Grid;
-    std::vector<TrueBox> Truth;
+    std::vector<TrueBox> GroundTruth;
     boxes::BoxSizes Sizes;
 };
 

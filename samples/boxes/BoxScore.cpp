@@ -57,7 +57,7 @@ std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const st
         if (rows.empty() || rows.back().Name != name)
             rows.push_back({name, {}});
         const BoxPage page = PaintPage(plan);
-        rows.back().Sum.Add(ScorePage(page.Truth, AnalysePage(page).Boxes));
+        rows.back().Sum.Add(ScorePage(page.GroundTruth, AnalysePage(page).Boxes));
     }
     return rows;
 }

@@ -41,7 +41,7 @@ class BoxSheet {
     const Canvas& Page() const { return page_; }
     Random& Dice() { return dice_; }
     const OutlineStyle& Style() const { return style_; }
-    const std::vector<TrueBox>& Truth() const { return truth_; }
+    const std::vector<TrueBox>& GroundTruth() const { return truth_; }
 
     /// Millimetres in pixels.
     int Mm(double millimetres) const;

@@ -6,8 +6,6 @@ namespace tavrene::samples {
 
 namespace {
 
-constexpr int kMargin = 130;
-constexpr int kRight = kPageWidth - kMargin;
 constexpr double kBodyPoints = 9;
 
 }  // namespace
@@ -75,6 +73,38 @@ void FormSheet::Box(int x, int y, std::string name) {
 void FormSheet::LabelledBox(int x, int y, std::string name, std::string_view label) {
     Box(x, y, std::move(name));
     Text(x + kBoxSize + 14, y + 23, kBodyPoints, label);
+}
+
+void FormSheet::Table(const AnswerTable& table) {
+    int y = table.Y;
+    for (std::size_t row = 0; row < table.Questions.size(); ++row) {
+        const std::string number = "Q" + std::to_string(row + 1);
+        Text(kMargin, y + 23, kBodyPoints, number + "   " + table.Questions[row]);
+        Question(true);
+        int x = kTableX;
+        for (const char* const answer : table.Answers) {
+            Box(x, y, number + " " + answer);
+            x += table.ColumnPitch;
+        }
+        Rule(kMargin, y + table.RuleBelow, kRight - kMargin);
+        y += table.RowPitch;
+    }
+}
+
+void FormSheet::Pairs(const BoxPairs& pairs) {
+    Question(false);
+    int y = pairs.Y;
+    for (const auto& [left, right] : pairs.Labels) {
+        LabelledBox(kMargin + 10, y, pairs.Name + " " + left, left);
+        LabelledBox(pairs.SecondX, y, pairs.Name + " " + right, right);
+        y += pairs.RowPitch;
+    }
+}
+
+void FormSheet::Foot(std::string_view thanks) {
+    Rule(kMargin, 2190, kRight - kMargin, 2);
+    Text(kMargin, 2222, 7.5, thanks);
+    TextEndingAt(kRight, 2222, 7.5, "Page 1 of 1");
 }
 
 }  // namespace tavrene::samples

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +18,9 @@ constexpr int kProfileDpi = 200;
 constexpr int kFineness = 3;
 constexpr int kPageWidth = 1654;  // A4
 constexpr int kPageHeight = 2339;
+constexpr int kMargin = 130;
+constexpr int kRight = kPageWidth - kMargin;
+constexpr int kTableX = 890;  // the first answer of a table
 constexpr int kBoxSize = 28;
 constexpr int kBoxLine = 2;
 
@@ -42,6 +47,25 @@ struct PrintedForm {
     Canvas Page{kPageWidth * kFineness, kPageHeight* kFineness, kProfileDpi* kFineness};
     std::vector<FormBox> Boxes;
     std::vector<WritingLine> Lines;
+};
+
+/// One question a row, one answer each: the boxes of "Q1" stand in a row under the answers, "Q1 never".
+struct AnswerTable {
+    int Y = 0;  ///< Top of the first row of boxes.
+    int RowPitch = 0;
+    int ColumnPitch = 0;
+    int RuleBelow = 0;  ///< From the top of a row to the line that ends it.
+    std::span<const char* const> Questions;
+    std::span<const char* const> Answers;
+};
+
+/// Two columns of labelled boxes of which any may be marked; a box is named by its label behind `Name`.
+struct BoxPairs {
+    int Y = 0;
+    int RowPitch = 0;
+    int SecondX = 0;
+    std::string Name;
+    std::span<const std::array<const char*, 2>> Labels;
 };
 
 /// Sets the type and rulings of a form. All places and lengths are layout units, text is placed by its base
@@ -73,6 +97,12 @@ class FormSheet {
 
     /// A box with its label to the right.
     void LabelledBox(int x, int y, std::string name, std::string_view label);
+
+    void Table(const AnswerTable& table);
+    void Pairs(const BoxPairs& pairs);
+
+    /// The last line of the page.
+    void Foot(std::string_view thanks);
 
     PrintedForm Take() { return std::move(form_); }
 

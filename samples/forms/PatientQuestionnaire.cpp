@@ -7,8 +7,6 @@ namespace tavrene::samples {
 
 namespace {
 
-constexpr int kMargin = 130;
-constexpr int kRight = kPageWidth - kMargin;
 constexpr int kPitch = 58;  // between rows of boxes
 
 void DrawPerson(FormSheet& sheet) {
@@ -38,15 +36,7 @@ void DrawComplaints(FormSheet& sheet) {
     sheet.Section(680, "2   How often have you had these in the last four weeks?");
     for (std::size_t column = 0; column < answers.size(); ++column)
         sheet.TextAround(904 + 160 * static_cast<int>(column), 736, 8.5, answers[column]);
-    for (std::size_t row = 0; row < complaints.size(); ++row) {
-        const int y = 758 + kPitch * static_cast<int>(row);
-        const std::string number = std::to_string(row + 1);
-        sheet.Text(kMargin, y + 23, 9, "Q" + number + "   " + complaints[row]);
-        sheet.Question(true);
-        for (std::size_t column = 0; column < answers.size(); ++column)
-            sheet.Box(890 + 160 * static_cast<int>(column), y, "Q" + number + " " + answers[column]);
-        sheet.Rule(kMargin, y + 43, kRight - kMargin);
-    }
+    sheet.Table({758, kPitch, 160, 43, complaints, answers});
 }
 
 void DrawTreatments(FormSheet& sheet) {
@@ -57,13 +47,7 @@ void DrawTreatments(FormSheet& sheet) {
          {"heart disease", "a thyroid disorder"},
          {"allergies", "cancer"}}};
     sheet.Section(1240, "3   Are you being treated, or have you been treated, for any of these?");
-    sheet.Question(false);
-    int y = 1282;
-    for (const auto& row : treatments) {
-        sheet.LabelledBox(kMargin + 10, y, std::string("Treated ") + row[0], row[0]);
-        sheet.LabelledBox(810, y, std::string("Treated ") + row[1], row[1]);
-        y += kPitch;
-    }
+    sheet.Pairs({1282, kPitch, 810, "Treated", treatments});
 }
 
 void DrawAgreement(FormSheet& sheet) {
@@ -94,9 +78,7 @@ PrintedForm PatientQuestionnaire() {
     sheet.Rule(kMargin, 1950, kRight - kMargin);
     sheet.Rule(kMargin, 2015, kRight - kMargin);
     sheet.Field(kMargin, 2120, 860, "Signature");
-    sheet.Rule(kMargin, 2190, kRight - kMargin, 2);
-    sheet.Text(kMargin, 2222, 7.5, "Thank you. Please hand this sheet in at the desk.");
-    sheet.TextEndingAt(kRight, 2222, 7.5, "Page 1 of 1");
+    sheet.Foot("Thank you. Please hand this sheet in at the desk.");
     return sheet.Take();
 }
 

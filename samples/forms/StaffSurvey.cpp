@@ -7,32 +7,28 @@ namespace tavrene::samples {
 
 namespace {
 
-constexpr int kMargin = 130;
-constexpr int kRight = kPageWidth - kMargin;
 constexpr int kPitch = 60;  // between rows of boxes
 
+// One answer of a row of boxes, each named by its label behind `name`.
+void DrawChoice(FormSheet& sheet, int y, std::string_view question, const std::string& name, int pitch,
+                std::span<const char* const> labels) {
+    sheet.Text(kMargin, y + 23, 9, question);
+    sheet.Question(true);
+    int x = 350;
+    for (const char* const label : labels) {
+        sheet.LabelledBox(x, y, name + " " + label, label);
+        x += pitch;
+    }
+}
+
 void DrawWork(FormSheet& sheet) {
-    sheet.Section(396, "1   About your work");
     constexpr std::array departments = {"office", "production", "warehouse", "sales", "service"};
-    sheet.Text(kMargin, 469, 9, "Department");
-    sheet.Question(true);
-    for (std::size_t i = 0; i < departments.size(); ++i)
-        sheet.LabelledBox(350 + 236 * static_cast<int>(i), 446, std::string("Dept ") + departments[i],
-                          departments[i]);
-
     constexpr std::array years = {"under 1 year", "1-5 years", "6-15 years", "over 15 years"};
-    sheet.Text(kMargin, 469 + kPitch, 9, "With us for");
-    sheet.Question(true);
-    for (std::size_t i = 0; i < years.size(); ++i)
-        sheet.LabelledBox(350 + 300 * static_cast<int>(i), 446 + kPitch, std::string("Service ") + years[i],
-                          years[i]);
-
     constexpr std::array times = {"full time", "part time", "temporary"};
-    sheet.Text(kMargin, 469 + 2 * kPitch, 9, "Working");
-    sheet.Question(true);
-    for (std::size_t i = 0; i < times.size(); ++i)
-        sheet.LabelledBox(350 + 300 * static_cast<int>(i), 446 + 2 * kPitch, std::string("Time ") + times[i],
-                          times[i]);
+    sheet.Section(396, "1   About your work");
+    DrawChoice(sheet, 446, "Department", "Dept", 236, departments);
+    DrawChoice(sheet, 446 + kPitch, "With us for", "Service", 300, years);
+    DrawChoice(sheet, 446 + 2 * kPitch, "Working", "Time", 300, times);
 }
 
 void DrawScaleHead(FormSheet& sheet, int x, int y) {
@@ -53,15 +49,7 @@ void DrawStatements(FormSheet& sheet) {
     constexpr std::array answers = {"strongly disagree", "disagree", "neutral", "agree", "strongly agree"};
     sheet.Section(690, "2   How far do you agree?");
     DrawScaleHead(sheet, 904, 768);
-    for (std::size_t row = 0; row < statements.size(); ++row) {
-        const int y = 792 + kPitch * static_cast<int>(row);
-        const std::string number = std::to_string(row + 1);
-        sheet.Text(kMargin, y + 23, 9, "Q" + number + "   " + statements[row]);
-        sheet.Question(true);
-        for (std::size_t column = 0; column < answers.size(); ++column)
-            sheet.Box(890 + 132 * static_cast<int>(column), y, "Q" + number + " " + answers[column]);
-        sheet.Rule(kMargin, y + 44, kRight - kMargin);
-    }
+    sheet.Table({792, kPitch, 132, 44, statements, answers});
 }
 
 void DrawOffers(FormSheet& sheet) {
@@ -71,13 +59,7 @@ void DrawOffers(FormSheet& sheet) {
                                                                    {"health check", "work from home"},
                                                                    {"pension plan", "parking"}}};
     sheet.Section(1350, "3   Which of these do you use?");
-    sheet.Question(false);
-    int y = 1394;
-    for (const auto& row : offers) {
-        sheet.LabelledBox(kMargin + 10, y, std::string("Uses ") + row[0], row[0]);
-        sheet.LabelledBox(760, y, std::string("Uses ") + row[1], row[1]);
-        y += kPitch;
-    }
+    sheet.Pairs({1394, kPitch, 760, "Uses", offers});
 }
 
 }  // namespace
@@ -94,9 +76,7 @@ PrintedForm StaffSurvey() {
     sheet.Field(kMargin, 1800, kRight, "What should we do better?");
     for (int y = 1870; y < 2100; y += 65)
         sheet.Rule(kMargin, y, kRight - kMargin);
-    sheet.Rule(kMargin, 2190, kRight - kMargin, 2);
-    sheet.Text(kMargin, 2222, 7.5, "Thank you. Please put this sheet into the box at the entrance.");
-    sheet.TextEndingAt(kRight, 2222, 7.5, "Page 1 of 1");
+    sheet.Foot("Thank you. Please put this sheet into the box at the entrance.");
     return sheet.Take();
 }
 

@@ -11,15 +11,23 @@ BEGIN {
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
     may["ui/commands"] = " review results intake recognition profiles boxes imaging app "
-    may["ui"] = " ui/commands review results intake recognition profiles boxes imaging app "
+    # The rooms of the window, from the lowest to the one that puts all together.
+    engine = " ui/commands review results intake recognition profiles boxes imaging app "
+    may["ui/base"] = engine
+    may["ui/page"] = " ui/base" engine
+    may["ui/lists"] = " ui/base" engine
+    may["ui/profiling"] = " ui/page ui/lists ui/base" engine
+    may["ui/reviewing"] = may["ui/profiling"]
+    may["ui/settings"] = may["ui/profiling"]
+    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/page ui/lists ui/base" engine
     # The rooms that know a library.
-    knows["Qt"] = " ui "
+    knows["Qt"] = " ui/base ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/shell "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "
     knows["libxlsxwriter"] = " results "
     knows["Poppler"] = " intake "
-    knows["platform"] = " app imaging ui "
+    knows["platform"] = " app imaging ui/shell "
     faults = 0
 }
 
@@ -43,8 +51,8 @@ function fault(text) {
 }
 
 function room(path) {
-    if (path ~ /^ui\/commands\//)
-        return "ui/commands"
+    if (path ~ /^ui\/[^\/]+\//)
+        return "ui/" substr(path, 4, index(substr(path, 4), "/") - 1)
     return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : ""
 }
 
@@ -99,7 +107,7 @@ function judge(file, number, header, quoted,    where, lib, target) {
         if (target != room(file) && index(may[room(file)], " " target " ") == 0)
             fault(where room(file) " may not include " target " (" header ")")
         edges[file] = edges[file] header "\n"
-    } else if (quoted && !(header ~ /\.moc$/ && room(file) == "ui")) {
+    } else if (quoted && !(header ~ /\.moc$/ && room(file) ~ /^ui\//)) {
         fault(where "no file src/" header "; includes are written \"room/File.h\"")
     } else if (!quoted && header ~ /[.\/]/) {
         fault(where "header of an unknown library: " header)

@@ -45,23 +45,8 @@ void ActivityLog::Log(std::string_view kind, std::string_view message, ShowInSta
     try {
         files_.Append(path, TimeStamp(now) + " " + ToWindows1252(message) + "\r\n");
     } catch (const FileError&) {
-        if (!tolerant_)
-            throw;
-        ++failedLines_;
+        ++lostLines_;
     }
-}
-
-ToleratedLogFailures::ToleratedLogFailures(ActivityLog& log)
-    : log_(log), before_(log.failedLines_), wasTolerant_(log.tolerant_) {
-    log_.tolerant_ = true;
-}
-
-int ToleratedLogFailures::TakeLostLines() {
-    return std::exchange(log_.failedLines_, before_) - before_;
-}
-
-ToleratedLogFailures::~ToleratedLogFailures() {
-    log_.tolerant_ = wasTolerant_;
 }
 
 }  // namespace tavrene::app

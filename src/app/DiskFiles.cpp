@@ -82,6 +82,15 @@ void RenameOver(const std::string& from, const std::string& to, std::string_view
     }
 }
 
+// A rename is on the disk when its folder is. Some file systems refuse to flush a folder; the file is in its
+// place all the same, so that is no failure.
+void FlushFolderOf(const std::string& path) {
+    const std::string folder = FromPath(ToPath(path).parent_path() / ".");
+    const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.Number() >= 0)
+        ::fsync(open.Number());
+}
+
 // The names of a folder's entries that are not hidden and that `wanted(entry, name)` takes, ordered by their
 // lower-cased form.
 template <typename Wanted>
@@ -183,6 +192,8 @@ void DiskFiles::Write(const std::string& path, std::span<const std::byte> conten
         throw FileError(text);
     }
     RenameOver(temporary, path, "write");
+    if (keep == Keep::Durably)
+        FlushFolderOf(path);
 }
 
 void DiskFiles::Append(const std::string& path, std::string_view text) {
@@ -192,8 +203,10 @@ void DiskFiles::Append(const std::string& path, std::string_view text) {
 }
 
 void DiskFiles::Move(const std::string& from, const std::string& to) {
-    if (::rename(from.c_str(), to.c_str()) == 0)
+    if (::rename(from.c_str(), to.c_str()) == 0) {
+        FlushFolderOf(to);
         return;
+    }
     if (errno != EXDEV)
         Refuse("move", from, errno);
     Write(to, Read(from), Keep::Durably);

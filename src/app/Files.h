@@ -53,15 +53,16 @@ class Files {
 
     virtual Bytes Read(const std::string& path) const = 0;
 
-    /// Writes a whole file: to a temporary neighbour, flushed unless it is scratch, then renamed over `path`,
-    /// so that `path` holds either its old or its new content at any moment.
+    /// Writes a whole file: to a temporary neighbour, then renamed over `path`, so that `path` holds either
+    /// its old or its new content at any moment. File and folder are flushed unless it is scratch.
     virtual void Write(const std::string& path, std::span<const std::byte> content,
                        Keep keep = Keep::Durably) = 0;
 
     /// Appends to a file, creating it when it is missing; opened and closed within the call.
     virtual void Append(const std::string& path, std::string_view text) = 0;
 
-    /// Moves a file, replacing `to`. Across file systems the copy is complete before the source goes.
+    /// Moves a file, replacing `to`, and flushes the folder that it came to. Across file systems the copy is
+    /// complete before the source goes.
     virtual void Move(const std::string& from, const std::string& to) = 0;
 
     virtual void Delete(const std::string& path) = 0;

@@ -28,7 +28,7 @@ inline double RoundHalfToEven(double value) {
 }
 
 /// `value` held at the nearest number of 16 bits.
-constexpr std::int16_t HoldInInt16(double value) {
+constexpr std::int16_t ClampToInt16(double value) {
     constexpr double low = std::numeric_limits<std::int16_t>::min();
     constexpr double high = std::numeric_limits<std::int16_t>::max();
     return static_cast<std::int16_t>(std::clamp(value, low, high));
@@ -36,7 +36,7 @@ constexpr std::int16_t HoldInInt16(double value) {
 
 /// The nearest 16-bit number, halves to the even neighbour, held at the ends of the range. Not for NaN.
 inline std::int16_t RoundToInt16(double value) {
-    return HoldInInt16(RoundHalfToEven(value));
+    return ClampToInt16(RoundHalfToEven(value));
 }
 
 /// The nearest 32-bit number, halves to the even neighbour, held at the ends of the range. Not for NaN.

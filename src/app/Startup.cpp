@@ -24,16 +24,16 @@ void ReadSettings(Settings& settings, SettingsStore& store) {
 
 }  // namespace
 
-bool RunStartup(Settings& settings, const StartupDoors& doors) {
-    if (!doors.becomeOnlyInstance())
+bool RunStartup(Settings& settings, const StartupContext& context) {
+    if (!context.becomeOnlyInstance())
         return false;
-    ReadSettings(settings, doors.store);
+    ReadSettings(settings, context.store);
     if (settings.WorkDir.empty())
-        doors.showSettingsDialog(settings);
+        context.showSettingsDialog(settings);
     // One more chance only: an operator without a usable folder still gets the window.
-    if (!CreateWorkingFolders(doors.files, settings.WorkDir))
-        doors.showSettingsDialog(settings);
-    doors.showMainWindow();
+    if (!CreateWorkingFolders(context.files, settings.WorkDir))
+        context.showSettingsDialog(settings);
+    context.showMainWindow();
     return true;
 }
 

@@ -9,7 +9,7 @@
 namespace tavrene::app {
 
 /// What start-up needs of the world; the two screens are handed in so that it runs without a display.
-struct StartupDoors {
+struct StartupContext {
     SettingsStore& store;
     Files& files;
     std::function<bool()> becomeOnlyInstance;           ///< False when another instance is running.
@@ -19,6 +19,6 @@ struct StartupDoors {
 
 /// The ordered steps from program start to the main window. Fills `settings` and writes defaults for numbers
 /// that read as 0. False, with nothing written and nothing shown, when another instance is running.
-bool RunStartup(Settings& settings, const StartupDoors& doors);
+bool RunStartup(Settings& settings, const StartupContext& context);
 
 }  // namespace tavrene::app

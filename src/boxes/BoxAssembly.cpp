@@ -103,8 +103,8 @@ int Assembler::Search(int from, CornerHits hits, Sides& sides) {
         return 0;
     const int reachX = analysis_.Reach.X - 1;
     const int reachY = analysis_.Reach.Y - 1;
-    const Window window{segment.L - reachX, segment.T - reachY, segment.L + reachX, segment.T + reachY};
-    const std::vector<int>& near = index_.Find(Across(segment.Orientation), window);
+    const SearchRect searched{segment.L - reachX, segment.T - reachY, segment.L + reachX, segment.T + reachY};
+    const std::vector<int>& near = index_.Find(Across(segment.Orientation), searched);
     std::size_t found = 0;
     for (auto number = near.rbegin(); number != near.rend() && found < sides.size(); ++number) {
         if (!IsFree(*number) || (required && At(*number).CornerHits < 1) ||
@@ -120,9 +120,9 @@ int Assembler::Search(int from, CornerHits hits, Sides& sides) {
 int Assembler::ClosingSide(int from, const LineSeg& a, const LineSeg& b) {
     const int spanX = index_.WidestSpan();
     const int spanY = index_.HighestSpan();
-    const Window window{std::min({a.L, a.R, b.L}) - spanX, std::min({a.T, a.B, b.T, b.B}) - spanY,
-                        std::max({a.L, a.R, b.L}) + spanX, std::max({a.T, a.B, b.T, b.B}) + spanY};
-    const std::vector<int>& near = index_.Find(At(from).Orientation, window);
+    const SearchRect searched{std::min({a.L, a.R, b.L}) - spanX, std::min({a.T, a.B, b.T, b.B}) - spanY,
+                              std::max({a.L, a.R, b.L}) + spanX, std::max({a.T, a.B, b.T, b.B}) + spanY};
+    const std::vector<int>& near = index_.Find(At(from).Orientation, searched);
     for (auto number = near.rbegin(); number != near.rend(); ++number) {
         if (*number != from && IsFree(*number) && Closes(At(*number), a, b))
             return *number;
@@ -134,8 +134,8 @@ int Assembler::ClosingSide(int from, const LineSeg& a, const LineSeg& b) {
 int Assembler::FourthSide(int from, const ExpectedSide& expected) {
     const auto [left, right] = std::minmax(expected.FarA.X, expected.FarB.X);
     const auto [bottom, top] = std::minmax(expected.FarA.Y, expected.FarB.Y);
-    const Window window{left - kEndReach, bottom - kEndReach, right + kEndReach, top + kEndReach};
-    for (const int number : index_.Find(At(from).Orientation, window)) {
+    const SearchRect searched{left - kEndReach, bottom - kEndReach, right + kEndReach, top + kEndReach};
+    for (const int number : index_.Find(At(from).Orientation, searched)) {
         if (number != from && IsFree(number) && RunsBetween(At(number), expected))
             return number;
     }

@@ -5,8 +5,8 @@
 
 namespace tavrene::boxes {
 
-/// Bounds of a window, in columns and rows, all inclusive. Empty when an upper bound is below its lower one.
-struct Window {
+/// Bounds of a search, in columns and rows, all inclusive. Empty when an upper bound is below its lower one.
+struct SearchRect {
     int Left;
     int Bottom;
     int Right;
@@ -26,16 +26,16 @@ class PointIndex {
     void Add(int number, int x, int y);
     void Move(int number, int fromX, int fromY, int toX, int toY);
 
-    /// Calls `visit(number)` for the points of every cell that the window touches, in no order; points
-    /// outside the window may be among them.
+    /// Calls `visit(number)` for the points of every cell that the rectangle touches, in no order; points
+    /// outside it may be among them.
     template <typename Visit>
-    void VisitNear(const Window& window, Visit visit) const {
-        if (window.Right < window.Left || window.Top < window.Bottom)
+    void VisitNear(const SearchRect& searched, Visit visit) const {
+        if (searched.Right < searched.Left || searched.Top < searched.Bottom)
             return;
-        const int lastColumn = CellColumn(window.Right);
-        const int lastRow = CellRow(window.Top);
-        for (int row = CellRow(window.Bottom); row <= lastRow; ++row) {
-            for (int column = CellColumn(window.Left); column <= lastColumn; ++column) {
+        const int lastColumn = CellColumn(searched.Right);
+        const int lastRow = CellRow(searched.Top);
+        for (int row = CellRow(searched.Bottom); row <= lastRow; ++row) {
+            for (int column = CellColumn(searched.Left); column <= lastColumn; ++column) {
                 for (const int number : cells_[CellAt(column, row)])
                     visit(number);
             }

@@ -17,34 +17,34 @@ constexpr const char* kNotABitmap = "Image not in bitmap format";
 constexpr const char* kTooManyColors = "Image has more than 2 colors. cannot process.";
 
 using imaging::Page;
-using imaging::PageFault;
+using imaging::PageError;
 
 // The page, or nothing after the operator has been told why there is none.
-std::optional<Page> ReadForm(const std::string& imagePath, const PipelineDoors& doors) {
-    std::variant<Page, PageFault> read = imaging::ReadSpecimen(doors.files, imagePath);
+std::optional<Page> ReadForm(const std::string& imagePath, const PipelineContext& context) {
+    std::variant<Page, PageError> read = imaging::ReadSpecimen(context.files, imagePath);
     if (Page* const page = std::get_if<Page>(&read))
         return std::move(*page);
-    const bool hasColors = std::get<PageFault>(read) == PageFault::TooManyColors;
-    doors.person.ShowMessage("", hasColors ? kTooManyColors : kNotABitmap);
+    const bool hasColors = std::get<PageError>(read) == PageError::TooManyColors;
+    context.person.ShowMessage("", hasColors ? kTooManyColors : kNotABitmap);
     return std::nullopt;
 }
 
-void ShowMessage(const PipelineDoors& doors, std::string_view text) {
-    doors.person.SetPanel(app::Panel::Message, text);
+void ShowMessage(const PipelineContext& context, std::string_view text) {
+    context.person.SetPanel(app::Panel::Message, text);
 }
 
-void RunSteps(BoxAnalysis& analysis, const PipelineDoors& doors) {
+void RunSteps(BoxAnalysis& analysis, const PipelineContext& context) {
     const std::vector<PipelineStep>& steps = PipelineSteps();
-    doors.person.SetProgressRange(static_cast<int>(steps.size()));
+    context.person.SetProgressRange(static_cast<int>(steps.size()));
     int number = 0;
     for (const PipelineStep& step : steps) {
-        ShowMessage(doors, step.Text);
-        doors.person.SetProgress(++number);
+        ShowMessage(context, step.Text);
+        context.person.SetProgress(++number);
         step.Run(analysis);
     }
-    ShowMessage(doors, "Identifying OMR boxes...");
+    ShowMessage(context, "Identifying OMR boxes...");
     IdentifyBoxes(analysis);
-    ShowMessage(doors, std::to_string(analysis.Boxes.size()) + " OMR Boxes identified");
+    ShowMessage(context, std::to_string(analysis.Boxes.size()) + " OMR Boxes identified");
 }
 
 std::string WholeSeconds(double seconds) {
@@ -71,22 +71,23 @@ const std::vector<PipelineStep>& PipelineSteps() {
 
 std::optional<FoundBoxes> FindBoxesOnImage(const std::string& imagePath, const std::string& profileName,
                                            const BoxSizes& sizes, const PairReach& reach,
-                                           const PipelineDoors& doors) {
-    const double started = doors.clock.Seconds();
-    ShowMessage(doors, "Reading image...");
-    std::optional<Page> page = ReadForm(imagePath, doors);
+                                           const PipelineContext& context) {
+    const double started = context.clock.Seconds();
+    ShowMessage(context, "Reading image...");
+    std::optional<Page> page = ReadForm(imagePath, context);
     if (!page)
         return std::nullopt;
 
     BoxAnalysis analysis(std::move(page->grid), sizes, reach);
-    RunSteps(analysis, doors);
+    RunSteps(analysis, context);
     SortBoxes(analysis.Boxes, analysis.WorkGrid.Width());
 
     FoundBoxes found{std::move(analysis.Boxes), analysis.WorkGrid.Width(), analysis.WorkGrid.Rows(),
                      page->DPI_X, page->DPI_Y};
-    doors.person.SetPanel(app::Panel::ElapsedTime, WholeSeconds(doors.clock.Seconds() - started) + " Sec.");
-    doors.log.LogProfileEvent("New Profile: <" + profileName + "> " + std::to_string(found.Boxes.size()) +
-                              " OMR Boxes Identified.");
+    context.person.SetPanel(app::Panel::ElapsedTime,
+                            WholeSeconds(context.clock.Seconds() - started) + " Sec.");
+    context.log.LogProfileEvent("New Profile: <" + profileName + "> " + std::to_string(found.Boxes.size()) +
+                                " OMR Boxes Identified.");
     return found;
 }
 

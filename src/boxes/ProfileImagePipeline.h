@@ -14,7 +14,7 @@
 namespace tavrene::boxes {
 
 /// What box finding needs of the world around it. The references must outlive the run.
-struct PipelineDoors {
+struct PipelineContext {
     const app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
@@ -36,7 +36,7 @@ struct FoundBoxes {
 /// says why, no step runs and nothing is returned. Throws `app::FileError` when the log cannot be written.
 std::optional<FoundBoxes> FindBoxesOnImage(const std::string& imagePath, const std::string& profileName,
                                            const BoxSizes& sizes, const PairReach& reach,
-                                           const PipelineDoors& doors);
+                                           const PipelineContext& context);
 
 /// One of the eleven steps; `Run` works on the analysis in place.
 struct PipelineStep {

@@ -41,7 +41,7 @@ bool PassesEndTest(const LineSeg& segment, const LineSeg& other) {
 }
 
 // Around the midpoint; for a vertical segment the two reaches change places.
-Window CrossingWindow(const LineSeg& segment, const PairReach& reach) {
+SearchRect CrossingRect(const LineSeg& segment, const PairReach& reach) {
     const int centreX = (segment.L + segment.R) >> 1;
     const int centreY = (segment.T + segment.B) >> 1;
     const int halfX = reach.X >> 1;
@@ -111,12 +111,13 @@ int GroupFinder::FirstMatch(const LineSeg& segment) const {
     // The line of a segment is one coordinate, so of the tests across it only a distance of one pixel passes.
     const int lowX = std::min(segment.L, segment.R);
     const int lowY = std::min(segment.T, segment.B);
-    const Window window =
-        segment.IsVertical() ? Window{lowX - 1, segment.T - reach_.Y + 1, lowX + 1, segment.T + reach_.Y - 1}
-                             : Window{segment.L - reach_.X + 1, lowY - 1, segment.L + reach_.X - 1, lowY + 1};
+    const SearchRect searched =
+        segment.IsVertical()
+            ? SearchRect{lowX - 1, segment.T - reach_.Y + 1, lowX + 1, segment.T + reach_.Y - 1}
+            : SearchRect{segment.L - reach_.X + 1, lowY - 1, segment.L + reach_.X - 1, lowY + 1};
     int first = std::numeric_limits<int>::max();
     const PointIndex& index = segment.IsVertical() ? vertical_ : horizontal_;
-    index.VisitNear(window, [&](int number) {
+    index.VisitNear(searched, [&](int number) {
         if (number < first && Matches(groups_[static_cast<std::size_t>(number)], segment))
             first = number;
     });
@@ -165,7 +166,7 @@ void FindIntersections(BoxAnalysis& analysis) {
         segment.CornerHits = 0;
         segment.Crossings.clear();
         const std::vector<int>& near =
-            index.Find(Across(segment.Orientation), CrossingWindow(segment, analysis.Reach));
+            index.Find(Across(segment.Orientation), CrossingRect(segment, analysis.Reach));
         for (auto number = near.rbegin(); number != near.rend(); ++number) {
             const LineSeg& other = segments[static_cast<std::size_t>(*number)];
             if (Cross(segment, other))

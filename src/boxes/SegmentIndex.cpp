@@ -6,7 +6,7 @@
 namespace tavrene::boxes {
 namespace {
 
-// Near the usual reaches, so that a window touches about nine cells.
+// Near the usual reaches, so that a searched touches about nine cells.
 constexpr int kCellSize = 32;
 
 }  // namespace
@@ -21,12 +21,12 @@ SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int 
     }
 }
 
-const std::vector<int>& SegmentIndex::Find(Orientation orientation, const Window& window) {
+const std::vector<int>& SegmentIndex::Find(Orientation orientation, const SearchRect& searched) {
     found_.clear();
     const PointIndex& index = orientation == Orientation::Vertical ? vertical_ : horizontal_;
-    index.VisitNear(window, [&](int number) {
+    index.VisitNear(searched, [&](int number) {
         const LineSeg& segment = segments_[static_cast<std::size_t>(number)];
-        if (window.Contains(segment.L, segment.T))
+        if (searched.Contains(segment.L, segment.T))
             found_.push_back(number);
     });
     std::sort(found_.begin(), found_.end());

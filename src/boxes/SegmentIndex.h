@@ -14,9 +14,9 @@ class SegmentIndex {
     /// `width` and `height` are those of the page.
     SegmentIndex(const std::vector<LineSeg>& segments, int width, int height);
 
-    /// List indices, ascending, of the segments of one orientation whose (`L`, `T`) lies in the window. The
-    /// list is reused by the next call.
-    const std::vector<int>& Find(Orientation orientation, const Window& window);
+    /// List indices, ascending, of the segments of one orientation whose (`L`, `T`) lies in the rectangle.
+    /// The list is reused by the next call.
+    const std::vector<int>& Find(Orientation orientation, const SearchRect& searched);
 
     /// The largest |`R` - `L`| and |`B` - `T`| of the list.
     int WidestSpan() const { return widest_; }

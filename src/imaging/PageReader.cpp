@@ -72,7 +72,7 @@ WorkGrid Unpacked(const Bitmap& bitmap) {
 }
 
 std::int16_t DotsPerInch(unsigned dotsPerMetre) {
-    return app::HoldInInt16(std::floor(dotsPerMetre * 0.0254 + 0.5));
+    return app::ClampToInt16(std::floor(dotsPerMetre * 0.0254 + 0.5));
 }
 
 Bitmap Decoded(const app::Bytes& content, ImageFormat format) {
@@ -89,6 +89,18 @@ app::Bytes ContentOrNothing(const app::Files& files, const std::string& path) {
 
 }  // namespace
 
+std::string_view ReasonOf(PageError error) {
+    switch (error) {
+        case PageError::UnknownType:
+            return "Unrecognized File type";
+        case PageError::TooManyColors:
+            return "Unable to process since image has more than 2 colors";
+        case PageError::NotABitmap:
+            break;
+    }
+    return "Image not in bitmap format";
+}
+
 std::optional<ImageFormat> FormatOfExtension(std::string_view path) {
     const std::string extension = app::UpperCase(app::Extension(path));
     for (const ExtensionFormat& entry : kExtensions) {
@@ -103,13 +115,21 @@ ImageFormat SpecimenFormat(std::string_view path) {
     return format == ImageFormat::Jpeg || format == ImageFormat::Png ? format : ImageFormat::Tiff;
 }
 
-std::variant<Page, PageFault> ReadSpecimen(const app::Files& files, const std::string& path) {
+std::variant<Page, PageError> ReadSpecimen(const app::Files& files, const std::string& path) {
     return ReadPage(files, path, SpecimenFormat(path));
 }
 
-std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path) {
+    const std::optional<ImageFormat> format = FormatOfExtension(path);
+    if (!format)
+        return PageError::UnknownType;
+    return ReadPage(files, path, *format);
+}
+
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
     const app::Bytes content = ContentOrNothing(files, path);
     Page page;
+    page.format = format;
     page.bitmap = Decoded(content, format);
     if (page.bitmap) {
         const ResolutionPresence carried = FindResolution(content, format);
@@ -119,9 +139,9 @@ std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::strin
             page.bitmap = Thresholded(std::move(page.bitmap));
     }
     if (!page.bitmap.IsStandardBitmap())
-        return PageFault::NotABitmap;
+        return PageError::NotABitmap;
     if (page.bitmap.BitsPerPixel() > 1)
-        return PageFault::TooManyColors;
+        return PageError::TooManyColors;
     page.inverted = MakeInkSetBits(page.bitmap);
     page.grid = Unpacked(page.bitmap);
     return page;

@@ -18,12 +18,16 @@ struct Page {
     WorkGrid grid;
     std::int16_t DPI_X = 0;  ///< Dots per inch; 0 when the file carries no resolution.
     std::int16_t DPI_Y = 0;
-    bool inverted = false;  ///< The file's bits were the other way round.
+    ImageFormat format = ImageFormat::Tiff;  ///< Of the file that it was read from.
+    bool inverted = false;                   ///< The file's bits were the other way round.
 };
 
-/// Why a file is no page: no bitmap could be had of it (damaged, mislabelled, missing, too large), or it has
-/// more than two colours.
-enum class PageFault { NotABitmap, TooManyColors };
+/// Why a file is no page: its extension stands for no file type, no bitmap could be had of it (damaged,
+/// mislabelled, missing, too large), or it has more than two colours.
+enum class PageError { UnknownType, NotABitmap, TooManyColors };
+
+/// The reason in words, for the log and the operator.
+std::string_view ReasonOf(PageError error);
 
 /// The file type that the extension of `path` stands for; none for other extensions, tiff and jpeg among
 /// them.
@@ -35,9 +39,12 @@ ImageFormat SpecimenFormat(std::string_view path);
 
 /// Reads a file as a page. PNG, GIF and JPEG are reduced to two colours at level 128, a transparent picture
 /// laid on white first; the other types must have two colours. Ink is what is dark, for every type.
-std::variant<Page, PageFault> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
+
+/// Reads a file as a page by the type that its extension stands for.
+std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path);
 
 /// Reads a specimen image as a page.
-std::variant<Page, PageFault> ReadSpecimen(const app::Files& files, const std::string& path);
+std::variant<Page, PageError> ReadSpecimen(const app::Files& files, const std::string& path);
 
 }  // namespace tavrene::imaging

@@ -10,6 +10,9 @@
 namespace tavrene::profiles {
 namespace {
 
+using imaging::BoxTool;
+using imaging::RectReport;
+
 constexpr int kRowsBetweenRepaints = 50;
 
 imaging::PageRect PlaceOf(const OmrBox& box) {
@@ -40,13 +43,12 @@ bool HasSize(const RectReport& report) {
 
 }  // namespace
 
-BoxEditor::BoxEditor(OpenProfile& profile, app::Operator& person, const EditorScreen& screen)
+BoxEditor::BoxEditor(OpenProfile& profile, app::Operator& person, const ProfileScreen& screen)
     : profile_(profile), person_(person), screen_(screen) {}
 
 void BoxEditor::Clear() {
-    screen_.rows.ClearRows();
-    screen_.rows.RemoveExtraColumns();
-    screen_.rects.ClearRects();
+    screen_.rows.ClearRows(BoxColumns::Name);
+    screen_.page.ClearRects();
     profile_.BoxList.clear();
     profile_.Count = 0;
     profile_.CurrentBox = 0;
@@ -60,29 +62,36 @@ void BoxEditor::BuildBoxList(const ProfileContent& content) {
     profile_.BoxList = content.Boxes;
     profile_.Count = content.Count;
     person_.SetProgressRange(std::max<int>(content.Count, 0));
-    int number = 0;
-    for (const OmrBox& box : profile_.BoxList) {
-        ++number;
-        screen_.rows.AddRow(number, RowText(box, number), "");
-        screen_.boxes.PutBox(number, PlaceOf(box));
+    const int last = static_cast<int>(profile_.BoxList.size());
+    for (int number = 1; number <= last; ++number) {
+        PutBox(number);
         person_.SetProgress(number);
         if (number % kRowsBetweenRepaints == 0)
             screen_.rows.RefreshRows();
     }
     screen_.rows.RefreshRows();
     person_.SetProgress(0);
-    profile_.NextBoxId = number + 1;
-    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+    SetNextBox(last + 1);
+}
+
+void BoxEditor::PutBox(int number) {
+    screen_.rows.PutRow(number, {RowText(Box(number), number)});
+    screen_.page.PutRect(number, PlaceOf(Box(number)), imaging::RectStyle::Editable);
+}
+
+void BoxEditor::SetNextBox(int number) {
+    profile_.NextBoxId = number;
+    screen_.page.SetTool(tool_, number);
 }
 
 void BoxEditor::SetTool(BoxTool tool) {
-    addMode_ = tool == BoxTool::Add;
-    screen_.boxes.SetTool(tool);
+    tool_ = tool;
+    screen_.page.SetTool(tool_, profile_.NextBoxId);
 }
 
 void BoxEditor::Select(int number) {
     profile_.CurrentBox = number;
-    screen_.boxes.SelectBox(number);
+    screen_.page.Emphasise(number);
     screen_.rows.SelectRow(number);
 }
 
@@ -101,8 +110,8 @@ void BoxEditor::RowRenamed(int number, const std::string& name) {
 }
 
 void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
-    const double scale = 100 / screen_.view.Zoom();
-    const ScrollOffset scroll = screen_.boxes.Scroll();
+    const double scale = 100 / screen_.page.Zoom();
+    const imaging::ScrollOffset scroll = screen_.page.Scroll();
     box.L = app::RoundToInt16((scroll.x + report.left) * scale);
     box.T = app::RoundToInt16((scroll.y + report.top) * scale);
     box.R = app::RoundToInt16((scroll.x + report.left + report.width) * scale);
@@ -111,7 +120,7 @@ void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
 
 bool BoxEditor::AddDrawnBox(const RectReport& report) {
     if (!HasSize(report) || profile_.Count == std::numeric_limits<std::int16_t>::max()) {
-        screen_.boxes.RemoveBox(report.group);
+        screen_.page.RemoveRect(report.group);
         return false;
     }
     OmrBox box;
@@ -119,16 +128,15 @@ bool BoxEditor::AddDrawnBox(const RectReport& report) {
     StoreCoordinates(report, box);
     profile_.BoxList.push_back(box);
     const std::int16_t before = profile_.Count++;
-    screen_.boxes.PutBox(report.group, PlaceOf(box));
-    screen_.rows.AddRow(report.group, box.Name, "");
-    profile_.NextBoxId = report.group + 1;
-    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+    PutBox(report.group);
+    SetNextBox(report.group + 1);
     Record({report.group, std::nullopt, box, before, profile_.Count});
     return true;
 }
 
 void BoxEditor::RectSelected(const RectReport& report) {
-    const bool isDrawn = addMode_ && static_cast<std::size_t>(report.group) == profile_.BoxList.size() + 1;
+    const bool isDrawn =
+        tool_ == BoxTool::Add && static_cast<std::size_t>(report.group) == profile_.BoxList.size() + 1;
     if (isDrawn && (!MayStore() || !AddDrawnBox(report)))
         return;
     if (!IsKept(profile_, report.group))
@@ -142,7 +150,7 @@ void BoxEditor::RectSelected(const RectReport& report) {
     if (IsSamePlace(*edit.before, *edit.after))
         return;
     Box(report.group) = *edit.after;
-    screen_.boxes.PutBox(report.group, PlaceOf(*edit.after));
+    screen_.page.PutRect(report.group, PlaceOf(*edit.after), imaging::RectStyle::Editable);
     Record(std::move(edit));
 }
 
@@ -174,7 +182,7 @@ void BoxEditor::DeleteBox() {
     Box(number).Checked = false;
     profile_.Count = edit.countAfter;
     Record(std::move(edit));
-    screen_.boxes.RemoveBox(number);
+    screen_.page.RemoveRect(number);
     screen_.rows.RemoveRow(number);
     Select(profile_.Count >= 1 ? NextKept(number) : 0);
 }
@@ -191,7 +199,7 @@ void BoxEditor::Nudge(int dx, int dy) {
         return;
     Box(number) = box;
     Record(std::move(edit));
-    screen_.boxes.PutBox(number, PlaceOf(Box(number)));
+    screen_.page.PutRect(number, PlaceOf(Box(number)), imaging::RectStyle::Editable);
     Select(number);
 }
 
@@ -216,35 +224,26 @@ void BoxEditor::Record(BoxEdit edit) {
 
 // Edits are taken back in reverse order, so an added box that goes is the last of the list.
 void BoxEditor::TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count) {
-    const bool hadRow = IsKept(profile_, number);
     profile_.BoxList.resize(std::max(profile_.BoxList.size(), static_cast<std::size_t>(number)));
     if (state)
         Box(number) = *state;
     else
         profile_.BoxList.pop_back();
     profile_.Count = count;
-    profile_.NextBoxId = static_cast<int>(profile_.BoxList.size()) + 1;
-    screen_.boxes.SetNextGroup(profile_.NextBoxId);
+    SetNextBox(static_cast<int>(profile_.BoxList.size()) + 1);
     profile_.ProfileChanged = !history_.IsSavedState();
-    ShowBox(number, hadRow);
+    ShowBox(number);
 }
 
-void BoxEditor::ShowBox(int number, bool hadRow) {
-    if (!IsKept(profile_, number)) {
-        if (hadRow) {
-            screen_.boxes.RemoveBox(number);
-            screen_.rows.RemoveRow(number);
-        }
+void BoxEditor::ShowBox(int number) {
+    if (IsKept(profile_, number)) {
+        PutBox(number);
+        Select(number);
+    } else {
+        screen_.page.RemoveRect(number);
+        screen_.rows.RemoveRow(number);
         Select(NextKept(number));
-        return;
     }
-    const OmrBox& box = Box(number);
-    screen_.boxes.PutBox(number, PlaceOf(box));
-    if (hadRow)
-        screen_.rows.RenameRow(number, RowText(box, number));
-    else
-        screen_.rows.InsertRow(number, RowText(box, number));
-    Select(number);
 }
 
 void BoxEditor::ClearChanged() {

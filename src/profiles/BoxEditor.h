@@ -5,9 +5,9 @@
 
 #include "app/Operator.h"
 #include "profiles/BoxHistory.h"
-#include "profiles/EditorScreen.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileDocument.h"
+#include "profiles/ProfileScreen.h"
 
 namespace tavrene::profiles {
 
@@ -16,11 +16,7 @@ namespace tavrene::profiles {
 class BoxEditor {
   public:
     /// The references must outlive the editor.
-    BoxEditor(OpenProfile& profile, app::Operator& person, const EditorScreen& screen);
-
-    /// Whether what is selected or moved in the image view belongs to this editor; while it does not (a run
-    /// goes on, the view serves the review), selecting stores nothing. Without a rule it always does.
-    void SetMayStore(std::function<bool()> mayStore) { mayStore_ = std::move(mayStore); }
+    BoxEditor(OpenProfile& profile, app::Operator& person, const ProfileScreen& screen);
 
     /// Takes all boxes off the screen and out of the profile, and forgets the edits.
     void Clear();
@@ -28,12 +24,12 @@ class BoxEditor {
     /// Fills the box list, its rows and the image view from what the document holds; the view is at zoom 100.
     void BuildBoxList(const ProfileContent& content);
 
-    void SetTool(BoxTool tool);
+    void SetTool(imaging::BoxTool tool);
 
     /// Events of the box list and the image view.
     void RowClicked(int number);
     void RowRenamed(int number, const std::string& name);
-    void RectSelected(const RectReport& report);
+    void RectSelected(const imaging::RectReport& report);
     void RectMoved(int group);
 
     /// Deletes the current box; the next one that is left becomes current.
@@ -55,20 +51,21 @@ class BoxEditor {
 
   private:
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
-    bool MayStore() const { return profile_.IsOpen && (!mayStore_ || mayStore_()); }
-    bool AddDrawnBox(const RectReport& report);
-    void StoreCoordinates(const RectReport& report, OmrBox& box) const;
+    bool MayStore() const { return profile_.IsOpen; }
+    bool AddDrawnBox(const imaging::RectReport& report);
+    void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
     int NextKept(int number) const;
     void Record(BoxEdit edit);
     void TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count);
-    void ShowBox(int number, bool hadRow);
+    void ShowBox(int number);
+    void PutBox(int number);
+    void SetNextBox(int number);
 
     OpenProfile& profile_;
     app::Operator& person_;
-    EditorScreen screen_;
-    std::function<bool()> mayStore_;
+    ProfileScreen screen_;
     BoxHistory history_;
-    bool addMode_ = false;
+    imaging::BoxTool tool_ = imaging::BoxTool::Select;
 };
 
 }  // namespace tavrene::profiles

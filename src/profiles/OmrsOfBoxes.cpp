@@ -12,9 +12,9 @@ std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int heigh
         OmrBox omr;
         omr.Name = UnnamedBox(static_cast<int>(omrs.size()) + 1);
         omr.L = box.L;
-        omr.T = app::HoldInInt16(imaging::FlipVertically(height, static_cast<int>(box.B)));
+        omr.T = app::ClampToInt16(imaging::FlipVertically(height, static_cast<int>(box.B)));
         omr.R = box.R;
-        omr.B = app::HoldInInt16(imaging::FlipVertically(height, static_cast<int>(box.T)));
+        omr.B = app::ClampToInt16(imaging::FlipVertically(height, static_cast<int>(box.T)));
         omrs.push_back(omr);
     }
     return omrs;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <utility>
 
 #include "app/Numeric.h"
@@ -10,33 +11,22 @@
 namespace tavrene::profiles {
 namespace {
 
-// Recognition counts rows upwards and wants the lower edge of a box first, whatever order the document has.
-void PutLowerEdgeFirst(OmrBox& box) {
-    const std::int16_t upper = app::Min(box.T, box.B);
-    box.T = app::Max(box.T, box.B);
-    box.B = upper;
-}
-
-std::int16_t OutlineOf(const OmrBox& box) {
-    return app::WrapToInt16(2 * ((box.R - box.L) + (box.T - box.B)) - 4);
-}
-
-BoxExtent ExtentOf(std::span<const OmrBox> boxes) {
+BoxExtent ExtentOf(std::span<const PrintedBox> boxes) {
     BoxExtent extent;
     if (boxes.empty())
         return extent;
-    extent = {boxes[0].L, boxes[0].T, boxes[0].R, boxes[0].B};
-    for (const OmrBox& box : boxes) {
+    extent = {boxes[0].L, boxes[0].R, boxes[0].lower, boxes[0].upper};
+    for (const PrintedBox& box : boxes) {
         extent.L = app::Min(extent.L, box.L);
-        extent.T = app::Min(extent.T, box.T);
         extent.R = app::Max(extent.R, box.R);
-        extent.B = app::Max(extent.B, box.B);
+        extent.lower = app::Min(extent.lower, box.lower);
+        extent.upper = app::Max(extent.upper, box.upper);
     }
     return extent;
 }
 
 ProfileRecord ReadRecord(const app::Files& files, const std::string& path) {
-    ProfileContent content = ReadProfileContent(LoadProfileDocument(files, path));
+    const ProfileContent content = ReadProfileContent(LoadProfileDocument(files, path));
     ProfileRecord record;
     record.Name = app::BaseName(path);
     record.FileName = app::FileName(path);
@@ -44,13 +34,9 @@ ProfileRecord ReadRecord(const app::Files& files, const std::string& path) {
     record.Active = content.Active;
     record.DPI_X = content.DPI_X;
     record.DPI_Y = content.DPI_Y;
-    record.Boxes = std::move(content.Boxes);
     const auto counted = static_cast<std::size_t>(std::max<std::int16_t>(content.Count, 0));
-    record.Boxes.resize(std::min(record.Boxes.size(), counted));
-    for (OmrBox& box : record.Boxes) {
-        PutLowerEdgeFirst(box);
-        box.ExpectedOutline = OutlineOf(box);
-    }
+    const std::span<const OmrBox> boxes(content.Boxes.data(), std::min(content.Boxes.size(), counted));
+    std::transform(boxes.begin(), boxes.end(), std::back_inserter(record.Boxes), PrintedBoxOf);
     record.Extent = ExtentOf(record.Boxes);
     return record;
 }
@@ -67,9 +53,15 @@ std::vector<std::string> ListProfiles(const app::Files& files, app::ActivityLog&
 
 }  // namespace
 
+PrintedBox PrintedBoxOf(const OmrBox& box) {
+    PrintedBox printed{box.Name, box.L, box.R, app::Max(box.T, box.B), app::Min(box.T, box.B)};
+    printed.expectedOutline =
+        app::WrapToInt16(2 * ((printed.R - printed.L) + (printed.lower - printed.upper)) - 4);
+    return printed;
+}
+
 std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::ActivityLog& log,
                                               app::Operator& person, const std::string& profilesFolder) {
-    const app::ToleratedLogFailures tolerated(log);
     std::vector<ProfileRecord> profiles;
     for (const std::string& fileName : ListProfiles(files, log, profilesFolder)) {
         const std::string path = profilesFolder + fileName;

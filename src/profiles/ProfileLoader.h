@@ -13,8 +13,7 @@ namespace tavrene::profiles {
 
 /// Loads every profile document of the `Profiles` folder (path ending in a separator), active or not, in
 /// listing order, and shows progress and the counts in the status bar. A document that cannot be read is left
-/// out with one line in the profile log; a log that cannot be written does not keep profiles from being
-/// loaded.
+/// out with one line in the profile log.
 std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::ActivityLog& log,
                                               app::Operator& person, const std::string& profilesFolder);
 

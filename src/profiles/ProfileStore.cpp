@@ -1,6 +1,5 @@
 #include "profiles/ProfileStore.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -32,38 +31,23 @@ pugi::xml_document LoadNamed(const app::Files& files, const std::string& path) {
     }
 }
 
-// Says once that lines of the log were lost, at the end of an operation that did its work without them.
-class LostLineNote {
-  public:
-    LostLineNote(app::ActivityLog& log, std::vector<std::string>& notes) : tolerated_(log), notes_(notes) {}
-    ~LostLineNote() {
-        const std::string note = "The profile log could not be written.";
-        if (tolerated_.TakeLostLines() > 0 && std::find(notes_.begin(), notes_.end(), note) == notes_.end())
-            notes_.push_back(note);
-    }
-    LostLineNote(const LostLineNote&) = delete;
-    LostLineNote& operator=(const LostLineNote&) = delete;
-
-  private:
-    app::ToleratedLogFailures tolerated_;
-    std::vector<std::string>& notes_;
-};
-
 }  // namespace
 
-ProfileStore::ProfileStore(const StoreDoors& doors, OpenProfile& profile, std::vector<ProfileRecord>& records,
-                           BoxEditor& editor, const EditorScreen& screen)
-    : doors_(doors),
+ProfileStore::ProfileStore(const StoreContext& context, OpenProfile& profile,
+                           std::vector<ProfileRecord>& records, BoxEditor& editor,
+                           const ProfileScreen& screen)
+    : context_(context),
       profile_(profile),
       records_(records),
       editor_(editor),
       screen_(screen),
-      thumbnails_(doors.files, doors.log, doors.person, doors.folders.Profiles) {}
+      scratch_(context.files, context.folders.Temp),
+      thumbnails_(context.files, context.log, context.person, context.folders.Profiles) {}
 
 bool ProfileStore::MayLeave() {
     if (!profile_.ProfileChanged)
         return true;
-    switch (doors_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?")) {
+    switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?")) {
         case Answer::Yes:
             return Save();
         case Answer::No:
@@ -76,21 +60,20 @@ bool ProfileStore::MayLeave() {
 
 bool ProfileStore::Create(const std::string& path, const std::string& imagePath, const boxes::BoxSizes& sizes,
                           const boxes::PairReach& reach) {
-    const LostLineNote lostLines(doors_.log, notes_);
     const std::string name = app::BaseName(path);
     if (imaging::SpecimenFormat(imagePath) == imaging::ImageFormat::Tiff &&
-        doors_.files.FileExists(imagePath))
-        WriteScratch("temp2.tif", doors_.files.Read(imagePath));
+        context_.files.FileExists(imagePath))
+        Note(scratch_.WriteOriginal(context_.files.Read(imagePath)));
     const std::optional<boxes::FoundBoxes> found = boxes::FindBoxesOnImage(
-        imagePath, name, sizes, reach, {doors_.files, doors_.person, doors_.log, doors_.clock});
+        imagePath, name, sizes, reach, {context_.files, context_.person, context_.log, context_.clock});
     if (!found)
         return false;
     const std::vector<OmrBox> omrs = OmrsOfBoxes(found->Boxes, found->Height);
     pugi::xml_document document =
         CreateProfileDocument({name, imagePath, found->DPI_X, found->DPI_Y, true},
                               ComposeOmrs(omrs, static_cast<std::int16_t>(omrs.size())));
-    SaveProfileDocument(doors_.files, path, document);
-    doors_.log.LogProfileEvent("Created Profile: " + name);
+    SaveProfileDocument(context_.files, path, document);
+    context_.log.LogProfileEvent("Created Profile: " + name);
     OpenCreated(path, std::move(document));
     RebuildThumbnails();
     if (profile_.CurrentProfile == 0)
@@ -108,24 +91,23 @@ void ProfileStore::OpenCreated(const std::string& path, pugi::xml_document docum
     profile_.DPI_Y = content.DPI_Y;
     profile_.Active = content.Active;
     profile_.Document = std::move(document);
-    profile_.Fingerprint = doors_.files.Fingerprint(path);
+    profile_.Fingerprint = context_.files.Fingerprint(path);
     ShowSpecimen(content.Image, Specimen::OfNewProfile);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
 }
 
 void ProfileStore::Load(const std::string& path) {
-    const LostLineNote lostLines(doors_.log, notes_);
     const int number = NumberOf(path);
     Close();
     profile_.Path = path;
     profile_.Name = app::BaseName(path);
     profile_.CurrentProfile = number;
-    profile_.Fingerprint = doors_.files.Fingerprint(path);
-    profile_.Document = LoadNamed(doors_.files, path);
-    doors_.log.LogProfileEvent("Loaded Profile: " + profile_.Name);
+    profile_.Fingerprint = context_.files.Fingerprint(path);
+    profile_.Document = LoadNamed(context_.files, path);
+    context_.log.LogProfileEvent("Loaded Profile: " + profile_.Name);
     profile_.Image = profile_.Document.first_child().attribute("Image").value();
-    doors_.person.SetPanel(Panel::Message, HeadingOf(profile_));
+    context_.person.SetPanel(Panel::Message, HeadingOf(profile_));
     ProfileContent content;
     try {
         content = ReadProfileContent(profile_.Document);
@@ -136,7 +118,7 @@ void ProfileStore::Load(const std::string& path) {
     profile_.DPI_X = content.DPI_X;
     profile_.DPI_Y = content.DPI_Y;
     profile_.Active = content.Active;
-    doors_.person.SetPanel(Panel::ElapsedTime, "OMRs:" + std::to_string(content.Count));
+    context_.person.SetPanel(Panel::ElapsedTime, "OMRs:" + std::to_string(content.Count));
     ShowSpecimen(profile_.Image, Specimen::OfStoredProfile);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
@@ -144,21 +126,22 @@ void ProfileStore::Load(const std::string& path) {
 }
 
 void ProfileStore::ShowSpecimen(const std::string& image, Specimen specimen) {
-    const auto read = imaging::ReadSpecimen(doors_.files, image);
+    const auto read = imaging::ReadSpecimen(context_.files, image);
     const imaging::Page* const page = std::get_if<imaging::Page>(&read);
-    screen_.view.SetZoom(100);
+    screen_.page.SetZoom(100);
     if (page != nullptr) {
         KeepSize(page->bitmap);
-        screen_.view.ShowFile(DisplayCopy(image, *page, specimen));
-    } else if (std::get<imaging::PageFault>(read) == imaging::PageFault::TooManyColors) {
-        KeepSize(imaging::DecodeImage(doors_.files.Read(image), imaging::SpecimenFormat(image),
+        WriteDisplayCopy(image, *page, specimen);
+        screen_.page.ShowPicture(page->bitmap);
+    } else if (std::get<imaging::PageError>(read) == imaging::PageError::TooManyColors) {
+        KeepSize(imaging::DecodeImage(context_.files.Read(image), imaging::SpecimenFormat(image),
                                       imaging::Decode::HeaderOnly));
-        screen_.view.ShowFile(image);
+        screen_.page.ShowFile(image);
     } else {
-        screen_.view.Clear();
+        screen_.page.Clear();
         notes_.push_back(
             "The specimen image " + image +
-            (doors_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
+            (context_.files.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
     }
 }
 
@@ -167,49 +150,40 @@ void ProfileStore::KeepSize(const imaging::Bitmap& picture) {
     profile_.ImageHeight = picture.Height();
 }
 
-std::string ProfileStore::DisplayCopy(const std::string& image, const imaging::Page& page,
-                                      Specimen specimen) {
+// Of a TIFF only a new profile's has one, and that only when it had to be inverted.
+void ProfileStore::WriteDisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen) {
     const bool isTiff = imaging::SpecimenFormat(image) == imaging::ImageFormat::Tiff;
     const bool isTurned = specimen == Specimen::OfNewProfile && page.inverted;
-    if (isTiff && !isTurned)
-        return image;
-    const std::string copy = "temp.tif";
-    return WriteScratch(copy, imaging::EncodeGroup4Tiff(page.bitmap)) ? doors_.folders.Temp + copy : image;
+    if (!isTiff || isTurned)
+        Note(scratch_.WriteConverted(page));
 }
 
-// A copy that cannot be written costs no more than itself.
-bool ProfileStore::WriteScratch(const std::string& name, const app::Bytes& content) {
-    try {
-        doors_.files.Write(doors_.folders.Temp + name, content, app::Keep::AsScratch);
-        return true;
-    } catch (const app::FileError& error) {
-        notes_.push_back(std::string(error.what()) + ".");
-        return false;
-    }
+void ProfileStore::Note(const std::string& failure) {
+    if (!failure.empty())
+        notes_.push_back(failure + ".");
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.
 void ProfileStore::FitView() {
     for (double zoom = 100; profile_.ImageWidth * zoom / 100 > kFittingWidth;) {
         zoom *= kFittingStep;
-        screen_.view.SetZoom(zoom);
+        screen_.page.SetZoom(zoom);
     }
 }
 
 bool ProfileStore::Save() {
     if (!profile_.IsOpen)
         return false;
-    const LostLineNote lostLines(doors_.log, notes_);
-    const std::string onDisk = doors_.files.Fingerprint(profile_.Path);
+    const std::string onDisk = context_.files.Fingerprint(profile_.Path);
     if (!onDisk.empty() && onDisk != profile_.Fingerprint &&
-        doors_.person.AskYesNo("The file " + profile_.Path +
-                               " was changed by somebody else after it was opened here. Save over it?") !=
+        context_.person.AskYesNo("The file " + profile_.Path +
+                                 " was changed by somebody else after it was opened here. Save over it?") !=
             Answer::Yes)
         return false;
     WriteDocument();
     if (onDisk.empty())
         notes_.push_back("The file " + profile_.Path + " had been deleted and was written anew.");
-    doors_.log.LogProfileEvent("Saved Profile: " + profile_.Name);
+    context_.log.LogProfileEvent("Saved Profile: " + profile_.Name);
     editor_.ClearChanged();
     RebuildThumbnails();
     return true;
@@ -225,18 +199,17 @@ void ProfileStore::WriteDocument() {
             editor_.Select(*bad);
         throw DocumentError("The profile " + profile_.Path + " is not saved: " + error.what() + ".");
     }
-    SaveProfileDocument(doors_.files, profile_.Path, document);
+    SaveProfileDocument(context_.files, profile_.Path, document);
     profile_.Document = std::move(document);
-    profile_.Fingerprint = doors_.files.Fingerprint(profile_.Path);
+    profile_.Fingerprint = context_.files.Fingerprint(profile_.Path);
 }
 
 bool ProfileStore::Delete() {
-    if (profile_.Path.empty() || doors_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
+    if (profile_.Path.empty() || context_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
         return false;
-    const LostLineNote lostLines(doors_.log, notes_);
-    if (doors_.files.FileExists(profile_.Path))
-        doors_.files.Delete(profile_.Path);
-    doors_.log.LogProfileEvent("Deleted Profile: " + profile_.Name);
+    if (context_.files.FileExists(profile_.Path))
+        context_.files.Delete(profile_.Path);
+    context_.log.LogProfileEvent("Deleted Profile: " + profile_.Name);
     Close();
     RebuildThumbnails();
     if (strip_.empty())
@@ -245,8 +218,7 @@ bool ProfileStore::Delete() {
 }
 
 void ProfileStore::RebuildThumbnails() {
-    const LostLineNote lostLines(doors_.log, notes_);
-    records_ = LoadActiveProfiles(doors_.files, doors_.log, doors_.person, doors_.folders.Profiles);
+    records_ = LoadActiveProfiles(context_.files, context_.log, context_.person, context_.folders.Profiles);
     strip_ = ListEntries();
     thumbnails_.Rebuild(strip_, screen_.strip);
     profile_.CurrentProfile = NumberOf(profile_.Path);
@@ -257,10 +229,10 @@ void ProfileStore::RebuildThumbnails() {
 // order of the listing; why a folder cannot be listed, their loader has logged.
 std::vector<StripEntry> ProfileStore::ListEntries() const {
     std::vector<StripEntry> entries;
-    if (!doors_.files.FolderExists(doors_.folders.Profiles))
+    if (!context_.files.FolderExists(context_.folders.Profiles))
         return entries;
     auto record = records_.begin();
-    for (std::string& fileName : doors_.files.List(doors_.folders.Profiles, "*.Tvp")) {
+    for (std::string& fileName : context_.files.List(context_.folders.Profiles, "*.Tvp")) {
         const bool isReadable = record != records_.end() && record->FileName == fileName;
         entries.push_back({std::move(fileName), isReadable, isReadable ? record->Image : std::string()});
         if (isReadable)
@@ -277,9 +249,9 @@ bool ProfileStore::ThumbnailSelected(int k) {
         screen_.strip.SelectThumbnail(profile_.CurrentProfile);
         return false;
     }
-    if (!doors_.files.FileExists(path)) {
+    if (!context_.files.FileExists(path)) {
         RebuildThumbnails();
-        doors_.person.ShowMessage("", "The profile " + path + " is not there any more.");
+        context_.person.ShowMessage("", "The profile " + path + " is not there any more.");
         return false;
     }
     screen_.strip.SelectThumbnail(NumberOf(path));
@@ -294,7 +266,7 @@ std::string ProfileStore::ThumbnailHover(int k) const {
 std::string ProfileStore::PathOf(int k) const {
     if (k < 1 || static_cast<std::size_t>(k) > strip_.size())
         return {};
-    return doors_.folders.Profiles + strip_[static_cast<std::size_t>(k) - 1].FileName;
+    return context_.folders.Profiles + strip_[static_cast<std::size_t>(k) - 1].FileName;
 }
 
 int ProfileStore::NumberOf(const std::string& path) const {
@@ -308,7 +280,7 @@ int ProfileStore::NumberOf(const std::string& path) const {
 
 void ProfileStore::Close() {
     editor_.Clear();
-    screen_.view.Clear();
+    screen_.page.Clear();
     profile_ = OpenProfile();
 }
 

@@ -10,6 +10,7 @@
 #include "app/WorkingFolders.h"
 #include "boxes/BoxAnalysis.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
@@ -18,7 +19,7 @@
 namespace tavrene::profiles {
 
 /// What the store needs of the world; everything must outlive it.
-struct StoreDoors {
+struct StoreContext {
     app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
@@ -28,12 +29,12 @@ struct StoreDoors {
 
 /// The profiles of the `Profiles` folder: makes, opens, saves and deletes them, and keeps the loaded records
 /// and the thumbnail strip in line with the folder. What fails throws with a text for the operator; the file
-/// and the profile at the desk then are as they were. A log line that cannot be written costs that line only.
+/// and the profile at the desk then are as they were.
 class ProfileStore {
   public:
     /// `records` are the loaded profiles that recognition uses. All references must outlive the store.
-    ProfileStore(const StoreDoors& doors, OpenProfile& profile, std::vector<ProfileRecord>& records,
-                 BoxEditor& editor, const EditorScreen& screen);
+    ProfileStore(const StoreContext& context, OpenProfile& profile, std::vector<ProfileRecord>& records,
+                 BoxEditor& editor, const ProfileScreen& screen);
 
     /// Asks whether unsaved changes are to be saved, and does so. False when the profile is not to be left.
     bool MayLeave();
@@ -80,18 +81,17 @@ class ProfileStore {
     void ShowSpecimen(const std::string& image, Specimen specimen);
     void KeepSize(const imaging::Bitmap& picture);
 
-    /// The file from which a specimen is shown: that of a TIFF is its own, unless a new profile's had to be
-    /// inverted.
-    std::string DisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
-    bool WriteScratch(const std::string& name, const app::Bytes& content);
+    void WriteDisplayCopy(const std::string& image, const imaging::Page& page, Specimen specimen);
+    void Note(const std::string& failure);
     void FitView();
     void WriteDocument();
 
-    StoreDoors doors_;
+    StoreContext context_;
     OpenProfile& profile_;
     std::vector<ProfileRecord>& records_;
     BoxEditor& editor_;
-    EditorScreen screen_;
+    ProfileScreen screen_;
+    imaging::ScratchImages scratch_;
     Thumbnails thumbnails_;
     std::vector<StripEntry> strip_;
     std::vector<std::string> notes_;

@@ -8,7 +8,7 @@
 #include "app/Files.h"
 #include "app/Operator.h"
 #include "imaging/TiffPages.h"
-#include "profiles/EditorScreen.h"
+#include "profiles/ProfileScreen.h"
 
 namespace tavrene::profiles {
 

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "app/ActivityLog.h"
 #include "imaging/PageReader.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ShiftSpiral.h"
@@ -14,16 +13,18 @@ namespace tavrene::recognition {
 
 /// How one profile fared with one image.
 struct ProfileMatch {
-    std::vector<BoxShift> Shifts;  ///< One a box; 0,0 until a sampled box is found, later spread over all.
-    std::vector<float> Ratios;     ///< The share of the outline last measured, one a box.
-    std::int16_t Found = 0;        ///< Sampled boxes whose outline was found.
-    std::int16_t Tested = 0;       ///< Sampled boxes examined.
+    std::vector<BoxShift> shifts;  ///< One a box; 0,0 until a sampled box is found, later spread over all.
+    std::vector<float> ratios;     ///< The share of the outline last measured, one a box.
+    std::int16_t found = 0;        ///< Sampled boxes whose outline was found.
+    std::int16_t tested = 0;       ///< Sampled boxes examined.
     std::int16_t Confidence = 0;   ///< Percent of the sampled boxes found; only for the best profile.
 };
 
-/// The outcome for one image: `winner` is the index of the chosen profile, or -1 for "unclassified".
+/// The outcome for one image: `winner` is the index of the chosen profile, or -1 for "unclassified". `best`
+/// is the profile that came nearest, also where that was too little; -1 when no outline was found at all.
 struct Classification {
     int winner = -1;
+    int best = -1;
     std::vector<ProfileMatch> matches;  ///< One a profile, in load order.
 };
 
@@ -31,9 +32,12 @@ struct Classification {
 inline constexpr int kLowConfidence = 50;
 
 /// Decides which of the profiles the page is a form of, by looking for the printed outlines of a sample of
-/// each active profile's boxes within `kMaxShift` pixels of their place, and logs one line. A profile without
-/// boxes ends the scan for itself and all later ones.
-Classification ClassifyImage(const std::string& imageName, const imaging::Page& page,
-                             std::span<const profiles::ProfileRecord> profiles, app::ActivityLog& log);
+/// each active profile's boxes within `kMaxShift` pixels of their place. A profile without boxes ends the
+/// scan for itself and all later ones.
+Classification ClassifyImage(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles);
+
+/// What the process log says of it.
+std::string ClassificationLine(const std::string& imageName, const Classification& classification,
+                               std::span<const profiles::ProfileRecord> profiles);
 
 }  // namespace tavrene::recognition

@@ -13,6 +13,7 @@ struct FormScale {
     float sx = 1.0F;
     float sy = 1.0F;
 
+    // Of an edge of a profile's box, page frame.
     double X(std::int16_t ordinate) const { return static_cast<float>(ordinate) * sx; }
     double Y(std::int16_t ordinate) const { return static_cast<float>(ordinate) * sy; }
 };

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "imaging/PageReader.h"
-#include "imaging/PageRects.h"
+#include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/Outline.h"
 #include "recognition/ShiftSpiral.h"
@@ -32,8 +32,8 @@ struct MarkReading {
 };
 
 /// Fills `shifts` (one a box) from those of the sampled boxes: linear between the leftmost and the rightmost,
-/// and between the lowest and the highest sampled box. Throws `ReadingError` when the sampled boxes share one
-/// column or one row.
+/// and between the highest and the lowest sampled box, by their lower edges. Throws `ReadingError` when the
+/// sampled boxes share one column or one row.
 void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> shifts);
 
 /// Ink cells in the rectangle (grid frame, inclusive) after it is clamped to the picture; 0 when that leaves

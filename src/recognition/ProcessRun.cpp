@@ -6,9 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "app/Raised.h"
+#include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
 #include "recognition/Classification.h"
+#include "recognition/PageLoading.h"
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::recognition {
@@ -22,6 +23,7 @@ using profiles::ProfileRecord;
 
 // What came of one file, as far as showing and moving it need to know.
 struct ProcessRun::FileOutcome {
+    std::optional<imaging::Page> page;
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
     bool hasResult = false;
@@ -29,20 +31,17 @@ struct ProcessRun::FileOutcome {
         replacedResult;  // the earlier document of that name, as long as the image is not moved
 };
 
-ProcessRun::ProcessRun(const RunDoors& doors, const app::Settings& settings,
+ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders)
-    : doors_(doors),
-      settings_(settings),
-      folders_(folders),
-      loader_(doors.files, doors.log, doors.person, folders.Temp) {}
+    : context_(context), settings_(settings), folders_(folders), scratch_(context.files, folders.Temp) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
     if (profiles.empty()) {
-        doors_.person.ShowMessage("", "No Profiles to match images against!");
+        context_.person.ShowMessage("", "No Profiles to match images against!");
         return false;
     }
     if (profiles::CountActive(profiles) == 0) {
-        doors_.person.ShowMessage(
+        context_.person.ShowMessage(
             "",
             "None of your Profiles are active! Activate a Profile by checking the PROFILE "
             "ACTIVE checkbox and clicking the SAVE button.");
@@ -52,43 +51,40 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
 }
 
 void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
-    app::ToleratedLogFailures tolerated(doors_.log);
-    const app::Raised running(running_);
+    const app::ScopedFlag running(running_);
     stop_ = false;
     filesDone_ = 0;
     currentName_.clear();
-    const double start = doors_.clock.Seconds();
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
-    doors_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
-    doors_.view.Clear();
-    doors_.rects.ClearRects();
-    doors_.rows.ClearRows();
-    doors_.rows.AddValColumn();
+    const double start = context_.clock.Seconds();
+    context_.person.SetPanel(Panel::ElapsedTime, "");
+    context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
+    context_.page.Clear();
+    context_.rows.ClearRows(profiles::BoxColumns::NameVal);
     TakeFiles(profiles);
-    doors_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
-    Finish(start, tolerated.TakeLostLines());
+    context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
+    Finish(start);
 }
 
 std::vector<std::string> ProcessRun::ListImages() {
     try {
-        return doors_.files.List(folders_.ProcessIn, "*");
+        return context_.files.List(folders_.ProcessIn, "*");
     } catch (const app::FileError& error) {
-        doors_.log.LogProcessEvent(error.what());
-        doors_.person.ShowMessage("", error.what());
+        context_.log.LogProcessEvent(error.what());
+        context_.person.ShowMessage("", error.what());
         return {};
     }
 }
 
 void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
     const std::vector<std::string> names = ListImages();
-    doors_.person.SetProgressRange(static_cast<int>(names.size()));
+    context_.person.SetProgressRange(static_cast<int>(names.size()));
     std::size_t next = 0;
     do {
         if (!names.empty())
             TakeInTurn(names, next, profiles);
         // Behind a single file and over an empty folder too: what is clicked meanwhile belongs to this run
         // and must not wait for its end, to start another.
-        doors_.person.RunPendingEvents();
+        context_.person.RunPendingEvents();
     } while (++next < names.size() && !settings_.ProcessSingle && !stop_);
 }
 
@@ -103,16 +99,16 @@ void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t i
     if (moved)
         LogAbout(currentName_, "Processing complete");
     currentName_ = index + 1 < names.size() ? names[index + 1] : std::string();
-    doors_.person.SetProgress(++filesDone_);
+    context_.person.SetProgress(++filesDone_);
 }
 
 bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord> profiles) {
     const bool display = settings_.DisplayDuringProcess;
-    doors_.person.SetPanel(Panel::File, name);
+    context_.person.SetPanel(Panel::File, name);
     if (display) {
-        doors_.rects.ClearRects();
-        doors_.rows.ClearRows();
-        doors_.view.SetZoom(100);
+        context_.page.ClearRects();
+        context_.rows.ClearRows(profiles::BoxColumns::NameVal);
+        context_.page.SetZoom(100);
     }
     FileOutcome outcome;
     try {
@@ -127,50 +123,54 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
                            FileOutcome& outcome) {
-    if (!loader_.LoadImageForProcessing(folders_.ProcessIn + name))
+    outcome.page = LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
+    if (!outcome.page)
         return;
-    const imaging::Page& page = loader_.CurrentPage();
-    Classification classification = ClassifyImage(name, page, profiles, doors_.log);
+    const imaging::Page& page = *outcome.page;
+    if (const std::string failure = scratch_.WritePage(page); !failure.empty())
+        LogAbout(name, failure);
+    Classification classification = ClassifyImage(page, profiles);
+    context_.log.LogProcessEvent(ClassificationLine(name, classification, profiles));
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
     ProfileMatch& match = classification.matches[winner];
-    SpreadShifts(profiles[winner], match.Shifts);
-    outcome.readings = ReadMarks(page, profiles[winner], match.Shifts, settings_.FillThreshold);
+    SpreadShifts(profiles[winner], match.shifts);
+    outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
     SaveResult(name, profiles[winner], match.Confidence, outcome);
 }
 
 void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profile, std::int16_t confidence,
                             FileOutcome& outcome) {
     const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (doors_.files.FileExists(path))
-        outcome.replacedResult = doors_.files.Read(path);
-    SaveResultDocument(doors_.files, path, {profile.Name, name, "0", confidence}, outcome.readings);
+    if (context_.files.FileExists(path))
+        outcome.replacedResult = context_.files.Read(path);
+    SaveResultDocument(context_.files, path, {profile.Name, name, "0", confidence}, outcome.readings);
     outcome.hasResult = true;
-    outcome.marks = ReadResultMarks(doors_.files, path);
+    outcome.marks = ReadResultMarks(context_.files, path);
     if (outcome.replacedResult)
         LogAbout(name, "Result replaces the earlier " + app::FileName(path));
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (loader_.DisplayCopy().empty())
-        doors_.view.Clear();
+    if (outcome.page)
+        context_.page.ShowPicture(outcome.page->bitmap);
     else
-        doors_.view.ShowFile(loader_.DisplayCopy());
+        context_.page.Clear();
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];
-        doors_.rects.DrawRect(number, outcome.readings[k].rect,
+        context_.page.PutRect(number, outcome.readings[k].rect,
                               mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
-        doors_.rows.AddRow(number, mark.Name, mark.Checked ? "1" : "0");
+        context_.rows.PutRow(number, {mark.Name, mark.Checked ? "1" : "0"});
     }
-    doors_.view.Refresh();
+    context_.page.Refresh();
 }
 
 // A move that fails leaves image and results as they were before this file was taken.
 bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& outcome) {
     if (app::UpperCase(app::Extension(name)) == "XML" &&
-        doors_.files.FileExists(folders_.ProcessOut + name)) {
+        context_.files.FileExists(folders_.ProcessOut + name)) {
         LogAbout(name, "Stays in ProcessIn, since a result of that name lies in ProcessOut");
         return false;
     }
@@ -178,7 +178,7 @@ bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& ou
     try {
         if (!outcome.hasResult)
             outdated = RemoveOutdatedResult(name);
-        doors_.files.Move(folders_.ProcessIn + name, folders_.ProcessOut + name);
+        context_.files.Move(folders_.ProcessIn + name, folders_.ProcessOut + name);
         return true;
     } catch (const std::exception& error) {
         LogAbout(name, error.what());
@@ -195,42 +195,41 @@ bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& ou
 void ProcessRun::TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier) {
     const std::string path = ResultPath(folders_.ProcessOut, name);
     if (earlier)
-        doors_.files.Write(path, *earlier);
+        context_.files.Write(path, *earlier);
     else
-        doors_.files.Delete(path);
+        context_.files.Delete(path);
 }
 
 // An image without a result must not lie beside the marks of the image that it replaces.
 std::optional<app::Bytes> ProcessRun::RemoveOutdatedResult(const std::string& name) {
     const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (!doors_.files.FileExists(path) || ImageOfResult(doors_.files, path) != name)
+    if (!context_.files.FileExists(path) || ImageOfResult(context_.files, path) != name)
         return std::nullopt;
-    std::optional<app::Bytes> content = doors_.files.Read(path);
-    doors_.files.Delete(path);
+    std::optional<app::Bytes> content = context_.files.Read(path);
+    context_.files.Delete(path);
     LogAbout(name, "Replaces an earlier image, whose result " + app::FileName(path) + " is removed");
     return content;
 }
 
 void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
-    doors_.log.LogProcessEvent(name + ": " + what);
+    context_.log.LogProcessEvent(name + ": " + what);
 }
 
-void ProcessRun::Finish(double start, int lostLogLines) {
-    doors_.person.SetProgress(0);
-    const long seconds = std::lround(doors_.clock.Seconds() - start);
+void ProcessRun::Finish(double start) {
+    context_.person.SetProgress(0);
+    const long seconds = std::lround(context_.clock.Seconds() - start);
     if (stop_) {
-        doors_.log.LogProcessEvent("Processing interrupted by user", ShowInStatusBar::Yes);
-        doors_.person.ShowMessage("Stop Tavrene Process", "Process interrupted by user");
+        context_.log.LogProcessEvent("Processing interrupted by user", ShowInStatusBar::Yes);
+        context_.person.ShowMessage("Stop Tavrene Process", "Process interrupted by user");
     } else {
         LogAbout(currentName_, "Processing complete");
     }
     const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";
-    doors_.person.SetPanel(Panel::ElapsedTime, summary);
-    doors_.log.LogProcessEvent("Processed " + summary);
-    if (lostLogLines > 0)
-        doors_.person.ShowMessage("", std::to_string(lostLogLines) +
-                                          " lines could not be written to the process log in " +
-                                          folders_.Log);
+    context_.person.SetPanel(Panel::ElapsedTime, summary);
+    context_.log.LogProcessEvent("Processed " + summary);
+    if (const int lost = context_.log.TakeLostLines(); lost > 0)
+        context_.person.ShowMessage(
+            "", std::to_string(lost) + " lines could not be written to the process log in " + folders_.Log);
 }
 
 }  // namespace tavrene::recognition

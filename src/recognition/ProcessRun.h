@@ -11,9 +11,8 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/MarkReading.h"
@@ -21,13 +20,12 @@
 namespace tavrene::recognition {
 
 /// What a run needs of the world; everything must outlive it.
-struct RunDoors {
+struct RunContext {
     app::Files& files;
     app::ActivityLog& log;
     app::Operator& person;
     const app::Clock& clock;
-    imaging::PageView& view;
-    imaging::PageRects& rects;
+    imaging::PageScreen& page;
     profiles::BoxRows& rows;
 };
 
@@ -36,7 +34,7 @@ struct RunDoors {
 class ProcessRun {
   public:
     /// The settings are asked anew for every file; the folders are those of the window.
-    ProcessRun(const RunDoors& doors, const app::Settings& settings, const app::WorkingFolders& folders);
+    ProcessRun(const RunContext& context, const app::Settings& settings, const app::WorkingFolders& folders);
 
     /// False, after telling the operator why, when there is no profile to match images against.
     bool MayStart(std::span<const profiles::ProfileRecord> profiles);
@@ -67,12 +65,12 @@ class ProcessRun {
     void TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier);
     std::optional<app::Bytes> RemoveOutdatedResult(const std::string& name);
     void LogAbout(const std::string& name, const std::string& what);
-    void Finish(double start, int lostLogLines);
+    void Finish(double start);
 
-    RunDoors doors_;
+    RunContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
-    imaging::ImageLoader loader_;
+    imaging::ScratchImages scratch_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;

@@ -15,7 +15,8 @@ using profiles::OmrBox;
 using profiles::OpenProfile;
 using Boxes = std::vector<OmrBox>;
 
-// The sampled boxes carry the slope of the whole page; from a narrow base a small error grows this much.
+// The sampled boxes carry the slope of the whole page. A shift is found to within a pixel, so boxes that are
+// this many times as far apart as the sample are wrong by as much as the border that reading leaves out.
 constexpr int kLargestGrowth = 4;
 
 Boxes KeptBoxes(const OpenProfile& profile) {

@@ -5,7 +5,8 @@
 
 namespace tavrene::recognition {
 
-/// How far, in image pixels, a box is looked for around its expected place.
+/// How far, in image pixels, a box is looked for around its expected place: an eighth of an inch at 200 dpi,
+/// about what a feeder displaces. The search grows with its square, and so does the chance of a false match.
 inline constexpr int kMaxShift = 25;
 
 /// A displacement in the grid frame: `dx` columns to the right, `dy` rows up.

@@ -7,14 +7,14 @@
 namespace tavrene::review {
 namespace {
 
-using profiles::OmrBox;
+using profiles::PrintedBox;
 using recognition::BoxShift;
 using recognition::ResultMark;
 
 // The square of the distance between two boxes' middles, times four.
-long long Apart(const OmrBox& a, const OmrBox& b) {
+long long Apart(const PrintedBox& a, const PrintedBox& b) {
     const long long dx = a.L + a.R - b.L - b.R;
-    const long long dy = a.T + a.B - b.T - b.B;
+    const long long dy = a.lower + a.upper - b.lower - b.upper;
     return dx * dx + dy * dy;
 }
 
@@ -37,7 +37,7 @@ std::vector<std::optional<std::size_t>> MarksOfBoxes(const profiles::ProfileReco
     for (std::size_t k = 0; k < marks.size(); ++k)
         free[marks[k].Name].push_back(k);
     std::vector<std::optional<std::size_t>> found;
-    for (const OmrBox& box : profile.Boxes) {
+    for (const PrintedBox& box : profile.Boxes) {
         const auto entry = free.find(box.Name);
         if (entry == free.end() || entry->second.empty()) {
             found.emplace_back(std::nullopt);

@@ -1,55 +1,25 @@
 #include "review/FormReview.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstdio>
 #include <utility>
 
-#include "recognition/MarkReading.h"
-#include "review/BoxMatching.h"
+#include "recognition/PageLoading.h"
+#include "review/FormReading.h"
 
 namespace tavrene::review {
-namespace {
 
-using app::Panel;
-using imaging::RectStyle;
 using profiles::ProfileRecord;
-using recognition::BoxShift;
-using recognition::ResultMark;
 
-RectStyle StyleOf(const ResultMark& mark) {
-    return mark.Checked ? RectStyle::Checked : RectStyle::Unchecked;
-}
-
-const char* ValOf(const ResultMark& mark) {
-    return mark.Checked ? "1" : "0";
-}
-
-std::string InkText(const FormBox& box) {
-    if (!box.ink)
-        return {};
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.1f%%", *box.ink);
-    return text.data();
-}
-
-int CountChecked(const std::vector<ResultMark>& marks) {
-    return static_cast<int>(
-        std::count_if(marks.begin(), marks.end(), [](const ResultMark& mark) { return mark.Checked; }));
-}
-
-}  // namespace
-
-FormReview::FormReview(const ReviewDoors& doors, const app::Settings& settings,
+FormReview::FormReview(const ReviewContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders, const std::vector<ProfileRecord>& profiles,
                        ReviewList& list)
-    : doors_(doors),
+    : context_(context),
       settings_(settings),
       folders_(folders),
       profiles_(profiles),
       list_(list),
-      loader_(doors.files, doors.log, doors.person, folders.Temp) {}
+      screen_(context),
+      scratch_(context.files, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     const auto found = std::find_if(profiles_.begin(), profiles_.end(),
@@ -59,18 +29,17 @@ const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
 
 void FormReview::Open(const std::string& document) {
     form_.reset();
-    ClearBoxes();
-    doors_.person.SetPanel(Panel::Message, "");
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
+    screen_.ClearBoxes();
+    screen_.ClearPanels();
     try {
         OpenForm form;
         form.Name = app::BaseName(document);
         form.Document = document;
-        form.Result = recognition::ResultDocument::Load(doors_.files, folders_.ProcessOut + document);
+        form.Result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
         if (Prepare(form)) {
             form_ = std::move(form);
-            doors_.choice.SetChoice(form_->Profile.Name);
-            ShowState(*form_);
+            context_.choice.SetChoice(form_->Profile.Name);
+            screen_.ShowState(*form_);
         } else {
             TakeOffScreen();
         }
@@ -83,17 +52,17 @@ void FormReview::Open(const std::string& document) {
 // False when the opening ends here.
 bool FormReview::Prepare(OpenForm& form) {
     const std::string image = form.Result.Image();
-    if (!doors_.files.FileExists(folders_.ProcessOut + image)) {
-        doors_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
+    if (!context_.files.FileExists(folders_.ProcessOut + image)) {
+        context_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
         return false;
     }
     ShowImage(image);
     const std::string profileName = form.Result.Profile();
     const ProfileRecord* const profile = FindProfile(profileName);
     if (profile == nullptr) {
-        if (doors_.person.AskYesNo("The profile " + profileName +
-                                   " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
-                                   "ProcessIn Dir...") == app::Answer::Yes)
+        if (context_.person.AskYesNo("The profile " + profileName +
+                                     " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
+                                     "ProcessIn Dir...") == app::Answer::Yes)
             SendBack(form);
         return false;
     }
@@ -101,21 +70,20 @@ bool FormReview::Prepare(OpenForm& form) {
     form.SavedProfile = profileName;
     form.Opened = form.Result.Marks();
     form.Marks = form.Opened;
-    form.CheckedCount = CountChecked(form.Marks);
-    Measure(form);
-    DrawBoxes(form);
+    MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
+    screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
 }
 
 bool FormReview::SettleDifferences(OpenForm& form) {
     switch (
-        doors_.person.AskYesNoCancel("The profile has changed. Re-evaluate using the new profile?\n"
-                                     "Selecting No would keep the same profile but skip the modified "
-                                     "fields.")) {
+        context_.person.AskYesNoCancel("The profile has changed. Re-evaluate using the new profile?\n"
+                                       "Selecting No would keep the same profile but skip the modified "
+                                       "fields.")) {
         case app::Answer::Yes:
             return ReadAnew(form, ProfileRecord(form.Profile));
         case app::Answer::No:
-            DrawSkipped(form);
+            screen_.ShowSkipped(form);
             return true;
         case app::Answer::Cancel:
             break;
@@ -125,122 +93,51 @@ bool FormReview::SettleDifferences(OpenForm& form) {
 
 void FormReview::ShowImage(const std::string& image) {
     const std::string path = folders_.ProcessOut + image;
-    hasPage_ = loader_.LoadImage(path);
-    if (!hasPage_)
-        doors_.view.Clear();
-    else if (app::UpperCase(app::Extension(image)) == "PNG")
-        doors_.view.ShowFile(CopyForView(path));
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    const std::string type = app::UpperCase(app::Extension(image));
+    if (type == "PNG" && page_)
+        LogFailure(path, scratch_.WriteConverted(*page_));
+    if (!page_)
+        context_.page.Clear();
+    else if (type == "PNG" || type == "TIF")
+        context_.page.ShowPicture(page_->bitmap);
     else
-        doors_.view.ShowFile(path);
+        context_.page.ShowFile(path);  // with the greys and colours that the page in memory has lost
 }
 
-// PNG images are shown as the TIFF that is made of them; as they are where that cannot be written.
-std::string FormReview::CopyForView(const std::string& path) {
-    std::string copy = folders_.Temp + "temp.tif";
-    try {
-        doors_.files.Write(copy, imaging::EncodeGroup4Tiff(loader_.CurrentPage().bitmap),
-                           app::Keep::AsScratch);
-    } catch (const app::FileError&) {
-        return path;
-    }
-    return copy;
+void FormReview::LogFailure(const std::string& image, const std::string& failure) {
+    if (!failure.empty())
+        context_.log.LogProcessEvent(app::FileName(image) + ": " + failure);
 }
 
 void FormReview::SendBack(const OpenForm& form) {
     const std::string image = form.Result.Image();
     const std::string waiting = folders_.ProcessIn + image;
-    const bool replaces = doors_.files.FileExists(waiting);
-    doors_.files.Move(folders_.ProcessOut + image, waiting);
+    const bool replaces = context_.files.FileExists(waiting);
+    context_.files.Move(folders_.ProcessOut + image, waiting);
     if (replaces)
-        doors_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
-    doors_.files.Delete(folders_.ProcessOut + form.Document);
+        context_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
+    context_.files.Delete(folders_.ProcessOut + form.Document);
     list_.Remove(form.Document);
     list_.ShowCounts();
 }
 
-// Reads all boxes of `profile` at the shifts of the document as it was opened, and rewrites the document.
-// What was read against another profile in between may have lost them. False when there is no page to read;
-// the form changes only when all is done.
+// Rewrites the document. False when there is no page to read; the form changes only when all is done.
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
-    if (!hasPage_)
+    if (!page_)
         return false;
-    const std::vector<BoxShift> shifts = ShiftsOfBoxes(profile, form.Opened);
-    const std::vector<recognition::MarkReading> readings =
-        ReadMarks(loader_.CurrentPage(), profile, shifts, settings_.FillThreshold);
-    recognition::ResultDocument rewritten = form.Result.Clone();
-    rewritten.Rewrite(profile.Name, readings);
-    rewritten.Save(doors_.files, folders_.ProcessOut + form.Document);
-    form.Result = std::move(rewritten);
-    form.Profile = profile;
-    form.Marks = form.Result.Marks();
-    form.CheckedCount = CountChecked(form.Marks);
-    form.SkippedRects.clear();
-    form.Skipped = 0;
-    form.Boxes.clear();
-    for (const recognition::MarkReading& reading : readings)
-        form.Boxes.push_back(Measured(reading.rect, reading.fill));
-    DrawBoxes(form);
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
+    read.Result.Save(context_.files, folders_.ProcessOut + form.Document);
+    form = std::move(read);
+    screen_.ShowBoxes(form);
     list_.Change(form.Document, form.Result.IsReviewed(), form.Result.Confidence());
     list_.ShowCounts();
     return true;
 }
 
-// Finds place and ink of every box that both document and profile have, and the boxes that only the profile
-// has.
-void FormReview::Measure(OpenForm& form) const {
-    form.Boxes.assign(form.Marks.size(), {});
-    const std::vector<BoxShift> shifts = ShiftsOfBoxes(form.Profile, form.Marks);
-    const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Marks);
-    for (std::size_t k = 0; k < marks.size(); ++k) {
-        form.Skipped += marks[k] ? 0 : 1;
-        if (!hasPage_)
-            continue;
-        const recognition::BoxMeasure measure = MeasureBox(loader_.CurrentPage(), form.Profile, k, shifts[k]);
-        if (marks[k])
-            form.Boxes[*marks[k]] = Measured(measure.rect, measure.fill);
-        else
-            form.SkippedRects.push_back(measure.rect);
-    }
-}
-
-// Within a third of the threshold.
-FormBox FormReview::Measured(const imaging::PageRect& rect, std::optional<double> ink) const {
-    const double threshold = settings_.FillThreshold;
-    return {rect, ink, ink && std::abs(*ink - threshold) * 3 <= threshold};
-}
-
-void FormReview::DrawBoxes(const OpenForm& form) {
-    ClearBoxes();
-    doors_.rows.AddValColumn();
-    doors_.inkRows.AddInkColumn();
-    for (std::size_t k = 0; k < form.Marks.size(); ++k) {
-        const int number = static_cast<int>(k) + 1;
-        const FormBox& box = form.Boxes[k];
-        doors_.rows.AddRow(number, form.Marks[k].Name, ValOf(form.Marks[k]));
-        doors_.inkRows.SetInk(number, InkText(box), box.isDoubtful);
-        if (box.rect)
-            doors_.rects.DrawRect(number, *box.rect, StyleOf(form.Marks[k]));
-    }
-}
-
-// Their groups follow those of the rows, so that no row answers for them.
-void FormReview::DrawSkipped(const OpenForm& form) {
-    int group = static_cast<int>(form.Marks.size());
-    for (const imaging::PageRect& rect : form.SkippedRects)
-        doors_.rects.DrawRect(++group, rect, RectStyle::Skipped);
-}
-
-void FormReview::ClearBoxes() {
-    doors_.rects.ClearRects();
-    doors_.rows.ClearRows();
-    doors_.rows.RemoveExtraColumns();
-}
-
 void FormReview::TakeOffScreen() {
-    hasPage_ = false;
-    doors_.view.Clear();
-    ClearBoxes();
-    doors_.choice.SetChoice("");
+    page_.reset();
+    screen_.Clear();
 }
 
 void FormReview::Close() {
@@ -248,31 +145,16 @@ void FormReview::Close() {
         return;
     form_.reset();
     TakeOffScreen();
-    doors_.person.SetPanel(Panel::Message, "");
-    doors_.person.SetPanel(Panel::ElapsedTime, "");
-}
-
-void FormReview::ShowState(const OpenForm& form) {
-    doors_.person.SetPanel(Panel::Message,
-                           "Image [" + form.Result.Image() + "], Profile [" + form.Profile.Name + "]");
-    const std::string count = std::to_string(form.Profile.Boxes.size());
-    doors_.person.SetPanel(Panel::ElapsedTime, form.Skipped == 0
-                                                   ? "OMRs:" + count
-                                                   : "Checked:" + std::to_string(form.CheckedCount) + " of " +
-                                                         count + " Skip:" + std::to_string(form.Skipped));
+    screen_.ClearPanels();
 }
 
 void FormReview::FlipBox(int number) {
     if (!form_ || number < 1 || static_cast<std::size_t>(number) > form_->Marks.size())
         return;
-    ResultMark& mark = form_->Marks[static_cast<std::size_t>(number) - 1];
-    mark.Checked = !mark.Checked;
-    doors_.inkRows.SetVal(number, ValOf(mark));
-    doors_.changingRects.ChangeRects(number, StyleOf(mark));
-    form_->CheckedCount += mark.Checked ? 1 : -1;
+    bool& isChecked = form_->Marks[static_cast<std::size_t>(number) - 1].Checked;
+    isChecked = !isChecked;
     form_->Changed = true;
-    doors_.person.SetPanel(Panel::ElapsedTime, "Checked:" + std::to_string(form_->CheckedCount) + " of " +
-                                                   std::to_string(form_->Marks.size()));
+    screen_.ShowMark(*form_, number);
 }
 
 void FormReview::ReadAgainst(const std::string& profileName) {
@@ -281,17 +163,25 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        hasPage_ = profile != nullptr && loader_.LoadImageForProcessing(folders_.ProcessOut + image);
+        if (profile != nullptr)
+            LoadForProcessing(folders_.ProcessOut + image);
         if (profile != nullptr && ReadAnew(*form_, *profile)) {
             form_->Changed = true;
-            ShowState(*form_);
-            doors_.person.SetPanel(Panel::Message, image + " [" + profileName + "]");
+            screen_.ShowState(*form_);
+            context_.person.SetPanel(app::Panel::Message, image + " [" + profileName + "]");
         }
     } catch (...) {
-        doors_.choice.SetChoice(form_->Profile.Name);
+        context_.choice.SetChoice(form_->Profile.Name);
         throw;
     }
-    doors_.choice.SetChoice(form_->Profile.Name);
+    context_.choice.SetChoice(form_->Profile.Name);
+}
+
+// As a run loads it, with the display copies.
+void FormReview::LoadForProcessing(const std::string& path) {
+    page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
+    if (page_)
+        LogFailure(path, scratch_.WritePage(*page_));
 }
 
 int FormReview::NextDoubtful(int number) const {

@@ -6,8 +6,9 @@
 
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
-#include "imaging/ImageLoader.h"
+#include "imaging/ScratchImages.h"
 #include "profiles/ProfileRecord.h"
+#include "review/FormScreen.h"
 #include "review/OpenForm.h"
 #include "review/ReviewList.h"
 #include "review/ReviewScreen.h"
@@ -19,11 +20,13 @@ namespace tavrene::review {
 class FormReview {
   public:
     /// Everything must outlive the object. `profiles` are the loaded ones, whatever they are at the time.
-    FormReview(const ReviewDoors& doors, const app::Settings& settings, const app::WorkingFolders& folders,
-               const std::vector<profiles::ProfileRecord>& profiles, ReviewList& list);
+    FormReview(const ReviewContext& context, const app::Settings& settings,
+               const app::WorkingFolders& folders, const std::vector<profiles::ProfileRecord>& profiles,
+               ReviewList& list);
 
     /// The open form; none between forms.
     OpenForm* Form() { return form_ ? &*form_ : nullptr; }
+    const OpenForm* Form() const { return form_ ? &*form_ : nullptr; }
 
     /// Opens the form of a document of `ProcessOut` (file name) instead of the open one. No form is open
     /// afterwards when its image or profile is gone, the person does not want it so, or something cannot be
@@ -50,25 +53,20 @@ class FormReview {
     bool Prepare(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
-    std::string CopyForView(const std::string& path);
+    void LoadForProcessing(const std::string& path);
+    void LogFailure(const std::string& image, const std::string& failure);
     void SendBack(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
-    void Measure(OpenForm& form) const;
-    FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink) const;
-    void DrawBoxes(const OpenForm& form);
-    void DrawSkipped(const OpenForm& form);
-    void ClearBoxes();
     void TakeOffScreen();
-    void ShowState(const OpenForm& form);
-    void ShowChecked(const OpenForm& form);
 
-    ReviewDoors doors_;
+    ReviewContext context_;
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;
     ReviewList& list_;
-    imaging::ImageLoader loader_;
-    bool hasPage_ = false;  // the loader holds the form's page
+    FormScreen screen_;
+    imaging::ScratchImages scratch_;
+    std::optional<imaging::Page> page_;
     std::optional<OpenForm> form_;
 };
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "imaging/PageRects.h"
+#include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ResultDocument.h"
 
@@ -36,7 +36,6 @@ struct OpenForm {
     std::vector<imaging::PageRect> SkippedRects;
     int Skipped = 0;
 
-    int CheckedCount = 0;
     bool Changed = false;  ///< A mark or the profile was altered and is not saved.
 };
 

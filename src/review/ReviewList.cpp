@@ -8,30 +8,30 @@
 
 namespace tavrene::review {
 
-ReviewList::ReviewList(const ReviewDoors& doors, const app::WorkingFolders& folders)
-    : doors_(doors), folders_(folders) {}
+ReviewList::ReviewList(const ReviewContext& context, const app::WorkingFolders& folders)
+    : context_(context), folders_(folders) {}
 
 void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     std::vector<std::string> names;
     for (const profiles::ProfileRecord& profile : profiles)
         names.push_back(profile.Name);
-    doors_.choice.ShowProfiles(names);
+    context_.choice.ShowProfiles(names);
     lines_.clear();
     reviewed_ = 0;
     missing_ = 0;
-    doors_.lines.ShowLines({});
+    context_.lines.ShowLines({});
     ShowCounts();
     ReadLines();
-    doors_.lines.ShowLines(lines_);
+    context_.lines.ShowLines(lines_);
     if (missing_ > 0)
-        doors_.person.SetPanel(app::Panel::Message,
-                               "Warning: Images referred in <" + std::to_string(missing_) +
-                                   "> Forms were missing and hence not loaded. Please refer process log.");
+        context_.person.SetPanel(app::Panel::Message,
+                                 "Warning: Images referred in <" + std::to_string(missing_) +
+                                     "> Forms were missing and hence not loaded. Please refer process log.");
     ShowCounts();
 }
 
 void ReviewList::ReadLines() {
-    for (const std::string& document : doors_.files.List(folders_.ProcessOut, "*.xml")) {
+    for (const std::string& document : context_.files.List(folders_.ProcessOut, "*.xml")) {
         try {
             std::optional<ReviewLine> line = ReadLine(document);
             if (!line)
@@ -39,17 +39,17 @@ void ReviewList::ReadLines() {
             reviewed_ += line->Reviewed ? 1 : 0;
             lines_.push_back(*std::move(line));
         } catch (const std::exception& error) {
-            doors_.log.LogProcessEvent(std::string("Review: Form left out: ") + error.what());
+            context_.log.LogProcessEvent(std::string("Review: Form left out: ") + error.what());
         }
     }
 }
 
 std::optional<ReviewLine> ReviewList::ReadLine(const std::string& document) {
-    const auto result = recognition::ResultDocument::Load(doors_.files, folders_.ProcessOut + document);
+    const auto result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
     const std::string image = folders_.ProcessOut + result.Image();
-    if (!doors_.files.FileExists(image)) {
+    if (!context_.files.FileExists(image)) {
         ++missing_;
-        doors_.log.LogProcessEvent("Review: Image <" + image + "> does not exist.");
+        context_.log.LogProcessEvent("Review: Image <" + image + "> does not exist.");
         return std::nullopt;
     }
     return ReviewLine{app::BaseName(document), document, result.IsReviewed(), result.Confidence()};
@@ -73,7 +73,7 @@ void ReviewList::Change(const std::string& document, bool reviewed, const std::s
     reviewed_ -= line.Reviewed ? 1 : 0;
     line.Reviewed = reviewed;
     line.Confidence = confidence;
-    doors_.lines.ChangeLine(*index, line);
+    context_.lines.ChangeLine(*index, line);
 }
 
 void ReviewList::Remove(const std::string& document) {
@@ -82,12 +82,12 @@ void ReviewList::Remove(const std::string& document) {
         return;
     reviewed_ -= lines_[*index].Reviewed ? 1 : 0;
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*index));
-    doors_.lines.RemoveLine(*index);
+    context_.lines.RemoveLine(*index);
 }
 
 void ReviewList::ShowCounts() const {
-    doors_.person.SetPanel(app::Panel::File,
-                           "Reviewed: " + std::to_string(reviewed_) + " of " + std::to_string(lines_.size()));
+    context_.person.SetPanel(
+        app::Panel::File, "Reviewed: " + std::to_string(reviewed_) + " of " + std::to_string(lines_.size()));
 }
 
 }  // namespace tavrene::review

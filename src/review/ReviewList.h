@@ -17,7 +17,7 @@ namespace tavrene::review {
 class ReviewList {
   public:
     /// Everything must outlive the list.
-    ReviewList(const ReviewDoors& doors, const app::WorkingFolders& folders);
+    ReviewList(const ReviewContext& context, const app::WorkingFolders& folders);
 
     /// Reads the folder anew, and offers the profiles for choice. Documents that are damaged or whose image
     /// is gone are logged and left out. Throws `app::FileError` when the folder cannot be listed; the list is
@@ -40,7 +40,7 @@ class ReviewList {
     std::optional<ReviewLine> ReadLine(const std::string& document);
     void ReadLines();
 
-    ReviewDoors doors_;
+    ReviewContext context_;
     const app::WorkingFolders& folders_;
     std::vector<ReviewLine> lines_;
     int reviewed_ = 0;

@@ -8,8 +8,7 @@
 #include "app/ActivityLog.h"
 #include "app/Files.h"
 #include "app/Operator.h"
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
 
 namespace tavrene::review {
@@ -48,44 +47,13 @@ class ProfileChoice {
     virtual void SetChoice(std::string_view name) = 0;
 };
 
-/// What review needs of the box list beside its rows. Rows are named by their number, from 1.
-class ReviewRows {
-  public:
-    virtual ~ReviewRows() = default;
-
-    /// A read-only column behind "Val", titled "Ink"; gone with the other extra columns.
-    virtual void AddInkColumn() = 0;
-
-    /// The ink of a row, empty where it is not known; a doubtful row stands out.
-    virtual void SetInk(int number, std::string_view ink, bool doubtful) = 0;
-    virtual void SetVal(int number, std::string_view value) = 0;
-
-    /// Makes it the current row and scrolls it into view; flips nothing.
-    virtual void SelectRow(int number) = 0;
-};
-
-/// What review needs of the drawn boxes beside drawing them.
-class ReviewRects {
-  public:
-    virtual ~ReviewRects() = default;
-
-    /// Redraws the rectangles of a group in another style.
-    virtual void ChangeRects(int group, imaging::RectStyle style) = 0;
-
-    /// Brings the rectangles of a group into view and makes them the only ones that stand out.
-    virtual void EmphasiseRects(int group) = 0;
-};
-
 /// What review needs of the world; everything must outlive it.
-struct ReviewDoors {
+struct ReviewContext {
     app::Files& files;
     app::ActivityLog& log;
     app::Operator& person;
-    imaging::PageView& view;
-    imaging::PageRects& rects;
-    ReviewRects& changingRects;
+    imaging::PageScreen& page;
     profiles::BoxRows& rows;
-    ReviewRows& inkRows;
     ReviewLines& lines;
     ProfileChoice& choice;
 };

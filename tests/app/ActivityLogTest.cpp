@@ -27,14 +27,13 @@ TEST_F(ActivityLogTest, WritesTheCodePageOfItsReaders) {
               "e \x96 5 \x80 ? ? ??\r\n");
 }
 
-TEST_F(ActivityLogTest, PassesFailuresOnUnlessTheyAreTolerated) {
+TEST_F(ActivityLogTest, CountsTheLinesThatAreLost) {
     files_.refuse = [](const std::string&, const std::string&) { return true; };
-    {
-        ToleratedLogFailures tolerated(log_);
-        log_.LogProcessEvent("lost");
-        EXPECT_EQ(tolerated.TakeLostLines(), 1);
-    }
-    EXPECT_THROW(log_.LogProfileEvent("lost"), FileError);
+    log_.LogProcessEvent("lost", ShowInStatusBar::Yes);
+    log_.LogProfileEvent("lost");
+    EXPECT_EQ(transcript_.Lines(), (std::vector<std::string>{"panel Message: lost"}));
+    EXPECT_EQ(log_.TakeLostLines(), 2);
+    EXPECT_EQ(log_.TakeLostLines(), 0);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "boxes/BoxScore.h"
+#include "support/SourceFolder.h"
 
 namespace tavrene::test {
 namespace {
@@ -20,7 +21,7 @@ struct LedgerLine {
 
 std::map<std::string, LedgerLine> ReadLedger() {
     std::map<std::string, LedgerLine> ledger;
-    std::ifstream file(TAVRENE_SOURCE_DIR "/tests/boxes/ledger.tsv");
+    std::ifstream file(test::SourceFolder() + "/tests/boxes/ledger.tsv");
     for (std::string text; std::getline(file, text);) {
         if (text.empty() || text.front() == '#')
             continue;

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "imaging/ImageHeader.h"
-#include "imaging/ImageLoader.h"
 #include "imaging/PageReader.h"
+#include "imaging/ScratchImages.h"
 #include "painter/ImageFiles.h"
 #include "support/RunWorld.h"
 
@@ -27,7 +27,7 @@ class PageReaderTest : public test::RunWorld {
         samples::SaveImage(picture, FormatOfExtension(name).value(), work_.File(name), quality);
     }
 
-    std::variant<Page, PageFault> Read(const std::string& name) {
+    std::variant<Page, PageError> Read(const std::string& name) {
         return ReadPage(files_, work_.File(name), FormatOfExtension(name).value());
     }
 
@@ -44,8 +44,8 @@ class PageReaderTest : public test::RunWorld {
         return page;
     }
 
-    void Expect(const std::string& name, PageFault fault) {
-        EXPECT_EQ(std::get<PageFault>(Read(name)), fault) << name;
+    void Expect(const std::string& name, PageError fault) {
+        EXPECT_EQ(std::get<PageError>(Read(name)), fault) << name;
     }
 
     // A one-bit picture with a two-entry palette of its own.
@@ -152,8 +152,8 @@ TEST_F(PageReaderTest, KnowsNoResolutionWhereTheFileCarriesNone) {
 TEST_F(PageReaderTest, RefusesPagesBeyondTheNumberRange) {
     Save(samples::ToBilevel({32'768, 2, 200}), "wide.tif");
     Save(samples::ToBilevel({2, 32'768, 200}), "tall.tif");
-    Expect("wide.tif", PageFault::NotABitmap);
-    Expect("tall.tif", PageFault::NotABitmap);
+    Expect("wide.tif", PageError::NotABitmap);
+    Expect("tall.tif", PageError::NotABitmap);
 }
 
 std::string BigEndian(unsigned value) {
@@ -194,8 +194,8 @@ TEST_F(PageReaderTest, RefusesEveryTruncatedFile) {
         const std::string whole = test::ReadText(work_.File(name));
         for (std::size_t length = 0; length < whole.size(); length += 7) {
             test::WriteText(work_.File(name), whole.substr(0, length));
-            const std::variant<Page, PageFault> read = Read(name);
-            EXPECT_TRUE(std::holds_alternative<PageFault>(read)) << name << " cut at " << length;
+            const std::variant<Page, PageError> read = Read(name);
+            EXPECT_TRUE(std::holds_alternative<PageError>(read)) << name << " cut at " << length;
         }
     }
 }
@@ -209,28 +209,32 @@ TEST_F(PageReaderTest, RefusesAFaxWithBrokenLines) {
     for (std::size_t k = fax.size() / 2; k < fax.size() / 2 + 40; ++k)
         fax[k] = static_cast<char>(fax[k] ^ 0x5A);
     test::WriteText(work_.File("fax.tif"), fax);
-    Expect("fax.tif", PageFault::NotABitmap);
+    Expect("fax.tif", PageError::NotABitmap);
 }
 
-TEST_F(PageReaderTest, TheLoaderKeepsDisplayCopiesOfTheCurrentImageOnly) {
-    ImageLoader loader(files_, log_, person_, work_.Path() + "/");
+TEST_F(PageReaderTest, ScratchImagesAreOfTheCurrentPageOnly) {
+    ScratchImages scratch(files_, work_.Path() + "/");
     Save(samples::ToBilevel(picture_, Photometric::MinIsBlack), "scan.tif");
     Save(samples::ToBilevel(Canvas(50, 50, 200)), "blank.tif");
-    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("scan.tif")));
-    EXPECT_EQ(loader.DisplayCopy(), work_.File("temp2.tif"));
+    EXPECT_EQ(scratch.WritePage(std::get<Page>(Read("scan.tif"))), "");
     const Page shown = Expect("temp2.tif");
     EXPECT_FALSE(shown.inverted);
     EXPECT_FALSE(Expect("temp.tif").inverted);
 
     files_.Delete(work_.File("temp.tif"));
-    ASSERT_TRUE(loader.LoadImageForProcessing(work_.File("blank.tif")));
+    scratch.WritePage(std::get<Page>(Read("blank.tif")));
     EXPECT_EQ(std::get<Page>(Read("temp2.tif")).grid.Width(), 50);
     EXPECT_FALSE(files_.FileExists(work_.File("temp.tif")));
 
-    EXPECT_FALSE(loader.LoadImageForProcessing(work_.File("form.tiff")));
-    EXPECT_EQ(loader.DisplayCopy(), "");
-    EXPECT_TRUE(transcript_.Lines().empty());
-    EXPECT_EQ(ProcessLog(), std::vector<std::string>{"form.tiff: Unrecognized File type"});
+    ScratchImages nowhere(files_, work_.Path() + "/gone/");
+    const std::string failure = nowhere.WriteConverted(shown);
+    EXPECT_NE(failure.find("gone/temp.tif"), std::string::npos) << failure;
+}
+
+TEST_F(PageReaderTest, FourLettersAreNoFileType) {
+    const auto read = ReadPage(files_, work_.File("form.tiff"));
+    ASSERT_EQ(std::get<PageError>(read), PageError::UnknownType);
+    EXPECT_EQ(ReasonOf(PageError::UnknownType), "Unrecognized File type");
 }
 
 }  // namespace

@@ -1,10 +1,11 @@
+#include "FakeStrip.h"
 #include "profiles/BoxEditor.h"
-#include "support/FakeDesk.h"
 #include "support/RunWorld.h"
 
 namespace tavrene::profiles {
 namespace {
 
+using imaging::BoxTool;
 using test::TestForm;
 
 class BoxEditorTest : public test::RunWorld {
@@ -21,12 +22,12 @@ class BoxEditorTest : public test::RunWorld {
     }
 
     void Draw(double left, double top, double width, double height) {
-        editor_.RectSelected({desk_.nextGroup, left, top, width, height});
+        editor_.RectSelected({screen_.nextGroup, left, top, width, height});
     }
 
     // The row holds the new label before the editor hears of it.
     void Rename(int number, const std::string& name) {
-        desk_.rows[number] = name;
+        screen_.rows[number] = name;
         editor_.RowRenamed(number, name);
     }
 
@@ -41,9 +42,9 @@ class BoxEditorTest : public test::RunWorld {
         return {Box(number).L, Box(number).T, Box(number).R, Box(number).B};
     }
 
-    test::FakeDesk desk_;
+    test::FakeStrip strip_;
     OpenProfile profile_;
-    BoxEditor editor_{profile_, person_, {screen_, screen_, desk_, desk_, desk_}};
+    BoxEditor editor_{profile_, person_, {screen_, screen_, strip_}};
 };
 
 TEST_F(BoxEditorTest, BuildsBothViewsAndPaintsBoxesOnePixelShort) {
@@ -51,9 +52,9 @@ TEST_F(BoxEditorTest, BuildsBothViewsAndPaintsBoxesOnePixelShort) {
     boxes[1].Name.clear();
     transcript_.Clear();
     Open(boxes);
-    EXPECT_EQ(desk_.rows.at(1) + desk_.rows.at(2), "Q1Un-named-2");
-    EXPECT_EQ(desk_.rows.size(), 120U);
-    EXPECT_EQ(PaintedPart(desk_.boxes.at(2)), (imaging::PageRect{114, 70, 24, 23}));
+    EXPECT_EQ(screen_.rows.at(1) + screen_.rows.at(2), "Q1Un-named-2");
+    EXPECT_EQ(screen_.rows.size(), 120U);
+    EXPECT_EQ(imaging::PaintedPart(screen_.rects.at(2)), (imaging::PageRect{114, 70, 24, 23}));
     EXPECT_EQ(profile_.NextBoxId, 121);
     EXPECT_EQ(transcript_.LinesOf("range: "), std::vector<std::string>{"120"});
     EXPECT_EQ(transcript_.LinesOf("progress: ").at(119), "120");
@@ -64,7 +65,7 @@ TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
     editor_.RectMoved(2);
     editor_.RectSelected({2, 10, 20, 15, 12});
     EXPECT_EQ(Place(2), (std::vector<int>{20, 40, 50, 64}));
-    desk_.scroll = {100, 7};
+    screen_.scroll = {100, 7};
     screen_.SetZoom(200);
     editor_.RectSelected({3, -90, 1, 25, 20});  // 5, 4, 17.5, 14: halves go to the even neighbour
     EXPECT_EQ(Place(3), (std::vector<int>{5, 4, 18, 14}));
@@ -76,22 +77,22 @@ TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
     Draw(10, 20, 15, 12);  // not with the selecting tool
     editor_.SetTool(BoxTool::Add);
     Draw(10, 20, 0, 0);
-    editor_.SetMayStore([] { return false; });  // the view serves another activity
+    profile_.IsOpen = false;  // a run has closed it
     editor_.RectSelected({2, 10, 20, 15, 12});
     editor_.Nudge(1, 1);
     EXPECT_EQ(profile_.BoxList, before);
-    EXPECT_EQ(desk_.selectedRow, 2);
+    EXPECT_EQ(screen_.selectedRow, 2);
 }
 
 TEST_F(BoxEditorTest, DeletingTheLastBoxMakesTheFirstCurrent) {
     Delete(6);
     editor_.RowClicked(6);  // gone
     EXPECT_EQ(profile_.CurrentBox, 1);
-    EXPECT_EQ(desk_.selectedBox, 1);
+    EXPECT_EQ(screen_.emphasised, 1);
     for (int k = 0; k < 6; ++k)
         editor_.DeleteBox();
     EXPECT_EQ(profile_.Count + profile_.CurrentBox, 0);
-    EXPECT_TRUE(desk_.rows.empty());
+    EXPECT_TRUE(screen_.rows.empty());
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }
 
@@ -101,7 +102,7 @@ TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxOnThePage) {
     editor_.RowClicked(1);
     editor_.Nudge(-10, 1);
     EXPECT_EQ(Place(1), (std::vector<int>{50, 71, 74, 95}));
-    EXPECT_EQ(desk_.boxes.at(1), (imaging::PageRect{50, 71, 24, 24}));
+    EXPECT_EQ(screen_.rects.at(1), (imaging::PageRect{50, 71, 24, 24}));
     profile_.ImageWidth = 100;
     profile_.ImageHeight = 200;
     editor_.Nudge(50, -100);
@@ -118,12 +119,12 @@ TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxOnThePage) {
 
 TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {
     const auto state = [this] {
-        EXPECT_EQ(desk_.nextGroup, profile_.NextBoxId);
-        EXPECT_EQ(desk_.boxes.size(), desk_.rows.size());
-        for (const auto& [number, place] : desk_.boxes)
+        EXPECT_EQ(screen_.nextGroup, profile_.NextBoxId);
+        EXPECT_EQ(screen_.rects.size(), screen_.rows.size());
+        for (const auto& [number, place] : screen_.rects)
             EXPECT_EQ(std::tuple(place.left, place.top, place.left + place.width, place.top + place.height),
                       std::tuple(Box(number).L, Box(number).T, Box(number).R, Box(number).B));
-        return std::tuple(desk_.rows, profile_.BoxList, profile_.Count, profile_.NextBoxId,
+        return std::tuple(screen_.rows, profile_.BoxList, profile_.Count, profile_.NextBoxId,
                           profile_.ProfileChanged);
     };
     editor_.SetTool(BoxTool::Add);
@@ -142,7 +143,7 @@ TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {
         states.push_back(state());
     }
     EXPECT_EQ(std::get<2>(states.back()), 5);
-    EXPECT_FALSE(desk_.rows.contains(7)) << "what was drawn is current";
+    EXPECT_FALSE(screen_.rows.contains(7)) << "what was drawn is current";
     const auto isSame = [](auto a, auto b) {
         std::get<0>(a)[1] = std::get<0>(b)[1] = "";  // an empty name is shown by its number afterwards
         return a == b;

@@ -104,12 +104,12 @@ TEST_F(ProfileDocumentTest, LoadsProfilesInListingOrderForRecognition) {
     EXPECT_EQ(loaded[2].Boxes.size(), 3U);
     EXPECT_EQ(loaded[2].Boxes[1].Name, "");
     for (const ProfileRecord& profile : loaded) {
-        EXPECT_EQ(profile.Boxes[0].T, 94);
-        EXPECT_EQ(profile.Boxes[0].B, 70);
-        EXPECT_EQ(profile.Boxes[0].ExpectedOutline, 2 * (24 + 24) - 4);
+        EXPECT_EQ(profile.Boxes[0].lower, 94);
+        EXPECT_EQ(profile.Boxes[0].upper, 70);
+        EXPECT_EQ(profile.Boxes[0].expectedOutline, 2 * (24 + 24) - 4);
     }
     const auto& extent = loaded[0].Extent;
-    EXPECT_EQ(std::tie(extent.L, extent.T, extent.R, extent.B), std::tuple(60, 94, 138, 124));
+    EXPECT_EQ(std::tie(extent.L, extent.lower, extent.R, extent.upper), std::tuple(60, 94, 138, 124));
     EXPECT_EQ(person_.PanelText(app::Panel::File), "Profiles:3, Active:1");
     EXPECT_EQ(transcript_.LinesOf("panel Message: "),
               (std::vector<std::string>{"Loading profile " + folders_.Profiles + "Alpha.Tvp",

@@ -1,7 +1,9 @@
+#include <gtest/gtest.h>
+
 #include "app/Numeric.h"
 #include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
-#include "support/RunWorld.h"
+#include "support/TestForm.h"
 
 namespace tavrene::recognition {
 namespace {
@@ -9,15 +11,16 @@ namespace {
 using profiles::ProfileRecord;
 using test::TestForm;
 
-class ClassificationTest : public test::RunWorld {
+class ClassificationTest : public ::testing::Test {
   protected:
     Classification Classify(const imaging::Page& page, const std::vector<ProfileRecord>& profiles) {
-        return ClassifyImage("scan.tif", page, profiles, log_);
+        Classification result = ClassifyImage(page, profiles);
+        line_ = ClassificationLine("scan.tif", result, profiles);
+        return result;
     }
 
-    std::string LastLogLine() const { return ProcessLog().back(); }
-
     TestForm form_ = TestForm::Grid(4, 3);
+    std::string line_;
 };
 
 TEST_F(ClassificationTest, FindsTheFormWhereverItLiesWithinReach) {
@@ -26,15 +29,15 @@ TEST_F(ClassificationTest, FindsTheFormWhereverItLiesWithinReach) {
         ASSERT_EQ(result.winner, 0) << dx << "," << dy;
         EXPECT_EQ(result.matches[0].Confidence, 100);
         // An outline passes at nine tenths, so a neighbouring shift may be met first, never one farther away.
-        EXPECT_NEAR(result.matches[0].Shifts[0].dx, dx, 1);
-        EXPECT_NEAR(result.matches[0].Shifts[0].dy, dy, 1);
-        EXPECT_EQ(LastLogLine(), "Image [scan.tif] classified as [Form] with confidence [100.00] ");
+        EXPECT_NEAR(result.matches[0].shifts[0].dx, dx, 1);
+        EXPECT_NEAR(result.matches[0].shifts[0].dy, dy, 1);
+        EXPECT_EQ(line_, "Image [scan.tif] classified as [Form] with confidence [100.00] ");
     }
     const Classification far = Classify(form_.PageOf({.dx = 27}), {form_.Record("Form")});
     EXPECT_EQ(far.winner, -1);
-    EXPECT_EQ(far.matches[0].Found, 0);
-    EXPECT_EQ(far.matches[0].Tested, 12);
-    EXPECT_EQ(LastLogLine(), "Image [scan.tif] unclassified");
+    EXPECT_EQ(far.matches[0].found, 0);
+    EXPECT_EQ(far.matches[0].tested, 12);
+    EXPECT_EQ(line_, "Image [scan.tif] unclassified");
 }
 
 TEST_F(ClassificationTest, HalfOfTheOutlinesIsTooLittleAndATieGoesToTheFirst) {
@@ -42,17 +45,17 @@ TEST_F(ClassificationTest, HalfOfTheOutlinesIsTooLittleAndATieGoesToTheFirst) {
     const Classification low = Classify(half, {form_.Record("Form")});
     EXPECT_EQ(low.winner, -1);
     EXPECT_EQ(low.matches[0].Confidence, 50);
-    EXPECT_EQ(LastLogLine(), "Image [scan.tif] unclassified as [Form] with LOW confidence [50.00] ");
+    EXPECT_EQ(line_, "Image [scan.tif] unclassified as [Form] with LOW confidence [50.00] ");
 
     const imaging::Page most = form_.PageOf({.missing = {1, 2, 3, 4, 5}});
     EXPECT_EQ(Classify(most, {form_.Record("Form")}).winner, 0);
-    EXPECT_EQ(LastLogLine(), "Image [scan.tif] classified as [Form] with confidence [58.00] ");
+    EXPECT_EQ(line_, "Image [scan.tif] classified as [Form] with confidence [58.00] ");
 
     const imaging::Page whole = form_.PageOf({});
     EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).winner, 0);
     EXPECT_EQ(Classify(most, {form_.Record("Off", false), form_.Record("On")}).winner, 1);
     // Every profile is sampled, also behind one that has matched.
-    EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).matches[1].Tested, 12);
+    EXPECT_EQ(Classify(whole, {form_.Record("First"), form_.Record("Second")}).matches[1].tested, 12);
 }
 
 TEST_F(ClassificationTest, AProfileWithoutBoxesEndsTheScan) {
@@ -60,7 +63,7 @@ TEST_F(ClassificationTest, AProfileWithoutBoxesEndsTheScan) {
     const TestForm empty;
     const Classification hidden = Classify(page, {empty.Record("Empty", false), form_.Record("Form")});
     EXPECT_EQ(hidden.winner, -1);
-    EXPECT_EQ(hidden.matches[1].Tested, 0);
+    EXPECT_EQ(hidden.matches[1].tested, 0);
     EXPECT_EQ(Classify(page, {form_.Record("Form"), empty.Record("Empty")}).winner, 0);
 }
 
@@ -79,8 +82,8 @@ TEST_F(ClassificationTest, ScalesTheProfileToTheImage) {
     const ProfileRecord profile = form_.Record("Form");
     Classification result = Classify(page, {profile});
     ASSERT_EQ(result.winner, 0);
-    SpreadShifts(profile, result.matches[0].Shifts);
-    const std::vector<MarkReading> marks = ReadMarks(page, profile, result.matches[0].Shifts, 8);
+    SpreadShifts(profile, result.matches[0].shifts);
+    const std::vector<MarkReading> marks = ReadMarks(page, profile, result.matches[0].shifts, 8);
     EXPECT_TRUE(marks[2].Checked);
     EXPECT_FALSE(marks[1].Checked);
 

@@ -110,7 +110,7 @@ TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {
     EXPECT_FALSE(review_.HasForm());
     EXPECT_TRUE(transcript_.LinesOf("ask: ").empty());
 
-    Do([this] { review_.OpenNeighbour(0, 1); });
+    OpenNeighbour(0, 1);
     EXPECT_EQ(review_.OpenLine(), 1U) << "the marks can be seen and corrected all the same";
     EXPECT_EQ(transcript_.LinesOf("report: "), Names{"[b.tif] Image not in bitmap format"});
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"clear"});

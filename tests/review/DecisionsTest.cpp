@@ -121,10 +121,10 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
         for (bool killed = true; killed; kills += killed ? 1 : 0) {
             SCOPED_TRACE(kills);
             person_.answers = {Answer::Yes};
-            killed = DiesBefore(kills, [this, accept] { accept ? review_.Accept() : review_.Reject(); });
+            killed = DiesBefore(kills, [this, accept] { accept ? Accept() : Reject(); });
 
-            commands::ReviewCommands next(state_, doors_, [] {});
-            Do([&next] { next.Load(); });
+            review::ReviewSession next(context_, settings_, folders_, profiles_);
+            Do([&next] { next.SettleInterrupted(); });
             const bool moved = files_.FileExists(destination + "a.tif");
             EXPECT_TRUE(moved || killed);
             EXPECT_EQ(In(destination), moved ? kPair : Names());
@@ -168,7 +168,7 @@ TEST_F(DecisionsTest, TheNextListingTakesBackWhatIsHalfDone) {
         put(folders_.ProcessReject + "a.xml", row.documentThere);
         WriteText(Note(), "<Decision Kind=\"reject\" Image=\"a.tif\" Document=\"a.xml\"/>");
         log_.LogProcessEvent("next");
-        Do([this] { review_.Load(); });
+        Do([this] { review_.SettleInterrupted(); });
         EXPECT_EQ(In(folders_.ProcessReject), row.there);
         Names here = {"b.tif", "b.xml"};
         if (row.there.empty() || *row.documentHere != 0)
@@ -181,7 +181,7 @@ TEST_F(DecisionsTest, TheNextListingTakesBackWhatIsHalfDone) {
         EXPECT_EQ(files_.FileExists(Note()), isAway) << "the image may come back with its folder";
     }
     std::filesystem::rename(folders_.ProcessReject, work_.File("away"));
-    Do([this] { review_.Load(); });
+    Do([this] { review_.SettleInterrupted(); });
     EXPECT_PRED2(test::Has, Messages().at(0), "Form [a] lies half in " + folders_.ProcessReject);
     std::filesystem::rename(work_.File("away"), folders_.ProcessReject);
 

@@ -8,13 +8,9 @@
 
 namespace tavrene::test {
 
-/// What review adds to the screen: the list of forms, the choice of profiles, the ink column and the changing
-/// rectangles. All but the lines themselves go into the transcript ("select: ", "choice: ", "ink: ", "val: ",
-/// "style: ", "look at: ").
-class FakeReviewScreen final : public review::ReviewLines,
-                               public review::ProfileChoice,
-                               public review::ReviewRows,
-                               public review::ReviewRects {
+/// What review adds to the screen: the list of forms and the choice of profiles. All but the lines themselves
+/// go into the transcript ("select: ", "choice: ").
+class FakeReviewScreen final : public review::ReviewLines, public review::ProfileChoice {
   public:
     explicit FakeReviewScreen(Transcript& transcript) : transcript_(transcript) {}
 
@@ -37,21 +33,6 @@ class FakeReviewScreen final : public review::ReviewLines,
 
     void ShowProfiles(std::span<const std::string> names) override { offered = {names.begin(), names.end()}; }
     void SetChoice(std::string_view name) override { transcript_.Add("choice: " + std::string(name)); }
-
-    void AddInkColumn() override { transcript_.Add("rows: column Ink"); }
-    void SetInk(int number, std::string_view ink, bool doubtful) override {
-        transcript_.Add("ink: " + std::to_string(number) + " " + std::string(ink) + (doubtful ? " ?" : ""));
-    }
-    void SetVal(int number, std::string_view value) override {
-        transcript_.Add("val: " + std::to_string(number) + " " + std::string(value));
-    }
-    void SelectRow(int number) override { transcript_.Add("select row: " + std::to_string(number)); }
-
-    void ChangeRects(int group, imaging::RectStyle style) override {
-        transcript_.Add("style: " + std::to_string(group) +
-                        (style == imaging::RectStyle::Checked ? " checked" : " unchecked"));
-    }
-    void EmphasiseRects(int group) override { transcript_.Add("look at: " + std::to_string(group)); }
 
   private:
     static std::string TextOf(const review::ReviewLine& line) {

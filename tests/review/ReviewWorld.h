@@ -4,14 +4,14 @@
 #include <string>
 
 #include "FakeReviewScreen.h"
+#include "review/ReviewSession.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/ReviewCommands.h"
-#include "ui/commands/WindowLoad.h"
 
 namespace tavrene::test {
 
+using commands::Command;
 using Names = std::vector<std::string>;
 
 /// A working folder with the profile "Form" (boxes Q1 to Q4) and review on it. Commands go through the gate,
@@ -25,7 +25,7 @@ class ReviewWorld : public RunWorld {
     }
 
     void LoadProfiles() {
-        state_.profiles = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
+        profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
     }
 
     /// Reads all waiting scans and enters review.
@@ -40,31 +40,44 @@ class ReviewWorld : public RunWorld {
     }
 
     void Toggle() {
-        Do([this] { review_.Toggle({nullptr, [this] { return review_.MayLeave(); }}); });
+        Take(Command::Review, [this] { review_.IsOn() ? review_.End() : review_.Begin(); });
     }
 
     /// One command of the person: the transcript holds what came of it and nothing else.
+    void Take(commands::Command command, const std::function<void()>& event) {
+        transcript_.Clear();
+        gate_.Take(command, event);
+    }
+
+    /// The same for what is no command.
     void Do(const std::function<void()>& command) {
         transcript_.Clear();
         gate_.Guard(command);
     }
     void Open(std::size_t line) {
-        Do([this, line] { review_.Open(line); });
+        Take(Command::PickForm, [this, line] { review_.Open(line); });
+    }
+    /// The form below (1) or above (-1), while that line is selected.
+    void OpenNeighbour(std::optional<std::size_t> selected, int step) {
+        Take(Command::NextForm, [this, selected, step] {
+            if (const auto line = review_.Neighbour(selected, step))
+                review_.Open(*line);
+        });
     }
     void Flip(int row) {
-        Do([this, row] { review_.FlipBox(row); });
+        Take(Command::PickMark, [this, row] { review_.FlipBox(row); });
     }
     void Okay() {
-        Do([this] { review_.Okay(); });
+        Take(Command::Okay, [this] { review_.Save(); });
     }
     void Accept() {
-        Do([this] { review_.Accept(); });
+        Take(Command::AcceptForm, [this] { review_.Accept(); });
     }
     void Reject() {
-        Do([this] { review_.Reject(); });
+        Take(Command::RejectForm, [this] { review_.Reject(); });
     }
     void Choose(const std::string& profile) {
-        Do([this, &profile] { review_.ChooseProfile(profile); });
+        Take(Command::PickProfile, [this, &profile] { review_.ReadAgainst(profile); });
     }
 
     std::string Result(const std::string& name) const { return ReadText(folders_.ProcessOut + name); }
@@ -87,11 +100,13 @@ class ReviewWorld : public RunWorld {
     }
 
     TestForm form_ = TestForm::Grid(2, 2);
-    commands::AppState state_ = commands::InitialState(settings_);
     FakeReviewScreen list_{transcript_};
-    review::ReviewDoors doors_{files_, log_, person_, screen_, screen_, list_, screen_, list_, list_, list_};
-    commands::CommandGate gate_{person_, log_, state_.processing};
-    commands::ReviewCommands review_{state_, doors_, [] {}};
+    review::ReviewContext context_{files_, log_, person_, screen_, screen_, list_, list_};
+    review::ReviewSession review_{context_, settings_, folders_, profiles_};
+    commands::CommandGate gate_{
+        {person_, log_,
+         [this] { return commands::ModeOf({.isInReview = review_.IsOn(), .hasForm = review_.HasForm()}); },
+         [] { return true; }, [this] { return review_.MayLeave(); }}};
 };
 
 }  // namespace tavrene::test

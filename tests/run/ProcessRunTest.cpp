@@ -59,8 +59,8 @@ TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
                "Image [other.tif] unclassified", "other.tif: Processing complete", ": Processing complete",
                "Processed 4 Files, 7 Sec."}));
     EXPECT_EQ(transcript_.Joined(),
-              "panel ElapsedTime:  | panel Message: Processing started | view: clear | rects: clear | "
-              "rows: clear | rows: column Val | range: 4 | panel File: A form & Co.TIF | progress: 1 | "
+              "panel ElapsedTime:  | panel Message: Processing started | view: clear | "
+              "rows: clear Val | range: 4 | panel File: A form & Co.TIF | progress: 1 | "
               "events | panel File: b.tif | progress: 2 | events | panel File: form.tiff | progress: 3 | "
               "events | panel File: other.tif | progress: 4 | events | panel File: Profiles:1, Active:1 | "
               "progress: 0 | panel ElapsedTime: 4 Files, 7 Sec.");
@@ -75,7 +75,7 @@ TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {
                                                     "3 62,124 24x24 unchecked", "4 116,124 24x24 checked"}));
     EXPECT_EQ(transcript_.LinesOf("row: "), (Names{"1 Q1|0", "2 Q2|0", "3 Q3|0", "4 Q4|1"}));
     EXPECT_EQ(transcript_.LinesOf("view: "),
-              (Names{"clear", "zoom 100", "show temp2.tif", "refresh", "zoom 100", "clear", "refresh"}));
+              (Names{"clear", "zoom 100", "picture 600x500", "refresh", "zoom 100", "clear", "refresh"}));
     EXPECT_EQ(transcript_.LinesOf("report: "), (Names{"[b.tif] Image not in bitmap format"}));
 }
 

@@ -1,64 +1,37 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "Truth.h"
-#include "recognition/ResultDocument.h"
+#include "GroundTruth.h"
+#include "outcome/Comparison.h"
 #include "support/RunWorld.h"
+#include "support/SourceFolder.h"
 
 namespace tavrene {
 namespace {
 
-using samples::TruthRecord;
 using Names = std::vector<std::string>;
 
-const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+const std::string kSamples = test::SourceFolder() + "/samples/";
 
 /// The committed samples: what the tour shows and what a newcomer tries first.
-class SampleFolderTest : public test::RunWorld {
-  protected:
-    const std::vector<TruthRecord> truth_ = samples::ReadTruth(kSamples + "truth.tsv");
-
-    /// What the program made of a scan: the profile's name and the checked boxes, or no name.
-    TruthRecord Outcome(const std::string& image) const {
-        TruthRecord outcome;
-        outcome.Expected = TruthRecord::Outcome::Unreadable;
-        for (const std::string& line : ProcessLog())
-            if (line.starts_with("Image [" + image + "] unclassified"))
-                outcome.Expected = TruthRecord::Outcome::Unclassified;
-        const std::string document = recognition::ResultPath(folders_.ProcessOut, image);
-        if (!files_.FileExists(document))
-            return outcome;
-        outcome.Expected = TruthRecord::Outcome::Matched;
-        for (const profiles::ProfileRecord& profile : profiles_)
-            if (test::ReadText(document).find("Profile=\"" + profile.Name + "\"") != std::string::npos)
-                outcome.Profile = profile.Name;
-        for (const recognition::ResultMark& mark : recognition::ReadResultMarks(files_, document))
-            if (mark.Checked)
-                outcome.CheckedBoxes.push_back(mark.Name);
-        return outcome;
-    }
-};
+using SampleFolderTest = test::RunWorld;
 
 TEST_F(SampleFolderTest, EveryScanReadsAsTheTruthSays) {
     std::filesystem::copy(kSamples + "profiles", app::ToPath(folders_.Profiles));
     std::filesystem::copy(kSamples + "scans", app::ToPath(folders_.ProcessIn));
+    const std::vector<samples::GroundTruthRecord> truth = samples::ReadGroundTruth(kSamples + "truth.tsv");
     Names listed;
-    for (const TruthRecord& record : truth_)
+    for (const samples::GroundTruthRecord& record : truth)
         listed.push_back(record.Image);
     std::sort(listed.begin(), listed.end());
     ASSERT_EQ(In(folders_.ProcessIn), listed);
     Process();
 
     int beyond = 0;
-    for (const TruthRecord& record : truth_) {
-        if (!record.BeyondRules.empty()) {
-            ++beyond;
-            continue;
-        }
-        const TruthRecord outcome = Outcome(record.Image);
-        EXPECT_EQ(outcome.Expected, record.Expected) << record.Image;
-        EXPECT_EQ(outcome.Profile, record.Profile) << record.Image;
-        EXPECT_EQ(outcome.CheckedBoxes, record.CheckedBoxes) << record.Image;
+    for (const samples::Comparison& comparison : samples::CompareWithTruth(files_, folders_, truth)) {
+        EXPECT_NE(comparison.verdict, samples::Verdict::Wrong)
+            << comparison.Image << ' ' << comparison.Difference;
+        beyond += comparison.verdict == samples::Verdict::BeyondRules ? 1 : 0;
     }
     EXPECT_EQ(beyond, 2) << "an excuse more than the samples need";
 }

@@ -1,47 +1,81 @@
 #pragma once
 
+#include <map>
 #include <sstream>
 #include <string>
 
-#include "imaging/PageRects.h"
-#include "imaging/PageView.h"
+#include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
 #include "support/Transcript.h"
 
 namespace tavrene::test {
 
-/// Image view, drawn boxes and box list in one; everything goes into the transcript ("view: ", "rect: ",
-/// "row: ").
-class FakeScreen final : public imaging::PageView, public imaging::PageRects, public profiles::BoxRows {
+/// Page and box list in one. What they show can be asked for; everything goes into the transcript as well
+/// ("view: ", "rect: ", "look at: ", "row: ", "ink: ", "select row: ").
+class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
   public:
     explicit FakeScreen(Transcript& transcript) : transcript_(transcript) {}
+
+    std::map<int, imaging::PageRect> rects;
+    std::map<int, std::string> rows;  ///< Names.
+    int emphasised = 0;
+    int selectedRow = 0;
+    int nextGroup = 0;
+    imaging::ScrollOffset scroll;
 
     void ShowFile(const std::string& path) override {
         transcript_.Add("view: show " + path.substr(path.find_last_of("/\\") + 1));
     }
-    void Clear() override { transcript_.Add("view: clear"); }
+    void ShowPicture(const imaging::Bitmap& picture) override {
+        transcript_.Add("view: picture " + Text(picture.Width()) + "x" + Text(picture.Height()));
+    }
+    void Clear() override {
+        rects.clear();
+        transcript_.Add("view: clear");
+    }
     double Zoom() const override { return zoom_; }
     void SetZoom(double percent) override {
         zoom_ = percent;
         transcript_.Add("view: zoom " + Text(percent));
     }
+    imaging::ScrollOffset Scroll() const override { return scroll; }
     void Refresh() override { transcript_.Add("view: refresh"); }
 
-    void DrawRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
-        static constexpr const char* kNames[] = {"plain", "checked", "unchecked", "skipped"};
-        transcript_.Add("rect: " + std::to_string(group) + " " + Text(rect.left) + "," + Text(rect.top) +
-                        " " + Text(rect.width) + "x" + Text(rect.height) + " " +
-                        kNames[static_cast<int>(style)]);
+    void PutRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
+        static constexpr const char* kNames[] = {"editable", "checked", "unchecked", "skipped"};
+        rects[group] = rect;
+        transcript_.Add("rect: " + Text(group) + " " + Text(rect.left) + "," + Text(rect.top) + " " +
+                        Text(rect.width) + "x" + Text(rect.height) + " " + kNames[static_cast<int>(style)]);
     }
-    void ClearRects() override { transcript_.Add("rects: clear"); }
+    void RemoveRect(int group) override { rects.erase(group); }
+    void ClearRects() override {
+        rects.clear();
+        transcript_.Add("rects: clear");
+    }
+    void Emphasise(int group) override {
+        emphasised = group;
+        transcript_.Add("look at: " + Text(group));
+    }
+    void SetTool(imaging::BoxTool, int next) override { nextGroup = next; }
 
-    void ClearRows() override { transcript_.Add("rows: clear"); }
-    void AddValColumn() override { transcript_.Add("rows: column Val"); }
-    void RemoveExtraColumns() override { transcript_.Add("rows: one column"); }
-    void AddRow(int number, std::string_view name, std::string_view value) override {
-        transcript_.Add("row: " + std::to_string(number) + " " + std::string(name) + "|" +
-                        std::string(value));
+    void ClearRows(profiles::BoxColumns columns) override {
+        static constexpr const char* kNames[] = {"", " Val", " Val Ink"};
+        columns_ = columns;
+        rows.clear();
+        transcript_.Add(std::string("rows: clear") + kNames[static_cast<int>(columns)]);
     }
+    void PutRow(int number, const profiles::BoxRow& row) override {
+        rows[number] = row.name;
+        transcript_.Add("row: " + Text(number) + " " + row.name + "|" + row.val);
+        if (columns_ == profiles::BoxColumns::NameValInk)
+            transcript_.Add("ink: " + Text(number) + " " + row.ink + (row.isDoubtful ? " ?" : ""));
+    }
+    void RemoveRow(int number) override { rows.erase(number); }
+    void SelectRow(int number) override {
+        selectedRow = number;
+        transcript_.Add("select row: " + Text(number));
+    }
+    void RefreshRows() override {}
 
   private:
     static std::string Text(double number) {
@@ -51,6 +85,7 @@ class FakeScreen final : public imaging::PageView, public imaging::PageRects, pu
     }
 
     Transcript& transcript_;
+    profiles::BoxColumns columns_ = profiles::BoxColumns::Name;
     double zoom_ = 100;
 };
 

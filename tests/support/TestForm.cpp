@@ -76,11 +76,9 @@ profiles::ProfileRecord TestForm::Record(const std::string& name, bool active) c
     record.Name = name;
     record.Active = active;
     record.DPI_X = record.DPI_Y = Ordinate(dpi);
-    record.Boxes = boxes;
-    for (profiles::OmrBox& box : record.Boxes) {
-        std::swap(box.T, box.B);
-        box.ExpectedOutline = Ordinate(2 * ((box.R - box.L) + (box.T - box.B)) - 4);
-    }
+    for (const profiles::OmrBox& box : boxes)
+        record.Boxes.push_back(
+            {box.Name, box.L, box.R, box.B, box.T, Ordinate(2 * ((box.R - box.L) + (box.B - box.T)) - 4)});
     return record;
 }
 

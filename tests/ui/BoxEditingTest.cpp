@@ -3,7 +3,7 @@
 #include <QWheelEvent>
 
 #include "ui/DeskWindow.h"
-#include "ui/RectItem.h"
+#include "ui/page/RectItem.h"
 
 namespace tavrene::ui {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "app/Files.h"
 #include "support/TempFolder.h"
-#include "ui/Composition.h"
 #include "ui/Controls.h"
+#include "ui/shell/Composition.h"
 
 namespace tavrene::ui {
 namespace {

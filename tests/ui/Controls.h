@@ -2,34 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QTimer>
-#include <QToolBar>
 #include <functional>
 #include <set>
 #include <string>
 
-#include "ui/QtText.h"
+#include "driving/Controls.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::test {
 
-/// The control of that object name; a test that asks for one that is not there ends.
-template <typename Control>
-Control& Find(const QWidget& window, const char* name) {
-    auto* const control = window.findChild<Control*>(name);
-    if (control == nullptr)
-        throw std::runtime_error(std::string("no control ") + name);
-    return *control;
-}
-
-/// The button of a toolbar by its key.
-inline QAbstractButton& Button(const QWidget& window, const char* toolbarName, const char* key) {
-    auto& toolbar = Find<QToolBar>(window, toolbarName);
-    return dynamic_cast<QAbstractButton&>(*toolbar.widgetForAction(&Find<QAction>(toolbar, key)));
-}
+using driving::Button;
+using driving::Find;
 
 /// Does something whenever the window takes pending events.
 class WhileRunning {

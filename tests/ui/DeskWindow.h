@@ -12,8 +12,8 @@
 #include "support/RunWorld.h"
 #include "ui/Controls.h"
 #include "ui/DialogScript.h"
-#include "ui/MainWindow.h"
-#include "ui/QtSettingsStore.h"
+#include "ui/settings/QtSettingsStore.h"
+#include "ui/shell/MainWindow.h"
 
 namespace tavrene::test {
 
@@ -28,7 +28,7 @@ class DeskWindow : public RunWorld {
     }
 
     ui::MainWindow& Open() {
-        window_ = std::make_unique<ui::MainWindow>(settings_, ui::WindowDoors{store_, files_, clock_});
+        window_ = std::make_unique<ui::MainWindow>(settings_, ui::WindowContext{store_, files_, clock_});
         window_->Load();
         window_->show();
         window_->activateWindow();

@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "ui/QtText.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::test {
 

@@ -1,8 +1,10 @@
+#include <QDesktopServices>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QTextBrowser>
 
 #include "ui/DeskWindow.h"
 
@@ -175,6 +177,46 @@ TEST_F(MainWindowTest, EscapeClosesTheIdleWindowWhichRemembersItsShape) {
     EXPECT_FALSE(window_->isVisible());
     Open();
     EXPECT_EQ(window_->size(), QSize(1111, 777));
+}
+
+TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
+    Open();
+    auto& toggle = Find<QAction>(*window_, "ToolbarLabels");
+    EXPECT_FALSE(toggle.isChecked());
+    toggle.trigger();
+    EXPECT_TRUE(toggle.isChecked());
+    Open().resize(1024, 700);
+    QApplication::processEvents();
+    EXPECT_TRUE(Find<QAction>(*window_, "ToolbarLabels").isChecked());
+    for (const char* key : {"New", "ZoomToOrig", "Review"})
+        EXPECT_GT(Button(*window_, "MainToolbar", key).height(), 40) << key;
+    Click("Review");  // which has the most buttons
+    QApplication::processEvents();
+    EXPECT_TRUE(Button(*window_, "CfgToolbar", "Delete").isVisible());
+    Find<QAction>(*window_, "ToolbarLabels").trigger();
+    QApplication::processEvents();
+    EXPECT_LT(Button(*window_, "MainToolbar", "New").height(), 40);
+}
+
+TEST_F(MainWindowTest, OpensTheFolderInUseAndTheNewestLogOnTheDesktop) {
+    Open();
+    QTextBrowser desktop;  // takes what is to be opened
+    QDesktopServices::setUrlHandler("file", &desktop, "setSource");
+    const auto opened = [&](const char* key) {
+        desktop.setSource(QUrl());
+        Find<QAction>(*window_, key).trigger();
+        return FromQt(desktop.source().toLocalFile());
+    };
+    EXPECT_EQ(opened("OpenWorkingFolder") + "/ProcessIn/", folders_.ProcessIn);
+    for (const std::string& name : In(folders_.Log))
+        files_.Delete(folders_.Log + name);
+    EXPECT_EQ(opened("OpenLog"), folders_.Log);
+    test::WriteText(folders_.Log + "TavreneBoxes-Profile-20990101.Log", "");
+    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Profile-20990101.Log");
+    test::WriteText(folders_.Log + "TavreneBoxes-Process-20240229.Log", "");
+    test::WriteText(folders_.Log + "TavreneBoxes-Process-20231231.Log", "");
+    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Process-20240229.Log");
+    QDesktopServices::unsetUrlHandler("file");
 }
 
 TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {

@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include "support/SourceFolder.h"
 #include "ui/DeskWindow.h"
 
 namespace tavrene::ui {
@@ -9,7 +10,7 @@ using test::DialogScript;
 using test::Find;
 using Names = std::vector<std::string>;
 
-const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+const std::string kSamples = test::SourceFolder() + "/samples/";
 
 // A profile document without what the person chooses: names of boxes and the place of the image.
 std::string Nameless(const std::string& path) {

@@ -9,8 +9,8 @@
 #include "painter/ImageFiles.h"
 #include "support/TempFolder.h"
 #include "support/TestForm.h"
-#include "ui/PageImage.h"
-#include "ui/PageItem.h"
+#include "ui/page/PageImage.h"
+#include "ui/page/PageItem.h"
 
 namespace tavrene::ui {
 namespace {

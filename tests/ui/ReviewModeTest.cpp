@@ -5,8 +5,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "support/SourceFolder.h"
 #include "ui/DeskWindow.h"
-#include "ui/RectItem.h"
+#include "ui/page/ImageView.h"
 
 namespace tavrene::ui {
 namespace {
@@ -61,11 +62,9 @@ class ReviewWindow : public test::DeskWindow {
 
     /// Where the box of a group is drawn.
     QPointF Middle(int group) {
-        for (QGraphicsItem* const item : View().items())
-            if (const auto* const rect = dynamic_cast<RectItem*>(item); rect && rect->Group() == group)
-                return rect->Rect().center();
-        ADD_FAILURE() << "no box " << group;
-        return {};
+        const QRectF place = dynamic_cast<ImageView&>(View()).Boxes().PlaceOf(group);
+        EXPECT_FALSE(place.isNull()) << "no box " << group;
+        return place.center();
     }
 
     bool Offers(const char* key) { return Find<QAction>(*window_, key).isEnabled(); }
@@ -107,7 +106,7 @@ class SamplesInReviewTest : public ReviewWindow {
         return Rows().indexOfTopLevelItem(Rows().findItems(box, Qt::MatchExactly).at(0));
     }
 
-    const std::string kSamples = TAVRENE_SOURCE_DIR "/samples/";
+    const std::string kSamples = test::SourceFolder() + "/samples/";
 };
 
 void Replace(std::string& text, const std::string& before, const std::string& after) {

@@ -3,9 +3,9 @@
 #include <unistd.h>
 
 #include "support/TempFolder.h"
-#include "ui/QtSettingsStore.h"
-#include "ui/QtText.h"
-#include "ui/SingleInstance.h"
+#include "ui/base/QtText.h"
+#include "ui/settings/QtSettingsStore.h"
+#include "ui/shell/SingleInstance.h"
 
 namespace tavrene::ui {
 namespace {

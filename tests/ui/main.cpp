@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "support/TempFolder.h"
-#include "ui/Composition.h"
+#include "ui/shell/Composition.h"
 
 // The windows under test are real; they need an application around them, but no screen, and no settings of a
 // person.

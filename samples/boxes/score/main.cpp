@@ -63,7 +63,7 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
 
 PageScore Score(const BoxPagePlan& plan) {
     const BoxPage page = PaintPage(plan);
-    return ScorePage(page.Truth, AnalysePage(page).Boxes);
+    return ScorePage(page.GroundTruth, AnalysePage(page).Boxes);
 }
 
 void PrintTally(const std::string& name, const Tally& tally) {

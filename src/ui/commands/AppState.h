@@ -15,7 +15,6 @@ struct AppState {
     app::WorkingFolders folders;  ///< Fixed when the window loads.
     boxes::PairReach reach;       ///< Fixed when the window loads.
     std::vector<profiles::ProfileRecord> profiles;
-    bool processing = false;  ///< A processing run goes on.
 };
 
 }  // namespace tavrene::commands

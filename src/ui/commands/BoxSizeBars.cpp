@@ -20,8 +20,8 @@ void BoxSizeBars::Move(Bar bar, int position) {
 
 boxes::BoxSizes BoxSizeBars::Sizes() const {
     const auto size = [](int pixels) { return static_cast<std::int16_t>(pixels); };
-    return {size(Position(Bar::MinWidth)), size(Position(Bar::MaxWidth)),
-            size(kHighest - Position(Bar::MinHeight)), size(kHighest - Position(Bar::MaxHeight))};
+    return {size(Pixels(Bar::MinWidth)), size(Pixels(Bar::MaxWidth)), size(Pixels(Bar::MinHeight)),
+            size(Pixels(Bar::MaxHeight))};
 }
 
 void BoxSizeBars::ApplyRule(Bar bar) {

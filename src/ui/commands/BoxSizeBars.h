@@ -25,10 +25,19 @@ class BoxSizeBars {
     /// A bar was moved; it is corrected until its rule holds. The other bars stay.
     void Move(Bar bar, int position);
 
+    /// The same by the size that the bar is to stand for.
+    void SetPixels(Bar bar, int pixels) { Move(bar, Inverted(bar) ? kHighest - pixels : pixels); }
+
     int Position(Bar bar) const { return positions_[static_cast<std::size_t>(bar)]; }
+
+    /// The size that a bar stands for, and the largest that it can; none can go below `kLowest`.
+    int Pixels(Bar bar) const { return Inverted(bar) ? kHighest - Position(bar) : Position(bar); }
+    static int MostPixels(Bar bar) { return Inverted(bar) ? kHighest - kLowest : kHighest; }
+
     boxes::BoxSizes Sizes() const;
 
   private:
+    static bool Inverted(Bar bar) { return bar == Bar::MinHeight || bar == Bar::MaxHeight; }
     int& At(Bar bar) { return positions_[static_cast<std::size_t>(bar)]; }
     void ApplyRule(Bar bar);
 

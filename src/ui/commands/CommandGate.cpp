@@ -4,55 +4,69 @@
 #include <utility>
 
 namespace tavrene::commands {
-namespace {
 
-bool ActsDuringRun(Command command) {
-    return command == Command::Stop || command == Command::Exit;
-}
+CommandGate::CommandGate(GateContext context) : context_(std::move(context)) {}
 
-}  // namespace
-
-CommandGate::CommandGate(app::Operator& person, app::ActivityLog& log, const bool& processing)
-    : person_(person), log_(log), processing_(processing) {}
-
-void CommandGate::SetHandler(Command command, std::function<void()> handler, std::function<bool()> canRun) {
-    handlers_[command] = {std::move(handler), std::move(canRun)};
+void CommandGate::SetHandler(Command command, std::function<void()> handler,
+                             std::function<bool()> hasTarget) {
+    handlers_[command] = {std::move(handler), std::move(hasTarget)};
 }
 
 void CommandGate::SetAfterwards(std::function<void()> afterwards) {
     afterwards_ = std::move(afterwards);
 }
 
+bool CommandGate::HasTarget(Command command) const {
+    const auto found = handlers_.find(command);
+    return found == handlers_.end() || !found->second.hasTarget || found->second.hasTarget();
+}
+
 bool CommandGate::Offers(Command command) const {
-    const auto handler = handlers_.find(command);
-    if (handler == handlers_.end() || (handler->second.canRun && !handler->second.canRun()))
-        return false;
-    return !processing_ || ActsDuringRun(command) || InfoOf(command).group == ButtonGroup::Processing;
+    return IsOfferedIn(command, CurrentMode()) && HasTarget(command);
 }
 
 void CommandGate::Run(Command command) {
-    const auto handler = handlers_.find(command);
-    if (handler == handlers_.end() || (processing_ && !ActsDuringRun(command)))
+    const auto found = handlers_.find(command);
+    if (found != handlers_.end() && ActsIn(command, CurrentMode()) && HasTarget(command))
+        Take(command, found->second.run);
+}
+
+void CommandGate::Take(Command command, const std::function<void()>& event) {
+    if (!ActsIn(command, CurrentMode()))
         return;
-    Guard(handler->second.run);
+    Guard([&] {
+        if (MayGoOn(PromptsBefore(command)))
+            event();
+    });
+}
+
+bool CommandGate::MayGoOn(Prompts prompts) const {
+    switch (prompts) {
+        case Prompts::None:
+            return true;
+        case Prompts::Profile:
+            return context_.mayLeaveProfile();
+        case Prompts::Form:
+            return context_.mayLeaveForm();
+        case Prompts::ProfileThenForm:
+            return context_.mayLeaveProfile() && context_.mayLeaveForm();
+        case Prompts::FormThenProfile:
+            return context_.mayLeaveForm() && context_.mayLeaveProfile();
+    }
+    return false;
 }
 
 void CommandGate::Guard(const std::function<void()>& event) {
-    app::ToleratedLogFailures tolerated(log_);
+    ++depth_;
     try {
         event();
     } catch (const std::exception& failure) {
-        person_.ShowMessage("", failure.what());
+        context_.person.ShowMessage("", failure.what());
     }
-    if (tolerated.TakeLostLines() > 0)
-        person_.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
-    if (afterwards_)
+    if (context_.log.TakeLostLines() > 0)
+        context_.person.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");
+    if (--depth_ == 0 && afterwards_)
         afterwards_();
-}
-
-void CommandGate::Take(const std::function<void()>& event) {
-    if (!processing_)
-        Guard(event);
 }
 
 }  // namespace tavrene::commands

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace tavrene::commands {
 namespace {
@@ -9,70 +10,84 @@ namespace {
 using C = Command;
 using T = Toolbar;
 using M = Menu;
-using G = ButtonGroup;
-using S = StartState;
 
 // clang-format off
 constexpr std::array kCommands = {
     CommandInfo{C::New, T::Main, "New", "Create New Profile",
-                M::File, "&New Profile...", "Ctrl+N", "New", G::None, S::Shown, false},
+                M::File, "&New Profile...", "Ctrl+N", "New", false, false},
     CommandInfo{C::Save, T::Main, "Save", "Save Current Profile",
-                M::File, "&Save Profile", "Ctrl+S", "Save", G::ProfileFile, S::Shown, false},
+                M::File, "&Save Profile", "Ctrl+S", "Save", false, false},
     CommandInfo{C::DeleteProfile, T::Main, "Delete", "Delete Current Profile",
-                M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", G::ProfileFile, S::Shown, false},
+                M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", false, false},
     CommandInfo{C::ZoomToOrig, T::Main, "ZoomToOrig", "Zoom To Original",
-                M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", G::View, S::Shown, true},
+                M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", false, true},
     CommandInfo{C::ZoomIn, T::Main, "ZoomIn", "Zoom In",
-                M::View, "Zoom &In", "Ctrl++", "ZoomIn", G::View, S::Shown, false},
+                M::View, "Zoom &In", "Ctrl++", "ZoomIn", false, false},
     CommandInfo{C::ZoomOut, T::Main, "ZoomOut", "Zoom Out",
-                M::View, "Zoom O&ut", "Ctrl+-", "ZoomOut", G::View, S::Shown, false},
+                M::View, "Zoom O&ut", "Ctrl+-", "ZoomOut", false, false},
     CommandInfo{C::FitPage, T::Main, "FitPage", "Fit Page",
-                M::View, "Fit &Page", "Ctrl+2", "FitPage", G::View, S::Shown, false},
+                M::View, "Fit &Page", "Ctrl+2", "FitPage", false, false},
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
-                M::View, "Fit &Width", "Ctrl+3", "FitWidth", G::View, S::Shown, false},
+                M::View, "Fit &Width", "Ctrl+3", "FitWidth", false, false},
+    CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
+                M::View, "Toolbar &Labels", "Ctrl+L", "", true, true},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
-                M::Process, "&Process", "F5", "Process", G::Processing, S::Shown, true},
+                M::Process, "&Process", "F5", "Process", false, true},
     CommandInfo{C::Stop, T::Main, "Stop", "Stop Process",
-                M::Process, "&Stop", "Shift+F5", "Stop", G::Processing, S::Shown, false},
+                M::Process, "&Stop", "Shift+F5", "Stop", false, false},
     CommandInfo{C::Review, T::Main, "Review", "Review Processed Forms",
-                M::Review, "&Review Forms", "F6", "Review", G::None, S::Toggle, true},
+                M::Review, "&Review Forms", "F6", "Review", true, true},
     CommandInfo{C::Okay, T::Main, "Okay", "Reviewed OK",
-                M::Review, "Reviewed &OK", "Ctrl+Return; Ctrl+Enter", "Okay", G::None, S::Hidden, false},
+                M::Review, "Reviewed &OK", "Ctrl+Return; Ctrl+Enter", "Okay", false, false},
     CommandInfo{C::AcceptForm, T::Main, "AcceptForm", "Accept Form (Move to Final Folder)",
-                M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", G::None, S::Hidden, false},
+                M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", false, false},
     CommandInfo{C::RejectForm, T::Main, "RejectForm", "Reject Form (Move to Reject Folder)",
-                M::Review, "Re&ject Form", "Ctrl+Shift+R", "RejectForm", G::None, S::Hidden, false},
+                M::Review, "Re&ject Form", "Ctrl+Shift+R", "RejectForm", false, false},
     CommandInfo{C::SelectBox, T::Cfg, "Select", "Select/Move/Modify OMR CheckBox",
-                M::Boxes, "&Select Box", "F7", "Select", G::BoxTools, S::Toggle, false},
+                M::Boxes, "&Select Box", "F7", "Select", true, false},
     CommandInfo{C::AddBox, T::Cfg, "Add", "Create New OMR CheckBox",
-                M::Boxes, "&Add Box", "F8", "Add", G::BoxTools, S::Toggle, false},
+                M::Boxes, "&Add Box", "F8", "Add", true, false},
     CommandInfo{C::DeleteBox, T::Cfg, "Delete", "Delete OMR CheckBox",
-                M::Boxes, "&Delete Box", "Del", "DeleteBox", G::BoxTools, S::Shown, false},
+                M::Boxes, "&Delete Box", "Del", "DeleteBox", false, false},
     CommandInfo{C::RenameBox, T::None, "Rename", "Give the selected box another name",
-                M::Boxes, "&Rename Box", "F2", "", G::None, S::Shown, false},
+                M::Boxes, "&Rename Box", "F2", "", false, false},
     CommandInfo{C::Undo, T::None, "Undo", "Take back the last change of a box",
-                M::Boxes, "&Undo", "Ctrl+Z", "", G::None, S::Shown, true},
+                M::Boxes, "&Undo", "Ctrl+Z", "", false, true},
     CommandInfo{C::Redo, T::None, "Redo", "Make the change again that was taken back",
-                M::Boxes, "R&edo", "Ctrl+Shift+Z", "", G::None, S::Shown, false},
+                M::Boxes, "R&edo", "Ctrl+Shift+Z", "", false, false},
     CommandInfo{C::OpenForm, T::None, "OpenForm", "Open the form of the selected line",
-                M::Review, "Open &Form\tEnter", "", "", G::None, S::Shown, true},
+                M::Review, "Open &Form\tEnter", "", "", false, true},
     CommandInfo{C::NextForm, T::None, "NextForm", "Open the form below",
-                M::Review, "&Next Form", "PgDown", "", G::None, S::Shown, false},
+                M::Review, "&Next Form", "PgDown", "", false, false},
     CommandInfo{C::PreviousForm, T::None, "PreviousForm", "Open the form above",
-                M::Review, "&Previous Form", "PgUp", "", G::None, S::Shown, false},
+                M::Review, "&Previous Form", "PgUp", "", false, false},
     CommandInfo{C::FlipBox, T::None, "FlipBox", "Turn the mark of the selected box round",
-                M::Review, "&Turn Mark\tSpace", "", "", G::None, S::Shown, true},
+                M::Review, "&Turn Mark\tSpace", "", "", false, true},
     CommandInfo{C::NextDoubtful, T::None, "NextDoubtful", "Go to the next box whose ink is near the threshold",
-                M::Review, "Next &Doubtful Box", "Ctrl+D", "", G::None, S::Shown, false},
+                M::Review, "Next &Doubtful Box", "Ctrl+D", "", false, false},
+    CommandInfo{C::OpenWorkingFolder, T::None, "OpenWorkingFolder", "Show the working folder on the desktop",
+                M::File, "Open &Working Folder", "Ctrl+Shift+O", "", false, true},
+    CommandInfo{C::OpenLog, T::None, "OpenLog", "Read the newest log",
+                M::File, "Open &Log", "Ctrl+Shift+L", "", false, false},
     CommandInfo{C::Settings, T::None, "Settings", "Folder, box sizes and processing options",
-                M::File, "Se&ttings...", "Ctrl+,", "", G::None, S::Shown, true},
+                M::File, "Se&ttings...", "Ctrl+,", "", false, true},
     CommandInfo{C::Exit, T::None, "Exit", "Close the program",
-                M::File, "E&xit", "Ctrl+Q", "", G::None, S::Shown, true},
+                M::File, "E&xit", "Ctrl+Q", "", false, true},
     CommandInfo{C::About, T::None, "About", "Name and version of the program",
-                M::Help, "&About...", "F1", "", G::None, S::Shown, false},
+                M::Help, "&About...", "F1", "", false, false},
 };
 // clang-format on
+
+// Shorter than the menu's texts, so that all buttons have room in a narrow window.
+constexpr std::pair<Command, std::string_view> kLabels[] = {
+    {C::New, "New"},           {C::Save, "Save"},         {C::DeleteProfile, "Delete"},
+    {C::ZoomToOrig, "100 %"},  {C::ZoomIn, "Larger"},     {C::ZoomOut, "Smaller"},
+    {C::FitPage, "Page"},      {C::FitWidth, "Width"},    {C::Process, "Process"},
+    {C::Stop, "Stop"},         {C::Review, "Review"},     {C::Okay, "Reviewed"},
+    {C::AcceptForm, "Accept"}, {C::RejectForm, "Reject"}, {C::SelectBox, "Select"},
+    {C::AddBox, "Add"},        {C::DeleteBox, "Delete"},
+};
 
 }  // namespace
 
@@ -80,11 +95,11 @@ std::span<const CommandInfo> CommandTable() {
     return kCommands;
 }
 
-const CommandInfo& InfoOf(Command command) {
-    for (const CommandInfo& info : kCommands)
-        if (info.command == command)
-            return info;
-    return kCommands.front();
+std::string_view LabelOf(Command command) {
+    for (const auto& [labelled, label] : kLabels)
+        if (labelled == command)
+            return label;
+    return {};
 }
 
 }  // namespace tavrene::commands

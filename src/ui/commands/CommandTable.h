@@ -31,20 +31,26 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    OpenWorkingFolder,
+    OpenLog,
+    ToolbarLabels,
     Settings,
     Exit,
-    About
+    About,
+
+    // What the person does in lists and views, which no button or menu does.
+    PickThumbnail,
+    SetActive,
+    EditBoxes,
+    PickForm,
+    PickProfile,  // to read the open form against
+    PickMark
 };
 
 /// Where a command's button stands; the commands without one are reached through the menu bar alone.
 enum class Toolbar { Main, Cfg, None };
 
 enum class Menu { File, Boxes, View, Process, Review, Help };
-
-/// Buttons that are offered or not as one.
-enum class ButtonGroup { None, BoxTools, ProfileFile, View, Processing };
-
-enum class StartState { Shown, Toggle, Hidden };
 
 /// One command as the window presents it.
 struct CommandInfo {
@@ -56,14 +62,15 @@ struct CommandInfo {
     std::string_view menuText;  ///< Behind a tab the key that does it where its list has the focus.
     std::string_view shortcut;  ///< Portable text ("Ctrl+N"); empty for none.
     std::string_view icon;      ///< Name of the picture; empty for none.
-    ButtonGroup group;
-    StartState start;
+    bool isToggle;              ///< Its button stays pressed.
     bool separatorBefore;
 };
 
-/// All commands; those of one toolbar or menu stand in its order.
+/// All commands with a place in the menus; those of one toolbar or menu stand in its order.
 std::span<const CommandInfo> CommandTable();
 
-const CommandInfo& InfoOf(Command command);
+/// The word or two under a command's button, where buttons carry labels; empty for a command without a
+/// button.
+std::string_view LabelOf(Command command);
 
 }  // namespace tavrene::commands

@@ -2,20 +2,20 @@
 
 #include <string>
 
+#include "app/FileDialogs.h"
 #include "app/Operator.h"
 #include "profiles/ProfileStore.h"
 #include "ui/commands/AppState.h"
-#include "ui/commands/FileDialogs.h"
 
 namespace tavrene::commands {
 
 /// What the profile commands act on; everything must outlive them.
-struct ProfileDoors {
+struct ProfileContext {
     profiles::ProfileStore& store;
     profiles::OpenProfile& profile;
     app::Operator& person;
-    FileDialogs& dialogs;
-    imaging::PageView& view;
+    app::FileDialogs& dialogs;
+    imaging::PageScreen& page;
 };
 
 /// The commands `New`, `Save` and `Delete` and the events of the thumbnail strip. After the texts of a
@@ -23,7 +23,8 @@ struct ProfileDoors {
 /// with it above all; of one that was opened it stands behind its heading.
 class ProfileCommands {
   public:
-    ProfileCommands(const AppState& state, const ProfileDoors& doors) : state_(state), doors_(doors) {}
+    ProfileCommands(const AppState& state, const ProfileContext& context)
+        : state_(state), context_(context) {}
 
     void New();
     void Save();
@@ -40,15 +41,15 @@ class ProfileCommands {
     void SetActive(bool active);
 
     /// Whether `Save`, the editing tools and `chkActive` have something to act on, and whether `Delete` has.
-    bool CanEdit() const { return doors_.profile.IsOpen; }
-    bool CanDelete() const { return !doors_.profile.Path.empty(); }
+    bool CanEdit() const { return context_.profile.IsOpen; }
+    bool CanDelete() const { return !context_.profile.Path.empty(); }
 
   private:
     void ForgetNotes();
     void TellMore(const std::string& heading = {});
 
     const AppState& state_;
-    ProfileDoors doors_;
+    ProfileContext context_;
 };
 
 }  // namespace tavrene::commands

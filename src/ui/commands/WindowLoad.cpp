@@ -22,15 +22,15 @@ AppState InitialState(const app::Settings& settings) {
     return state;
 }
 
-void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate) {
-    if (!CanCallImageLibrary(doors.imageLibraryVersion)) {
+void LoadWindow(AppState& state, const LoadContext& context, CommandGate& gate) {
+    if (!CanCallImageLibrary(context.imageLibraryVersion)) {
         constexpr std::string_view kText = "FreeImage is not available";
         gate.Guard([&] {
-            doors.log.LogProfileEvent(kText);
-            doors.person.ShowMessage("", kText);
+            context.log.LogProfileEvent(kText);
+            context.person.ShowMessage("", kText);
         });
     }
-    gate.Guard(doors.loadProfiles);
+    gate.Guard(context.loadProfiles);
     state.reach = boxes::ReachFor(boxes::SizesOf(state.settings));
 }
 

@@ -11,7 +11,7 @@
 namespace tavrene::commands {
 
 /// What loading the window needs of the world.
-struct LoadDoors {
+struct LoadContext {
     app::ActivityLog& log;
     app::Operator& person;
     std::function<std::string()> imageLibraryVersion;  ///< Empty text or an exception: it cannot be called.
@@ -23,6 +23,6 @@ AppState InitialState(const app::Settings& settings);
 
 /// Tests the image library, loads the profiles and fixes the reach of box finding, in this order. A step that
 /// fails is told through the gate and does not keep the window from opening.
-void LoadWindow(AppState& state, const LoadDoors& doors, CommandGate& gate);
+void LoadWindow(AppState& state, const LoadContext& context, CommandGate& gate);
 
 }  // namespace tavrene::commands

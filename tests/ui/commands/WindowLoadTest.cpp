@@ -19,7 +19,7 @@ class WindowLoadTest : public test::RunWorld {
 
     AppState Load(std::function<std::string()> version) {
         AppState state = InitialState(settings_);
-        CommandGate gate(person_, log_, state.processing);
+        CommandGate gate({person_, log_, [] { return Mode::Start; }, {}, {}});
         LoadWindow(state,
                    {log_, person_, std::move(version),
                     [&] {

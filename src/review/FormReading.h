@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "imaging/PageReader.h"
+#include "review/OpenForm.h"
+
+namespace tavrene::review {
+
+/// Finds place and ink of every box that both document and profile have, and the places of those that only
+/// the profile has. Without a page the boxes have neither.
+void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold);
+
+/// The form as it reads against `profile`, at the shifts that its document had when it was opened: what was
+/// read against another profile in between may have lost them. Nothing is written. Throws
+/// `recognition::ReadingError`.
+OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
+                  std::int16_t fillThreshold);
+
+/// The number of checked marks.
+int CountChecked(const OpenForm& form);
+
+}  // namespace tavrene::review

@@ -1,0 +1,185 @@
+#include "review/ReviewSession.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "profiles/ProfileLoader.h"
+
+namespace tavrene::review {
+
+using app::Panel;
+
+ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& settings,
+                             const app::WorkingFolders& folders,
+                             const std::vector<profiles::ProfileRecord>& profiles)
+    : context_(context),
+      folders_(folders),
+      profiles_(profiles),
+      list_(context, folders),
+      form_(context, settings, folders, profiles, list_),
+      mover_(context.files, folders) {}
+
+void ReviewSession::Begin() {
+    stage_ = Stage::On;
+    FormScreen(context_).Clear();
+    ShowList();
+}
+
+void ReviewSession::End() {
+    form_.Close();
+    stage_ = Stage::Over;
+    context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles_));
+    FormScreen screen(context_);
+    screen.ClearPanels();
+    screen.Clear();
+}
+
+void ReviewSession::RunBegins() {
+    form_.Close();
+    TrySettle();
+}
+
+void ReviewSession::Refill() {
+    if (IsOn())
+        ShowList();
+}
+
+void ReviewSession::ShowList() {
+    TrySettle();
+    tried_.reset();
+    list_.Fill(profiles_);
+}
+
+std::optional<std::size_t> ReviewSession::OpenLine() const {
+    return HasForm() ? list_.IndexOf(form_.Form()->Document) : std::nullopt;
+}
+
+void ReviewSession::Open(std::size_t line) {
+    const std::string document = list_.Lines().at(line).Document;
+    context_.lines.SelectLine(line);
+    tried_ = line;
+    form_.Open(document);
+    if (!list_.IndexOf(document))
+        tried_.reset();
+}
+
+std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
+    const std::optional<std::size_t> open = OpenLine();
+    const std::optional<std::size_t> from = open ? open : selected;
+    const bool isNext = !open && selected != tried_ && step > 0;
+    const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + (isNext ? 0 : step) : 0;
+    if (line < 0 || line >= std::ssize(list_.Lines()))
+        return std::nullopt;
+    return static_cast<std::size_t>(line);
+}
+
+void ReviewSession::FlipBox(int row) {
+    BoxSelected(row);
+    form_.FlipBox(row);
+}
+
+void ReviewSession::BoxSelected(int row) {
+    if (HasForm())
+        context_.page.Emphasise(row);
+}
+
+bool ReviewSession::NextDoubtful(int row) {
+    if (!HasForm())
+        return false;
+    const int next = form_.NextDoubtful(row);
+    if (next == 0) {
+        context_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
+        return false;
+    }
+    context_.rows.SelectRow(next);
+    context_.page.Emphasise(next);
+    return true;
+}
+
+bool ReviewSession::MayLeave() {
+    if (!HasForm() || !form_.Form()->Changed)
+        return true;
+    switch (context_.person.AskYesNoCancel("Save changes to Form <" + form_.Form()->Name + ">?")) {
+        case app::Answer::No:
+            return true;
+        case app::Answer::Cancel:
+            SelectOpenLine();
+            return false;
+        case app::Answer::Yes:
+            break;
+    }
+    try {
+        Save();
+    } catch (...) {
+        SelectOpenLine();
+        throw;
+    }
+    return true;
+}
+
+// The form that is not left is the one that counts, wherever the person has clicked.
+void ReviewSession::SelectOpenLine() {
+    if (const std::optional<std::size_t> line = OpenLine())
+        context_.lines.SelectLine(*line);
+}
+
+void ReviewSession::Save() {
+    if (!HasForm())
+        return;
+    OpenForm& form = *form_.Form();
+    recognition::ResultDocument saved = form.Result.Clone();
+    saved.SetReviewed(true);
+    saved.SetProfile(form.Profile.Name);
+    if (form.Profile.Name == form.SavedProfile)
+        saved.SetChecked(form.Marks);
+    else
+        saved.ReplaceMarks(form.Marks);
+    saved.Save(context_.files, folders_.ProcessOut + form.Document);
+    form.Result = std::move(saved);
+    form.SavedProfile = form.Profile.Name;
+    form.Changed = false;
+    list_.Change(form.Document, true, form.Result.Confidence());
+    context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
+    list_.ShowCounts();
+}
+
+// What an earlier decision left half done is settled first, since there is one note for all moves.
+void ReviewSession::Decide(Decision decision) {
+    if (!HasForm())
+        return;
+    SettleInterrupted();
+    const FormMove move{decision, form_.Form()->Result.Image(), form_.Form()->Document};
+    mover_.Move(move);
+    const std::size_t line = OpenLine().value_or(0);
+    list_.Remove(move.Document);
+    form_.Close();
+    tried_.reset();
+    // The next line has moved up into the place of the one that left.
+    if (!list_.Lines().empty())
+        context_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+    LogDecision(move);
+    list_.ShowCounts();
+}
+
+void ReviewSession::LogDecision(const FormMove& move) {
+    const char* const word = move.decision == Decision::Accept ? "accepted." : "rejected.";
+    context_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) + "] " + word);
+    mover_.Forget();
+}
+
+void ReviewSession::SettleInterrupted() {
+    if (const std::optional<FormMove> done = mover_.Settle())
+        LogDecision(*done);
+}
+
+// A decision that still cannot be settled must not keep the other forms away.
+void ReviewSession::TrySettle() {
+    try {
+        SettleInterrupted();
+    } catch (const std::exception& error) {
+        context_.person.ShowMessage("", error.what());
+    }
+}
+
+}  // namespace tavrene::review

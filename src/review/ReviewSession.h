@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "profiles/ProfileRecord.h"
+#include "review/FormMover.h"
+#include "review/FormReview.h"
+#include "review/ReviewList.h"
+#include "review/ReviewScreen.h"
+
+namespace tavrene::review {
+
+/// A person's way through the processed forms: the list, the open form, and what is decided about it. Lines
+/// of the list are counted from 0, rows of the open form's boxes from 1. Failures throw with a text that
+/// names the file; form, list and counters are then as they were.
+class ReviewSession {
+  public:
+    /// Everything must outlive the object. `profiles` are the loaded ones, whatever they are at the time.
+    ReviewSession(const ReviewContext& context, const app::Settings& settings,
+                  const app::WorkingFolders& folders, const std::vector<profiles::ProfileRecord>& profiles);
+
+    /// Settles a decision that an earlier start of the program did not live to end: its files are together
+    /// again in `ProcessOut`, or it was done and is logged now. Throws `app::FileError` when that has to
+    /// wait.
+    void SettleInterrupted();
+
+    /// Fills the list on an empty screen; the person enters review.
+    void Begin();
+
+    /// Takes form and list from the screen, without saving; the person leaves review.
+    void End();
+    bool IsOn() const { return stage_ == Stage::On; }
+
+    /// Whether the person is in review or has been there.
+    bool WasOn() const { return stage_ != Stage::NotYet; }
+
+    /// Takes the open form from the screen, and leaves no decision half done: a run begins.
+    void RunBegins();
+
+    /// Fills the list anew when the person is in review: a run has ended.
+    void Refill();
+
+    /// Whether `Okay`, `AcceptForm`, `RejectForm` and `cboProfiles` have a form to act on.
+    bool HasForm() const { return form_.Form() != nullptr; }
+
+    /// The line of the open form.
+    std::optional<std::size_t> OpenLine() const;
+
+    /// The prompt before the open form is left, which saves it on Yes; false when the command at hand is to
+    /// be abandoned. Where the form stays open, its line is selected.
+    bool MayLeave();
+
+    /// Opens the form of a line. Unsaved changes of the open one are lost: the prompt comes before.
+    void Open(std::size_t line);
+
+    /// The line `step` lines below that of the open form, where there is one. While none is open, the next
+    /// one is the `selected` one, unless that has just been tried.
+    std::optional<std::size_t> Neighbour(std::optional<std::size_t> selected, int step) const;
+
+    /// Turns the mark of a row round and brings its box into view.
+    void FlipBox(int row);
+
+    /// The row became the current one.
+    void BoxSelected(int row);
+
+    /// Makes the next box whose mark is open to doubt the current one, starting behind `row`. False when
+    /// there is none.
+    bool NextDoubtful(int row);
+
+    void ReadAgainst(const std::string& profileName) { form_.ReadAgainst(profileName); }
+
+    /// Marks the open form as reviewed and writes its marks; counts it when it was not reviewed before.
+    void Save();
+
+    /// Moves image and document of the open form out of `ProcessOut` and selects the next line.
+    void Accept() { Decide(Decision::Accept); }
+    void Reject() { Decide(Decision::Reject); }
+
+  private:
+    enum class Stage { NotYet, On, Over };
+
+    void TrySettle();
+    void ShowList();
+    void SelectOpenLine();
+    void Decide(Decision decision);
+    void LogDecision(const FormMove& move);
+
+    ReviewContext context_;
+    const app::WorkingFolders& folders_;
+    const std::vector<profiles::ProfileRecord>& profiles_;
+    ReviewList list_;
+    FormReview form_;
+    FormMover mover_;
+    Stage stage_ = Stage::NotYet;
+    std::optional<std::size_t> tried_;  ///< The line that was opened last, or could not be opened.
+};
+
+}  // namespace tavrene::review

@@ -1,0 +1,18 @@
+#include "ui/commands/Places.h"
+
+namespace tavrene::commands {
+
+std::string WorkingFolderInUse(const app::WorkingFolders& folders) {
+    return app::FromPath(app::ToPath(folders.Log).parent_path().parent_path());
+}
+
+std::string LogToShow(const app::Files& files, const app::WorkingFolders& folders) {
+    for (const char* pattern : {"TavreneBoxes-Process-*.Log", "TavreneBoxes-Profile-*.Log"}) {
+        // The names end in the day, so the last in order is the newest.
+        if (const auto logs = files.List(folders.Log, pattern); !logs.empty())
+            return folders.Log + logs.back();
+    }
+    return folders.Log;
+}
+
+}  // namespace tavrene::commands

@@ -1,0 +1,200 @@
+#include "ui/lists/BoxListView.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kValColumn = 1;
+constexpr int kInkColumn = 2;
+constexpr int kValWidth = 52;
+constexpr int kInkMargin = 24;
+constexpr int kRowMargin = 6;
+
+// Reads on light and dark bases alike.
+const QColor kDoubt(255, 180, 0, 90);
+
+void ShowName(QTreeWidgetItem& row, const QString& name) {
+    row.setText(0, name);
+    row.setToolTip(0, name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>");
+}
+
+// Room for the widest ink, as a doubtful row shows it.
+int InkWidth(QFont font) {
+    font.setBold(true);
+    return QFontMetrics(font).horizontalAdvance("100.0%") + kInkMargin;
+}
+
+void ShowDoubt(QTreeWidgetItem& row, bool isDoubtful) {
+    const QString why = isDoubtful ? "The ink is near the threshold: look at this box" : QString();
+    for (int column = 0; column <= kInkColumn; ++column) {
+        QFont bold = row.font(column);
+        bold.setBold(true);
+        row.setData(column, Qt::FontRole, isDoubtful ? QVariant(bold) : QVariant());
+        row.setData(column, Qt::BackgroundRole, isDoubtful ? QVariant(QBrush(kDoubt)) : QVariant());
+    }
+    row.setToolTip(kInkColumn, why);
+    row.setData(0, Qt::AccessibleDescriptionRole, why);
+}
+
+}  // namespace
+
+// Edits names and tells of those that were changed by hand.
+class BoxListView::NameDelegate final : public QStyledItemDelegate {
+  public:
+    explicit NameDelegate(BoxListView& list) : QStyledItemDelegate(&list), list_(list) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
+        auto* const editor = new QLineEdit(parent);
+        editor->setObjectName("BoxName");
+        editor->setAccessibleName("Name of the check box");
+        // The usual frame of a field would leave no room for the text in a row.
+        editor->setStyleSheet("QLineEdit { border: 1px solid palette(highlight); }");
+        list_.nameEditor_ = editor;
+        return editor;
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
+        const QString name = qobject_cast<QLineEdit*>(editor)->text();
+        if (name == index.data().toString())
+            return;
+        const int number = index.data(Qt::UserRole).toInt();
+        ShowName(*list_.itemFromIndex(index), name);
+        list_.listener_.renamed(number, name);
+    }
+
+  private:
+    BoxListView& list_;
+};
+
+BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
+    setObjectName("lvwSettings");
+    setAccessibleName("Check boxes of the page");
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setFrameShape(QFrame::NoFrame);
+    setHeaderLabels({"Check box"});
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionsMovable(false);
+    setItemDelegateForColumn(0, new NameDelegate(*this));
+    SetEditable(false);
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* row) { TellClicked(row); });
+}
+
+void BoxListView::SetEditable(bool editable) {
+    setEditTriggers(editable ? QAbstractItemView::DoubleClicked : QAbstractItemView::NoEditTriggers);
+}
+
+void BoxListView::EditName(int number) {
+    if (QTreeWidgetItem* const row = RowOf(number)) {
+        setFocus();
+        editItem(row);
+    }
+}
+
+void BoxListView::FinishEdit() {
+    if (QWidget* const editor = nameEditor_; editor != nullptr && state() == EditingState) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+int BoxListView::NumberOf(const QTreeWidgetItem* row) {
+    return row == nullptr ? 0 : row->data(0, Qt::UserRole).toInt();
+}
+
+void BoxListView::ClearRows(profiles::BoxColumns columns) {
+    clear();
+    setColumnCount(static_cast<int>(columns) + 1);
+    for (int column = kValColumn; column < columnCount(); ++column) {
+        headerItem()->setText(column, column == kValColumn ? "Val" : "Ink");
+        headerItem()->setTextAlignment(column, Qt::AlignCenter);
+        header()->setSectionResizeMode(column, QHeaderView::Fixed);
+        header()->resizeSection(column, column == kValColumn ? kValWidth : InkWidth(font()));
+    }
+}
+
+void BoxListView::PutRow(int number, const profiles::BoxRow& row) {
+    QTreeWidgetItem* const present = RowOf(number);
+    QTreeWidgetItem& item = present == nullptr ? AddRow(number) : *present;
+    ShowName(item, ToQt(row.name));
+    if (columnCount() > kValColumn) {
+        item.setText(kValColumn, ToQt(row.val));
+        item.setTextAlignment(kValColumn, Qt::AlignCenter);
+    }
+    if (columnCount() > kInkColumn) {
+        item.setText(kInkColumn, ToQt(row.ink));
+        item.setTextAlignment(kInkColumn, Qt::AlignRight | Qt::AlignVCenter);
+        ShowDoubt(item, row.isDoubtful);
+    }
+}
+
+QTreeWidgetItem& BoxListView::AddRow(int number) {
+    auto* const row = new QTreeWidgetItem;
+    row->setData(0, Qt::UserRole, number);
+    row->setSizeHint(0, {0, fontMetrics().height() + kRowMargin});
+    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    insertTopLevelItem(PlaceFor(number), row);
+    return *row;
+}
+
+void BoxListView::RemoveRow(int number) {
+    delete RowOf(number);
+}
+
+void BoxListView::SelectRow(int number) {
+    QTreeWidgetItem* const row = RowOf(number);
+    clearSelection();
+    setCurrentItem(row);
+    if (row != nullptr)
+        scrollToItem(row);
+}
+
+void BoxListView::RefreshRows() {
+    viewport()->repaint();
+}
+
+// The place behind all rows of this number and below; rows stand in the order of their numbers.
+int BoxListView::PlaceFor(int number) const {
+    int first = 0;
+    int last = topLevelItemCount();
+    while (first < last) {
+        const int middle = (first + last) / 2;
+        if (NumberOf(topLevelItem(middle)) <= number)
+            first = middle + 1;
+        else
+            last = middle;
+    }
+    return first;
+}
+
+QTreeWidgetItem* BoxListView::RowOf(int number) const {
+    QTreeWidgetItem* const row = topLevelItem(PlaceFor(number) - 1);
+    return NumberOf(row) == number ? row : nullptr;
+}
+
+void BoxListView::TellClicked(const QTreeWidgetItem* row) {
+    if (row != nullptr && listener_.clicked)
+        listener_.clicked(NumberOf(row));
+}
+
+void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+void BoxListView::keyPressEvent(QKeyEvent* event) {
+    const QTreeWidgetItem* const before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    if (currentItem() != before)
+        TellClicked(currentItem());
+}
+
+}  // namespace tavrene::ui

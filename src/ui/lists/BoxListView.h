@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QPointer>
+#include <QTreeWidget>
+#include <functional>
+
+#include "profiles/BoxRows.h"
+
+namespace tavrene::ui {
+
+/// The box list `lvwSettings`: one row a box, with its name and at times its mark and ink. Names can be
+/// edited in place while a profile is open.
+class BoxListView final : public QTreeWidget, public profiles::BoxRows {
+  public:
+    struct Listener {
+        std::function<void(int number)> clicked;  ///< By mouse or keyboard.
+        std::function<void(int number, const QString& name)> renamed;
+    };
+
+    explicit BoxListView(QWidget* parent);
+
+    void SetListener(Listener listener) { listener_ = std::move(listener); }
+
+    /// Whether a double click on a row edits its name.
+    void SetEditable(bool editable);
+
+    /// Starts editing the name of a box.
+    void EditName(int number);
+
+    /// Takes over what is being typed, as Enter would.
+    void FinishEdit();
+
+    /// The box's number of a row, or of the current row; 0 for none.
+    static int NumberOf(const QTreeWidgetItem* row);
+    int CurrentNumber() const { return NumberOf(currentItem()); }
+
+    void ClearRows(profiles::BoxColumns columns) override;
+    void PutRow(int number, const profiles::BoxRow& row) override;
+    void RemoveRow(int number) override;
+    void SelectRow(int number) override;
+    void RefreshRows() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// Of the left button only, as with single clicks.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+  private:
+    class NameDelegate;
+
+    QTreeWidgetItem* RowOf(int number) const;
+    QTreeWidgetItem& AddRow(int number);
+    int PlaceFor(int number) const;
+    void TellClicked(const QTreeWidgetItem* row);
+
+    Listener listener_;
+    QPointer<QWidget> nameEditor_;
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,184 @@
+#include "ui/page/BoxLayer.h"
+
+#include <QGraphicsScene>
+#include <QPen>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include "ui/page/DrawTool.h"
+#include "ui/page/ImageView.h"
+#include "ui/page/SelectTool.h"
+
+namespace tavrene::ui {
+namespace {
+
+// How far beside a box a click still means it, in pixels of the screen.
+constexpr double kNearby = 3;
+
+// Room that is left around a box when it is scrolled to, in pixels of the screen.
+constexpr int kScrollMargin = 60;
+
+QRectF ToRect(const imaging::PageRect& box) {
+    return {box.left, box.top, box.width, box.height};
+}
+
+imaging::PageRect ToPageRect(const QRectF& rect) {
+    return {rect.left(), rect.top(), rect.width(), rect.height()};
+}
+
+}  // namespace
+
+BoxLayer::BoxLayer(ImageView& view)
+    : view_(view), items_(new QGraphicsItemGroup), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
+    tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
+    tools_[imaging::BoxTool::Add] = std::make_unique<DrawTool>(*this);
+    QPen pen(QColor(213, 94, 0), 1.5, Qt::DashLine);
+    pen.setCosmetic(true);
+    drawn_->setPen(pen);
+    drawn_->setBrush(QColor(213, 94, 0, 40));
+    drawn_->setZValue(2);
+    drawn_->setVisible(false);
+    view_.scene()->addItem(items_);
+    view_.scene()->addItem(frame_);
+    view_.scene()->addItem(drawn_);
+}
+
+BoxLayer::~BoxLayer() = default;
+
+void BoxLayer::SetEditable(bool editable) {
+    if (editable == editable_)
+        return;
+    editable_ = editable;
+    view_.UseTool(editable ? tools_[tool_].get() : nullptr);
+}
+
+void BoxLayer::SetTool(imaging::BoxTool tool, int nextGroup) {
+    nextGroup_ = nextGroup;
+    if (tool == tool_)
+        return;
+    tool_ = tool;
+    if (editable_)
+        view_.UseTool(tools_[tool_].get());
+}
+
+void BoxLayer::Clear() {
+    qDeleteAll(items_->childItems());
+    boxes_.clear();
+    ShowDrawn({});
+    Mark(0);
+}
+
+void BoxLayer::Put(int group, const imaging::PageRect& rect, imaging::RectStyle style) {
+    ShowDrawn({});
+    Shown& box = boxes_[group];
+    if (box.item == nullptr)
+        box.item = new RectItem(items_);
+    box.style = style;
+    box.item->SetStyle(style);
+    ShowAt(group, ToRect(rect));
+    if (style == imaging::RectStyle::Editable)
+        view_.MakeReachable(ToRect(rect));
+}
+
+void BoxLayer::Remove(int group) {
+    const auto box = boxes_.find(group);
+    if (box == boxes_.end())
+        return;
+    if (group == selected_)
+        Mark(0);
+    delete box->second.item;
+    boxes_.erase(box);
+}
+
+void BoxLayer::Emphasise(int group) {
+    Mark(group);
+    if (selected_ != 0)
+        view_.ensureVisible(PlaceOf(selected_), kScrollMargin, kScrollMargin);
+}
+
+double BoxLayer::Scale() const {
+    return view_.Zoom() / 100;
+}
+
+QRectF BoxLayer::Room() const {
+    constexpr double kMost = std::numeric_limits<std::int16_t>::max();
+    const QRectF page = view_.PageRect();
+    return page.isEmpty() ? QRectF(0, 0, kMost, kMost) : page;
+}
+
+QPointF BoxLayer::Snapped(const QPointF& point, const QRectF& place) const {
+    const QRectF room = Room() | place;
+    return {std::clamp(std::round(point.x()), room.left(), room.right()),
+            std::clamp(std::round(point.y()), room.top(), room.bottom())};
+}
+
+QRectF BoxLayer::Moved(const QRectF& place, const QPointF& by) const {
+    const QRectF room = Room();
+    return place.translated(std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
+                                       std::max(0.0, room.right() - place.right())),
+                            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
+                                       std::max(0.0, room.bottom() - place.bottom())));
+}
+
+int BoxLayer::BoxAt(const QPointF& point) const {
+    const double nearby = kNearby / Scale();
+    int found = 0;
+    double smallest = 0;
+    for (const auto& [group, box] : boxes_) {
+        const double area = box.place.width() * box.place.height();
+        const bool isHit = box.place.adjusted(-nearby, -nearby, nearby, nearby).contains(point);
+        if (!isHit || (found != 0 && area >= smallest))
+            continue;
+        found = group;
+        smallest = area;
+    }
+    return found;
+}
+
+QRectF BoxLayer::PlaceOf(int group) const {
+    const auto box = boxes_.find(group);
+    return box == boxes_.end() ? QRectF() : box->second.place;
+}
+
+void BoxLayer::ShowAt(int group, const QRectF& place) {
+    const auto box = boxes_.find(group);
+    if (box == boxes_.end())
+        return;
+    box->second.place = place;
+    const bool isEditable = box->second.style == imaging::RectStyle::Editable;
+    const imaging::PageRect rect = ToPageRect(place);
+    box->second.item->SetRect(isEditable ? imaging::PaintedPart(rect) : rect);
+    if (group == selected_ && isEditable)
+        frame_->SetRect(place);
+}
+
+void BoxLayer::ShowDrawn(const QRectF& rect) {
+    drawn_->setRect(rect);
+    drawn_->setVisible(!rect.isNull());
+}
+
+void BoxLayer::TellSelected(int group, const QRectF& place) {
+    listener_.selected(imaging::ReportOf(group, ToPageRect(place), view_.Zoom(), view_.Scroll()));
+    // A rectangle that was not taken as a box leaves the selection as it was.
+    if (boxes_.contains(group))
+        Mark(group);
+}
+
+void BoxLayer::TellMoved(int group) {
+    listener_.moved(group);
+}
+
+void BoxLayer::Mark(int group) {
+    if (const auto before = boxes_.find(selected_); before != boxes_.end())
+        before->second.item->SetEmphasised(false);
+    const auto box = boxes_.find(group);
+    selected_ = box == boxes_.end() ? 0 : group;
+    const bool isEditable = selected_ != 0 && box->second.style == imaging::RectStyle::Editable;
+    frame_->SetRect(isEditable ? box->second.place : QRectF());
+    if (selected_ != 0)
+        box->second.item->SetEmphasised(!isEditable);
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QGraphicsItemGroup>
+#include <QGraphicsRectItem>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "imaging/PageScreen.h"
+#include "ui/page/HandleFrame.h"
+#include "ui/page/PageTool.h"
+#include "ui/page/RectItem.h"
+
+namespace tavrene::ui {
+
+class ImageView;
+
+/// The rectangles over the page, one a group. Editable ones can be selected, moved, resized and drawn anew:
+/// the layer shows them and tells of what the person does with them; where a box really is, the listener
+/// decides by putting it there.
+class BoxLayer final {
+  public:
+    struct Listener {
+        std::function<void(const imaging::RectReport&)> selected;  ///< Also after a move and for a new one.
+        std::function<void(int group)> moved;                      ///< Moved or resized; told first.
+    };
+
+    /// The view owns the layer and the items in its scene.
+    explicit BoxLayer(ImageView& view);
+    ~BoxLayer();
+
+    void SetListener(Listener listener) { listener_ = std::move(listener); }
+
+    /// Whether the tools act.
+    void SetEditable(bool editable);
+    imaging::BoxTool Tool() const { return tool_; }
+
+    // What the view does for `imaging::PageScreen`.
+
+    void Put(int group, const imaging::PageRect& rect, imaging::RectStyle style);
+    void Remove(int group);
+    void Clear();
+    void Emphasise(int group);
+    void SetTool(imaging::BoxTool tool, int nextGroup);
+    bool IsEmpty() const { return boxes_.empty(); }
+
+    // For the tools; rectangles and points in the page frame.
+
+    /// How many pixels of the screen one pixel of the page takes.
+    double Scale() const;
+
+    /// The point on whole pixels of the page.
+    QPointF Snapped(const QPointF& point, const QRectF& place = {}) const;
+
+    /// The place moved by whole pixels, not off the page or, of one that lies beside it, not further.
+    QRectF Moved(const QRectF& place, const QPointF& by) const;
+
+    /// The box at a point, the smallest where several lie over each other; 0 for none.
+    int BoxAt(const QPointF& point) const;
+    int SelectedBox() const { return selected_; }
+    int NextGroup() const { return nextGroup_; }
+
+    /// Where a box is shown; an empty rectangle for one that is not there.
+    QRectF PlaceOf(int group) const;
+
+    /// Shows a box elsewhere without telling of it.
+    void ShowAt(int group, const QRectF& place);
+
+    /// Shows the rectangle that is being drawn; an empty one hides it.
+    void ShowDrawn(const QRectF& rect);
+
+    void TellSelected(int group, const QRectF& place);
+    void TellMoved(int group);
+
+  private:
+    struct Shown {
+        RectItem* item;
+        QRectF place;
+        imaging::RectStyle style;
+    };
+    void Mark(int group);
+
+    /// Where boxes are put: the page, or every place that a document can hold while there is none.
+    QRectF Room() const;
+
+    ImageView& view_;
+    Listener listener_;
+    QGraphicsItemGroup* items_;  ///< Parent of all rectangles, so that they go in one step.
+    std::map<int, Shown> boxes_;
+    HandleFrame* frame_;
+    QGraphicsRectItem* drawn_;
+    std::map<imaging::BoxTool, std::unique_ptr<PageTool>> tools_;
+    imaging::BoxTool tool_ = imaging::BoxTool::Select;
+    bool editable_ = false;
+    int selected_ = 0;
+    int nextGroup_ = 1;
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,236 @@
+#include "ui/page/ImageView.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <limits>
+
+#include "ui/commands/Zoom.h"
+#include "ui/page/PageImage.h"
+
+namespace tavrene::ui {
+namespace {
+
+commands::Extent ExtentOf(const QSizeF& size) {
+    return {size.width(), size.height()};
+}
+
+void PaintNoPage(QPainter& painter, const QRect& area, const QPalette& palette, const QString& hint) {
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlphaF(0.55F);
+    painter.setPen(color);
+    QFont title = painter.font();
+    title.setPointSizeF(title.pointSizeF() * 1.35);
+    const int half = area.height() / 2;
+    painter.save();
+    painter.setFont(title);
+    painter.drawText(area.adjusted(16, 0, -16, -half - 4), Qt::AlignHCenter | Qt::AlignBottom,
+                     "No page is shown");
+    painter.restore();
+    painter.drawText(area.adjusted(16, half + 4, -16, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                     hint);
+}
+
+// Before the first place of either bar, which is not 0 where the page is smaller than the view.
+constexpr QPoint kTopLeft(std::numeric_limits<int>::min(), std::numeric_limits<int>::min());
+
+}  // namespace
+
+ImageView::ImageView(const app::Files& files, QWidget* parent)
+    : QGraphicsView(parent), files_(files), page_(new PageItem) {
+    setObjectName("ImgEdit1");
+    setAccessibleName("Page image");
+    setFrameShape(QFrame::NoFrame);
+    setScene(new QGraphicsScene(this));
+    scene()->setItemIndexMethod(QGraphicsScene::NoIndex);
+    scene()->addItem(page_);
+    setBackgroundBrush(palette().color(QPalette::Window).darker(112));
+    setRenderHint(QPainter::SmoothPixmapTransform);
+    setTransformationAnchor(QGraphicsView::AnchorViewCenter);
+    setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    viewport()->setMouseTracking(true);
+    boxes_ = std::make_unique<BoxLayer>(*this);
+    SetPage({});
+}
+
+void ImageView::SetPage(const QImage& image) {
+    if (HasPage()) {
+        lastSize_ = page_->Size().toSize();
+        lastScroll_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    }
+    page_->SetImage(image);
+    // Without a rectangle of its own the scene would keep the room that earlier pages took.
+    scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
+    const bool sameSize = HasPage() && image.size() == lastSize_;
+    ScrollTo(sameSize ? lastScroll_ : kTopLeft);
+    isUnseen_ = !sameSize;
+    viewport()->update();
+}
+
+void ImageView::ScrollTo(const QPoint& offset) {
+    horizontalScrollBar()->setValue(std::max(offset.x(), horizontalScrollBar()->minimum()));
+    verticalScrollBar()->setValue(std::max(offset.y(), verticalScrollBar()->minimum()));
+}
+
+void ImageView::SetHint(const QString& hint) {
+    if (hint == hint_)
+        return;
+    hint_ = hint;
+    viewport()->update();
+}
+
+void ImageView::ShowFile(const std::string& path) {
+    SetPage(ReadPageImage(files_, path));
+}
+
+void ImageView::ShowPicture(const imaging::Bitmap& picture) {
+    SetPage(ToImage(picture));
+}
+
+void ImageView::Clear() {
+    ClearRects();
+    SetPage({});
+}
+
+void ImageView::SetZoom(double percent) {
+    zoom_ = percent;
+    setTransform(QTransform::fromScale(percent / 100, percent / 100));
+    if (!HasPage())
+        lastSize_ = {};
+    if (isUnseen_)
+        ScrollTo(kTopLeft);
+}
+
+imaging::ScrollOffset ImageView::Scroll() const {
+    const QTransform shown = viewportTransform();
+    return {-shown.dx(), -shown.dy()};
+}
+
+void ImageView::Refresh() {
+    viewport()->repaint();
+}
+
+void ImageView::MakeReachable(const QRectF& rect) {
+    if (!sceneRect().contains(rect))
+        scene()->setSceneRect(sceneRect().united(rect));
+}
+
+void ImageView::UseTool(PageTool* tool) {
+    CancelTool();
+    tool_ = tool;
+    viewport()->setCursor(Qt::ArrowCursor);
+    ShowCursorAt(mapToScene(viewport()->mapFromGlobal(QCursor::pos())));
+}
+
+void ImageView::ZoomIn() {
+    if (HasPage())
+        SetZoom(commands::ZoomedIn(zoom_));
+}
+
+void ImageView::ZoomOut() {
+    if (HasPage())
+        SetZoom(commands::ZoomedOut(zoom_));
+}
+
+void ImageView::ZoomToOriginal() {
+    SetZoom(100);
+}
+
+void ImageView::FitPage() {
+    if (HasPage())
+        SetZoom(commands::ZoomToFitPage(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize())));
+}
+
+void ImageView::FitWidth() {
+    const double bar = verticalScrollBar()->sizeHint().width();
+    if (HasPage())
+        SetZoom(commands::ZoomToFitWidth(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize()), bar));
+}
+
+void ImageView::paintEvent(QPaintEvent* event) {
+    QGraphicsView::paintEvent(event);
+    isUnseen_ = false;
+    if (HasPage() || !boxes_->IsEmpty())
+        return;
+    QPainter painter(viewport());
+    PaintNoPage(painter, viewport()->rect(), palette(), hint_);
+}
+
+QPointF ImageView::PagePoint(const QMouseEvent& event) const {
+    return viewportTransform().inverted().map(event.position());
+}
+
+void ImageView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        panFrom_ = event->position().toPoint();
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    } else if (event->button() == Qt::LeftButton && tool_ != nullptr) {
+        tool_->Press(PagePoint(*event));
+    }
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    if (panFrom_)
+        Pan(event->position().toPoint());
+    else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
+        tool_->Drag(PagePoint(*event));
+    else
+        ShowCursorAt(PagePoint(*event));
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton)
+        panFrom_.reset();
+    else if (event->button() == Qt::LeftButton && tool_ != nullptr)
+        tool_->Release(PagePoint(*event));
+    ShowCursorAt(PagePoint(*event));
+}
+
+void ImageView::Pan(const QPoint& position) {
+    const QPoint by = position - *panFrom_;
+    panFrom_ = position;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - by.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - by.y());
+}
+
+void ImageView::ShowCursorAt(const QPointF& point) {
+    if (!panFrom_)
+        viewport()->setCursor(tool_ == nullptr ? QCursor(Qt::ArrowCursor) : tool_->CursorAt(point));
+}
+
+void ImageView::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    // Fine wheels and touch pads turn in small parts of a step.
+    wheelTurned_ += event->angleDelta().y();
+    const int steps = wheelTurned_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelTurned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    const QPointF held = viewportTransform().inverted().map(event->position());
+    for (int step = 0; step < std::abs(steps); ++step)
+        steps > 0 ? ZoomIn() : ZoomOut();
+    const QPointF away = viewportTransform().map(held) - event->position();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(away.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(away.y()));
+}
+
+void ImageView::keyPressEvent(QKeyEvent* event) {
+    static const std::map<int, QPoint> arrows = {
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    if (event->key() == Qt::Key_Escape && CancelTool())
+        return;
+    const auto arrow = arrows.find(event->key());
+    const bool isPlain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    if (arrow != arrows.end() && isPlain && takeArrow_) {
+        const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
+        if (takeArrow_(by.x(), by.y()))
+            return;
+    }
+    QGraphicsView::keyPressEvent(event);
+}
+
+}  // namespace tavrene::ui

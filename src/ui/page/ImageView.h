@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QGraphicsView>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "app/Files.h"
+#include "imaging/PageScreen.h"
+#include "ui/page/BoxLayer.h"
+#include "ui/page/PageItem.h"
+#include "ui/page/PageTool.h"
+
+namespace tavrene::ui {
+
+/// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
+/// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
+/// pointer, and the page can be dragged by the middle button.
+class ImageView final : public QGraphicsView, public imaging::PageScreen {
+  public:
+    /// `files` must outlive the view.
+    ImageView(const app::Files& files, QWidget* parent);
+
+    /// Replaces the page. One of the size of the page before it is shown scrolled as that was, also when the
+    /// view was cleared between them, any other from its top left corner. Rectangles stay, because a form's
+    /// boxes are drawn before its page is shown.
+    void ShowFile(const std::string& path) override;
+    void ShowPicture(const imaging::Bitmap& picture) override;
+    void Clear() override;
+    double Zoom() const override { return zoom_; }
+
+    /// Set while there is no page, the next page starts at its top left corner.
+    void SetZoom(double percent) override;
+    imaging::ScrollOffset Scroll() const override;
+    void Refresh() override;
+    void PutRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
+        boxes_->Put(group, rect, style);
+    }
+    void RemoveRect(int group) override { boxes_->Remove(group); }
+    void ClearRects() override { boxes_->Clear(); }
+    void Emphasise(int group) override { boxes_->Emphasise(group); }
+    void SetTool(imaging::BoxTool tool, int nextGroup) override { boxes_->SetTool(tool, nextGroup); }
+
+    /// What is said in the place of a page while there is none.
+    void SetHint(const QString& hint);
+
+    BoxLayer& Boxes() { return *boxes_; }
+
+    /// The page in its own frame; empty without one.
+    QRectF PageRect() const { return page_->boundingRect(); }
+
+    /// Lets the view scroll to a place beside the page.
+    void MakeReachable(const QRectF& rect);
+
+    /// The tool of the left button; null for none. It must outlive its use.
+    void UseTool(PageTool* tool);
+
+    /// Gives up what the tool is doing; false when it does nothing.
+    bool CancelTool() { return tool_ != nullptr && tool_->Cancel(); }
+
+    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; when it does
+    /// not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(int dx, int dy)> handler) { takeArrow_ = std::move(handler); }
+
+    /// Zooms in and out by the steps of the zoom commands, and to what fits; nothing without a page.
+    void ZoomIn();
+    void ZoomOut();
+    void ZoomToOriginal();
+    void FitPage();
+    void FitWidth();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    bool HasPage() const { return !page_->Size().isEmpty(); }
+    void SetPage(const QImage& image);
+    void ScrollTo(const QPoint& offset);
+    QPointF PagePoint(const QMouseEvent& event) const;
+    void Pan(const QPoint& position);
+    void ShowCursorAt(const QPointF& point);
+
+    const app::Files& files_;
+    PageItem* page_;
+    std::unique_ptr<BoxLayer> boxes_;
+    PageTool* tool_ = nullptr;
+    std::function<bool(int, int)> takeArrow_;
+    std::optional<QPoint> panFrom_;
+    QString hint_;
+    double zoom_ = 100;
+    QSize lastSize_;        ///< Of the page shown last,
+    QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
+    int wheelTurned_ = 0;   ///< What is left of the wheel's way to the next step.
+    bool isUnseen_ = true;  ///< The page has not been painted yet, so the person has scrolled nowhere.
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,162 @@
+#include "ui/reviewing/ReviewMode.h"
+
+#include <QKeyEvent>
+#include <optional>
+#include <utility>
+
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+
+using commands::Command;
+
+namespace {
+
+// What a key in one of the lists means; `canFlip` in a list of boxes that can be flipped.
+std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
+    if ((key.modifiers() & ~Qt::KeypadModifier) != 0)
+        return std::nullopt;
+    switch (key.key()) {
+        case Qt::Key_PageDown:
+            return Command::NextForm;
+        case Qt::Key_PageUp:
+            return Command::PreviousForm;
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return canFlip ? std::optional(Command::FlipBox) : std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
+                       const ReviewControls& controls, std::function<void()> closeProfile)
+    : gate_(context.gate),
+      closeProfile_(std::move(closeProfile)),
+      controls_(controls),
+      marks_(controls.view),
+      session_({context.files, context.log, context.person, controls.view, controls.boxes,
+                controls.pane.List(), controls.pane.Choice()},
+               state.settings, state.folders, state.profiles) {
+    ConnectCommands();
+    ConnectFormCommands();
+    ConnectControls();
+}
+
+void ReviewMode::ConnectCommands() {
+    gate_.SetHandler(Command::Review, [this] { Toggle(); });
+    gate_.SetHandler(
+        Command::OpenForm,
+        [this] {
+            if (const auto line = controls_.pane.List().SelectedLine())
+                session_.Open(*line);
+        },
+        [this] { return controls_.pane.List().SelectedLine().has_value(); });
+    ConnectNeighbour(Command::NextForm, 1);
+    ConnectNeighbour(Command::PreviousForm, -1);
+}
+
+void ReviewMode::ConnectNeighbour(Command command, int step) {
+    const auto line = [this, step] { return session_.Neighbour(controls_.pane.List().SelectedLine(), step); };
+    gate_.SetHandler(
+        command, [this, line] { session_.Open(*line()); }, [line] { return line().has_value(); });
+}
+
+void ReviewMode::ConnectFormCommands() {
+    gate_.SetHandler(Command::Okay, [this] { session_.Save(); });
+    gate_.SetHandler(Command::AcceptForm, [this] { session_.Accept(); });
+    gate_.SetHandler(Command::RejectForm, [this] { session_.Reject(); });
+    gate_.SetHandler(Command::FlipBox, [this] { session_.FlipBox(controls_.boxes.CurrentNumber()); });
+    gate_.SetHandler(Command::NextDoubtful, [this] { NextDoubtful(); });
+}
+
+void ReviewMode::ConnectControls() {
+    controls_.pane.List().SetListener(
+        [this](std::size_t line) { gate_.Take(Command::PickForm, [&] { session_.Open(line); }); });
+    connect(&controls_.pane.Choice(), &QComboBox::textActivated, this, [this](const QString& name) {
+        gate_.Take(Command::PickProfile, [&] { session_.ReadAgainst(FromQt(name)); });
+    });
+    marks_.SetListener([this](int group) { gate_.Take(Command::PickMark, [&] { RectClicked(group); }); });
+    // The second click of a double click turns the mark back, as the first one turned it.
+    const auto flip = [this](QTreeWidgetItem* row) {
+        gate_.Take(Command::PickMark, [&] { session_.FlipBox(controls_.boxes.NumberOf(row)); });
+    };
+    connect(&controls_.boxes, &QTreeWidget::itemClicked, this, flip);
+    connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
+    connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
+        if (row != nullptr)
+            gate_.Take(Command::PickMark, [&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
+    });
+    controls_.boxes.installEventFilter(this);
+    controls_.pane.List().installEventFilter(this);
+}
+
+void ReviewMode::Toggle() {
+    const BusyCursor busy;
+    if (session_.IsOn()) {
+        session_.End();
+        return;
+    }
+    closeProfile_();
+    session_.Begin();
+    TakeFirstLine();
+}
+
+// So that the first form is one Enter away. Only a list in sight can have the focus.
+void ReviewMode::TakeFirstLine() {
+    controls_.side.setCurrentWidget(&controls_.pane);
+    controls_.pane.List().setFocus();
+    if (controls_.pane.List().model()->rowCount() > 0)
+        controls_.pane.List().SelectLine(0);
+}
+
+void ReviewMode::NextDoubtful() {
+    if (session_.NextDoubtful(controls_.boxes.CurrentNumber()))
+        controls_.boxes.setFocus();
+}
+
+void ReviewMode::RectClicked(int group) {
+    // A box without a row leaves none selected, so that no key means another one.
+    controls_.boxes.SelectRow(group);
+    controls_.boxes.setFocus();
+    session_.FlipBox(group);
+}
+
+void ReviewMode::RunEnded() {
+    if (!session_.IsOn())
+        return;
+    session_.Refill();
+    TakeFirstLine();
+}
+
+void ReviewMode::Update() {
+    const bool inReview = session_.IsOn();
+    controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
+    marks_.SetActive(session_.HasForm());
+    controls_.view.SetHint(inReview
+                               ? "Choose a form on the left: a click or Enter opens it."
+                               : "Choose a profile on the left, make one with New,\n"
+                                 "or press Process to read the scans that wait in the folder ProcessIn.");
+    controls_.pane.List().MarkOpen(session_.OpenLine());
+    // With the form all that had its keys is gone; Enter opens the next one.
+    if (std::exchange(hadForm_, session_.HasForm()) && inReview && !hadForm_)
+        controls_.pane.List().setFocus();
+}
+
+bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !session_.IsOn())
+        return false;
+    const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+    const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && session_.HasForm());
+    if (!command)
+        return false;
+    if (!key.isAutoRepeat())
+        gate_.Run(*command);
+    return true;
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QObject>
+#include <QStackedWidget>
+#include <functional>
+
+#include "review/ReviewSession.h"
+#include "ui/commands/AppState.h"
+#include "ui/commands/CommandGate.h"
+#include "ui/lists/BoxListView.h"
+#include "ui/page/ImageView.h"
+#include "ui/reviewing/ReviewMarks.h"
+#include "ui/reviewing/ReviewPane.h"
+
+namespace tavrene::ui {
+
+/// What review needs of the world; everything must outlive it.
+struct ReviewModeContext {
+    app::Files& files;
+    app::Operator& person;
+    app::ActivityLog& log;
+    commands::CommandGate& gate;
+};
+
+/// The controls that show the form under review.
+struct ReviewControls {
+    ImageView& view;
+    BoxListView& boxes;
+    QStackedWidget& side;  ///< Holds `pane` beside what is shown outside review.
+    ReviewPane& pane;
+};
+
+/// The window's review: owns the session and connects it to the controls.
+class ReviewMode final : public QObject {
+  public:
+    /// `closeProfile` takes the open profile from the desk when review begins.
+    ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
+               const ReviewControls& controls, std::function<void()> closeProfile);
+
+    /// A step of loading the window, before anything can run.
+    void Load() { session_.SettleInterrupted(); }
+
+    /// The prompt before the open form is left; false when the command at hand is to be abandoned.
+    bool MayLeave() { return session_.MayLeave(); }
+
+    /// A run takes the form from the screen; when it has ended, the list is filled anew.
+    void RunBegins() { session_.RunBegins(); }
+    void RunEnded();
+
+    const review::ReviewSession& Session() const { return session_; }
+
+    /// Makes the controls show what can be done now.
+    void Update();
+
+  protected:
+    /// The keys of the two lists while a form is open.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void ConnectCommands();
+    void ConnectNeighbour(commands::Command command, int step);
+    void ConnectFormCommands();
+    void ConnectControls();
+    void Toggle();
+    void TakeFirstLine();
+    void NextDoubtful();
+    void RectClicked(int group);
+
+    commands::CommandGate& gate_;
+    std::function<void()> closeProfile_;
+    ReviewControls controls_;
+    ReviewMarks marks_;
+    review::ReviewSession session_;
+    bool hadForm_ = false;  ///< A form was open after the last command.
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,235 @@
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QScrollArea>
+
+#include "ui/base/FitToScreen.h"
+#include "ui/settings/SettingsDialog.h"
+
+namespace tavrene::ui {
+
+using commands::Bar;
+
+namespace {
+
+constexpr int kMargin = 12;
+constexpr int kSpacing = 10;
+constexpr QSize kFirstSize(760, 640);
+
+QLabel* HelpLabel(const QString& text) {
+    auto* const label = new QLabel(text);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, const char* accessibleName, int lowest,
+                    int highest) {
+    auto* const bar = new QScrollBar(orientation);
+    bar->setObjectName(name);
+    bar->setAccessibleName(accessibleName);
+    bar->setRange(lowest, highest);
+    bar->setSingleStep(1);
+    bar->setPageStep(1);
+    bar->setFocusPolicy(Qt::StrongFocus);
+    return bar;
+}
+
+QSpinBox* MakeNumber(const QString& name, const QString& accessibleName, int lowest, int highest) {
+    auto* const number = new QSpinBox;
+    number->setObjectName(name);
+    number->setAccessibleName(accessibleName);
+    number->setRange(lowest, highest);
+    return number;
+}
+
+// A preview with its caption above it, its two bars along its lower and right edge, and the numbers below.
+QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widthBar, QScrollBar* heightBar,
+                      QLayout* numbers) {
+    auto* const layout = new QGridLayout;
+    layout->setSpacing(4);
+    widthBar->setFixedWidth(BoxPreview::kSide);
+    heightBar->setFixedHeight(BoxPreview::kSide);
+    layout->addWidget(new QLabel(caption), 0, 0, Qt::AlignHCenter);
+    layout->addWidget(preview, 1, 0);
+    layout->addWidget(heightBar, 1, 1);
+    layout->addWidget(widthBar, 2, 0);
+    layout->addLayout(numbers, 3, 0, 1, 2);
+    return layout;
+}
+
+}  // namespace
+
+void SettingsDialog::Build() {
+    BuildBars();
+    BuildNumbers();
+    BuildProcessingControls();
+    // On a small screen the frames scroll, and the buttons stay in sight.
+    auto* const frames = new QScrollArea;
+    frames->setObjectName("Frames");
+    frames->setFrameShape(QFrame::NoFrame);
+    frames->setFocusPolicy(Qt::NoFocus);
+    frames->setWidgetResizable(true);
+    frames->setWidget(Frames());
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, kMargin, kMargin);
+    layout->addWidget(frames, 1);
+    layout->addWidget(Buttons(), 0, Qt::AlignRight);
+    ResizeWithinScreen(*this, kFirstSize);
+}
+
+QWidget* SettingsDialog::Frames() {
+    auto* const frames = new QWidget;
+    auto* const layout = new QGridLayout(frames);
+    layout->setContentsMargins(kMargin, kMargin, 0, 0);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(PathFrame(), 0, 0);
+    layout->addWidget(SizeFrame(), 0, 1);
+    layout->addWidget(ProcessingFrame(), 1, 0, 1, 2);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(0, 1);
+    return frames;
+}
+
+void SettingsDialog::BuildBars() {
+    using commands::BoxSizeBars;
+    const auto make = [this](Bar bar, Qt::Orientation orientation, const char* name, const char* meaning) {
+        QScrollBar* const control =
+            MakeBar(orientation, name, meaning, BoxSizeBars::kLowest, BoxSizeBars::kHighest);
+        bars_[static_cast<std::size_t>(bar)] = control;
+        connect(control, &QScrollBar::valueChanged, this,
+                [this, bar](int position) { MoveBar(bar, position); });
+    };
+    make(Bar::MinWidth, Qt::Horizontal, "HScroll1", "Minimum box width");
+    make(Bar::MinHeight, Qt::Vertical, "VScroll1", "Minimum box height");
+    make(Bar::MaxWidth, Qt::Horizontal, "HScroll2", "Maximum box width");
+    make(Bar::MaxHeight, Qt::Vertical, "VScroll2", "Maximum box height");
+    smallest_ = new BoxPreview("Picture1");
+    smallest_->setAccessibleName("Minimum box");
+    largest_ = new BoxPreview("Picture2");
+    largest_->setAccessibleName("Maximum box");
+    sizeLabel_ = new QLabel("Size");
+    sizeLabel_->setObjectName("lblSize");
+    sizeLabel_->setAlignment(Qt::AlignCenter);
+}
+
+void SettingsDialog::BuildNumbers() {
+    for (const Bar bar : commands::kAllBars) {
+        const QScrollBar* const control = BarOf(bar);
+        QSpinBox* const number =
+            MakeNumber("num" + control->objectName(), control->accessibleName() + " in pixels",
+                       commands::BoxSizeBars::kLowest, commands::BoxSizeBars::MostPixels(bar));
+        numbers_[static_cast<std::size_t>(bar)] = number;
+        connect(number, &QSpinBox::valueChanged, this, [this, bar](int pixels) {
+            sizes_.SetPixels(bar, pixels);
+            ShowSizes();
+        });
+    }
+}
+
+QLayout* SettingsDialog::SizeNumbers(Bar width, Bar height) {
+    auto* const layout = new QHBoxLayout;
+    layout->setSpacing(4);
+    layout->addWidget(NumberOf(width));
+    layout->addWidget(new QLabel("x"));
+    layout->addWidget(NumberOf(height));
+    return layout;
+}
+
+void SettingsDialog::BuildProcessingControls() {
+    display_ = new QCheckBox("Display Image/Results during extraction process");
+    display_->setObjectName("chkDisplayDuringProcess");
+    single_ = new QCheckBox("Process single image at a time when PROCESS button is pressed");
+    single_->setObjectName("chkProcessSingle");
+    threshold_ = MakeBar(Qt::Horizontal, "HScroll3", "Fill threshold in percent", 1, 100);
+    thresholdLabel_ = new QLabel;
+    thresholdLabel_->setObjectName("lblThreshold");
+    thresholdLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    thresholdLabel_->setMinimumWidth(fontMetrics().horizontalAdvance("1000"));
+    connect(threshold_, &QScrollBar::valueChanged, thresholdLabel_, qOverload<int>(&QLabel::setNum));
+    thresholdNumber_ =
+        MakeNumber("numHScroll3", threshold_->accessibleName(), threshold_->minimum(), threshold_->maximum());
+    thresholdNumber_->setSuffix(" %");
+    connect(threshold_, &QScrollBar::valueChanged, thresholdNumber_, &QSpinBox::setValue);
+    connect(thresholdNumber_, &QSpinBox::valueChanged, threshold_, &QScrollBar::setValue);
+}
+
+QWidget* SettingsDialog::PathFrame() {
+    folder_ = new FolderChooser;
+    auto* const frame = new QGroupBox("Working Path");
+    auto* const layout = new QVBoxLayout(frame);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(
+        HelpLabel("Please select a suitable working folder for your application. "
+                  "The required sub-folders will be automatically created within the selected "
+                  "working folder."));
+    layout->addWidget(folder_, 1);
+    return frame;
+}
+
+QWidget* SettingsDialog::SizeFrame() {
+    auto* const reset = new QPushButton("Reset to Default");
+    reset->setObjectName("cmdReset");
+    reset->setAutoDefault(false);
+    connect(reset, &QPushButton::clicked, this, [this] { Reset(); });
+    auto* const previews = new QHBoxLayout;
+    previews->addStretch();
+    previews->addLayout(PreviewBlock("MIN", smallest_, BarOf(Bar::MinWidth), BarOf(Bar::MinHeight),
+                                     SizeNumbers(Bar::MinWidth, Bar::MinHeight)));
+    previews->addSpacing(24);
+    previews->addLayout(PreviewBlock("MAX", largest_, BarOf(Bar::MaxWidth), BarOf(Bar::MaxHeight),
+                                     SizeNumbers(Bar::MaxWidth, Bar::MaxHeight)));
+    previews->addStretch();
+    auto* const frame = new QGroupBox("Box Size");
+    auto* const layout = new QVBoxLayout(frame);
+    layout->setSpacing(kSpacing);
+    layout->addLayout(previews);
+    layout->addWidget(sizeLabel_);
+    layout->addWidget(reset, 0, Qt::AlignHCenter);
+    layout->addWidget(
+        HelpLabel("This box size is used for Profiling only. "
+                  "You may choose to vary the box size that best fits a profile you wish to create. "
+                  "You are free to change this for every new profile. "
+                  "Once a profile is created, the size(s) information here becomes irrelevant since "
+                  "it is not used during recognition of filled images. "
+                  "Effectively, this gives you the capability to create profiles with different box "
+                  "sizes."),
+        1);
+    return frame;
+}
+
+QWidget* SettingsDialog::ProcessingFrame() {
+    auto* const frame = new QGroupBox("Processing");
+    auto* const layout = new QGridLayout(frame);
+    layout->setVerticalSpacing(kSpacing);
+    layout->addWidget(display_, 0, 0, 1, 2);
+    layout->addWidget(single_, 1, 0, 1, 2);
+    layout->addWidget(HelpLabel("Fill Threshold Percentage - The level at which a box is considered filled. "
+                                "Default = 8."),
+                      2, 0, 1, 2);
+    layout->addWidget(threshold_, 3, 0);
+    layout->addWidget(thresholdLabel_, 3, 1);
+    layout->addWidget(thresholdNumber_, 3, 2);
+    layout->setColumnStretch(0, 1);
+    return frame;
+}
+
+QWidget* SettingsDialog::Buttons() {
+    auto* const save = new QPushButton("&Save");
+    save->setObjectName("cmdOK");
+    save->setDefault(true);
+    auto* const cancel = new QPushButton("&Cancel");
+    cancel->setObjectName("cmdCancel");
+    cancel->setAutoDefault(false);
+    connect(save, &QPushButton::clicked, this, [this] { Save(); });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* const buttons = new QWidget;
+    auto* const layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(save);
+    layout->addWidget(cancel);
+    return buttons;
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,87 @@
+#include "ui/shell/AboutDialog.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QIcon>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+#include <optional>
+
+#include "app/SettingsStore.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+struct Tool {
+    QString program;
+    QStringList arguments;
+};
+
+// The first that is there is taken; those that know the whole machine stand before those that show a page of
+// settings.
+std::optional<Tool> SystemInformationTool() {
+    const Tool known[] = {{"kinfocenter", {}},
+                          {"hardinfo2", {}},
+                          {"hardinfo", {}},
+                          {"gnome-control-center", {"info-overview"}},
+                          {"cinnamon-settings", {"info"}},
+                          {"mate-system-monitor", {"--show-system-tab"}},
+                          {"lshw-gtk", {}},
+                          {"msinfo32", {}}};
+    for (const Tool& tool : known)
+        if (const QString found = QStandardPaths::findExecutable(tool.program); !found.isEmpty())
+            return Tool{found, tool.arguments};
+    return std::nullopt;
+}
+
+QString Text() {
+    return QString(
+               "<h3>%1</h3><p>Version %2</p><p>Reads the check boxes of scanned paper forms.</p>"
+               "<p>Free software under the MIT licence. It stands on these libraries:</p>"
+               "<table cellpadding='2'>"
+               "<tr><td>Qt %3</td><td>GNU LGPL, version 3</td></tr>"
+               "<tr><td>FreeImage</td><td>FreeImage Public License or GNU GPL</td></tr>"
+               "<tr><td>libtiff</td><td>libtiff licence</td></tr>"
+               "<tr><td>pugixml</td><td>MIT licence</td></tr></table>")
+        .arg(ToQt(app::kApplicationName), QApplication::applicationVersion(), qVersion());
+}
+
+}  // namespace
+
+AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
+    setObjectName("frmAbout");
+    setWindowTitle("About " + ToQt(app::kApplicationName));
+    auto* const picture = new QLabel;
+    picture->setPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
+    auto* const text = new QLabel(Text());
+    text->setObjectName("AboutText");
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(picture, 0, Qt::AlignTop);
+    row->addWidget(text, 1);
+
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QPushButton* const machine = buttons->addButton("&System Information...", QDialogButtonBox::ActionRole);
+    machine->setObjectName("cmdSysInfo");
+    machine->setAutoDefault(false);
+    const std::optional<Tool> tool = SystemInformationTool();
+    machine->setVisible(tool.has_value());
+    if (tool)
+        connect(machine, &QPushButton::clicked, this,
+                [tool] { QProcess::startDetached(tool->program, tool->arguments); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(12);
+    layout->addLayout(row);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+}  // namespace tavrene::ui

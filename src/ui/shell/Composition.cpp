@@ -1,0 +1,61 @@
+#include "ui/shell/Composition.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QProxyStyle>
+#include <QStandardPaths>
+
+#include "app/Startup.h"
+#include "ui/base/QtText.h"
+#include "ui/settings/SettingsDialog.h"
+
+namespace tavrene::ui {
+namespace {
+
+// The same look on every desktop, with plain words on the buttons of message boxes.
+class CalmStyle final : public QProxyStyle {
+  public:
+    CalmStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+QString ConfigFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
+}
+
+}  // namespace
+
+void PrepareApplication() {
+    QApplication::setApplicationName(ToQt(app::kApplicationName));
+    QApplication::setApplicationVersion(TAVRENE_VERSION);
+    QApplication::setStyle(new CalmStyle);
+    // The desktop finds its own entry, and with it the name and picture, by this name.
+    QApplication::setDesktopFileName("org.tavrene.CheckBoxes");
+    QApplication::setWindowIcon(QIcon(":/tavrene-checkboxes.svg"));
+    // A dialog of start-up that closes before there is a window must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Composition::Composition()
+    : store_(ConfigFolder()), instance_(ConfigFolder() + '/' + ToQt(app::kApplicationName)) {}
+
+bool Composition::Start() {
+    const app::StartupContext context = {
+        store_, files_, [this] { return instance_.Become(); },
+        [this](app::Settings& settings) { SettingsDialog(settings, store_, files_, nullptr).exec(); },
+        [this] {
+            window_ = std::make_unique<MainWindow>(settings_, WindowContext{store_, files_, clock_});
+            window_->Load();
+            window_->show();
+            QApplication::setQuitOnLastWindowClosed(true);
+        }};
+    return app::RunStartup(settings_, context);
+}
+
+}  // namespace tavrene::ui

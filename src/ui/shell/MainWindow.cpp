@@ -1,0 +1,212 @@
+#include "ui/shell/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QKeyEvent>
+#include <QSplitter>
+#include <QUrl>
+#include <utility>
+
+#include "imaging/Bitmap.h"
+#include "ui/base/FitToScreen.h"
+#include "ui/base/QtText.h"
+#include "ui/commands/Places.h"
+#include "ui/commands/SettingsCommand.h"
+#include "ui/commands/WindowLoad.h"
+#include "ui/settings/SettingsDialog.h"
+#include "ui/shell/AboutDialog.h"
+
+namespace tavrene::ui {
+namespace {
+
+using commands::Command;
+
+// What the window remembers about itself lies beside the settings, in a group of its own.
+constexpr std::string_view kWindowSection = "Window";
+constexpr std::string_view kLabelsShown = "ToolbarLabels";
+
+QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
+    return QByteArray::fromBase64(
+        ToQt(store.ReadSettingValue(app::kApplicationName, kWindowSection, name)).toLatin1());
+}
+
+void WriteShape(app::SettingsStore& store, std::string_view name, const QByteArray& shape) {
+    store.WriteSettingValue(app::kApplicationName, kWindowSection, name, shape.toBase64().toStdString());
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const app::Settings& settings, const WindowContext& context)
+    : context_(context),
+      state_(commands::InitialState(settings)),
+      panels_(new StatusPanels(this)),
+      splitter_(new QSplitter(this)),
+      view_(new ImageView(context.files, this)),
+      boxes_(new BoxListView(this)),
+      side_(new QStackedWidget(this)),
+      profiles_(new ProfilePane(this)),
+      forms_(new ReviewPane(this)),
+      operator_(*this, *panels_),
+      dialogs_(*this),
+      log_(context.files, context.clock, operator_, state_.folders.Log),
+      run_({context.files, log_, operator_, context.clock, *view_, *boxes_}, state_.settings, state_.folders),
+      gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
+             [this] { return review_.MayLeave(); }}),
+      desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
+            {*view_, *boxes_, *profiles_}),
+      review_(state_, {context.files, operator_, log_, gate_}, {*view_, *boxes_, *side_, *forms_},
+              [this] { desk_.Close(); }),
+      runs_(state_, run_, {[this] { RunBegins(); }, [this] { review_.RunEnded(); }, [this] { close(); }}),
+      toolbars_(*this, [this](Command command) { RunCommand(command); }) {
+    setObjectName("frmTavrene");
+    setWindowTitle(ToQt(app::kApplicationName));
+    BuildLayout();
+    ConnectViewCommands();
+    ConnectCommands();
+    RestoreShape();
+    UpdateCommands();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildLayout() {
+    splitter_->setObjectName("Splitter1");
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setHandleWidth(1);
+    side_->addWidget(profiles_);
+    side_->addWidget(forms_);
+    side_->setMinimumWidth(150);
+    boxes_->setMinimumWidth(180);
+    view_->setMinimumWidth(300);
+    splitter_->addWidget(side_);
+    splitter_->addWidget(view_);
+    splitter_->addWidget(boxes_);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setSizes({264, 726, 290});
+    setCentralWidget(splitter_);
+    const std::initializer_list<QWidget*> order = {
+        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_};
+    for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
+        setTabOrder(next[0], next[1]);
+    setStatusBar(panels_);
+    // A laptop at twice the scale has no more room than this.
+    setMinimumSize(640, 320);
+    ResizeWithinScreen(*this, {1280, 800});
+}
+
+void MainWindow::ConnectViewCommands() {
+    gate_.SetHandler(Command::ZoomToOrig, [this] { view_->ZoomToOriginal(); });
+    gate_.SetHandler(Command::ZoomIn, [this] { view_->ZoomIn(); });
+    gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
+    gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
+    gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+    gate_.SetHandler(Command::ToolbarLabels, [this] {
+        const bool shown = !toolbars_.LabelsShown();
+        toolbars_.ShowLabels(shown);
+        context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, kLabelsShown,
+                                         shown ? "1" : "0");
+    });
+}
+
+void MainWindow::ConnectCommands() {
+    gate_.SetHandler(Command::Process, [this] { runs_.Process(); });
+    gate_.SetHandler(Command::Stop, [this] { runs_.Stop(); });
+    gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
+    gate_.SetHandler(Command::OpenWorkingFolder,
+                     [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
+    gate_.SetHandler(Command::OpenLog,
+                     [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
+    gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
+    gate_.SetAfterwards([this] {
+        UpdateCommands();
+        runs_.CloseIfWaiting();
+    });
+}
+
+commands::Mode MainWindow::CurrentMode() const {
+    const review::ReviewSession& review = review_.Session();
+    return commands::ModeOf({.isRunning = runs_.IsRunning(),
+                             .isInReview = review.IsOn(),
+                             .wasInReview = review.WasOn(),
+                             .hasForm = review.HasForm(),
+                             .hasProfile = desk_.HasProfile(),
+                             .canEdit = desk_.CanEdit()});
+}
+
+// What it says and shows belongs to the run from here on, before its first file.
+void MainWindow::RunBegins() {
+    desk_.Close();
+    review_.RunBegins();
+    UpdateCommands();
+}
+
+void MainWindow::RunCommand(Command command) {
+    if (command == Command::Exit) {
+        close();
+        return;
+    }
+    desk_.FinishEdits();
+    gate_.Run(command);
+}
+
+void MainWindow::UpdateCommands() {
+    const commands::Mode mode = CurrentMode();
+    toolbars_.Update([this, mode](Command command) {
+        return ButtonState{gate_.Offers(command), commands::IsShownIn(command, mode)};
+    });
+    desk_.Update();
+    review_.Update();
+    for (const Command command : {Command::SelectBox, Command::AddBox})
+        toolbars_.SetPressed(command, desk_.Presses(command));
+    toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
+    toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
+}
+
+void MainWindow::Load() {
+    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+                         gate_);
+    gate_.Guard([this] { review_.Load(); });
+}
+
+void MainWindow::ShowSettings() {
+    commands::ShowSettings(state_.settings, operator_, [this](app::Settings& settings) {
+        SettingsDialog(settings, context_.store, context_.files, this).exec();
+    });
+}
+
+void MainWindow::OpenOnDesktop(const std::string& path) {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path))))
+        operator_.ShowMessage("", "This desktop has no program that opens " + path);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    desk_.FinishEdits();
+    gate_.Take(Command::Exit, [this, event] {
+        if (!runs_.MayClose())
+            return;
+        RememberShape();
+        event->accept();
+    });
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::RestoreShape() {
+    restoreGeometry(ReadShape(context_.store, "Geometry"));
+    splitter_->restoreState(ReadShape(context_.store, "Splitter"));
+    toolbars_.ShowLabels(
+        context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, kLabelsShown) == "1");
+}
+
+void MainWindow::RememberShape() {
+    WriteShape(context_.store, "Geometry", saveGeometry());
+    WriteShape(context_.store, "Splitter", splitter_->saveState());
+}
+
+}  // namespace tavrene::ui

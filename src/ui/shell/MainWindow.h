@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "app/ActivityLog.h"
+#include "app/Clock.h"
+#include "app/Files.h"
+#include "app/SettingsStore.h"
+#include "recognition/ProcessRun.h"
+#include "ui/commands/AppState.h"
+#include "ui/commands/CommandGate.h"
+#include "ui/commands/RunSession.h"
+#include "ui/lists/BoxListView.h"
+#include "ui/page/ImageView.h"
+#include "ui/profiling/ProfileDesk.h"
+#include "ui/profiling/ProfilePane.h"
+#include "ui/reviewing/ReviewMode.h"
+#include "ui/reviewing/ReviewPane.h"
+#include "ui/shell/QtFileDialogs.h"
+#include "ui/shell/QtOperator.h"
+#include "ui/shell/StatusPanels.h"
+#include "ui/shell/Toolbars.h"
+
+class QSplitter;
+
+namespace tavrene::ui {
+
+/// What the window needs of the world; everything must outlive it.
+struct WindowContext {
+    app::SettingsStore& store;
+    app::Files& files;
+    const app::Clock& clock;
+};
+
+/// The working screen `frmTavrene`. It builds, lays out and forwards; what its commands do lies in
+/// ui/commands and below.
+class MainWindow final : public QMainWindow {
+  public:
+    MainWindow(const app::Settings& settings, const WindowContext& context);
+    ~MainWindow() override;
+
+    /// Tests the image library and loads the profiles; called once, before the window is shown.
+    void Load();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void BuildLayout();
+    void ConnectViewCommands();
+    void ConnectCommands();
+    commands::Mode CurrentMode() const;
+    void RunBegins();
+    void RunCommand(commands::Command command);
+    void UpdateCommands();
+    void ShowSettings();
+    void OpenOnDesktop(const std::string& path);
+    void RestoreShape();
+    void RememberShape();
+
+    WindowContext context_;
+    commands::AppState state_;
+    StatusPanels* panels_;
+    QSplitter* splitter_;
+    ImageView* view_;
+    BoxListView* boxes_;
+    QStackedWidget* side_;
+    ProfilePane* profiles_;
+    ReviewPane* forms_;
+    QtOperator operator_;
+    QtFileDialogs dialogs_;
+    app::ActivityLog log_;
+    recognition::ProcessRun run_;
+    commands::CommandGate gate_;
+    ProfileDesk desk_;
+    ReviewMode review_;
+    commands::RunSession runs_;
+    Toolbars toolbars_;
+};
+
+}  // namespace tavrene::ui

@@ -1,0 +1,101 @@
+#include "ui/shell/QtFileDialogs.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <algorithm>
+#include <utility>
+
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+// "Text|*.A;*.B" as the dialog takes it: the text for the person, then its patterns in brackets, which the
+// dialog hides.
+QString NameFilter(const std::string& filter) {
+    const QStringList parts = ToQt(filter).split('|');
+    return parts.front() + " (" + parts.back().split(';').join(' ') + ")";
+}
+
+// The last extension that a filter names, with its dot.
+QString ExtensionOf(const std::string& filter) {
+    return ToQt(filter).section('*', -1);
+}
+
+// A file is the same one however its name is typed, so one that is there keeps its spelling.
+QString SpelledOnDisk(const QFileInfo& file) {
+    const QStringList names = file.dir().entryList(QDir::Files);
+    const auto same = [&file](const QString& name) {
+        return name.compare(file.fileName(), Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(names.begin(), names.end(), same);
+    return names.contains(file.fileName()) || found == names.end() ? file.fileName() : *found;
+}
+
+constexpr int kWidth = 760;
+constexpr int kHeight = 460;
+
+class FileDialog final : public QFileDialog {
+  public:
+    FileDialog(QWidget& window, const app::FileQuestion& question)
+        : QFileDialog(&window, ToQt(question.title), ToQt(question.startFolder)) {
+        setObjectName("FileDialog");
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::HideNameFilterDetails);
+        setNameFilter(NameFilter(question.filter));
+        selectFile(ToQt(question.fileName));
+        resize(kWidth, kHeight);
+    }
+
+    /// Files to be written get this extension, and the spelling of one that is there. That comes before the
+    /// dialog looks whether the file is there already.
+    void SetExtension(const QString& extension) { extension_ = extension; }
+
+    std::optional<std::string> Ask() {
+        const UsualCursor usual;
+        if (exec() != QDialog::Accepted)
+            return std::nullopt;
+        return FromQt(selectedFiles().front());
+    }
+
+    void accept() override {
+        auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
+        const QStringList files = selectedFiles();
+        if (!extension_.isEmpty() && nameEdit != nullptr && !files.isEmpty() &&
+            !QFileInfo(files.front()).isDir())
+            nameEdit->setText(Completed(nameEdit->text(), files.front()));
+        QFileDialog::accept();
+    }
+
+  private:
+    // What was typed for `path`.
+    QString Completed(QString typed, const QString& path) const {
+        const QString end = path.endsWith(extension_, Qt::CaseInsensitive) ? QString() : extension_;
+        const QFileInfo file(path + end);
+        typed += end;
+        return typed.endsWith(file.fileName()) ? typed.chopped(file.fileName().size()) + SpelledOnDisk(file)
+                                               : typed;
+    }
+
+    QString extension_;
+};
+
+}  // namespace
+
+std::optional<std::string> QtFileDialogs::AskSaveFile(const app::FileQuestion& question) {
+    FileDialog dialog(window_, question);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.SetExtension(ExtensionOf(question.filter));
+    return dialog.Ask();
+}
+
+std::optional<std::string> QtFileDialogs::AskOpenFile(const app::FileQuestion& question) {
+    FileDialog dialog(window_, question);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.Ask();
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,68 @@
+#include "ui/shell/QtOperator.h"
+
+#include <QCoreApplication>
+
+#include "app/SettingsStore.h"
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+int ShowBox(QWidget& window, QMessageBox::Icon icon, std::string_view title, std::string_view text,
+            QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, ToQt(title.empty() ? app::kApplicationName : title), ToQt(text), buttons, &window);
+    box.setTextFormat(Qt::PlainText);
+    const UsualCursor usual;
+    return box.exec();
+}
+
+}  // namespace
+
+QtOperator::QtOperator(QWidget& window, StatusPanels& panels)
+    : window_(window), panels_(panels), reports_(new FileReports(&window)) {}
+
+void QtOperator::ShowMessage(std::string_view title, std::string_view text) {
+    ShowBox(window_, QMessageBox::Information, title, text, QMessageBox::Ok);
+}
+
+void QtOperator::ReportFile(std::string_view fileName, std::string_view text) {
+    reports_->Add(ToQt(fileName), ToQt(text));
+}
+
+app::Answer QtOperator::Ask(std::string_view text, QMessageBox::StandardButtons buttons) {
+    switch (ShowBox(window_, QMessageBox::Question, {}, text, buttons)) {
+        case QMessageBox::Yes:
+            return app::Answer::Yes;
+        case QMessageBox::No:
+            return app::Answer::No;
+        default:
+            return app::Answer::Cancel;
+    }
+}
+
+app::Answer QtOperator::AskYesNo(std::string_view text) {
+    return Ask(text, QMessageBox::Yes | QMessageBox::No);
+}
+
+app::Answer QtOperator::AskYesNoCancel(std::string_view text) {
+    return Ask(text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+}
+
+void QtOperator::SetPanel(app::Panel panel, std::string_view text) {
+    panels_.SetPanel(panel, ToQt(text));
+}
+
+void QtOperator::SetProgressRange(int last) {
+    panels_.SetProgressRange(last);
+}
+
+void QtOperator::SetProgress(int value) {
+    panels_.SetProgress(value);
+}
+
+void QtOperator::RunPendingEvents() {
+    QCoreApplication::processEvents();
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,96 @@
+#include "ui/shell/StatusPanels.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QStyleOption>
+#include <algorithm>
+
+namespace tavrene::ui {
+namespace {
+
+// The longest texts that the panels are to show whole.
+constexpr const char* kFileText = "Profiles:1000, Active:1000";
+constexpr const char* kTimeText = "Checked:100 of 1000 Skip:100";
+constexpr const char* kProgressText = "1000/1000";
+constexpr int kPanelMargin = 6;
+
+constexpr int kProgressBarWidth = 120;
+constexpr int kProgressBarHeight = 14;
+
+}  // namespace
+
+PanelLabel::PanelLabel(const QString& name) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setContentsMargins(kPanelMargin, 2, kPanelMargin, 2);
+}
+
+void PanelLabel::ShowText(const QString& text) {
+    setText(text);
+    // As rich text, or a name with a < in it would be taken for a tag.
+    setToolTip(text.isEmpty() ? QString() : "<span>" + text.toHtmlEscaped() + "</span>");
+    repaint();
+}
+
+void PanelLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect area = contentsRect();
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, area.width());
+    style()->drawItemText(&painter, area, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                          QPalette::WindowText);
+}
+
+StatusPanels::StatusPanels(QWidget* parent)
+    : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar) {
+    setObjectName("StatusBar1");
+    setSizeGripEnabled(false);
+    AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileText);
+    AddPanel(app::Panel::Message, "Message", "Message", nullptr);
+    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time", kTimeText);
+    AddPanel(app::Panel::Progress, "Progress", "Progress", kProgressText);
+    progress_->setObjectName("ProgressBar1");
+    progress_->setAccessibleName("Progress of the work");
+    progress_->setTextVisible(false);
+    progress_->setFixedSize(kProgressBarWidth, kProgressBarHeight);
+    progress_->setRange(0, 1);
+    row_->addWidget(progress_);
+    row_->setContentsMargins(4, 2, 10, 2);
+    row_->setSpacing(4);
+    auto* const panels = new QWidget;
+    panels->setLayout(row_);
+    // Permanent, or the hints that the menus show would hide the panels for a while.
+    addPermanentWidget(panels, 1);
+}
+
+// A panel without a longest text takes what the others leave.
+void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName,
+                            const char* longest) {
+    auto* const label = new PanelLabel(name);
+    label->setAccessibleName(accessibleName);
+    if (longest != nullptr)
+        label->setFixedWidth(label->fontMetrics().horizontalAdvance(longest) + 2 * kPanelMargin);
+    else
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    panels_[static_cast<std::size_t>(panel)] = label;
+    row_->addWidget(label, longest != nullptr ? 0 : 1);
+    auto* const line = new QFrame;
+    line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Sunken));
+    row_->addWidget(line);
+}
+
+void StatusPanels::SetPanel(app::Panel panel, const QString& text) {
+    panels_[static_cast<std::size_t>(panel)]->ShowText(text);
+}
+
+void StatusPanels::SetProgressRange(int last) {
+    // A bar without a range would run to and fro for ever.
+    progress_->setRange(0, std::max(last, 1));
+    SetProgress(0);
+}
+
+void StatusPanels::SetProgress(int value) {
+    // The bar paints itself at once, but only where the step can be seen.
+    progress_->setValue(value);
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,95 @@
+#include "ui/shell/Toolbars.h"
+
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <utility>
+
+#include "ui/base/QtText.h"
+#include "ui/shell/Icons.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kIconSize = 24;
+
+QToolBar* MakeToolbar(QMainWindow& window, const char* name, const char* title) {
+    QToolBar* const toolbar = window.addToolBar(title);
+    toolbar->setObjectName(name);
+    toolbar->setAccessibleName(title);
+    toolbar->setMovable(false);
+    toolbar->setFloatable(false);
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    toolbar->setIconSize({kIconSize, kIconSize});
+    return toolbar;
+}
+
+}  // namespace
+
+Toolbars::Toolbars(QMainWindow& window, std::function<void(commands::Command)> run) : run_(std::move(run)) {
+    using commands::Menu;
+    toolbars_[commands::Toolbar::Main] = MakeToolbar(window, "MainToolbar", "Main toolbar");
+    toolbars_[commands::Toolbar::Cfg] = MakeToolbar(window, "CfgToolbar", "Box tools");
+    const std::pair<Menu, const char*> titles[] = {{Menu::File, "&File"},     {Menu::Boxes, "&Boxes"},
+                                                   {Menu::View, "&View"},     {Menu::Process, "&Process"},
+                                                   {Menu::Review, "&Review"}, {Menu::Help, "&Help"}};
+    for (const auto& [menu, title] : titles)
+        menus_[menu] = window.menuBar()->addMenu(title);
+    for (const commands::CommandInfo& info : commands::CommandTable())
+        AddCommand(window, info);
+}
+
+void Toolbars::AddCommand(QMainWindow& window, const commands::CommandInfo& info) {
+    auto* const action = new QAction(ToQt(info.menuText), &window);
+    action->setObjectName(ToQt(info.key));
+    action->setToolTip(ToQt(info.toolTip));
+    action->setIcon(IconOf(info.icon));
+    action->setIconVisibleInMenu(true);
+    action->setShortcuts(QKeySequence::listFromString(ToQt(info.shortcut), QKeySequence::PortableText));
+    action->setCheckable(info.isToggle);
+    QObject::connect(action, &QAction::triggered, &window, [this, command = info.command] { run_(command); });
+    actions_[info.command] = action;
+    AddToToolbar(info, action);
+    AddToMenu(info, action);
+}
+
+void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) {
+    const auto found = toolbars_.find(info.toolbar);
+    if (found == toolbars_.end())
+        return;
+    QToolBar* const toolbar = found->second;
+    if (info.separatorBefore)
+        toolbar->addSeparator();
+    action->setParent(toolbar);
+    action->setIconText(ToQt(commands::LabelOf(info.command)));
+    toolbar->addAction(action);
+    QWidget* const button = toolbar->widgetForAction(action);
+    button->setAccessibleName(ToQt(info.toolTip));
+    button->setFocusPolicy(Qt::TabFocus);
+}
+
+void Toolbars::AddToMenu(const commands::CommandInfo& info, QAction* action) {
+    QMenu* const menu = menus_.at(info.menu);
+    if (info.separatorBefore && !menu->isEmpty())
+        menu->addSeparator();
+    menu->addAction(action);
+}
+
+void Toolbars::Update(const std::function<ButtonState(commands::Command)>& stateOf) {
+    for (const auto& [command, action] : actions_) {
+        const ButtonState state = stateOf(command);
+        action->setEnabled(state.isEnabled);
+        action->setVisible(state.isShown);
+    }
+}
+
+void Toolbars::ShowLabels(bool shown) {
+    for (const auto& [name, toolbar] : toolbars_)
+        toolbar->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+}
+
+bool Toolbars::LabelsShown() const {
+    return toolbars_.at(commands::Toolbar::Main)->toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QToolBar>
+#include <functional>
+#include <map>
+
+#include "ui/commands/CommandTable.h"
+
+namespace tavrene::ui {
+
+/// How a command's button presents itself.
+struct ButtonState {
+    bool isEnabled = false;
+    bool isShown = true;
+};
+
+/// The two toolbars and the menu bar of the window, built from the command table. Toolbar and menu share the
+/// actions; an action's object name is its key.
+class Toolbars {
+  public:
+    /// `run` is called when a command is chosen.
+    Toolbars(QMainWindow& window, std::function<void(commands::Command)> run);
+
+    void Update(const std::function<ButtonState(commands::Command)>& stateOf);
+
+    /// Shows a toggle button pressed or released; nothing is run.
+    void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
+
+    /// Words under the pictures of the buttons, or none.
+    void ShowLabels(bool shown);
+    bool LabelsShown() const;
+
+  private:
+    void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
+    void AddToToolbar(const commands::CommandInfo& info, QAction* action);
+    void AddToMenu(const commands::CommandInfo& info, QAction* action);
+
+    std::function<void(commands::Command)> run_;
+    std::map<commands::Toolbar, QToolBar*> toolbars_;
+    std::map<commands::Menu, QMenu*> menus_;
+    std::map<commands::Command, QAction*> actions_;
+};
+
+}  // namespace tavrene::ui
