@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/ActivityLog.h"
+#include "app/FileDialogs.h"
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
@@ -26,12 +27,17 @@ struct FormPage {
 const FormPage& TheFormPage();
 
 /// A screen and an operator that nobody looks at.
-class Nobody final : public app::Operator, public imaging::PageScreen, public profiles::BoxRows {
+class Nobody final : public app::Operator,
+                     public app::FileDialogs,
+                     public imaging::PageScreen,
+                     public profiles::BoxRows {
   public:
+    std::optional<std::string> AskSaveFile(const app::FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskOpenFile(const app::FileQuestion&) override { return std::nullopt; }
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
-    app::Answer AskYesNo(std::string_view) override { return app::Answer::No; }
-    app::Answer AskYesNoCancel(std::string_view) override { return app::Answer::Cancel; }
+    app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
+    app::Answer AskYesNoCancel(std::string_view, app::Answer) override { return app::Answer::Cancel; }
     void SetPanel(app::Panel, std::string_view) override {}
     void SetProgressRange(int) override {}
     void SetProgress(int) override {}

@@ -5,7 +5,8 @@
 
 #include "Floor.h"
 #include "FormPage.h"
-#include "profiles/ProfileStore.h"
+#include "profiles/ProfileSession.h"
+#include "recognition/ProfileAdvice.h"
 
 namespace tavrene::bench {
 namespace {
@@ -21,9 +22,9 @@ struct Desk {
     explicit Desk(int count) {
         for (int number = 0; number < count; ++number)
             AddProfile("Form " + std::to_string(1000 + number));
-        store.RebuildThumbnails();
-        store.ThumbnailSelected((count + 1) / 2);
-        if (!profile.IsOpen)
+        session.FillStrip();
+        session.Open(session.PathOf((count + 1) / 2));
+        if (!session.IsOpen())
             throw std::runtime_error("no profile could be opened");
     }
     void AddProfile(const std::string& name) {
@@ -38,12 +39,11 @@ struct Desk {
 
     Workplace work;
     NobodysStrip strip;
-    profiles::OpenProfile profile;
     std::vector<profiles::ProfileRecord> records;
-    profiles::ProfileScreen screen{work.nobody, work.nobody, strip};
-    profiles::BoxEditor editor{profile, work.nobody, screen};
-    profiles::ProfileStore store{
-        {work.files, work.nobody, work.log, work.clock, work.folders}, profile, records, editor, screen};
+    profiles::ProfileSession session{
+        {work.files, work.nobody, work.nobody, work.log, work.clock, work.folders, recognition::AdviseOn},
+        records,
+        {work.nobody, work.nobody, strip}};
 };
 
 constexpr int kProfiles = 500;
@@ -58,8 +58,8 @@ Desk& FullDesk() {
 void BM_SaveAmong500Profiles(benchmark::State& state) {
     Desk& desk = FullDesk();
     for (auto _ : state) {
-        desk.editor.RowRenamed(1, desk.profile.BoxList[0].Name + "x");
-        if (!desk.store.Save())
+        desk.session.Editor().RowRenamed(1, desk.session.Profile().BoxList[0].Name + "x");
+        if (!desk.session.Save())
             state.SkipWithError("nothing was saved");
     }
 }
@@ -69,10 +69,10 @@ void BM_SaveNewSpecimenAmong500(benchmark::State& state) {
     Desk& desk = FullDesk();
     for (auto _ : state) {
         state.PauseTiming();
-        std::filesystem::remove(desk.profile.Image);
-        std::filesystem::copy_file(TheFormPage().file, desk.profile.Image);
+        std::filesystem::remove(desk.session.Profile().Image);
+        std::filesystem::copy_file(TheFormPage().file, desk.session.Profile().Image);
         state.ResumeTiming();
-        if (!desk.store.Save())
+        if (!desk.session.Save())
             state.SkipWithError("nothing was saved");
     }
 }

@@ -23,7 +23,7 @@ std::string FolderOfResults() {
     std::filesystem::create_directory(folder);
     app::DiskFiles files;
     std::vector<recognition::MarkReading> readings;
-    for (const profiles::OmrBox& box : TheFormPage().profile.Boxes)
+    for (const profiles::PrintedBox& box : TheFormPage().profile.Boxes)
         readings.push_back({box.Name, {}, {}, 0, false});
     for (int k = 0; k < kForms; ++k) {
         for (std::size_t box = 0; box < readings.size(); ++box)

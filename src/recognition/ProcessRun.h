@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,6 +15,7 @@
 #include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
+#include "recognition/FormDelivery.h"
 #include "recognition/MarkReading.h"
 
 namespace tavrene::recognition {
@@ -48,6 +49,10 @@ class ProcessRun {
 
     bool IsRunning() const { return running_; }
 
+    /// Ends, with a line in the log, what an earlier run left half done when it was cut short. For the start
+    /// of the program; a run begins with it, too.
+    void Settle();
+
   private:
     struct FileOutcome;
 
@@ -55,15 +60,15 @@ class ProcessRun {
     void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
     void TakeInTurn(const std::vector<std::string>& names, std::size_t index,
                     std::span<const profiles::ProfileRecord> profiles);
+    std::size_t FirstToTake(const std::vector<std::string>& names);
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FileOutcome& outcome);
-    void SaveResult(const std::string& name, const profiles::ProfileRecord& profile, std::int16_t confidence,
-                    FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
-    bool MoveToProcessOut(const std::string& name, const FileOutcome& outcome);
-    void TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier);
-    std::optional<app::Bytes> RemoveOutdatedResult(const std::string& name);
+    bool MoveToProcessOut(const std::string& name);
+    void StayBehind(const std::string& name, const std::string& reason);
+    std::string StateOf(const std::string& name) const;
+    void RestoreRows();
     void LogAbout(const std::string& name, const std::string& what);
     void Finish(double start);
 
@@ -71,10 +76,13 @@ class ProcessRun {
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
     imaging::ScratchImages scratch_;
+    FormDelivery delivery_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;
+    bool formStays_ = false;  // the last form is on the screen
     std::string currentName_;
+    std::map<std::string, std::string> stuck_;  // files that could not be moved: name, and state at that time
 };
 
 }  // namespace tavrene::recognition

@@ -63,7 +63,7 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
 
 PageScore Score(const BoxPagePlan& plan) {
     const BoxPage page = PaintPage(plan);
-    return ScorePage(page.GroundTruth, AnalysePage(page).Boxes);
+    return ScorePage(page.GroundTruth, FindOnPage(page).Second);
 }
 
 void PrintTally(const std::string& name, const Tally& tally) {
@@ -89,14 +89,19 @@ void ListPages(const std::vector<BoxPagePlan>& plans, const std::string& part) {
 }
 
 void PrintTable(const std::vector<ScoreRow>& rows) {
-    PrintHead();
+    std::printf("%-44s %6s  %-15s %-15s %-22s\n", "", "", "rules", "first look", "with second look");
+    std::printf("%-44s %6s  %7s %6s  %7s %6s  %7s %6s %6s\n", "class, outline", "boxes", "recall", "false",
+                "recall", "false", "recall", "false", "edge");
     for (const ScoreRow& row : rows)
-        PrintTally(row.Name, row.Sum);
+        std::printf("%-44s %6zu  %7.1f %6zu  %7.1f %6zu  %7.1f %6zu %6.1f\n", row.Name.c_str(),
+                    row.First.True, row.Rules.Recall(), row.Rules.False, row.First.Recall(), row.First.False,
+                    row.Second.Recall(), row.Second.False, row.Second.WorstEdge);
 }
 
 void PrintLedger(const std::vector<ScoreRow>& rows) {
     for (const ScoreRow& row : rows)
-        std::printf("%s\t%zu\t%zu\t%zu\n", row.Name.c_str(), row.Sum.True, row.Sum.Right, row.Sum.False);
+        std::printf("%s\t%zu\t%zu\t%zu\t%zu\t%zu\n", row.Name.c_str(), row.First.True, row.First.Right,
+                    row.First.False, row.Second.Right, row.Second.False);
 }
 
 void Run(const Options& options) {

@@ -1,5 +1,6 @@
 #include "ui/profiling/ProfileDesk.h"
 
+#include "recognition/ProfileAdvice.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
 
@@ -12,77 +13,77 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
     : state_(state),
       gate_(context.gate),
       controls_(controls),
-      screen_{controls.view, controls.rows, controls.pane.Strip()},
-      editor_(profile_, context.person, screen_),
-      store_({context.files, context.person, context.log, context.clock, state.folders}, profile_,
-             state.profiles, editor_, screen_),
-      commands_(state, {store_, profile_, context.person, context.dialogs, controls.view}) {
+      session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
+                recognition::AdviseOn},
+               state.profiles, {controls.view, controls.rows, controls.pane.Strip()}) {
     ConnectCommands();
     ConnectBoxCommands();
     ConnectControls();
 }
 
 void ProfileDesk::ConnectCommands() {
-    const auto connect = [this](Command command, void (commands::ProfileCommands::*run)()) {
-        gate_.SetHandler(command, [this, run] {
+    const auto connect = [this](Command command, std::function<void()> run) {
+        gate_.SetHandler(command, [run = std::move(run)] {
             const BusyCursor busy;
-            (commands_.*run)();
+            run();
         });
     };
-    connect(Command::New, &commands::ProfileCommands::New);
-    connect(Command::Save, &commands::ProfileCommands::Save);
-    connect(Command::DeleteProfile, &commands::ProfileCommands::Delete);
+    connect(Command::New, [this] { session_.New(boxes::SizesOf(state_.settings), state_.reach); });
+    connect(Command::Save, [this] { session_.Save(); });
+    connect(Command::DeleteProfile, [this] { session_.Delete(); });
 }
 
 void ProfileDesk::ConnectBoxCommands() {
-    gate_.SetHandler(Command::SelectBox, [this] { editor_.SetTool(BoxTool::Select); });
-    gate_.SetHandler(Command::AddBox, [this] { editor_.SetTool(BoxTool::Add); });
-    gate_.SetHandler(Command::DeleteBox, [this] { editor_.DeleteBox(); });
+    gate_.SetHandler(Command::SelectBox, [this] { session_.Editor().SetTool(BoxTool::Select); });
+    gate_.SetHandler(Command::AddBox, [this] { session_.Editor().SetTool(BoxTool::Add); });
+    gate_.SetHandler(Command::DeleteBox, [this] { session_.Editor().DeleteBox(); });
     gate_.SetHandler(
-        Command::RenameBox, [this] { controls_.rows.EditName(profile_.CurrentBox); },
+        Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().CurrentBox); },
         [this] { return HasBox(); });
     gate_.SetHandler(
-        Command::Undo, [this] { editor_.Undo(); }, [this] { return editor_.CanUndo(); });
+        Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
     gate_.SetHandler(
-        Command::Redo, [this] { editor_.Redo(); }, [this] { return editor_.CanRedo(); });
+        Command::Redo, [this] { session_.Editor().Redo(); }, [this] { return session_.Editor().CanRedo(); });
 }
 
 void ProfileDesk::ConnectControls() {
     controls_.rows.SetListener(
-        {[this](int number) { gate_.Take(Command::EditBoxes, [&] { editor_.RowClicked(number); }); },
+        {[this](int number) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowClicked(number); });
+         },
          [this](int number, const QString& name) {
-             gate_.Take(Command::EditBoxes, [&] { editor_.RowRenamed(number, FromQt(name)); });
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowRenamed(number, FromQt(name)); });
          }});
     controls_.view.Boxes().SetListener(
         {[this](const imaging::RectReport& report) {
-             gate_.Take(Command::EditBoxes, [&] { editor_.RectSelected(report); });
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectSelected(report); });
          },
-         [this](int group) { gate_.Take(Command::EditBoxes, [&] { editor_.RectMoved(group); }); }});
+         [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
     controls_.view.SetArrowHandler([this](int dx, int dy) {
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)
-            gate_.Take(Command::EditBoxes, [&] { editor_.Nudge(dx, dy); });
+            gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); });
         return isTaken;
     });
-    controls_.pane.Strip().SetListener({[this](int k) {
-                                            gate_.Take(Command::PickThumbnail, [&] {
-                                                const BusyCursor busy;
-                                                commands_.ThumbnailSelected(k);
-                                            });
-                                        },
-                                        [this](int k) {
-                                            std::string name;
-                                            gate_.Guard([&] { name = store_.ThumbnailHover(k); });
-                                            return name;
-                                        }});
+    controls_.pane.Strip().SetListener(
+        {[this](int k) { Pick(k); }, [this](int k) { return session_.NameOf(k); }});
     QObject::connect(&controls_.pane.Active(), &QCheckBox::clicked, &controls_.pane, [this](bool active) {
-        gate_.Take(Command::SetActive, [&] { commands_.SetActive(active); });
+        gate_.Take(Command::SetActive, [&] { session_.SetActive(active); });
+    });
+}
+
+// A save that comes first may change the order of the strip, so the profile goes by its path.
+void ProfileDesk::Pick(int thumbnail) {
+    const std::string path = session_.PathOf(thumbnail);
+    gate_.Take(Command::PickThumbnail, [&] {
+        const BusyCursor busy;
+        session_.Open(path);
     });
 }
 
 void ProfileDesk::Close() {
-    store_.Close();
-    screen_.strip.SelectThumbnail(0);
+    session_.Close();
+    controls_.pane.Strip().SelectThumbnail(0);
 }
 
 void ProfileDesk::FinishEdits() {
@@ -95,7 +96,7 @@ void ProfileDesk::Update() {
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());
     controls_.pane.Active().setEnabled(CanEdit());
-    controls_.pane.Active().setChecked(profile_.Active);
+    controls_.pane.Active().setChecked(session_.Profile().Active);
 }
 
 bool ProfileDesk::Presses(Command command) const {

@@ -4,10 +4,9 @@
 #include "app/Clock.h"
 #include "app/Files.h"
 #include "app/Operator.h"
-#include "profiles/ProfileStore.h"
+#include "profiles/ProfileSession.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
-#include "ui/commands/ProfileCommands.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/profiling/ProfilePane.h"
@@ -31,16 +30,16 @@ struct DeskControls {
     ProfilePane& pane;
 };
 
-/// The window's profile desk: puts store, editor and commands together and connects them to the controls.
+/// The window's profile desk: owns the session and connects it to the controls.
 class ProfileDesk {
   public:
     ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls);
 
     /// Fills strip and profile list; a step of loading the window.
-    void Load() { commands_.LoadStrip(); }
+    void Load() { session_.FillStrip(); }
 
     /// The prompt before the open profile is left; false when the command at hand is to be abandoned.
-    bool MayLeave() { return commands_.MayLeave(); }
+    bool MayLeave() { return session_.MayLeave(); }
 
     /// Takes the profile off the desk without saving it.
     void Close();
@@ -51,10 +50,7 @@ class ProfileDesk {
     /// Makes the controls show what can be done now.
     void Update();
 
-    /// Whether a profile stands at the desk, which may be one that cannot be read, and whether it can be
-    /// edited.
-    bool HasProfile() const { return commands_.CanDelete(); }
-    bool CanEdit() const { return commands_.CanEdit(); }
+    const profiles::ProfileSession& Session() const { return session_; }
 
     /// Whether a command's toggle button is to look pressed.
     bool Presses(commands::Command command) const;
@@ -63,16 +59,14 @@ class ProfileDesk {
     void ConnectCommands();
     void ConnectBoxCommands();
     void ConnectControls();
-    bool HasBox() const { return profile_.CurrentBox != 0; }
+    void Pick(int thumbnail);
+    bool CanEdit() const { return session_.IsOpen(); }
+    bool HasBox() const { return session_.Profile().CurrentBox != 0; }
 
     commands::AppState& state_;
     commands::CommandGate& gate_;
     DeskControls controls_;
-    profiles::OpenProfile profile_;
-    profiles::ProfileScreen screen_;
-    profiles::BoxEditor editor_;
-    profiles::ProfileStore store_;
-    commands::ProfileCommands commands_;
+    profiles::ProfileSession session_;
 };
 
 }  // namespace tavrene::ui

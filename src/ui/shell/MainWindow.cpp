@@ -129,8 +129,8 @@ commands::Mode MainWindow::CurrentMode() const {
                              .isInReview = review.IsOn(),
                              .wasInReview = review.WasOn(),
                              .hasForm = review.HasForm(),
-                             .hasProfile = desk_.HasProfile(),
-                             .canEdit = desk_.CanEdit()});
+                             .hasProfile = desk_.Session().HasProfile(),
+                             .canEdit = desk_.Session().IsOpen()});
 }
 
 // What it says and shows belongs to the run from here on, before its first file.
@@ -163,7 +163,12 @@ void MainWindow::UpdateCommands() {
 }
 
 void MainWindow::Load() {
-    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+    commands::LoadWindow(state_,
+                         {log_, operator_, &imaging::ImageLibraryVersion,
+                          [this] {
+                              run_.Settle();
+                              desk_.Load();
+                          }},
                          gate_);
     gate_.Guard([this] { review_.Load(); });
 }

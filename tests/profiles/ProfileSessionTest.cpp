@@ -1,8 +1,9 @@
 #include "FakeStrip.h"
 #include "imaging/TiffPages.h"
 #include "painter/ImageFiles.h"
-#include "profiles/ProfileStore.h"
+#include "profiles/ProfileSession.h"
 #include "profiles/XmlFile.h"
+#include "support/FakeFileDialogs.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 
@@ -17,24 +18,37 @@ using test::TestForm;
 using test::WriteText;
 using Names = std::vector<std::string>;
 
-class ProfileStoreTest : public test::RunWorld {
+class ProfileSessionTest : public test::RunWorld {
   protected:
     bool Create(const std::string& name, const std::string& image) {
         constexpr boxes::BoxSizes sizes{16, 38, 16, 34};
-        return store_.Create(folders_.Profiles + name, image, sizes, boxes::ReachFor(sizes));
+        dialogs_.answers = {folders_.Profiles + name, image};
+        session_.New(sizes, boxes::ReachFor(sizes));
+        return Profile().Image == image;
     }
 
     void AddProfiles(const Names& names) {
         for (const std::string& name : names)
             AddSpecimenProfile(name, form_);
-        store_.RebuildThumbnails();
+        session_.FillStrip();
         transcript_.Clear();
     }
 
+    // As from the strip, after the prompt. False when another profile, or none, is open afterwards.
+    bool Pick(int k) {
+        const std::string path = session_.PathOf(k);
+        if (!session_.MayLeave())
+            return false;
+        session_.Open(path);
+        return session_.IsOpen() && Profile().Path == path;
+    }
+
+    const OpenProfile& Profile() const { return session_.Profile(); }
+
     // Opens profile k and changes one box.
     void OpenAndEdit(int k) {
-        EXPECT_TRUE(store_.ThumbnailSelected(k));
-        editor_.RowRenamed(1, "edited");
+        EXPECT_TRUE(Pick(k));
+        session_.Editor().RowRenamed(1, "edited");
         transcript_.Clear();
     }
 
@@ -54,13 +68,13 @@ class ProfileStoreTest : public test::RunWorld {
 
     TestForm form_ = TestForm::Grid(3, 2);
     test::FakeStrip strip_;
-    OpenProfile profile_;
-    ProfileScreen desktop_{screen_, screen_, strip_};
-    BoxEditor editor_{profile_, person_, desktop_};
-    ProfileStore store_{{files_, person_, log_, clock_, folders_}, profile_, profiles_, editor_, desktop_};
+    test::FakeFileDialogs dialogs_;
+    ProfileContext context_{
+        files_, person_, dialogs_, log_, clock_, folders_, [](const OpenProfile&) { return Names(); }};
+    ProfileSession session_{context_, profiles_, {screen_, screen_, strip_}};
 };
 
-TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
+TEST_F(ProfileSessionTest, CreatesAProfileFromABlankForm) {
     AddProfiles({"Beta"});
     const std::string image = folders_.ProfileImages + "blank & ä.tif";
     form_.SaveScan(image, {});
@@ -75,7 +89,7 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
                      folders_.ProfileImages + "blank &amp; ä.tif");
     EXPECT_EQ(ReadText(PathOf("Alpha")), document);
     EXPECT_EQ(Logged(), (Names{"New Profile: <Alpha> 6 OMR Boxes Identified.", "Created Profile: Alpha"}));
-    EXPECT_TRUE(profile_.IsOpen && profile_.Active && !profile_.ProfileChanged);
+    EXPECT_TRUE(Profile().IsOpen && Profile().Active && !Profile().ProfileChanged);
     EXPECT_EQ(strip_.captions, (Names{"Profile 1 of 2", "Profile 2 of 2"}));
     EXPECT_EQ(strip_.selected, 1);
     EXPECT_EQ(StripPages().size(), 2U);
@@ -94,20 +108,20 @@ TEST_F(ProfileStoreTest, CreatesAProfileFromABlankForm) {
         return operation == "write" && path.ends_with(".Tvp");
     };
     EXPECT_THROW(Create("Gamma.Tvp", image), app::FileError);
-    EXPECT_EQ(profile_.Name, "Alpha");
+    EXPECT_EQ(Profile().Name, "Alpha");
     EXPECT_EQ(screen_.rows.size(), 6U);
 
     files_.refuse = nullptr;
-    const std::vector<OmrBox> boxes = profile_.BoxList;
+    const std::vector<OmrBox> boxes = Profile().BoxList;
     const std::string png = folders_.ProfileImages + "form.PNG";
     const samples::Canvas page = form_.Paint({});
     samples::SaveImage(samples::ToColour(page, page, page), imaging::ImageFormat::Png, png);
     ASSERT_TRUE(Create("Alpha.Tvp", png));
-    EXPECT_EQ(profile_.BoxList, boxes);
+    EXPECT_EQ(Profile().BoxList, boxes);
     EXPECT_TRUE(files_.FileExists(folders_.Temp + "temp.tif"));
 }
 
-TEST_F(ProfileStoreTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
+TEST_F(ProfileSessionTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
     AddProfiles({"Beta"});
     files_.refuse = [this](const std::string& operation, const std::string& path) {
         return operation == "write" && path.starts_with(folders_.Temp);
@@ -116,18 +130,15 @@ TEST_F(ProfileStoreTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
     samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Png, png);
     for (const std::string& image : {folders_.ProfileImages + "Beta.tif", png}) {
         ASSERT_TRUE(Create("Alpha.Tvp", image)) << image;
-        EXPECT_TRUE(profile_.IsOpen && profile_.CurrentProfile == 1 && screen_.rows.size() == 6);
+        EXPECT_TRUE(Profile().IsOpen && Profile().CurrentProfile == 1 && screen_.rows.size() == 6);
         EXPECT_EQ(strip_.captions.size(), 2U);
         EXPECT_EQ(transcript_.LinesOf("view: ").back(), "picture 600x500");
-        const Names notes = store_.TakeNotes();
-        ASSERT_EQ(notes.size(), 1U);
-        EXPECT_PRED2(Has, notes[0], "Cannot write " + folders_.Temp);
-        EXPECT_TRUE(store_.ThumbnailSelected(1)) << "nor one that is there";
-        store_.TakeNotes();
+        EXPECT_PRED2(Has, person_.PanelText(Panel::Message), "Cannot write " + folders_.Temp);
+        EXPECT_TRUE(Pick(1)) << "nor one that is there";
     }
 }
 
-TEST_F(ProfileStoreTest, RefusesImagesBeforeAnyStep) {
+TEST_F(ProfileSessionTest, RefusesImagesBeforeAnyStep) {
     samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Tiff,
                        folders_.ProfileImages + "grey.tif");
     WriteText(folders_.ProfileImages + "broken.tif", "no image");
@@ -141,37 +152,37 @@ TEST_F(ProfileStoreTest, RefusesImagesBeforeAnyStep) {
     EXPECT_FALSE(files_.FileExists(PathOf("Gamma")));
 }
 
-TEST_F(ProfileStoreTest, OpensAProfileAndFitsItsImage) {
+TEST_F(ProfileSessionTest, OpensAProfileAndFitsItsImage) {
     form_.width = 2000;
     AddProfiles({"Wide"});
     form_.width = 750;
     AddProfiles({"Fits"});
-    EXPECT_EQ(store_.ThumbnailHover(2), "Wide");
-    EXPECT_EQ(store_.ThumbnailHover(3), "");
-    ASSERT_TRUE(store_.ThumbnailSelected(1));
+    EXPECT_EQ(session_.NameOf(2), "Wide");
+    EXPECT_EQ(session_.NameOf(3), "");
+    ASSERT_TRUE(Pick(1));
     EXPECT_EQ(screen_.Zoom(), 100);
     transcript_.Clear();
-    ASSERT_TRUE(store_.ThumbnailSelected(2));
+    ASSERT_TRUE(Pick(2));
     EXPECT_EQ(transcript_.LinesOf("panel Message: "), Names{"Profile [Wide], Image [Wide.tif]"});
     EXPECT_EQ(transcript_.LinesOf("panel ElapsedTime: "), Names{"OMRs:6"});
     EXPECT_PRED2(Has, ProfileLog(), "Loaded Profile: Wide\r\n");
     EXPECT_EQ(transcript_.LinesOf("view: zoom ").at(2), "92.16");
     EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
     EXPECT_GT(2000 * screen_.Zoom() / 96, 750);
-    EXPECT_FALSE(store_.ThumbnailSelected(0));
-    EXPECT_EQ(profile_.Name, "Wide");
+    EXPECT_FALSE(Pick(0));
+    EXPECT_EQ(Profile().Name, "Wide");
 
     form_.width = 2000;
     samples::SaveImage(samples::ToGrey(form_.Paint({})), imaging::ImageFormat::Tiff,
                        folders_.ProfileImages + "Fits.tif");  // of no use for box finding, but can be shown
-    ASSERT_TRUE(store_.ThumbnailSelected(1));
+    ASSERT_TRUE(Pick(1));
     EXPECT_EQ(transcript_.LinesOf("view: show ").back(), "Fits.tif");
     EXPECT_LE(2000 * screen_.Zoom() / 100, 750);
 }
 
-TEST_F(ProfileStoreTest, TakesOverThePagesOfUnchangedSpecimens) {
+TEST_F(ProfileSessionTest, TakesOverThePagesOfUnchangedSpecimens) {
     WriteText(StripFile(), "of another day");
-    store_.RebuildThumbnails();
+    session_.FillStrip();
     EXPECT_EQ(ReadText(StripFile()), "of another day") << "there is no profile";
     AddProfiles({"A", "B", "C"});
     const std::vector<imaging::TiffPage> pages = StripPages();
@@ -184,57 +195,58 @@ TEST_F(ProfileStoreTest, TakesOverThePagesOfUnchangedSpecimens) {
         writes += operation == "write" && path == StripFile() ? 1 : 0;
         return false;
     };
-    store_.RebuildThumbnails();
+    session_.FillStrip();
     EXPECT_EQ(reads + writes, 0);
     form_.height = 900;
     form_.SaveScan(folders_.ProfileImages + "B.tif", {});
-    store_.RebuildThumbnails();
+    session_.FillStrip();
     EXPECT_EQ(std::pair(reads, writes), std::pair(1, 1));
     EXPECT_EQ(StripPages()[1].picture.Height(), 210);
 
-    ProfileStore next({files_, person_, log_, clock_, folders_}, profile_, profiles_, editor_, desktop_);
-    next.RebuildThumbnails();  // a new start of the program takes the pages from the file
+    ProfileSession next(context_, profiles_, {screen_, screen_, strip_});
+    next.FillStrip();  // a new start of the program takes the pages from the file
     EXPECT_EQ(reads + writes, 2);
     files_.Delete(StripFile());
-    next.RebuildThumbnails();
+    next.FillStrip();
     EXPECT_EQ(StripPages().size(), 3U);
 }
 
-TEST_F(ProfileStoreTest, MindsWhatOthersDoToTheFile) {
+TEST_F(ProfileSessionTest, MindsWhatOthersDoToTheFile) {
     AddProfiles({"A", "B"});
     const std::string path = PathOf("A");
     OpenAndEdit(1);
     const std::string foreign = form_.ProfileText("changed by somebody");
     WriteText(path, foreign);
     person_.answers = {Answer::No};
-    EXPECT_FALSE(store_.Save());
+    EXPECT_FALSE(session_.Save());
     EXPECT_EQ(ReadText(path), foreign);
     person_.answers = {Answer::Yes, Answer::No};  // to the prompt, but not over the other's work
-    EXPECT_FALSE(store_.ThumbnailSelected(2));
-    EXPECT_TRUE(profile_.ProfileChanged);
+    EXPECT_FALSE(Pick(2));
+    EXPECT_TRUE(Profile().ProfileChanged);
     person_.answers = {Answer::Yes};
-    EXPECT_TRUE(store_.Save());
+    EXPECT_TRUE(session_.Save());
 
-    editor_.RowRenamed(2, "again");
+    session_.Editor().RowRenamed(2, "again");
     files_.Delete(path);
-    EXPECT_TRUE(store_.Save());
-    EXPECT_EQ(store_.TakeNotes(), Names{"The file " + path + " had been deleted and was written anew."});
+    EXPECT_TRUE(session_.Save());
+    EXPECT_EQ(person_.PanelText(Panel::Message),
+              "The file " + path + " had been deleted and was written anew.");
     EXPECT_PRED2(Has, ReadText(path), "again");
 
     files_.Delete(PathOf("B"));
-    EXPECT_FALSE(store_.ThumbnailSelected(2));
-    EXPECT_EQ(profile_.Name, "A");
+    EXPECT_FALSE(Pick(2));
+    EXPECT_EQ(Profile().Name, "A");
     EXPECT_EQ(strip_.captions.size(), 1U);
     files_.Delete(path);
     person_.answers = {Answer::Yes};
-    EXPECT_TRUE(store_.Delete());
+    session_.Delete();
     EXPECT_TRUE(strip_.captions.empty() && screen_.rows.empty() && In(folders_.Profiles).empty());
-    EXPECT_FALSE(profile_.IsOpen);
+    EXPECT_FALSE(Profile().IsOpen);
 }
 
 // Each write of a save in turn is cut off, once refused and once as if the program had died in it, with half
 // of the neighbour written.
-TEST_F(ProfileStoreTest, ASaveThatIsCutOffLeavesAWholeDocument) {
+TEST_F(ProfileSessionTest, ASaveThatIsCutOffLeavesAWholeDocument) {
     AddProfiles({"A"});
     const std::string path = PathOf("A");
     OpenAndEdit(1);
@@ -243,7 +255,7 @@ TEST_F(ProfileStoreTest, ASaveThatIsCutOffLeavesAWholeDocument) {
     bool reachedEnd = false;
     for (int cut = 1; !reachedEnd; ++cut) {
         ASSERT_LT(cut, 20);
-        editor_.RowRenamed(1, "edit " + std::to_string(cut));
+        session_.Editor().RowRenamed(1, "edit " + std::to_string(cut));
         const std::string before = ReadText(path);
         int operation = 0;
         files_.refuse = [&](const std::string& name, const std::string& target) {
@@ -254,10 +266,10 @@ TEST_F(ProfileStoreTest, ASaveThatIsCutOffLeavesAWholeDocument) {
             return true;
         };
         try {
-            EXPECT_TRUE(store_.Save());
+            EXPECT_TRUE(session_.Save());
         } catch (const app::FileError&) {
             EXPECT_EQ(ReadText(path), before);
-            EXPECT_TRUE(profile_.ProfileChanged);
+            EXPECT_TRUE(Profile().ProfileChanged);
         }
         reachedEnd = operation < cut;
         files_.refuse = nullptr;
@@ -269,25 +281,25 @@ TEST_F(ProfileStoreTest, ASaveThatIsCutOffLeavesAWholeDocument) {
     }
 }
 
-TEST_F(ProfileStoreTest, WorksWithTheCountThatTheDocumentHas) {
+TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     AddProfiles({"A"});
     std::string text = ReadText(PathOf("A"));
     WriteText(PathOf("A"), text.replace(text.find("Count=\"6\""), 9, "Count=\"3\""));
-    store_.ThumbnailSelected(1);
+    Pick(1);
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:3");
     EXPECT_EQ(screen_.rows.size(), 6U);
-    editor_.SetTool(imaging::BoxTool::Add);
-    editor_.RectSelected({7, 300, 300, 20, 20});
-    EXPECT_EQ(profile_.BoxList[3].L, 60);  // no box gave its place to the drawn one
-    EXPECT_TRUE(store_.Save());
+    session_.Editor().SetTool(imaging::BoxTool::Add);
+    session_.Editor().RectSelected({7, 300, 300, 20, 20});
+    EXPECT_EQ(Profile().BoxList[3].L, 60);  // no box gave its place to the drawn one
+    EXPECT_TRUE(session_.Save());
     EXPECT_PRED2(Has, ReadText(PathOf("A")), "Count=\"4\"");
 }
 
-TEST_F(ProfileStoreTest, AFailingLogCostsOnlyItsLines) {
+TEST_F(ProfileSessionTest, AFailingLogCostsOnlyItsLines) {
     AddProfiles({"A"});
     files_.refuse = [](const std::string& operation, const std::string&) { return operation == "append"; };
     OpenAndEdit(1);
-    EXPECT_TRUE(store_.Save());
+    EXPECT_TRUE(session_.Save());
     EXPECT_GE(log_.TakeLostLines(), 2) << "opened, and saved";
 }
 

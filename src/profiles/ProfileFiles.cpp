@@ -1,0 +1,88 @@
+#include "profiles/ProfileFiles.h"
+
+#include <utility>
+
+#include "profiles/ProfileLoader.h"
+#include "profiles/XmlFile.h"
+
+namespace tavrene::profiles {
+
+void RefuseToOpen(const std::string& path, const std::exception& error) {
+    throw DocumentError("The profile " + path + " cannot be opened: " + error.what() + ".");
+}
+
+ProfileFiles::ProfileFiles(app::Files& files, app::ActivityLog& log, app::Operator& person,
+                           std::string folder)
+    : files_(files), log_(log), person_(person), folder_(std::move(folder)) {}
+
+pugi::xml_document ProfileFiles::Create(const std::string& path, const ProfileHeader& header,
+                                        std::span<const OmrBox> boxes) {
+    pugi::xml_document document =
+        CreateProfileDocument(header, ComposeOmrs(boxes, static_cast<std::int16_t>(boxes.size())));
+    SaveProfileDocument(files_, path, document);
+    log_.LogProfileEvent("Created Profile: " + header.Profile);
+    return document;
+}
+
+pugi::xml_document ProfileFiles::Load(const std::string& path) {
+    try {
+        pugi::xml_document document = LoadProfileDocument(files_, path);
+        log_.LogProfileEvent("Loaded Profile: " + app::BaseName(path));
+        return document;
+    } catch (const DocumentError& error) {
+        RefuseToOpen(path, error);
+    }
+}
+
+void ProfileFiles::Save(OpenProfile& profile) {
+    pugi::xml_document document;
+    document.reset(profile.Document);
+    try {
+        UpdateProfileDocument(document, profile.Active, ComposeOmrs(profile.BoxList, profile.Count));
+    } catch (const DocumentError& error) {
+        throw DocumentError("The profile " + profile.Path + " is not saved: " + error.what() + ".");
+    }
+    SaveProfileDocument(files_, profile.Path, document);
+    profile.Document = std::move(document);
+    profile.Fingerprint = files_.Fingerprint(profile.Path);
+    log_.LogProfileEvent("Saved Profile: " + profile.Name);
+}
+
+void ProfileFiles::Delete(const OpenProfile& profile) {
+    if (files_.FileExists(profile.Path))
+        files_.Delete(profile.Path);
+    log_.LogProfileEvent("Deleted Profile: " + profile.Name);
+}
+
+// Records come in the order of the listing; why a folder cannot be listed, their loader has logged.
+std::vector<ProfileRecord> ProfileFiles::Reload() {
+    std::vector<ProfileRecord> records = LoadActiveProfiles(files_, log_, person_, folder_);
+    entries_.clear();
+    if (!files_.FolderExists(folder_))
+        return records;
+    auto record = records.begin();
+    for (std::string& fileName : files_.List(folder_, "*.Tvp")) {
+        const bool isReadable = record != records.end() && record->FileName == fileName;
+        entries_.push_back({std::move(fileName), isReadable, isReadable ? record->Image : std::string()});
+        if (isReadable)
+            ++record;
+    }
+    return records;
+}
+
+std::string ProfileFiles::PathOf(int k) const {
+    if (k < 1 || static_cast<std::size_t>(k) > entries_.size())
+        return {};
+    return folder_ + entries_[static_cast<std::size_t>(k) - 1].FileName;
+}
+
+int ProfileFiles::NumberOf(const std::string& path) const {
+    const std::filesystem::path wanted = app::ToPath(path).lexically_normal();
+    for (int k = 1; static_cast<std::size_t>(k) <= entries_.size(); ++k) {
+        if (app::ToPath(PathOf(k)).lexically_normal() == wanted)
+            return k;
+    }
+    return 0;
+}
+
+}  // namespace tavrene::profiles

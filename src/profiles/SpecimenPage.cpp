@@ -1,0 +1,67 @@
+#include "profiles/SpecimenPage.h"
+
+#include <utility>
+#include <variant>
+
+namespace tavrene::profiles {
+namespace {
+
+using imaging::ImageFormat;
+
+constexpr double kFittingWidth = 750;
+constexpr double kFittingStep = 0.96;
+
+void KeepSize(const imaging::Bitmap& picture, SpecimenShown& shown) {
+    shown.width = picture.Width();
+    shown.height = picture.Height();
+}
+
+}  // namespace
+
+SpecimenPage::SpecimenPage(app::Files& files, imaging::PageScreen& page, std::string tempFolder)
+    : files_(files), page_(page), scratch_(files, std::move(tempFolder)) {}
+
+std::string SpecimenPage::KeepOriginal(const std::string& image) {
+    if (imaging::SpecimenFormat(image) != ImageFormat::Tiff || !files_.FileExists(image))
+        return {};
+    return scratch_.WriteOriginal(files_.Read(image));
+}
+
+SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
+    SpecimenShown shown;
+    const auto read = imaging::ReadSpecimen(files_, image);
+    page_.SetZoom(100);
+    if (const imaging::Page* const page = std::get_if<imaging::Page>(&read)) {
+        ShowPage(*page, isNewProfile, shown);
+    } else if (std::get<imaging::PageError>(read) == imaging::PageError::TooManyColors) {
+        KeepSize(imaging::DecodeImage(files_.Read(image), imaging::SpecimenFormat(image),
+                                      imaging::Decode::HeaderOnly),
+                 shown);
+        page_.ShowFile(image);
+    } else {
+        page_.Clear();
+        shown.notes.push_back(
+            "The specimen image " + image +
+            (files_.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
+    }
+    return shown;
+}
+
+void SpecimenPage::ShowPage(const imaging::Page& page, bool isNewProfile, SpecimenShown& shown) {
+    KeepSize(page.bitmap, shown);
+    page_.ShowPicture(page.bitmap);
+    if (page.format == ImageFormat::Tiff && !(isNewProfile && page.inverted))
+        return;
+    if (const std::string failure = scratch_.WriteConverted(page); !failure.empty())
+        shown.notes.push_back(failure + ".");
+}
+
+// The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.
+void SpecimenPage::Fit(int width) {
+    for (double zoom = 100; width * zoom / 100 > kFittingWidth;) {
+        zoom *= kFittingStep;
+        page_.SetZoom(zoom);
+    }
+}
+
+}  // namespace tavrene::profiles
