@@ -34,7 +34,7 @@ TEST_F(SampleFolderTest, EveryScanReadsAsTheTruthSays) {
             << comparison.Image << ' ' << comparison.Difference;
         beyond += comparison.verdict == samples::Verdict::BeyondRules ? 1 : 0;
     }
-    EXPECT_EQ(beyond, 6) << "an excuse more than the samples need";
+    EXPECT_EQ(beyond, 5) << "an excuse more than the samples need";
 }
 
 TEST_F(SampleFolderTest, PreciseAlignmentReadsWhatLiesAskew) {
@@ -48,7 +48,8 @@ TEST_F(SampleFolderTest, PreciseAlignmentReadsWhatLiesAskew) {
     }
     int read = 0;
     for (const samples::GroundTruthRecord& record : samples::ReadGroundTruth(kSamples + "truth.tsv")) {
-        if (record.BeyondRules.find("Precise Alignment") == std::string::npos)
+        const bool isThin = record.Image == "staff-14-thin.tif";
+        if (!isThin && record.BeyondRules.find("Precise Alignment") == std::string::npos)
             continue;
         const auto page =
             imaging::ReadPage(files_, kSamples + "scans/" + record.Image, imaging::ImageFormat::Tiff);
