@@ -231,12 +231,10 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        std::optional<app::Bytes> before = form_->Before;
         if (profile != nullptr && LoadForProcessing(*form_)) {
-            if (!before && context_.files.FileExists(PathOf(*form_)))
-                before = context_.files.Read(PathOf(*form_));
+            std::optional<app::Bytes> before = DocumentBefore(*form_);
             if (ReadAnew(*form_, *profile)) {
-                form_->Before = std::move(before);
+                form_->Before.swap(before);
                 form_->Changed = true;
                 screen_.ShowState(*form_);
                 context_.person.SetPanel(app::Panel::Message, image + " [" + profileName + "]");
@@ -247,6 +245,13 @@ void FormReview::ReadAgainst(const std::string& profileName) {
         throw;
     }
     context_.choice.SetChoice(form_->Profile.Name);
+}
+
+// The document as it was before it was read against another profile for the first time.
+std::optional<app::Bytes> FormReview::DocumentBefore(const OpenForm& form) const {
+    if (form.Before || !context_.files.FileExists(PathOf(form)))
+        return form.Before;
+    return context_.files.Read(PathOf(form));
 }
 
 // As a run loads it, with the display copies.

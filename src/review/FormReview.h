@@ -61,6 +61,7 @@ class FormReview {
     bool KeepWithoutProfile(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
+    std::optional<app::Bytes> DocumentBefore(const OpenForm& form) const;
     bool LoadForProcessing(const OpenForm& form);
     void LogFailure(const std::string& image, const std::string& failure);
     void SendBack(const OpenForm& form);
