@@ -52,6 +52,7 @@ class BoxEditor {
   private:
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
     bool MayStore() const { return profile_.IsOpen; }
+    std::string FreeName(int number) const;
     bool AddDrawnBox(const imaging::RectReport& report);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
     int NextKept(int number) const;

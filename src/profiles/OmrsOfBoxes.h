@@ -14,5 +14,6 @@ std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int heigh
 
 /// The name of a box that nobody named: "Un-named-7".
 std::string UnnamedBox(int number);
+bool IsUnnamed(const std::string& name);
 
 }  // namespace tavrene::profiles

@@ -137,6 +137,11 @@ int BoxLayer::BoxAt(const QPointF& point) const {
     return found;
 }
 
+bool BoxLayer::HasBoxUnder(const QPointF& point) const {
+    return std::any_of(boxes_.begin(), boxes_.end(),
+                       [&point](const auto& box) { return box.second.place.contains(point); });
+}
+
 QRectF BoxLayer::PlaceOf(int group) const {
     const auto box = boxes_.find(group);
     return box == boxes_.end() ? QRectF() : box->second.place;

@@ -1,5 +1,8 @@
 #include "ui/profiling/ProfileDesk.h"
 
+#include <QShortcut>
+#include <initializer_list>
+
 #include "recognition/ProfileAdvice.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
@@ -59,6 +62,14 @@ void ProfileDesk::ConnectControls() {
              gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectSelected(report); });
          },
          [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
+    for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
+        new QShortcut(
+            Qt::Key_Delete, widget,
+            [this] {
+                FinishEdits();
+                gate_.Run(Command::DeleteBox);
+            },
+            Qt::WidgetWithChildrenShortcut);
     controls_.view.SetArrowHandler([this](int dx, int dy) {
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)

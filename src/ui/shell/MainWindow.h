@@ -63,6 +63,7 @@ class MainWindow final : public QMainWindow {
     commands::AppState state_;
     StatusPanels* panels_;
     QSplitter* splitter_;
+    MessageStrip* strip_;
     ImageView* view_;
     BoxListView* boxes_;
     QStackedWidget* side_;
