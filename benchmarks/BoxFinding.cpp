@@ -7,6 +7,7 @@
 #include "boxes/BoxAssembly.h"
 #include "boxes/BoxLayouts.h"
 #include "boxes/ProfileImagePipeline.h"
+#include "boxes/second/SecondLook.h"
 #include "imaging/PageReader.h"
 #include "painter/ImageFiles.h"
 
@@ -60,6 +61,7 @@ void BM_Steps(benchmark::State& state) {
     const auto read = imaging::ReadPage(files, file, imaging::ImageFormat::Tiff);
     const imaging::WorkGrid& grid = std::get<imaging::Page>(read).grid;
     std::size_t segments = 0;
+    std::size_t work = 0;
     for (auto _ : state) {
         boxes::BoxAnalysis analysis(grid.Clone(), kSizes, boxes::ReachFor(kSizes));
         for (int step = 0; step < state.range(1); ++step)
@@ -67,12 +69,30 @@ void BM_Steps(benchmark::State& state) {
         segments = analysis.Segments.size();
         if (state.range(1) == 11)
             boxes::IdentifyBoxes(analysis);
+        work = analysis.Work.Spent();
     }
+    state.counters["work"] = static_cast<double>(work);
     state.counters["segments"] = static_cast<double>(segments);
+}
+
+// From the file to the candidates, the first look that it begins with included.
+void BM_SecondLook(benchmark::State& state) {
+    const std::string file = TextPage(static_cast<int>(state.range(0)));
+    const app::DiskFiles files;
+    std::size_t candidates = 0;
+    for (auto _ : state) {
+        const auto read = imaging::ReadPage(files, file, imaging::ImageFormat::Tiff);
+        const imaging::WorkGrid& grid = std::get<imaging::Page>(read).grid;
+        candidates = boxes::LookAgain(grid, {}, kSizes, [](double) { return true; }).Candidates.size();
+    }
+    state.counters["candidates"] = static_cast<double>(candidates);
+    if (candidates < kBoxes * 9 / 10)
+        state.SkipWithError("the boxes were not found");
 }
 
 BENCHMARK(BM_TextPageFloor)->Arg(40)->Arg(80)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_FindBoxes)->Arg(40)->Arg(80)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SecondLook)->Arg(40)->Arg(80)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Steps)
     ->Args({40, 1})
     ->Args({40, 2})

@@ -6,13 +6,14 @@
 
 #include "Floor.h"
 #include "FormPage.h"
+#include "imaging/ImageDecoder.h"
 #include "intake/BringIn.h"
 #include "painter/PdfFile.h"
 
 namespace tavrene::bench {
 namespace {
 
-constexpr int kPages = 500;
+constexpr int kPages = 50;
 
 // A PDF as a scanner makes it: 300 dpi pages in Group 4.
 std::string ScannedPdf() {

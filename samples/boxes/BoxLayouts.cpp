@@ -1,6 +1,8 @@
 #include "boxes/BoxLayouts.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 
 namespace tavrene::samples {
@@ -54,14 +56,15 @@ void PaintColumn(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
     }
 }
 
+constexpr std::array kPoints = {6.0, 7.0, 8.0, 9.0, 10.0, 11.0, 12.0, 14.0, 16.0, 20.0, 24.0};
+
 // Text of every size above, beside and below the boxes, some of it as close as a pixel or two.
 void PaintText(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
-    constexpr std::array points = {6.0, 7.0, 8.0, 9.0, 10.0, 11.0, 12.0, 14.0, 16.0, 20.0, 24.0};
     const int left = sheet.Mm(10);
     const int bottom = sheet.Page().Height() - sheet.Mm(12);
     std::size_t line = 0;
     for (int y = sheet.Mm(18); y < bottom; ++line) {
-        const double height = points[line % points.size()];
+        const double height = kPoints[line % kPoints.size()];
         sheet.AddText(left, y, height, Words(sheet.Dice(), 9));
         y += sheet.Mm(2.5);
         for (int x = left; x < sheet.Page().Width() - sheet.Mm(40); x += sheet.Mm(45)) {
@@ -69,11 +72,14 @@ void PaintText(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
             const int gap = 3 + static_cast<int>(line % 4);
             sheet.AddText(x + size.Width + gap, y + size.Height, height, Words(sheet.Dice(), 1));
         }
-        y += size.Height + sheet.Mm(2 + points[(line + 1) % points.size()] * 0.36);
+        y += size.Height + sheet.Mm(2 + kPoints[(line + 1) % kPoints.size()] * 0.36);
     }
 }
 
-void PaintTable(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+// What else the cells of a table hold.
+enum class CellBoxes : bool { None, OneEach };
+
+void PaintCells(BoxSheet& sheet, const OuterSize& size, CellBoxes boxes) {
     const int left = sheet.Mm(12);
     const int top = sheet.Mm(15);
     const int rowHeight = Step(sheet, size.Height, 3);
@@ -89,10 +95,15 @@ void PaintTable(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
         for (int column = 0; column < columns; ++column) {
             const int x = left + column * columnWidth + sheet.Mm(2);
             const int y = top + row * rowHeight + (rowHeight + thickness - size.Height) / 2;
-            sheet.AddBox(x, y, size);
+            if (boxes == CellBoxes::OneEach)
+                sheet.AddBox(x, y, size);
             sheet.AddText(x + size.Width + sheet.Mm(2), y + size.Height, 10, Words(sheet.Dice(), 1));
         }
     }
+}
+
+void PaintTable(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    PaintCells(sheet, size, CellBoxes::OneEach);
 }
 
 void PaintFrames(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
@@ -182,6 +193,74 @@ void PaintDiagonal(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
     }
 }
 
+void PaintJoined(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    constexpr int side = 5;
+    const int bottom = sheet.Page().Height() - sheet.Mm(15) - side * size.Height;
+    const int right = sheet.Page().Width() - sheet.Mm(10) - side * size.Width;
+    const int thickness = sheet.Style().Thickness;
+    sheet.AllowDiagonal();
+    for (int y = sheet.Mm(15); y < bottom; y += side * size.Height + sheet.Mm(9)) {
+        for (int x = sheet.Mm(10); x < right; x += side * size.Width + sheet.Mm(9)) {
+            sheet.AddText(x, y - sheet.Mm(2), 9, Words(sheet.Dice(), 2));
+            for (int index = 0; index < side * side; ++index)
+                sheet.AddBox(x + index % side * (size.Width - thickness),
+                             y + index / side * (size.Height - thickness), size);
+        }
+    }
+}
+
+void PaintSmallSecond(BoxSheet& sheet, const OuterSize& size, const OuterSize& second) {
+    const int bottom = sheet.Page().Height() - sheet.Mm(15);
+    const auto every = static_cast<int>(sheet.Dice().Between(13, 34));
+    int count = 0;
+    for (int y = sheet.Mm(15); y < bottom; y += Step(sheet, std::max(size.Height, second.Height), 4)) {
+        for (int x = sheet.Mm(12); x < sheet.Page().Width() - sheet.Mm(16);
+             x += Step(sheet, size.Width, 10)) {
+            // The first ones come early, so that a short page has some as well.
+            const OuterSize& current = ++count % every == 5 ? second : size;
+            sheet.AddBox(x, y, current);
+            sheet.AddText(x + current.Width + sheet.Mm(1), y + current.Height, 8, Words(sheet.Dice(), 1));
+        }
+    }
+}
+
+void PaintTextAlone(BoxSheet& sheet, const OuterSize&, const OuterSize&) {
+    std::size_t line = 0;
+    for (int y = sheet.Mm(12); y < sheet.Page().Height() - sheet.Mm(10); ++line) {
+        sheet.AddText(sheet.Mm(10), y, kPoints[line % kPoints.size()], Words(sheet.Dice(), 14));
+        y += sheet.Mm(1.5 + kPoints[(line + 1) % kPoints.size()] * 0.36);
+    }
+}
+
+void PaintOval(Canvas& page, int left, int top, const OuterSize& size, double thickness) {
+    const double radiusX = size.Width / 2.0;
+    const double radiusY = size.Height / 2.0;
+    for (int y = 0; y < size.Height; ++y) {
+        for (int x = 0; x < size.Width; ++x) {
+            const double awayX = x + 0.5 - radiusX;
+            const double awayY = y + 0.5 - radiusY;
+            const double outside = std::hypot(awayX / radiusX, awayY / radiusY);
+            const double inside = std::hypot(awayX / (radiusX - thickness), awayY / (radiusY - thickness));
+            if (outside <= 1 && inside > 1)
+                page.Set(left + x, top + y, kBlack);
+        }
+    }
+}
+
+void PaintOvals(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    for (int y = sheet.Mm(15); y < sheet.Page().Height() - sheet.Mm(15); y += Step(sheet, size.Height, 5)) {
+        for (int x = sheet.Mm(12); x < sheet.Page().Width() - sheet.Mm(30);
+             x += Step(sheet, size.Width, 18)) {
+            PaintOval(sheet.Page(), x, y, size, sheet.Style().Thickness + 0.5);
+            sheet.AddText(x + size.Width + sheet.Mm(2), y + size.Height, 9, Words(sheet.Dice(), 1));
+        }
+    }
+}
+
+void PaintTableAlone(BoxSheet& sheet, const OuterSize& size, const OuterSize&) {
+    PaintCells(sheet, size, CellBoxes::None);
+}
+
 constexpr std::array kUsual = {BoxLayout{"rows", false, PaintRows},
                                BoxLayout{"grid", false, PaintGrid},
                                BoxLayout{"column", false, PaintColumn},
@@ -210,6 +289,23 @@ const BoxLayout& SidesOnRulings() {
 const BoxLayout& OnTheDiagonal() {
     static constexpr BoxLayout layout{"diagonal", false, PaintDiagonal};
     return layout;
+}
+
+const BoxLayout& JoinedGrids() {
+    static constexpr BoxLayout layout{"joined", false, PaintJoined};
+    return layout;
+}
+
+const BoxLayout& SmallSecondSize() {
+    static constexpr BoxLayout layout{"few of a second size", true, PaintSmallSecond};
+    return layout;
+}
+
+std::span<const BoxLayout> BoxlessLayouts() {
+    static constexpr std::array layouts = {BoxLayout{"text alone", false, PaintTextAlone},
+                                           BoxLayout{"ovals alone", false, PaintOvals},
+                                           BoxLayout{"tables alone", false, PaintTableAlone}};
+    return layouts;
 }
 
 void PaintDensePage(BoxSheet& sheet, const OuterSize& size, int lines) {

@@ -28,6 +28,15 @@ const BoxLayout& SidesOnRulings();
 /// Boxes whose lower left or lower right corner is near the page's diagonal, where column and row agree.
 const BoxLayout& OnTheDiagonal();
 
+/// Blocks of boxes that share their sides with all neighbours.
+const BoxLayout& JoinedGrids();
+
+/// Many boxes of one size and a few, three to eight in a hundred, of a second one.
+const BoxLayout& SmallSecondSize();
+
+/// Pages without any box: text of every size, ovals to be filled in, tables with text in their cells.
+std::span<const BoxLayout> BoxlessLayouts();
+
 /// A page full of small text with columns of boxes; `lines` of text are spread over the page.
 void PaintDensePage(BoxSheet& sheet, const OuterSize& size, int lines);
 

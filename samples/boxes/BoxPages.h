@@ -10,6 +10,12 @@ namespace tavrene::samples {
 /// What happened to a page between the press and the file.
 enum class Wear { None, Specks, Eroded, Dilated, Broken, Tilted };
 
+/// Pixels, both inclusive.
+struct SizeRange {
+    int Smallest = 0;
+    int Largest = 0;
+};
+
 /// A page of the ground-truth set, before it is painted.
 struct BoxPagePlan {
     std::string Class;  ///< The row of the score table that the page counts in.
@@ -19,6 +25,8 @@ struct BoxPagePlan {
     Wear Kind = Wear::None;
     double Amount = 0;  ///< Share of pixels, or degrees; its meaning goes with `Kind`.
     std::uint64_t Seed = 0;
+    SizeRange Outer;               ///< Of the boxes' height.
+    bool LargestSettings = false;  ///< The operator has set the largest sizes that can be set.
 
     std::string Name() const;
 };

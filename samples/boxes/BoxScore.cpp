@@ -5,6 +5,7 @@
 
 #include "boxes/BoxAssembly.h"
 #include "boxes/ProfileImagePipeline.h"
+#include "boxes/second/SecondLook.h"
 
 namespace tavrene::samples {
 namespace {
@@ -48,6 +49,18 @@ boxes::BoxAnalysis AnalysePage(const BoxPage& page) {
     return analysis;
 }
 
+PageFinds FindOnPage(const BoxPage& page) {
+    const boxes::BoxAnalysis analysis = AnalysePage(page);
+    PageFinds finds{analysis.Boxes, analysis.Boxes, analysis.Boxes};
+    for (const boxes::LeftOutBox& leftOut : analysis.LeftOut)
+        finds.Rules.push_back(leftOut.Box);
+    const boxes::SecondLook look =
+        boxes::LookAgain(page.Grid, analysis.Boxes, page.Sizes, [](double) { return true; });
+    for (const boxes::Candidate& candidate : look.Candidates)
+        finds.Second.push_back(candidate.Box);
+    return finds;
+}
+
 std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const std::string& part) {
     std::vector<ScoreRow> rows;
     for (const BoxPagePlan& plan : plans) {
@@ -55,9 +68,12 @@ std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const st
             continue;
         const std::string name = plan.Class + ", " + std::to_string(plan.Style.Thickness) + " px";
         if (rows.empty() || rows.back().Name != name)
-            rows.push_back({name, {}});
+            rows.push_back({name, {}, {}, {}});
         const BoxPage page = PaintPage(plan);
-        rows.back().Sum.Add(ScorePage(page.GroundTruth, AnalysePage(page).Boxes));
+        const PageFinds finds = FindOnPage(page);
+        rows.back().Rules.Add(ScorePage(page.GroundTruth, finds.Rules));
+        rows.back().First.Add(ScorePage(page.GroundTruth, finds.First));
+        rows.back().Second.Add(ScorePage(page.GroundTruth, finds.Second));
     }
     return rows;
 }

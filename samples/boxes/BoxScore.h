@@ -40,8 +40,19 @@ boxes::BoxAnalysis AnalyseSteps(const BoxPage& page, int steps);
 /// One row of the score table: the pages of one class and outline thickness.
 struct ScoreRow {
     std::string Name;  ///< "clean, 2 px".
-    Tally Sum;
+    Tally Rules;       ///< What the rules keep, before any filter.
+    Tally First;       ///< What a new profile gets.
+    Tally Second;      ///< With everything taken that the second look offers.
 };
+
+/// What the looks find on a page.
+struct PageFinds {
+    std::vector<boxes::BoxRect> Rules;
+    std::vector<boxes::BoxRect> First;
+    std::vector<boxes::BoxRect> Second;
+};
+
+PageFinds FindOnPage(const BoxPage& page);
 
 /// Paints and scores pages; the rows come in the order of the plans. `part` keeps those whose name holds it.
 std::vector<ScoreRow> ScoreTable(const std::vector<BoxPagePlan>& plans, const std::string& part = {});

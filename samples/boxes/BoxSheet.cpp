@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <string>
+
+#include "boxes/OutlinePainter.h"
 
 namespace tavrene::samples {
 namespace {
@@ -38,11 +41,11 @@ bool BoxSheet::IsOnDiagonal(int x, int y, const OuterSize& size) const {
 void BoxSheet::AddBox(int x, int y, const OuterSize& size) {
     if (!diagonalAllowed_ && IsOnDiagonal(x, y, size))
         return;
-    page_.DrawRect(x, y, size.Width, size.Height, style_.Thickness);
-    const double inset = (style_.Thickness - 1) / 2.0;
-    const double topRow = page_.Height() - 1 - y;
-    truth_.push_back(
-        {x + inset, topRow - size.Height + 1 + inset, x + size.Width - 1 - inset, topRow - inset});
+    const CentreLines lines = PaintOutline(page_, {x, y}, size, style_, dice_);
+    const double topRow = page_.Height() - 1;
+    truth_.push_back({lines.Left, topRow - lines.Bottom, lines.Right, topRow - lines.Top});
+    if (style_.Print != BoxPrint::None)
+        PrintInside(x, y, size);
     const auto firstSide = static_cast<int>(dice_.Between(0, 4));
     for (int count = 0; count < style_.Breaks; ++count)
         Interrupt((firstSide + count) % 4, x, y, size);
@@ -61,6 +64,16 @@ void BoxSheet::Interrupt(int side, int x, int y, const OuterSize& size) {
         Whiten(page_, x + start, side == 0 ? y : y + across, style_.BreakLength, thickness);
     else
         Whiten(page_, side == 3 ? x : x + across, y + start, thickness, style_.BreakLength);
+}
+
+// As large as exams have it: half of the box's height.
+void BoxSheet::PrintInside(int x, int y, const OuterSize& size) {
+    const std::string_view signs = style_.Print == BoxPrint::Letters ? "ABCDE" : "0123456789";
+    const std::string_view sign = signs.substr((truth_.size() - 1) % signs.size(), 1);
+    constexpr double capHeight = 0.73;  // of the type size, in this typeface
+    const double points = size.Height * 0.5 / capHeight * 72 / page_.Dpi();
+    const double width = SansFace().TextWidth(points, page_.Dpi(), sign);
+    SansFace().DrawText(page_, {x + (size.Width - width) / 2, y + size.Height * 0.75}, points, sign);
 }
 
 void BoxSheet::AddText(int x, int y, double points, std::string_view text) {

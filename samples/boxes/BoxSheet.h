@@ -25,11 +25,20 @@ struct OuterSize {
     int Height = 0;
 };
 
-/// How the outlines of a sheet are printed.
+/// What stands inside the boxes of a sheet, one sign in each.
+enum class BoxPrint { None, Letters, Digits };
+
+/// How the outlines of a sheet are printed. All lengths are pixels.
 struct OutlineStyle {
     int Thickness = 1;
     int Breaks = 0;       ///< Interruptions of every outline, each on a side of its own.
-    int BreakLength = 0;  ///< Pixels of an interruption along its side.
+    int BreakLength = 0;  ///< Length of an interruption along its side.
+    int Radius = 0;       ///< Of the outer edge at the corners.
+    int CornerGap = 0;    ///< Side of the square that is missing at every corner.
+    int Shadow = 0;       ///< Width and offset of a shadow to the right and below.
+    int ThickEdge = 0;    ///< One side, by chance, reaches so much farther inwards.
+    int Taper = 0;        ///< One side, by chance, does so at one of its ends.
+    BoxPrint Print = BoxPrint::None;
 };
 
 /// A blank form while it is painted. Places are pixels in the page frame.
@@ -64,6 +73,7 @@ class BoxSheet {
   private:
     bool IsOnDiagonal(int x, int y, const OuterSize& size) const;
     void Interrupt(int side, int x, int y, const OuterSize& size);
+    void PrintInside(int x, int y, const OuterSize& size);
 
     Canvas page_;
     OutlineStyle style_;

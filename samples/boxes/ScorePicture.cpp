@@ -70,7 +70,7 @@ TrueBox EdgesOf(const Rectangle& found) {
 
 ColourPicture PictureOfScore(const BoxPage& page) {
     ColourPicture picture = GreyPicture(page.Grid);
-    const PageScore score = ScorePage(page.GroundTruth, AnalysePage(page).Boxes);
+    const PageScore score = ScorePage(page.GroundTruth, FindOnPage(page).Second);
     for (const boxes::BoxRect& box : score.Right)
         DrawOutline(picture, EdgesOf(box), kRightColour);
     for (const TrueBox& box : score.Missed)

@@ -10,6 +10,8 @@ imaging::Bitmap PaintSample(const Sample& sample, const PrintedForm& form, const
         Random random(sample.Who.Seed);
         AddNoise(scan, random, sample.Scan.Noise);
         DrawSpecks(scan, random, sample.Scan.Specks, 1.6);
+        if (sample.Scan.Thin > 0)
+            ThinOut(scan, random, sample.Scan.Thin);
         return scan;
     };
     const Look& look = sample.Picture;

@@ -79,6 +79,21 @@ Sample Stretched(double byX, double byY, double skewDegrees, Sample sample) {
     return sample;
 }
 
+Sample Tilted(double degrees, Sample sample) {
+    sample.Scan.SkewDegrees = degrees;
+    return sample;
+}
+
+Sample Bent(double pixels, Sample sample) {
+    sample.Scan.Bend = pixels;
+    return sample;
+}
+
+Sample ThinnedOut(double share, Sample sample) {
+    sample.Scan.Thin = share;
+    return sample;
+}
+
 Sample As(Look look, Sample sample) {
     sample.Picture = look;
     return sample;
@@ -113,6 +128,11 @@ std::vector<Sample> PatientSamples() {
         OneBit("patient-11-sloppy.tif", kPatient, WhoIsSloppy(), At(8, -9)),
         Beyond("an answer scribbled out, marks outside their boxes",
                OneBit("patient-12-corrected.tif", kPatient, WhoCorrects(), At(1, 4))),
+        Beyond("turned by 1.4 degrees: Precise Alignment reads it",
+               Tilted(1.4, OneBit("patient-14-tilted.tif", kPatient, By(Habit::Crosses, 114), At(9, -6)))),
+        Beyond("upside down: Precise Alignment reads it",
+               Tilted(180.5, OneBit("patient-15-upside-down.tif", kPatient, By(Habit::Ticks, 115, kFeltPen),
+                                    At(4, 7)))),
         With("unreadable", As({.KeptShare = 0.6},
                               OneBit("patient-13-cut-off.tif", kPatient, By(Habit::Ticks, 113), At(0, 0)))),
     };
@@ -141,6 +161,10 @@ std::vector<Sample> StaffSamples() {
         With("unreadable",
              As(Grey(ImageFormat::Tiff, kRecycled),
                 OneBit("new-scanner-3-grey.tif", kStaff, By(Habit::Crosses, 211), At(2, -3, 0)))),
+        Beyond("bent by 1.2 mm: Precise Alignment reads it",
+               Bent(9.5, OneBit("staff-13-bent.tif", kStaff, By(Habit::Crosses, 213, kFeltPen), At(3, 2)))),
+        ThinnedOut(0.45, Tilted(-0.5, OneBit("staff-14-thin.tif", kStaff, By(Habit::Fillings, 214, kFeltPen),
+                                             At(-5, 3)))),
         As({.Format = ImageFormat::Bmp, .Order = Photometric::MinIsBlack},
            OneBit("staff-12 second copy.bmp", kStaff, By(Habit::Crosses, 212, kFeltPen), At(-4, 2))),
     };

@@ -19,8 +19,8 @@ class Placement {
           cosine_(std::cos(settings.SkewDegrees * std::numbers::pi / 180)) {}
 
     Point OnPage(double x, double y) const {
-        const double offX = x - settings_.ShiftX - middle_.x;
-        const double offY = y - settings_.ShiftY - middle_.y;
+        const double offX = x - settings_.ShiftX - middle_.x + settings_.Bend * std::sin(y / middle_.y * 2.2);
+        const double offY = y - settings_.ShiftY - middle_.y + settings_.Bend * std::sin(x / middle_.x * 2.2);
         return {finer_ * (middle_.x + (offX * cosine_ + offY * sine_) / settings_.StretchX),
                 finer_ * (middle_.y + (offY * cosine_ - offX * sine_) / settings_.StretchY)};
     }
@@ -71,6 +71,17 @@ void AddNoise(Canvas& scan, Random& random, double noise) {
     for (int y = 0; y < scan.Height(); ++y)
         for (int x = 0; x < scan.Width(); ++x)
             scan.Set(x, y, static_cast<Shade>(std::clamp(scan.At(x, y) + random.Wobble(noise), 0.0, 255.0)));
+}
+
+void ThinOut(Canvas& scan, Random& random, double share) {
+    const Canvas whole = scan;
+    const auto isDark = [&whole](int x, int y) { return whole.At(x, y) < 128; };
+    for (int y = 0; y < scan.Height(); ++y)
+        for (int x = 0; x < scan.Width(); ++x) {
+            const bool inside = isDark(x - 1, y) && isDark(x + 1, y) && isDark(x, y - 1) && isDark(x, y + 1);
+            if (isDark(x, y) && !inside && random.Chance(share))
+                scan.Set(x, y, kWhite);
+        }
 }
 
 }  // namespace tavrene::samples

@@ -12,9 +12,11 @@ struct ScanSettings {
     double ShiftY = 0;  ///< Pixels of the scan, downwards.
     double StretchX = 1;
     double StretchY = 1;
-    double SkewDegrees = 0;  ///< Clockwise, about the middle of the page.
+    double SkewDegrees = 0;  ///< Clockwise, about the middle of the page; 180 is upside down.
+    double Bend = 0;         ///< How many pixels of the scan a slow bend of the paper moves a place at most.
     double Noise = 0;        ///< Largest error of a grey value.
     int Specks = 0;
+    double Thin = 0;  ///< Share of the outermost dark pixels that are lost.
 };
 
 /// A colour by its three grey values.
@@ -34,5 +36,8 @@ Canvas Develop(const Canvas& print, const Canvas& pen, Shade paper, Shade ink);
 
 /// Shakes every grey value by up to `noise`.
 void AddNoise(Canvas& scan, Random& random, double noise);
+
+/// Takes away a share of the dark pixels that have a light one beside them.
+void ThinOut(Canvas& scan, Random& random, double share);
 
 }  // namespace tavrene::samples

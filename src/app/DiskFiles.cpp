@@ -4,11 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <system_error>
 #include <utility>
 
+#include "app/DiskFile.h"
 #include "app/Files.h"
 
 namespace tavrene::app {
@@ -16,56 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void Refuse(std::string_view action, std::string_view path, int error) {
-    std::string text = "Cannot ";
-    text.append(action).append(" ").append(path).append(": ").append(std::generic_category().message(error));
-    throw FileError(text);
-}
+using disk::Descriptor;
+using disk::Refuse;
 
-// An open file descriptor that is closed on every way out.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ >= 0)
-            ::close(number_);
-    }
-    int Number() const { return number_; }
-
-    // Closing can be the moment at which a full disk shows.
-    bool Close() { return ::close(std::exchange(number_, -1)) == 0; }
-
-  private:
-    int number_;
-};
-
-bool WriteAll(int descriptor, std::span<const std::byte> content) {
-    while (!content.empty()) {
-        const ::ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        content = content.subspan(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
-// A hidden, short name beside `path`: no pattern lists it, and a long file name leaves room for it.
-std::string TemporaryNeighbour(const std::string& path) {
-    static std::atomic<unsigned> counter{0};
-    const std::string name =
-        ".tavrene-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + ".tmp";
-    return FromPath(ToPath(path).parent_path() / name);
-}
+// Nothing that the program works with is larger: a page of one gigabyte is refused, too.
+constexpr ::off_t kLargestFile = ::off_t{1} << 30U;
 
 void WriteWhole(const std::string& path, std::span<const std::byte> content, Keep keep) {
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (file.Number() < 0)
         Refuse("write", path, errno);
-    const bool done = WriteAll(file.Number(), content) &&
+    const bool done = disk::WriteAll(file.Number(), content) &&
                       (keep == Keep::AsScratch || ::fsync(file.Number()) == 0) && file.Close();
     if (!done) {
         const int error = errno;
@@ -74,25 +35,7 @@ void WriteWhole(const std::string& path, std::span<const std::byte> content, Kee
     }
 }
 
-void RenameOver(const std::string& from, const std::string& to, std::string_view action) {
-    if (::rename(from.c_str(), to.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(from.c_str());
-        Refuse(action, to, error);
-    }
-}
-
-// A rename is on the disk when its folder is. Some file systems refuse to flush a folder; the file is in its
-// place all the same, so that is no failure.
-void FlushFolderOf(const std::string& path) {
-    const std::string folder = FromPath(ToPath(path).parent_path() / ".");
-    const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (open.Number() >= 0)
-        ::fsync(open.Number());
-}
-
-// The names of a folder's entries that are not hidden and that `wanted(entry, name)` takes, ordered by their
-// lower-cased form.
+// The names of a folder's entries that `wanted(entry, name)` takes, ordered by their lower-cased form.
 template <typename Wanted>
 std::vector<std::string> NamesIn(const std::string& folder, const Wanted& wanted) {
     std::error_code error;
@@ -100,7 +43,7 @@ std::vector<std::string> NamesIn(const std::string& folder, const Wanted& wanted
     for (fs::directory_iterator entry(ToPath(folder), error), end; !error && entry != end;
          entry.increment(error)) {
         std::string name = FromPath(entry->path().filename());
-        if (!name.starts_with('.') && wanted(*entry, name))
+        if (wanted(*entry, name))
             names.push_back(std::move(name));
     }
     if (error)
@@ -125,7 +68,7 @@ bool DiskFiles::FolderExists(const std::string& path) const {
 
 std::string DiskFiles::Fingerprint(const std::string& path) const {
     struct ::stat status {};
-    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (::stat(path.c_str(), &status) != 0 || (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode)))
         return {};
     return std::to_string(status.st_size) + "-" + std::to_string(status.st_mtim.tv_sec) + "." +
            std::to_string(status.st_mtim.tv_nsec) + "-" + std::to_string(status.st_ino);
@@ -144,17 +87,18 @@ void DiskFiles::CreateFolder(const std::string& path) {
 }
 
 std::vector<std::string> DiskFiles::List(const std::string& folder, std::string_view pattern) const {
-    return NamesIn(folder, [wanted = std::string(pattern)](const fs::directory_entry& entry,
-                                                           const std::string& name) {
-        std::error_code ignored;
-        return entry.is_regular_file(ignored) && ::fnmatch(wanted.c_str(), name.c_str(), FNM_CASEFOLD) == 0;
-    });
+    return NamesIn(
+        folder, [wanted = std::string(pattern)](const fs::directory_entry& entry, const std::string& name) {
+            std::error_code ignored;
+            return (!name.starts_with('.') || wanted.starts_with('.')) && entry.is_regular_file(ignored) &&
+                   ::fnmatch(wanted.c_str(), name.c_str(), FNM_CASEFOLD) == 0;
+        });
 }
 
 std::vector<std::string> DiskFiles::ListFolders(const std::string& folder) const {
-    return NamesIn(folder, [](const fs::directory_entry& entry, const std::string&) {
+    return NamesIn(folder, [](const fs::directory_entry& entry, const std::string& name) {
         std::error_code ignored;
-        return entry.is_directory(ignored) && !entry.is_symlink(ignored);
+        return !name.starts_with('.') && entry.is_directory(ignored) && !entry.is_symlink(ignored);
     });
 }
 
@@ -165,6 +109,8 @@ Bytes DiskFiles::Read(const std::string& path) const {
         Refuse("read", path, errno);
     if (!S_ISREG(status.st_mode))
         Refuse("read", path, EISDIR);
+    if (status.st_size > kLargestFile)
+        throw FileError("Cannot read " + path + ": it is larger than one gigabyte");
     Bytes content(static_cast<std::size_t>(status.st_size));
     std::size_t done = 0;
     while (done < content.size()) {
@@ -182,35 +128,22 @@ Bytes DiskFiles::Read(const std::string& path) const {
 }
 
 void DiskFiles::Write(const std::string& path, std::span<const std::byte> content, Keep keep) {
-    const std::string temporary = TemporaryNeighbour(path);
+    const std::string temporary = disk::TemporaryNeighbour(path);
     try {
         WriteWhole(temporary, content, keep);
     } catch (const FileError& error) {
         // The operator knows the file by its own name, not by that of the neighbour.
-        std::string text = error.what();
-        text.replace(text.find(temporary), temporary.size(), path);
-        throw FileError(text);
+        throw FileError(ReplaceFirst(error.what(), temporary, path));
     }
-    RenameOver(temporary, path, "write");
+    disk::RenameOver(temporary, path, "write");
     if (keep == Keep::Durably)
-        FlushFolderOf(path);
+        disk::FlushFolderOf(path);
 }
 
 void DiskFiles::Append(const std::string& path, std::string_view text) {
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
-    if (file.Number() < 0 || !WriteAll(file.Number(), AsBytes(text)) || !file.Close())
+    if (file.Number() < 0 || !disk::WriteAll(file.Number(), AsBytes(text)) || !file.Close())
         Refuse("write", path, errno);
-}
-
-void DiskFiles::Move(const std::string& from, const std::string& to) {
-    if (::rename(from.c_str(), to.c_str()) == 0) {
-        FlushFolderOf(to);
-        return;
-    }
-    if (errno != EXDEV)
-        Refuse("move", from, errno);
-    Write(to, Read(from), Keep::Durably);
-    Delete(from);
 }
 
 void DiskFiles::Delete(const std::string& path) {

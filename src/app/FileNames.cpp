@@ -1,19 +1,10 @@
-#include <algorithm>
+#include <clocale>
+#include <cwctype>
 
 #include "app/Files.h"
+#include "app/Utf8.h"
 
 namespace tavrene::app {
-namespace {
-
-template <typename Change>
-std::string Changed(std::string_view text, Change change) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), change);
-    return result;
-}
-
-}  // namespace
-
 std::span<const std::byte> AsBytes(std::string_view text) {
     return std::as_bytes(std::span(text));
 }
@@ -43,11 +34,31 @@ std::string Extension(std::string_view path) {
 }
 
 std::string UpperCase(std::string_view text) {
-    return Changed(text, [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    std::string upper(text);
+    for (char& c : upper)
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    return upper;
 }
 
 std::string LowerCase(std::string_view text) {
-    return Changed(text, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    // The same for every person, wherever the folder is listed.
+    static const ::locale_t letters = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    std::string lower;
+    while (!text.empty()) {
+        const std::string_view rest = text;
+        const char32_t character = TakeCharacter(text);
+        if (character == kBrokenCharacter || letters == nullptr)
+            lower.append(rest, 0, rest.size() - text.size());
+        else
+            AppendCharacter(lower,
+                            static_cast<char32_t>(::towlower_l(static_cast<::wint_t>(character), letters)));
+    }
+    return lower;
+}
+
+std::string ReplaceFirst(std::string text, std::string_view from, std::string_view to) {
+    const std::size_t found = text.find(from);
+    return found == std::string::npos ? text : text.replace(found, from.size(), to);
 }
 
 }  // namespace tavrene::app

@@ -11,14 +11,16 @@ void ReadSettings(Settings& settings, SettingsStore& store) {
     settings.BoxMinHeight = ReadOrDefault(store, "BoxMinHeight", kDefaultBoxMinHeight);
     settings.BoxMaxHeight = ReadOrDefault(store, "BoxMaxHeight", kDefaultBoxMaxHeight);
     settings.FillThreshold = ReadCommonNumber(store, "FillThreshold");
-    if (settings.FillThreshold == 0) {
+    const bool isFirstRun = settings.FillThreshold == 0;
+    if (isFirstRun) {
         // No threshold is the mark of a first run, and a first run shows what it does.
         settings.FillThreshold = kDefaultFillThreshold;
         WriteCommonNumber(store, "FillThreshold", kDefaultFillThreshold);
         WriteCommonFlag(store, "DisplayDuringProcess", true);
     }
     settings.ProcessSingle = ReadCommonFlag(store, "ProcessSingle");
-    settings.DisplayDuringProcess = ReadCommonFlag(store, "DisplayDuringProcess");
+    // A store that cannot be written would not tell of it.
+    settings.DisplayDuringProcess = isFirstRun || ReadCommonFlag(store, "DisplayDuringProcess");
     settings.WorkDir = ReadCommonText(store, "WorkDir");
 }
 
@@ -33,6 +35,7 @@ bool RunStartup(Settings& settings, const StartupContext& context) {
     // One more chance only: an operator without a usable folder still gets the window.
     if (!CreateWorkingFolders(context.files, settings.WorkDir))
         context.showSettingsDialog(settings);
+    RemoveLeftovers(context.files, settings.WorkDir);
     context.showMainWindow();
     return true;
 }

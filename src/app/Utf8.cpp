@@ -1,8 +1,5 @@
 #include "app/Utf8.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tavrene::app {
 namespace {
 
@@ -16,51 +13,66 @@ std::size_t SequenceLength(unsigned char lead) {
     return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
 }
 
-// False for a character written longer than it need be, for halves of surrogate pairs, which are no
-// characters by themselves, and for the two numbers that XML knows no character of.
-bool IsCharacter(char32_t character, std::size_t length) {
-    constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
-    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-    return character >= kLeast[length] && character <= 0x10FFFF && !surrogate && character != 0xFFFE &&
-           character != 0xFFFF;
+// Not one that a shorter sequence holds, half of a pair, one of the two numbers that XML knows no character
+// of, or beyond the last one.
+bool BelongsTo(std::size_t length, char32_t character) {
+    if (length == 3)
+        return character >= 0x800 && (character < 0xD800 || character > 0xDFFF) && character < 0xFFFE;
+    return length != 4 || (character >= 0x10000 && character <= 0x10FFFF);
 }
 
-char32_t Decoded(std::string_view sequence) {
-    const auto lead = static_cast<unsigned char>(sequence.front());
-    char32_t character = sequence.size() == 1 ? lead : lead & (0xFFU >> (sequence.size() + 1));
-    for (const char byte : sequence.substr(1)) {
-        const auto next = static_cast<unsigned char>(byte);
+// 0xFFFD for a sequence that is cut or no character.
+char32_t Decoded(std::string_view utf8, std::size_t length) {
+    if (length == 0 || length > utf8.size())
+        return kBrokenCharacter;
+    const auto lead = static_cast<unsigned char>(utf8.front());
+    char32_t character = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+    for (std::size_t k = 1; k < length; ++k) {
+        const auto next = static_cast<unsigned char>(utf8[k]);
         if ((next & 0xC0U) != 0x80U)
             return kBrokenCharacter;
         character = (character << 6U) | (next & 0x3FU);
     }
-    return IsCharacter(character, sequence.size()) ? character : kBrokenCharacter;
+    return BelongsTo(length, character) ? character : kBrokenCharacter;
 }
 
 }  // namespace
 
-char32_t TakeCharacter(std::string_view& rest) {
-    const std::size_t length = SequenceLength(static_cast<unsigned char>(rest.front()));
-    const bool complete = length > 0 && length <= rest.size();
-    const char32_t character = complete ? Decoded(rest.substr(0, length)) : kBrokenCharacter;
-    // The character U+FFFD itself may stand in a text: its second byte follows its first.
-    const bool written = complete && rest.substr(0, length) == "\xEF\xBF\xBD";
-    rest.remove_prefix(character != kBrokenCharacter || written ? length : 1);
+char32_t TakeCharacter(std::string_view& utf8) {
+    const std::size_t length = SequenceLength(static_cast<unsigned char>(utf8.front()));
+    const char32_t character = Decoded(utf8, length);
+    const bool isSpelled = length == 3 && utf8.starts_with("\xEF\xBF\xBD");
+    utf8.remove_prefix(character == kBrokenCharacter && !isSpelled ? 1 : length);
     return character;
 }
 
-std::string ValidUtf8(std::string_view text) {
-    if (std::all_of(text.begin(), text.end(),
-                    [](char byte) { return static_cast<unsigned char>(byte) < 0x80; }))
-        return std::string(text);
-    std::string valid;
-    while (!text.empty()) {
-        const std::string_view before = text;
-        if (TakeCharacter(text) == kBrokenCharacter)
-            valid += "\xEF\xBF\xBD";
-        else
-            valid += before.substr(0, before.size() - text.size());
+void AppendCharacter(std::string& utf8, char32_t character) {
+    const auto append = [&utf8](char32_t byte) {
+        utf8 += static_cast<char>(static_cast<unsigned char>(byte));
+    };
+    const auto follow = [&](unsigned shift) { append(0x80U | ((character >> shift) & 0x3FU)); };
+    if (character < 0x80) {
+        append(character);
+    } else if (character < 0x800) {
+        append(0xC0U | (character >> 6U));
+        follow(0);
+    } else if (character < 0x10000) {
+        append(0xE0U | (character >> 12U));
+        follow(6);
+        follow(0);
+    } else {
+        append(0xF0U | (character >> 18U));
+        follow(12);
+        follow(6);
+        follow(0);
     }
+}
+
+std::string ValidUtf8(std::string_view text) {
+    std::string valid;
+    valid.reserve(text.size());
+    while (!text.empty())
+        AppendCharacter(valid, TakeCharacter(text));
     return valid;
 }
 

@@ -5,12 +5,14 @@
 
 namespace tavrene::app {
 
-/// Stands for what is no character: U+FFFD.
-constexpr char32_t kBrokenCharacter = 0xFFFD;
+/// What a broken sequence is read as (U+FFFD).
+inline constexpr char32_t kBrokenCharacter = 0xFFFD;
 
-/// Takes one character off the front of `rest`, which must not be empty; a broken sequence gives up one byte
-/// and is `kBrokenCharacter`.
-char32_t TakeCharacter(std::string_view& rest);
+/// Takes one character off the front of `utf8`, which must not be empty; a broken sequence gives up one byte.
+char32_t TakeCharacter(std::string_view& utf8);
+
+/// Appends a character, which must be one of Unicode.
+void AppendCharacter(std::string& utf8, char32_t character);
 
 /// The text with every byte that belongs to no character replaced by U+FFFD. Documents written by other
 /// programs can hold any bytes, and a spreadsheet refuses a whole file for one of them.

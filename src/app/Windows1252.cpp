@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <iterator>
 
 #include "app/ActivityLog.h"

@@ -34,4 +34,9 @@ bool CreateWorkingFolders(Files& files, const std::string& workDir) {
     return true;
 }
 
+void RemoveLeftovers(Files& files, const std::string& workDir) {
+    for (std::size_t index = 0; index < kSubFolders.size(); ++index)
+        RemoveDeadTemporaries(files, SubFolder(workDir, index) + kSeparator);
+}
+
 }  // namespace tavrene::app

@@ -26,4 +26,7 @@ WorkingFolders PathsUnder(const std::string& workDir);
 /// those made before it stay. The working folder itself is never created.
 bool CreateWorkingFolders(Files& files, const std::string& workDir);
 
+/// Removes from the sub-folders what earlier instances of the program left behind when they were killed.
+void RemoveLeftovers(Files& files, const std::string& workDir);
+
 }  // namespace tavrene::app

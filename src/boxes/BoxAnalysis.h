@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -17,8 +18,17 @@ struct BoxRect {
     std::int16_t B = 0;
     std::int16_t Kind = 0;   ///< Corners where the page shows no closed outline, 0 to 4.
     std::int16_t Valid = 0;  ///< -1 kept, 0 dropped.
-    std::int16_t Mark = 0;   ///< -1 for an open corner: it then has to have one of the form's sizes exactly.
+    std::int16_t Mark = 0;   ///< -1 for open corners: it then has to have one of the form's sizes exactly.
     bool operator==(const BoxRect&) const = default;
+};
+
+/// What spoke against a rectangle that the rules had kept.
+enum class LeftOutFor { OpenCorners, BesidePrint, PrintInside, OddSize };
+
+struct LeftOutBox {
+    BoxRect Box;
+    LeftOutFor Reason = LeftOutFor::OpenCorners;
+    bool operator==(const LeftOutBox&) const = default;
 };
 
 /// The limits on a box's sides, in pixels of the image.
@@ -41,6 +51,28 @@ struct PairReach {
 
 PairReach ReachFor(const BoxSizes& sizes);
 
+/// Counts what is compared with what. Sizes far from those of the boxes make nearly every stroke of a page a
+/// line piece and every pair of them a neighbour; the steps then give up, on any machine at the same point.
+class WorkMeter {
+  public:
+    /// Counts on.
+    void Spend(std::size_t comparisons) { spent_ += comparisons; }
+
+    /// Whether to give up. What was found until then means nothing.
+    bool IsSpent() const { return spent_ > kMost; }
+
+    /// Uses up all that is left.
+    void Exhaust() { spent_ = kMost + 1; }
+
+    std::size_t Spent() const { return spent_; }
+
+  private:
+    // An A4 page full of small print at 300 dots an inch takes a hundredth of it with fitting sizes.
+    static constexpr std::size_t kMost = 150'000'000;
+
+    std::size_t spent_ = 0;
+};
+
 /// All that the steps of box finding share. Each step works in place.
 struct BoxAnalysis {
     BoxAnalysis(imaging::WorkGrid page, const BoxSizes& boxSizes, const PairReach& pairReach);
@@ -55,6 +87,8 @@ struct BoxAnalysis {
     std::vector<LineSeg> LongLines;
     std::vector<LineGroup> Groups;
     std::vector<BoxRect> Boxes;
+    WorkMeter Work;
+    std::vector<LeftOutBox> LeftOut;  ///< What the rules kept and the filter did not.
 };
 
 }  // namespace tavrene::boxes

@@ -13,6 +13,8 @@
 namespace tavrene::boxes {
 namespace {
 
+constexpr std::int16_t kLastNumber = std::numeric_limits<std::int16_t>::max();
+
 enum class CornerHits : bool { Required, Ignored };
 
 // Numbers the segments by box. Created sides wait outside the list until every segment has had its turn.
@@ -21,10 +23,10 @@ class Assembler {
     explicit Assembler(BoxAnalysis& analysis)
         : analysis_(analysis),
           segments_(analysis.Segments),
-          index_(segments_, analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows()) {}
+          index_(segments_, analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows(), analysis.Work) {}
 
-    // Returns how many box numbers were given out.
-    int Run();
+    // The rectangles of all boxes, in the order in which they were found.
+    std::vector<RuledBox> Run();
 
   private:
     using Sides = std::array<int, 2>;
@@ -34,6 +36,7 @@ class Assembler {
     int ClosingSide(int from, const LineSeg& a, const LineSeg& b);
     int FourthSide(int from, const ExpectedSide& expected);
     void CloseBox(int from, const Sides& sides);
+    void SettleNumbers();
     void Take(int number);
 
     bool IsFree(int number) const { return At(number).BoxId == -1; }
@@ -43,6 +46,7 @@ class Assembler {
     std::vector<LineSeg>& segments_;
     SegmentIndex index_;
     std::vector<LineSeg> created_;
+    std::vector<RuledBox> settled_;
     std::vector<int> taken_;  // By the box that is being built.
     std::int16_t boxNumber_ = 0;
 };
@@ -61,11 +65,9 @@ bool Closes(const LineSeg& side, const LineSeg& a, const LineSeg& b) {
     return touches(a) || touches(b);
 }
 
-int Assembler::Run() {
+std::vector<RuledBox> Assembler::Run() {
     const auto count = static_cast<int>(segments_.size());
-    // A page that dense is no form; box numbers have 16 bits.
-    constexpr int lastNumber = std::numeric_limits<std::int16_t>::max();
-    for (int from = 0; from < count && boxNumber_ < lastNumber; ++from) {
+    for (int from = 0; from < count && !analysis_.Work.IsSpent(); ++from) {
         if (!IsFree(from))
             continue;
         taken_.clear();
@@ -77,8 +79,27 @@ int Assembler::Run() {
                 segments_[static_cast<std::size_t>(number)].BoxId = -1;
         }
     }
+    SettleNumbers();
+    return std::move(settled_);
+}
+
+// Box numbers have 16 bits, and a dense hatching takes more of them. When they are used up, the boxes so far
+// become rectangles and the numbers are given out anew; their sides stay taken.
+void Assembler::SettleNumbers() {
+    constexpr std::int16_t settledNumber = -2;
+    const std::size_t found = segments_.size();
     segments_.insert(segments_.end(), created_.begin(), created_.end());
-    return boxNumber_;
+    const std::vector<RuledBox> boxes = BuildRectangles(analysis_, boxNumber_);
+    settled_.insert(settled_.end(), boxes.begin(), boxes.end());
+    if (boxNumber_ < kLastNumber)
+        return;
+    segments_.resize(found);
+    created_.clear();
+    for (LineSeg& segment : segments_) {
+        if (segment.BoxId >= 0)
+            segment.BoxId = settledNumber;
+    }
+    boxNumber_ = 0;
 }
 
 void Assembler::Take(int number) {
@@ -154,15 +175,14 @@ void Assembler::CloseBox(int from, const Sides& sides) {
         Take(fourth);
     else
         created_.push_back(CreateSide(analysis_, At(from), expected, boxNumber_));
-    ++boxNumber_;
+    if (++boxNumber_ == kLastNumber)
+        SettleNumbers();
 }
 
 }  // namespace
 
 void IdentifyBoxes(BoxAnalysis& analysis) {
-    const int numbers = Assembler(analysis).Run();
-    analysis.Boxes = BuildRectangles(analysis, numbers);
-    FilterBoxes(analysis);
+    FilterBoxes(analysis, Assembler(analysis).Run());
 }
 
 }  // namespace tavrene::boxes

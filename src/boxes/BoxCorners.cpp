@@ -2,8 +2,6 @@
 
 #include <cstdlib>
 
-#include "boxes/BoxOutline.h"
-
 namespace tavrene::boxes {
 namespace {
 
@@ -76,15 +74,6 @@ BoxRect RectangleOf(const std::vector<LineSeg>& segments, const SideNumbers& sid
     return box;
 }
 
-// One open corner may be a worn print, two of them or ink inside are a letter. A box beside its print would
-// never be found again on a scan.
-bool LooksLikeBox(BoxRect& box, const imaging::WorkGrid& page) {
-    const BoxOutline outline = LookAtOutline(page, box);
-    box.Kind = static_cast<std::int16_t>(outline.OpenCorners);
-    box.Mark = outline.OpenCorners == 0 ? std::int16_t{0} : std::int16_t{-1};
-    return outline.OpenCorners < 2 && outline.IsEmpty && outline.IsOnPrint;
-}
-
 bool ReachesSmallestSize(const BoxRect& box, const BoxSizes& sizes) {
     return std::abs(box.R - box.L) >= sizes.BoxMinWidth && std::abs(box.B - box.T) >= sizes.BoxMinHeight;
 }
@@ -109,18 +98,17 @@ bool RunsBetween(const LineSeg& side, const ExpectedSide& expected) {
            (Near(start, expected.FarB, kEndReach) && Near(end, expected.FarA, kEndReach));
 }
 
-std::vector<BoxRect> BuildRectangles(BoxAnalysis& analysis, int numbers) {
-    std::vector<BoxRect> boxes;
+std::vector<RuledBox> BuildRectangles(BoxAnalysis& analysis, int numbers) {
+    std::vector<RuledBox> boxes;
     for (const SideNumbers& sides : GatherSides(analysis.Segments, numbers)) {
         if (sides.size() < kSidesPerBox) {
             for (const std::size_t number : sides)
                 analysis.Segments[number].BoxId = -1;
             continue;
         }
-        BoxRect box = RectangleOf(analysis.Segments, sides, analysis.WorkGrid.Width());
-        const bool isKept = ReachesSmallestSize(box, analysis.Sizes) && LooksLikeBox(box, analysis.SaveGrid);
-        box.Valid = isKept ? std::int16_t{-1} : std::int16_t{0};
-        boxes.push_back(box);
+        const BoxRect box = RectangleOf(analysis.Segments, sides, analysis.WorkGrid.Width());
+        if (ReachesSmallestSize(box, analysis.Sizes))
+            boxes.push_back({box, LookAtOutline(analysis.SaveGrid, box)});
     }
     return boxes;
 }

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "boxes/BoxAnalysis.h"
+#include "boxes/BoxOutline.h"
 
 namespace tavrene::boxes {
 
@@ -31,9 +32,8 @@ ExpectedSide ExpectFourthSide(const LineSeg& segment, const LineSeg& a, const Li
 /// Whether the two ends of `side` lie at the expected ones, in either order.
 bool RunsBetween(const LineSeg& side, const ExpectedSide& expected);
 
-/// One rectangle for every box number below `numbers` that has four sides, in the order of the numbers. The
-/// segments of a number that has fewer are released. `Valid` says whether the smallest size is reached and
-/// the page shows a box there.
-std::vector<BoxRect> BuildRectangles(BoxAnalysis& analysis, int numbers);
+/// One rectangle for every box number below `numbers` that has four sides and reaches the smallest size, in
+/// the order of the numbers. The segments of a number that has fewer sides are released.
+std::vector<RuledBox> BuildRectangles(BoxAnalysis& analysis, int numbers);
 
 }  // namespace tavrene::boxes

@@ -3,15 +3,10 @@
 #include <vector>
 
 #include "boxes/BoxAnalysis.h"
+#include "boxes/BoxOutline.h"
+#include "boxes/SizeTable.h"
 
 namespace tavrene::boxes {
-
-/// Width and height of a box, in pixels.
-struct BoxSize {
-    int Width = 0;
-    int Height = 0;
-    bool operator==(const BoxSize&) const = default;
-};
 
 /// The sizes that the boxes of a form come in: the most common one, and a second one, which is the most
 /// common one again where the form has only one.
@@ -20,13 +15,12 @@ struct ReferenceSizes {
     BoxSize Second;
 };
 
-BoxSize SizeOf(const BoxRect& box);
-
 /// Chooses the reference sizes from the boxes that are valid.
 ReferenceSizes ChooseReferenceSizes(const std::vector<BoxRect>& boxes);
 
-/// Drops from `Boxes` those that were invalid, that have neither reference size, or that stand in the list
-/// again later.
-void FilterBoxes(BoxAnalysis& analysis);
+/// Sorts the rectangles that the rules have kept, in their order, into `Boxes` and `LeftOut`. Left out is
+/// what does not look like a box on the page or has neither reference size; of twins the last one stays, and
+/// the others leave no trace.
+void FilterBoxes(BoxAnalysis& analysis, const std::vector<RuledBox>& ruled);
 
 }  // namespace tavrene::boxes

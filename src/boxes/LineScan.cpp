@@ -87,6 +87,7 @@ struct LengthRange {
     int longest;
 };
 
+constexpr std::size_t kMostSegments = 2'000'000;
 constexpr int kNoLimit = std::numeric_limits<int>::max();
 
 // Appends the runs of the first `lines` lines of `grid` that are not skipped and whose length is in range.
@@ -95,6 +96,9 @@ void CollectRuns(const WorkGrid& grid, int lines, const std::vector<bool>& skip,
     for (int line = 0; line < lines; ++line) {
         if (skip[static_cast<std::size_t>(line)])
             continue;
+        // Noise of a whole page would fill the memory.
+        if (segments.size() > kMostSegments)
+            return;
         ForEachRun(grid.Row(line), grid.Width(), [&](int start, int end) {
             if (end - start >= range.shortest && end - start <= range.longest)
                 segments.push_back(MakeSegment(orientation, line, start, end));
@@ -108,6 +112,8 @@ void CollectSegments(BoxAnalysis& analysis, LengthRange horizontal, LengthRange 
     CollectRuns(grid, grid.Rows(), analysis.RowSkip, Orientation::Horizontal, horizontal, analysis.Segments);
     CollectRuns(Transposed(grid), grid.Width(), analysis.ColSkip, Orientation::Vertical, vertical,
                 analysis.Segments);
+    if (analysis.Segments.size() > kMostSegments)
+        analysis.Work.Exhaust();
 }
 
 // Writes one cell past the end of the run too, as far as the grid goes.

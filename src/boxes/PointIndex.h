@@ -26,20 +26,24 @@ class PointIndex {
     void Add(int number, int x, int y);
     void Move(int number, int fromX, int fromY, int toX, int toY);
 
-    /// Calls `visit(number)` for the points of every cell that the rectangle touches, in no order; points
-    /// outside it may be among them.
+    /// Calls `visit(number)` for the points of every cell that the searched touches, in no order; points
+    /// outside the searched may be among them. Returns the work: the cells and points visited.
     template <typename Visit>
-    void VisitNear(const SearchRect& searched, Visit visit) const {
+    std::size_t VisitNear(const SearchRect& searched, Visit visit) const {
         if (searched.Right < searched.Left || searched.Top < searched.Bottom)
-            return;
+            return 0;
+        std::size_t work = 0;
         const int lastColumn = CellColumn(searched.Right);
         const int lastRow = CellRow(searched.Top);
         for (int row = CellRow(searched.Bottom); row <= lastRow; ++row) {
             for (int column = CellColumn(searched.Left); column <= lastColumn; ++column) {
-                for (const int number : cells_[CellAt(column, row)])
+                const std::vector<int>& cell = cells_[CellAt(column, row)];
+                for (const int number : cell)
                     visit(number);
+                work += 1 + cell.size();
             }
         }
+        return work;
     }
 
   private:

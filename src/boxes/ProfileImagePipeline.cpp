@@ -13,7 +13,10 @@
 namespace tavrene::boxes {
 namespace {
 
-constexpr const char* kNotABitmap = "Image not in bitmap format";
+constexpr const char* kTooMuchWork =
+    "With the box sizes in the settings, this page has too many lines that could be sides of boxes. Please "
+    "set "
+    "sizes nearer to those of its boxes.";
 constexpr const char* kTooManyColors = "Image has more than 2 colors. cannot process.";
 
 using imaging::Page;
@@ -24,8 +27,9 @@ std::optional<Page> ReadForm(const std::string& imagePath, const PipelineContext
     std::variant<Page, PageError> read = imaging::ReadSpecimen(context.files, imagePath);
     if (Page* const page = std::get_if<Page>(&read))
         return std::move(*page);
-    const bool hasColors = std::get<PageError>(read) == PageError::TooManyColors;
-    context.person.ShowMessage("", hasColors ? kTooManyColors : kNotABitmap);
+    const PageError error = std::get<PageError>(read);
+    context.person.ShowMessage("",
+                               error == PageError::TooManyColors ? kTooManyColors : imaging::ReasonOf(error));
     return std::nullopt;
 }
 
@@ -33,7 +37,8 @@ void ShowMessage(const PipelineContext& context, std::string_view text) {
     context.person.SetPanel(app::Panel::Message, text);
 }
 
-void RunSteps(BoxAnalysis& analysis, const PipelineContext& context) {
+// False when the sizes make too much work of the page; the operator has been told then.
+bool RunSteps(BoxAnalysis& analysis, const PipelineContext& context) {
     const std::vector<PipelineStep>& steps = PipelineSteps();
     context.person.SetProgressRange(static_cast<int>(steps.size()));
     int number = 0;
@@ -44,7 +49,12 @@ void RunSteps(BoxAnalysis& analysis, const PipelineContext& context) {
     }
     ShowMessage(context, "Identifying OMR boxes...");
     IdentifyBoxes(analysis);
+    if (analysis.Work.IsSpent()) {
+        context.person.ShowMessage("", kTooMuchWork);
+        return false;
+    }
     ShowMessage(context, std::to_string(analysis.Boxes.size()) + " OMR Boxes identified");
+    return true;
 }
 
 std::string WholeSeconds(double seconds) {
@@ -79,7 +89,8 @@ std::optional<FoundBoxes> FindBoxesOnImage(const std::string& imagePath, const s
         return std::nullopt;
 
     BoxAnalysis analysis(std::move(page->grid), sizes, reach);
-    RunSteps(analysis, context);
+    if (!RunSteps(analysis, context))
+        return std::nullopt;
     SortBoxes(analysis.Boxes, analysis.WorkGrid.Width());
 
     FoundBoxes found{std::move(analysis.Boxes), analysis.WorkGrid.Width(), analysis.WorkGrid.Rows(),

@@ -65,6 +65,7 @@ class GroupFinder {
     explicit GroupFinder(BoxAnalysis& analysis)
         : groups_(analysis.Groups),
           reach_(analysis.Reach),
+          work_(analysis.Work),
           horizontal_(analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows(), kCellSize),
           vertical_(analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows(), kCellSize) {}
 
@@ -82,6 +83,7 @@ class GroupFinder {
 
     std::vector<LineGroup>& groups_;
     PairReach reach_;
+    WorkMeter& work_;
     PointIndex horizontal_;
     PointIndex vertical_;
 };
@@ -117,10 +119,10 @@ int GroupFinder::FirstMatch(const LineSeg& segment) const {
             : SearchRect{segment.L - reach_.X + 1, lowY - 1, segment.L + reach_.X - 1, lowY + 1};
     int first = std::numeric_limits<int>::max();
     const PointIndex& index = segment.IsVertical() ? vertical_ : horizontal_;
-    index.VisitNear(searched, [&](int number) {
+    work_.Spend(index.VisitNear(searched, [&](int number) {
         if (number < first && Matches(groups_[static_cast<std::size_t>(number)], segment))
             first = number;
-    });
+    }));
     return first == std::numeric_limits<int>::max() ? -1 : first;
 }
 
@@ -161,12 +163,14 @@ int BestMember(const LineGroup& group) {
 
 void FindIntersections(BoxAnalysis& analysis) {
     std::vector<LineSeg>& segments = analysis.Segments;
-    SegmentIndex index(segments, analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows());
+    SegmentIndex index(segments, analysis.WorkGrid.Columns(), analysis.WorkGrid.Rows(), analysis.Work);
     for (LineSeg& segment : segments) {
         segment.CornerHits = 0;
         segment.Crossings.clear();
         const std::vector<int>& near =
             index.Find(Across(segment.Orientation), CrossingRect(segment, analysis.Reach));
+        if (analysis.Work.IsSpent())
+            return;
         for (auto number = near.rbegin(); number != near.rend(); ++number) {
             const LineSeg& other = segments[static_cast<std::size_t>(*number)];
             if (Cross(segment, other))
@@ -199,6 +203,8 @@ void GroupParallelLines(BoxAnalysis& analysis) {
         if (index > 0)
             member.SourceIndex = static_cast<std::int16_t>(index);
         const int group = finder.FirstMatch(member);
+        if (analysis.Work.IsSpent())
+            return;
         if (group < 0)
             finder.Create(member);
         else

@@ -1,6 +1,7 @@
 #include "boxes/SegmentIndex.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 
 namespace tavrene::boxes {
@@ -11,8 +12,11 @@ constexpr int kCellSize = 32;
 
 }  // namespace
 
-SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int height)
-    : segments_(segments), horizontal_(width, height, kCellSize), vertical_(width, height, kCellSize) {
+SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int height, WorkMeter& work)
+    : segments_(segments),
+      work_(work),
+      horizontal_(width, height, kCellSize),
+      vertical_(width, height, kCellSize) {
     int number = 0;
     for (const LineSeg& segment : segments) {
         (segment.IsVertical() ? vertical_ : horizontal_).Add(number++, segment.L, segment.T);
@@ -24,11 +28,13 @@ SegmentIndex::SegmentIndex(const std::vector<LineSeg>& segments, int width, int 
 const std::vector<int>& SegmentIndex::Find(Orientation orientation, const SearchRect& searched) {
     found_.clear();
     const PointIndex& index = orientation == Orientation::Vertical ? vertical_ : horizontal_;
-    index.VisitNear(searched, [&](int number) {
+    work_.Spend(index.VisitNear(searched, [&](int number) {
         const LineSeg& segment = segments_[static_cast<std::size_t>(number)];
         if (searched.Contains(segment.L, segment.T))
             found_.push_back(number);
-    });
+    }));
+    // Sorting takes the longest where there is much to sort.
+    work_.Spend(found_.size() * static_cast<std::size_t>(std::bit_width(found_.size())));
     std::sort(found_.begin(), found_.end());
     return found_;
 }

@@ -11,8 +11,8 @@ namespace tavrene::boxes {
 /// segments must not move.
 class SegmentIndex {
   public:
-    /// `width` and `height` are those of the page.
-    SegmentIndex(const std::vector<LineSeg>& segments, int width, int height);
+    /// `width` and `height` are those of the page; what a search costs is counted in `work`.
+    SegmentIndex(const std::vector<LineSeg>& segments, int width, int height, WorkMeter& work);
 
     /// List indices, ascending, of the segments of one orientation whose (`L`, `T`) lies in the rectangle.
     /// The list is reused by the next call.
@@ -24,6 +24,7 @@ class SegmentIndex {
 
   private:
     const std::vector<LineSeg>& segments_;
+    WorkMeter& work_;
     PointIndex horizontal_;
     PointIndex vertical_;
     int widest_ = 0;

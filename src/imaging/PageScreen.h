@@ -8,8 +8,8 @@
 namespace tavrene::imaging {
 
 /// What a rectangle stands for, which settles how it looks. An editable one is a box of the open profile: the
-/// tools move and resize it, and of its height one pixel less is painted.
-enum class RectStyle { Editable, Checked, Unchecked, Skipped };
+/// tools move and resize it, and of its height one pixel less is painted. A candidate may become one.
+enum class RectStyle { Editable, Checked, Unchecked, Skipped, Candidate };
 
 /// What the left button does with editable boxes.
 enum class BoxTool { Select, Add };

@@ -47,14 +47,12 @@ PageSize SizeOf(const Page& page) {
     return lies ? PageSize{height, width} : PageSize{width, height};
 }
 
-// From lines of red, green and blue, the top one first.
+// From lines of blue, green and red, the top one first.
 Bitmap BitmapOf(SplashBitmap& drawn) {
     Bitmap picture = imaging::NewPicture(drawn.getWidth(), drawn.getHeight(), 24);
     for (int y = 0; y < drawn.getHeight(); ++y) {
         const SplashColorPtr from = drawn.getDataPtr() + static_cast<std::ptrdiff_t>(y) * drawn.getRowSize();
-        const std::span<std::uint8_t> to = picture.ScanLine(picture.Height() - 1 - y);
-        for (std::ptrdiff_t at = 0; at < 3 * std::ptrdiff_t{drawn.getWidth()}; at += 3)
-            std::reverse_copy(from + at, from + at + 3, to.begin() + at);
+        std::copy_n(from, 3 * drawn.getWidth(), picture.ScanLine(picture.Height() - 1 - y).begin());
     }
     return picture;
 }
@@ -118,7 +116,7 @@ class PdfSource final : public PageSource {
         if (imaging::IsTooLarge(pixels(size.width), pixels(size.height)))
             return std::nullopt;
         SplashColor paper = {255, 255, 255};
-        SplashOutputDev device(splashModeRGB8, 4, false, paper);
+        SplashOutputDev device(splashModeBGR8, 4, false, paper);
         device.startDoc(&document_);
         Show(number, device, kDrawnDpi);
         Bitmap picture = BitmapOf(*device.getBitmap());

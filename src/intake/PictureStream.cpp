@@ -71,7 +71,7 @@ class LineReader {
     std::uint8_t SampleAt(const Line& packed, std::size_t k) const {
         const std::size_t bit = k * bits_;
         const unsigned shift = 8 - bits_ - static_cast<unsigned>(bit % 8);
-        return static_cast<std::uint8_t>((packed[bit / 8] >> shift) & ((1U << bits_) - 1));
+        return static_cast<std::uint8_t>((unsigned{packed[bit / 8]} >> shift) & ((1U << bits_) - 1));
     }
 
     Stream& stream_;

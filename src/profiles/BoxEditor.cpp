@@ -39,6 +39,11 @@ void MoveSides(std::int16_t& a, std::int16_t& b, int by, int extent) {
     b = static_cast<std::int16_t>(b + by);
 }
 
+// From the top of the page down by the lower edge, and from left to right, as boxes that were found stand.
+bool StandsBefore(const OmrBox& a, const OmrBox& b) {
+    return a.B != b.B ? a.B < b.B : a.L < b.L;
+}
+
 bool HasSize(const RectReport& report) {
     return report.width + report.height > 0;
 }
@@ -120,24 +125,14 @@ void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
     box.B = app::RoundToInt16((scroll.y + report.top + report.height) * scale);
 }
 
-// A saved profile is numbered anew, so a box may have the name of another one's number.
-std::string BoxEditor::FreeName(int number) const {
-    const auto isTaken = [this](const std::string& name) {
-        return std::any_of(profile_.BoxList.begin(), profile_.BoxList.end(),
-                           [&name](const OmrBox& box) { return box.Checked && box.Name == name; });
-    };
-    while (isTaken(UnnamedBox(number)))
-        ++number;
-    return UnnamedBox(number);
-}
-
 bool BoxEditor::AddDrawnBox(const RectReport& report) {
     if (!HasSize(report) || profile_.Count == std::numeric_limits<std::int16_t>::max()) {
         screen_.page.RemoveRect(report.group);
         return false;
     }
     OmrBox box;
-    box.Name = FreeName(report.group);
+    int number = report.group;
+    box.Name = FreeName(number);
     StoreCoordinates(report, box);
     profile_.BoxList.push_back(box);
     const std::int16_t before = profile_.Count++;
@@ -165,6 +160,55 @@ void BoxEditor::RectSelected(const RectReport& report) {
     Box(report.group) = *edit.after;
     screen_.page.PutRect(report.group, PlaceOf(*edit.after), imaging::RectStyle::Editable);
     Record(std::move(edit));
+}
+
+// Counts `number` up behind the first one that names no box: a saved profile is numbered anew, so a box may
+// have the name of another one's number.
+std::string BoxEditor::FreeName(int& number) const {
+    const auto isTaken = [this](const std::string& name) {
+        return std::any_of(profile_.BoxList.begin(), profile_.BoxList.end(),
+                           [&](const OmrBox& box) { return box.Checked && box.Name == name; });
+    };
+    while (isTaken(UnnamedBox(number)))
+        ++number;
+    return UnnamedBox(number++);
+}
+
+void BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
+    const std::size_t room =
+        static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max() - profile_.Count);
+    if (!MayStore() || boxes.empty() || boxes.size() > room)
+        return;
+    BoxEdit edit{0, {}, {}, profile_.Count, {}, profile_.BoxList, profile_.BoxList};
+    int number = static_cast<int>(profile_.BoxList.size()) + 1;
+    for (OmrBox box : boxes) {
+        box.Name = FreeName(number);
+        const auto place = std::find_if(edit.listAfter.begin(), edit.listAfter.end(),
+                                        [&](const OmrBox& other) { return StandsBefore(box, other); });
+        edit.listAfter.insert(place, std::move(box));
+    }
+    edit.countAfter = static_cast<std::int16_t>(profile_.Count + static_cast<int>(boxes.size()));
+    TakeList(edit.listAfter, edit.countAfter);
+    Record(std::move(edit));
+    const auto first = std::find_if(profile_.BoxList.begin(), profile_.BoxList.end(), [&](const OmrBox& box) {
+        return box.Checked && IsSamePlace(box, boxes.front());
+    });
+    Select(static_cast<int>(first - profile_.BoxList.begin()) + 1);
+}
+
+// The numbers of all boxes may be others then.
+void BoxEditor::TakeList(const std::vector<OmrBox>& list, std::int16_t count) {
+    for (int number = 1; number <= static_cast<int>(profile_.BoxList.size()); ++number)
+        screen_.page.RemoveRect(number);
+    screen_.rows.ClearRows(BoxColumns::Name);
+    profile_.BoxList = list;
+    profile_.Count = count;
+    for (int number = 1; number <= static_cast<int>(profile_.BoxList.size()); ++number) {
+        if (IsKept(profile_, number))
+            PutBox(number);
+    }
+    SetNextBox(static_cast<int>(profile_.BoxList.size()) + 1);
+    Select(NextKept(0));
 }
 
 void BoxEditor::RectMoved(int group) {
@@ -220,14 +264,22 @@ void BoxEditor::Undo() {
     if (!CanUndo())
         return;
     const BoxEdit& edit = *history_.StepBack();
-    TakeState(edit.number, edit.before, edit.countBefore);
+    if (edit.number == 0)
+        TakeList(edit.listBefore, edit.countBefore);
+    else
+        TakeState(edit.number, edit.before, edit.countBefore);
+    profile_.ProfileChanged = !history_.IsSavedState();
 }
 
 void BoxEditor::Redo() {
     if (!CanRedo())
         return;
     const BoxEdit& edit = *history_.StepForward();
-    TakeState(edit.number, edit.after, edit.countAfter);
+    if (edit.number == 0)
+        TakeList(edit.listAfter, edit.countAfter);
+    else
+        TakeState(edit.number, edit.after, edit.countAfter);
+    profile_.ProfileChanged = !history_.IsSavedState();
 }
 
 void BoxEditor::Record(BoxEdit edit) {
@@ -244,7 +296,6 @@ void BoxEditor::TakeState(int number, const std::optional<OmrBox>& state, std::i
         profile_.BoxList.pop_back();
     profile_.Count = count;
     SetNextBox(static_cast<int>(profile_.BoxList.size()) + 1);
-    profile_.ProfileChanged = !history_.IsSavedState();
     ShowBox(number);
 }
 

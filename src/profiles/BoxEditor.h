@@ -32,6 +32,10 @@ class BoxEditor {
     void RectSelected(const imaging::RectReport& report);
     void RectMoved(int group);
 
+    /// Puts boxes among the others, each where sorting from the top of the page down and from left to right
+    /// puts it, as one edit. They get names that no other box has; the first one becomes current.
+    void AddBoxes(const std::vector<OmrBox>& boxes);
+
     /// Deletes the current box; the next one that is left becomes current.
     void DeleteBox();
 
@@ -52,9 +56,10 @@ class BoxEditor {
   private:
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
     bool MayStore() const { return profile_.IsOpen; }
-    std::string FreeName(int number) const;
     bool AddDrawnBox(const imaging::RectReport& report);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
+    std::string FreeName(int& number) const;
+    void TakeList(const std::vector<OmrBox>& list, std::int16_t count);
     int NextKept(int number) const;
     void Record(BoxEdit edit);
     void TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count);

@@ -10,12 +10,15 @@
 namespace tavrene::profiles {
 
 /// One edit: what box `number` was before and is after it. No box stands for one that is not in the list yet.
+/// An edit of number 0 has put several boxes among the others, which gives boxes other numbers; it holds all.
 struct BoxEdit {
     int number = 0;
     std::optional<OmrBox> before;
     std::optional<OmrBox> after;
     std::int16_t countBefore = 0;
     std::int16_t countAfter = 0;
+    std::vector<OmrBox> listBefore = {};
+    std::vector<OmrBox> listAfter = {};
 };
 
 /// The edits of the open profile, so that they can be taken back and done again one by one.

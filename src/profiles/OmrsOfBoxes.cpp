@@ -25,6 +25,21 @@ std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int heigh
     return omrs;
 }
 
+std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height) {
+    std::vector<boxes::BoxRect> found;
+    for (const OmrBox& omr : omrs) {
+        if (!omr.Checked)
+            continue;
+        boxes::BoxRect box;
+        box.L = omr.L;
+        box.T = app::ClampToInt16(imaging::FlipVertically(height, static_cast<int>(omr.B)));
+        box.R = omr.R;
+        box.B = app::ClampToInt16(imaging::FlipVertically(height, static_cast<int>(omr.T)));
+        found.push_back(box);
+    }
+    return found;
+}
+
 std::string UnnamedBox(int number) {
     return kUnnamed + std::to_string(number);
 }

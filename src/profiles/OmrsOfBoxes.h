@@ -12,6 +12,10 @@ namespace tavrene::profiles {
 /// from the grid frame into the page frame, the upper edge as `T`, named by their numbers.
 std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int height);
 
+/// The boxes of a profile, but for the deleted ones, turned back into the grid frame of an image of that
+/// height.
+std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height);
+
 /// The name of a box that nobody named: "Un-named-7".
 std::string UnnamedBox(int number);
 bool IsUnnamed(const std::string& name);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/Numeric.h"
+#include "app/Reason.h"
 #include "profiles/ProfileDocument.h"
 #include "profiles/XmlFile.h"
 
@@ -79,7 +80,7 @@ std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::Acti
             log.LogProfileEvent("Loaded Profile: " + fileName);
             profiles.push_back(std::move(record));
         } catch (const std::exception& error) {
-            log.LogProfileEvent("Profile " + fileName + " is left out: " + error.what());
+            log.LogProfileEvent("Profile " + fileName + " is left out: " + app::ReasonOf(error));
         }
     }
     person.SetPanel(app::Panel::File, ProfileCounts(profiles));

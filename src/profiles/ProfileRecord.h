@@ -30,6 +30,7 @@ struct PrintedBox {
     std::int16_t upper = 0;
     std::int16_t expectedOutline =
         0;  ///< Cells of the outline, wrapped at 16 bits; at most 0 is never found.
+    bool operator==(const PrintedBox&) const = default;
 };
 
 /// `box` with its two vertical values in order.

@@ -33,7 +33,7 @@ bool ProfileSession::MayLeave() {
     notes_.clear();
     if (!profile_.ProfileChanged)
         return true;
-    switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?")) {
+    switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?", Answer::Yes)) {
         case Answer::Yes:
             return Write();
         case Answer::No:
@@ -84,6 +84,8 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
     editor_.BuildBoxList(content);
     RebuildStrip();
     context_.person.SetPanel(Panel::Message, std::to_string(content.Count) + " OMR Boxes identified");
+    if (app::Notice offer = context_.offerMore ? context_.offerMore() : app::Notice(); !offer.text.empty())
+        notes_.push_back(std::move(offer));
     if (profile_.CurrentProfile == 0)
         Note("The new profile lies outside the Profiles folder, so no run will use it");
     return true;
@@ -200,12 +202,14 @@ bool ProfileSession::MayOverwrite(const std::string& onDisk) {
     return onDisk.empty() || onDisk == profile_.Fingerprint ||
            context_.person.AskYesNo(
                "The file " + profile_.Path +
-               " was changed by somebody else after it was opened here. Save over it?") == Answer::Yes;
+                   " was changed by somebody else after it was opened here. Save over it?",
+               Answer::No) == Answer::Yes;
 }
 
 void ProfileSession::Delete() {
     notes_.clear();
-    if (!HasProfile() || context_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
+    if (!HasProfile() ||
+        context_.person.AskYesNo("Delete Profile " + profile_.Path, Answer::No) != Answer::Yes)
         return;
     const std::string name = profile_.Name;
     profiles_.Delete(profile_);

@@ -31,6 +31,9 @@ struct ProfileContext {
 
     /// What will go wrong in a run with the profile as it stands, in plain sentences.
     std::function<std::vector<std::string>(const OpenProfile&)> advise;
+
+    /// What is to be said of boxes that a new profile may lack; without a text for nothing.
+    std::function<app::Notice()> offerMore = {};
 };
 
 /// The profile at the desk from its making or opening until it is closed: what the person is asked and told

@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/Reason.h"
 #include "imaging/PageReader.h"
 
 namespace tavrene::profiles {
@@ -103,7 +104,7 @@ imaging::TiffPage Thumbnails::MakePage(const StripEntry& profile, const std::str
         if (const imaging::Page* const page = std::get_if<imaging::Page>(&read))
             return {imaging::ReducedPicture(page->bitmap, kWidth, kMaxHeight), label};
     } catch (const std::exception& error) {
-        reason = error.what();
+        reason = app::ReasonOf(error);
     }
     log_.LogProfileEvent("No thumbnail for profile " + profile.FileName + ": " + reason);
     return placeholder();

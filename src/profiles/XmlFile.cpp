@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "app/Numeric.h"
+#include "app/Utf8.h"
 
 namespace tavrene::profiles {
 namespace {
@@ -72,13 +73,25 @@ pugi::xml_document ReadXml(const app::Files& files, const std::string& path, Dec
 }
 
 void WriteXml(app::Files& files, const std::string& path, const pugi::xml_document& document,
-              XmlLayout layout) {
+              XmlLayout layout, app::Keep keep) {
     std::ostringstream text;
     if (layout == XmlLayout::Raw)
         document.save(text, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
     else
         document.save(text);
-    files.Write(path, app::AsBytes(text.str()));
+    files.Write(path, app::AsBytes(text.str()), keep);
+}
+
+std::string XmlText(std::string_view utf8) {
+    std::string text;
+    while (!utf8.empty()) {
+        const char32_t character = app::TakeCharacter(utf8);
+        const bool isWritable = character >= 0x20
+                                    ? character != 0xFFFE && character != 0xFFFF
+                                    : character == '\t' || character == '\n' || character == '\r';
+        app::AppendCharacter(text, isWritable ? character : app::kBrokenCharacter);
+    }
+    return text;
 }
 
 std::int16_t RequiredNumber(const pugi::xml_node& element, const char* attribute) {

@@ -29,7 +29,11 @@ pugi::xml_document ReadXml(const app::Files& files, const std::string& path, Dec
 
 /// Composes the text in memory and writes it as a whole. Throws `app::FileError`.
 void WriteXml(app::Files& files, const std::string& path, const pugi::xml_document& document,
-              XmlLayout layout);
+              XmlLayout layout, app::Keep keep = app::Keep::Durably);
+
+/// `utf8` as a document can hold it: control characters that XML has no way to write, and broken sequences,
+/// are replaced by U+FFFD.
+std::string XmlText(std::string_view utf8);
 
 /// The attribute as a decimal integer of 16 bits; throws `DocumentError` naming the attribute when it is
 /// missing, is no integer or does not fit.

@@ -51,6 +51,20 @@ AxisSpread SpreadAlong(const std::vector<std::size_t>& sample, Ordinate ordinate
             (shift(high) - shift(low)) / distance};
 }
 
+std::optional<double> FillOf(const imaging::WorkGrid& grid, const GridRect& place) {
+    const std::int64_t width = std::int64_t{place.col1} - place.col0 - 1;
+    const std::int64_t height = std::int64_t{place.row1} - place.row0 - 1;
+    // 16 bits, as the forms that have been read were: an interior beyond 181 x 181 is misread.
+    const std::int16_t area = app::WrapToInt16(width * height);
+    if (area == 0)
+        return std::nullopt;
+    const std::int64_t ink = CountInk(
+        grid, {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder});
+    return static_cast<double>(ink * 100) / area;
+}
+
+}  // namespace
+
 GridRect PlaceOf(const imaging::WorkGrid& grid, const PrintedBox& box, const FormScale& scale,
                  const BoxShift& shift) {
     const double height = grid.Rows();
@@ -66,20 +80,6 @@ imaging::PageRect OnPage(const imaging::WorkGrid& grid, const GridRect& place) {
             static_cast<double>(imaging::FlipVertically(grid.Rows(), place.row1)),
             static_cast<double>(place.col1 - place.col0), static_cast<double>(place.row1 - place.row0)};
 }
-
-std::optional<double> FillOf(const imaging::WorkGrid& grid, const GridRect& place) {
-    const std::int64_t width = std::int64_t{place.col1} - place.col0 - 1;
-    const std::int64_t height = std::int64_t{place.row1} - place.row0 - 1;
-    // 16 bits, as the forms that have been read were: an interior beyond 181 x 181 is misread.
-    const std::int16_t area = app::WrapToInt16(width * height);
-    if (area == 0)
-        return std::nullopt;
-    const std::int64_t ink = CountInk(
-        grid, {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder});
-    return static_cast<double>(ink * 100) / area;
-}
-
-}  // namespace
 
 void SpreadShifts(const ProfileRecord& profile, std::span<BoxShift> shifts) {
     const std::vector<std::size_t> sample = SampleBoxes(profile.Boxes.size());

@@ -11,6 +11,7 @@
 #include "imaging/PageReader.h"
 #include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
+#include "recognition/FormScale.h"
 #include "recognition/Outline.h"
 #include "recognition/ShiftSpiral.h"
 
@@ -35,6 +36,13 @@ struct MarkReading {
 /// and between the highest and the lowest sampled box, by their lower edges. Throws `ReadingError` when the
 /// sampled boxes share one column or one row.
 void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> shifts);
+
+/// Where a shifted box lies on a page: grid frame.
+GridRect PlaceOf(const imaging::WorkGrid& grid, const profiles::PrintedBox& box, const FormScale& scale,
+                 const BoxShift& shift);
+
+/// A place in the page frame.
+imaging::PageRect OnPage(const imaging::WorkGrid& grid, const GridRect& place);
 
 /// Ink cells in the rectangle (grid frame, inclusive) after it is clamped to the picture; 0 when that leaves
 /// nothing.

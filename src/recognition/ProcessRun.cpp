@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
-#include <utility>
+#include <optional>
 #include <vector>
 
+#include "app/Reason.h"
 #include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
 #include "recognition/Classification.h"
@@ -21,19 +22,21 @@ using profiles::ProfileRecord;
 
 }  // namespace
 
-// What came of one file, as far as showing and moving it need to know.
+// What came of one file, as far as it is shown.
 struct ProcessRun::FileOutcome {
     std::optional<imaging::Page> page;
+    int winner = -1;  // index of the profile it was read as
     std::vector<MarkReading> readings;
     std::vector<ResultMark> marks;  // read back from the written document
-    bool hasResult = false;
-    std::optional<app::Bytes>
-        replacedResult;  // the earlier document of that name, as long as the image is not moved
 };
 
 ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
                        const app::WorkingFolders& folders)
-    : context_(context), settings_(settings), folders_(folders), scratch_(context.files, folders.Temp) {}
+    : context_(context),
+      settings_(settings),
+      folders_(folders),
+      scratch_(context.files, folders.Temp),
+      delivery_(context.files, folders) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
     if (profiles.empty()) {
@@ -53,16 +56,28 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
 void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     const app::ScopedFlag running(running_);
     stop_ = false;
+    formStays_ = false;
     filesDone_ = 0;
     currentName_.clear();
+    opinions_ = {};
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
     context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
+    Settle();
     context_.page.Clear();
     context_.rows.ClearRows(profiles::BoxColumns::NameVal);
     TakeFiles(profiles);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
     Finish(start);
+}
+
+void ProcessRun::Settle() {
+    try {
+        for (const std::string& line : delivery_.Settle())
+            context_.log.LogProcessEvent(line);
+    } catch (const app::FileError& error) {
+        context_.log.LogProcessEvent(error.what());
+    }
 }
 
 std::vector<std::string> ProcessRun::ListImages() {
@@ -78,7 +93,7 @@ std::vector<std::string> ProcessRun::ListImages() {
 void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
     const std::vector<std::string> names = ListImages();
     context_.person.SetProgressRange(static_cast<int>(names.size()));
-    std::size_t next = 0;
+    std::size_t next = settings_.ProcessSingle ? FirstToTake(names) : 0;
     do {
         if (!names.empty())
             TakeInTurn(names, next, profiles);
@@ -86,6 +101,23 @@ void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
         // and must not wait for its end, to start another.
         context_.person.RunPendingEvents();
     } while (++next < names.size() && !settings_.ProcessSingle && !stop_);
+}
+
+// A single run has to reach the files behind one that cannot be moved. Where there are no others, those that
+// could not be moved take turns.
+std::size_t ProcessRun::FirstToTake(const std::vector<std::string>& names) {
+    const auto isStuck = [this](const std::string& name) {
+        const auto stuck = stuck_.find(name);
+        return stuck != stuck_.end() && stuck->second == StateOf(name);
+    };
+    const auto first = std::find_if_not(names.begin(), names.end(), isStuck);
+    if (first == names.end()) {
+        stuck_.clear();
+        return 0;
+    }
+    for (auto passed = names.begin(); passed != first; ++passed)
+        LogAbout(*passed, "Passed over, since it could not be moved before");
+    return static_cast<std::size_t>(first - names.begin());
 }
 
 void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t index,
@@ -114,11 +146,13 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     try {
         Recognise(name, profiles, outcome);
     } catch (const std::exception& error) {
-        LogAbout(name, error.what());
+        LogAbout(name, app::ReasonOf(error));
     }
+    // Also of a form that the described rules failed on.
+    AskSecondOpinion(name, profiles, outcome);
     if (display)
         ShowPage(outcome);
-    return MoveToProcessOut(name, outcome);
+    return MoveToProcessOut(name);
 }
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
@@ -129,6 +163,8 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     const imaging::Page& page = *outcome.page;
     if (const std::string failure = scratch_.WritePage(page); !failure.empty())
         LogAbout(name, failure);
+    if (context_.precise != nullptr && context_.precise->Reads())
+        return RecognisePrecisely(name, profiles, outcome);
     Classification classification = ClassifyImage(page, profiles);
     context_.log.LogProcessEvent(ClassificationLine(name, classification, profiles));
     if (classification.winner < 0)
@@ -137,19 +173,35 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.shifts);
     outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
-    SaveResult(name, profiles[winner], match.Confidence, outcome);
+    delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
+    outcome.marks = delivery_.StagedMarks();
+    outcome.winner = classification.winner;
 }
 
-void ProcessRun::SaveResult(const std::string& name, const ProfileRecord& profile, std::int16_t confidence,
-                            FileOutcome& outcome) {
-    const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (context_.files.FileExists(path))
-        outcome.replacedResult = context_.files.Read(path);
-    SaveResultDocument(context_.files, path, {profile.Name, name, "0", confidence}, outcome.readings);
-    outcome.hasResult = true;
-    outcome.marks = ReadResultMarks(context_.files, path);
-    if (outcome.replacedResult)
-        LogAbout(name, "Result replaces the earlier " + app::FileName(path));
+void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const ProfileRecord> profiles,
+                                    FileOutcome& outcome) {
+    PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
+    context_.log.LogProcessEvent(
+        ClassificationLine(name, AsClassification(reading, profiles.size()), profiles));
+    if (reading.winner < 0)
+        return;
+    outcome.readings = std::move(reading.marks);
+    delivery_.StageResult(
+        {profiles[static_cast<std::size_t>(reading.winner)].Name, name, "0", reading.Confidence},
+        outcome.readings);
+    outcome.marks = delivery_.StagedMarks();
+    outcome.winner = reading.winner;
+}
+
+// What it says is for the person alone: result and log are those of the described rules.
+void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const ProfileRecord> profiles,
+                                  const FileOutcome& outcome) {
+    if (context_.precise == nullptr || !context_.precise->GivesSecondOpinion() || !outcome.page)
+        return;
+    const PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
+    opinions_.Add(name, CompareReadings(outcome.winner, outcome.readings, reading));
+    for (std::string& profile : context_.precise->TakeReplaced())
+        opinions_.replaced.push_back(std::move(profile));
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
@@ -165,50 +217,48 @@ void ProcessRun::ShowPage(const FileOutcome& outcome) {
         context_.rows.PutRow(number, {mark.Name, mark.Checked ? "1" : "0"});
     }
     context_.page.Refresh();
+    formStays_ = !outcome.marks.empty();
 }
 
-// A move that fails leaves image and results as they were before this file was taken.
-bool ProcessRun::MoveToProcessOut(const std::string& name, const FileOutcome& outcome) {
-    if (app::UpperCase(app::Extension(name)) == "XML" &&
-        context_.files.FileExists(folders_.ProcessOut + name)) {
-        LogAbout(name, "Stays in ProcessIn, since a result of that name lies in ProcessOut");
-        return false;
-    }
-    std::optional<app::Bytes> outdated;
+bool ProcessRun::MoveToProcessOut(const std::string& name) {
+    const std::string result = app::FileName(ResultPath(folders_.ProcessOut, name));
     try {
-        if (!outcome.hasResult)
-            outdated = RemoveOutdatedResult(name);
-        context_.files.Move(folders_.ProcessIn + name, folders_.ProcessOut + name);
+        switch (delivery_.Deliver(name)) {
+            case FormDelivery::Earlier::Replaced:
+                LogAbout(name, "Result replaces the earlier " + result);
+                break;
+            case FormDelivery::Earlier::Removed:
+                LogAbout(name, "Replaces an earlier image, whose result " + result + " is removed");
+                break;
+            case FormDelivery::Earlier::None:
+                break;
+        }
         return true;
     } catch (const std::exception& error) {
-        LogAbout(name, error.what());
-    }
-    try {
-        if (outcome.hasResult || outdated)
-            TakeBackResult(name, outcome.hasResult ? outcome.replacedResult : outdated);
-    } catch (const std::exception& error) {
-        LogAbout(name, error.what());
+        StayBehind(name, app::ReasonOf(error));
     }
     return false;
 }
 
-void ProcessRun::TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier) {
-    const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (earlier)
-        context_.files.Write(path, *earlier);
-    else
-        context_.files.Delete(path);
+void ProcessRun::StayBehind(const std::string& name, const std::string& reason) {
+    LogAbout(name, reason);
+    if (!context_.files.FileExists(folders_.ProcessIn + name))
+        return;
+    context_.person.ReportFile(name, reason);
+    stuck_[name] = StateOf(name);
 }
 
-// An image without a result must not lie beside the marks of the image that it replaces.
-std::optional<app::Bytes> ProcessRun::RemoveOutdatedResult(const std::string& name) {
-    const std::string path = ResultPath(folders_.ProcessOut, name);
-    if (!context_.files.FileExists(path) || ImageOfResult(context_.files, path) != name)
-        return std::nullopt;
-    std::optional<app::Bytes> content = context_.files.Read(path);
-    context_.files.Delete(path);
-    LogAbout(name, "Replaces an earlier image, whose result " + app::FileName(path) + " is removed");
-    return content;
+// Another text when the file has changed, or what is in its way.
+std::string ProcessRun::StateOf(const std::string& name) const {
+    const std::string place = folders_.ProcessOut + name;
+    return context_.files.Fingerprint(folders_.ProcessIn + name) + " " + context_.files.Fingerprint(place) +
+           (context_.files.FolderExists(place) ? " folder" : "");
+}
+
+// What was open before was closed when the run began, so the list is empty again, and without values.
+void ProcessRun::RestoreRows() {
+    if (!formStays_)
+        context_.rows.ClearRows(profiles::BoxColumns::Name);
 }
 
 void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
@@ -224,6 +274,7 @@ void ProcessRun::Finish(double start) {
     } else {
         LogAbout(currentName_, "Processing complete");
     }
+    RestoreRows();
     const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";
     context_.person.SetPanel(Panel::ElapsedTime, summary);
     context_.log.LogProcessEvent("Processed " + summary);

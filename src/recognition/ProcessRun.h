@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,7 +15,9 @@
 #include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
+#include "recognition/FormDelivery.h"
 #include "recognition/MarkReading.h"
+#include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::recognition {
 
@@ -27,6 +29,7 @@ struct RunContext {
     const app::Clock& clock;
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
+    PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
@@ -48,6 +51,13 @@ class ProcessRun {
 
     bool IsRunning() const { return running_; }
 
+    /// What the second opinion on the forms of the last run has come to.
+    const OpinionTally& Opinions() const { return opinions_; }
+
+    /// Ends, with a line in the log, what an earlier run left half done when it was cut short. For the start
+    /// of the program; a run begins with it, too.
+    void Settle();
+
   private:
     struct FileOutcome;
 
@@ -55,15 +65,19 @@ class ProcessRun {
     void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
     void TakeInTurn(const std::vector<std::string>& names, std::size_t index,
                     std::span<const profiles::ProfileRecord> profiles);
+    std::size_t FirstToTake(const std::vector<std::string>& names);
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FileOutcome& outcome);
-    void SaveResult(const std::string& name, const profiles::ProfileRecord& profile, std::int16_t confidence,
-                    FileOutcome& outcome);
+    void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                            FileOutcome& outcome);
+    void AskSecondOpinion(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                          const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
-    bool MoveToProcessOut(const std::string& name, const FileOutcome& outcome);
-    void TakeBackResult(const std::string& name, const std::optional<app::Bytes>& earlier);
-    std::optional<app::Bytes> RemoveOutdatedResult(const std::string& name);
+    bool MoveToProcessOut(const std::string& name);
+    void StayBehind(const std::string& name, const std::string& reason);
+    std::string StateOf(const std::string& name) const;
+    void RestoreRows();
     void LogAbout(const std::string& name, const std::string& what);
     void Finish(double start);
 
@@ -71,10 +85,14 @@ class ProcessRun {
     const app::Settings& settings_;
     const app::WorkingFolders& folders_;
     imaging::ScratchImages scratch_;
+    FormDelivery delivery_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;
+    bool formStays_ = false;  // the last form is on the screen
     std::string currentName_;
+    OpinionTally opinions_;
+    std::map<std::string, std::string> stuck_;  // files that could not be moved: name, and state at that time
 };
 
 }  // namespace tavrene::recognition

@@ -1,5 +1,6 @@
 #include "recognition/ResultDocument.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 
@@ -10,6 +11,7 @@ namespace {
 
 using profiles::Declaration;
 using profiles::DocumentError;
+using profiles::XmlText;
 
 constexpr const char* kSet = "1";
 constexpr const char* kNotSet = "0";
@@ -27,7 +29,7 @@ bool IsSet(const pugi::xml_attribute& attribute) {
 
 void AppendReading(pugi::xml_node omrs, const MarkReading& reading) {
     pugi::xml_node mark = omrs.append_child("OMR");
-    mark.append_attribute("Name") = reading.Name.c_str();
+    mark.append_attribute("Name") = XmlText(reading.Name).c_str();
     const std::string shift = std::to_string(reading.Shift.dx) + "," + std::to_string(reading.Shift.dy);
     mark.append_attribute("Shift") = shift.c_str();
     mark.append_attribute("Checked") = reading.Checked ? kSet : kNotSet;
@@ -54,6 +56,18 @@ std::vector<ResultMark> MarksIn(const pugi::xml_node& root) {
     return marks;
 }
 
+// A name that no document can hold as it is stands there with its signs replaced; the file beside the
+// document keeps it.
+std::string NameOnDisk(const app::Files& files, const std::string& document, const std::string& image) {
+    const std::string folder = document.substr(0, document.size() - app::FileName(document).size());
+    if (image.find("\xEF\xBF\xBD") == std::string::npos || files.FileExists(folder + image))
+        return image;
+    const std::vector<std::string> names = files.List(folder, "*");
+    const auto found = std::find_if(names.begin(), names.end(),
+                                    [&image](const std::string& name) { return XmlText(name) == image; });
+    return found == names.end() ? image : *found;
+}
+
 void CheckResult(const pugi::xml_node& root) {
     if (root.name() != std::string_view("Tavrene"))
         throw DocumentError("the root element is not Tavrene");
@@ -70,9 +84,9 @@ void CheckResult(const pugi::xml_node& root) {
 pugi::xml_document Compose(const ResultHeader& header, std::span<const MarkReading> readings) {
     pugi::xml_document document;
     pugi::xml_node root = document.append_child("Tavrene");
-    root.append_attribute("Profile") = header.Profile.c_str();
-    root.append_attribute("Image") = header.Image.c_str();
-    root.append_attribute("Reviewed") = header.Reviewed.c_str();
+    root.append_attribute("Profile") = XmlText(header.Profile).c_str();
+    root.append_attribute("Image") = XmlText(header.Image).c_str();
+    root.append_attribute("Reviewed") = XmlText(header.Reviewed).c_str();
     root.append_attribute("Confidence") = header.Confidence;
     pugi::xml_node omrs = root.append_child("OMRs");
     omrs.append_attribute("Count") = static_cast<unsigned long long>(readings.size());
@@ -88,8 +102,8 @@ std::string ResultPath(const std::string& folder, const std::string& imageName) 
 }
 
 void SaveResultDocument(app::Files& files, const std::string& path, const ResultHeader& header,
-                        std::span<const MarkReading> readings) {
-    profiles::WriteXml(files, path, Compose(header, readings), profiles::XmlLayout::Indented);
+                        std::span<const MarkReading> readings, app::Keep keep) {
+    profiles::WriteXml(files, path, Compose(header, readings), profiles::XmlLayout::Indented, keep);
 }
 
 std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::string& path) {
@@ -98,10 +112,8 @@ std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::stri
 
 std::string ImageOfResult(const app::Files& files, const std::string& path) {
     try {
-        return profiles::ReadXml(files, path, Declaration::Allowed)
-            .document_element()
-            .attribute("Image")
-            .value();
+        const pugi::xml_document document = profiles::ReadXml(files, path, Declaration::Allowed);
+        return NameOnDisk(files, path, document.document_element().attribute("Image").value());
     } catch (const std::runtime_error&) {
         return {};
     }
@@ -112,6 +124,7 @@ ResultDocument ResultDocument::Load(const app::Files& files, const std::string& 
     try {
         result.document_ = profiles::ReadXml(files, path, Declaration::Allowed);
         CheckResult(result.Root());
+        result.image_ = NameOnDisk(files, path, result.Root().attribute("Image").value());
         // It is written as UTF-8 again, whatever it said it was.
         if (pugi::xml_node first = result.document_.first_child(); first.type() == pugi::node_declaration)
             first.remove_attribute("encoding");
@@ -124,6 +137,7 @@ ResultDocument ResultDocument::Load(const app::Files& files, const std::string& 
 ResultDocument ResultDocument::Clone() const {
     ResultDocument copy;
     copy.document_.reset(document_);
+    copy.image_ = image_;
     return copy;
 }
 
@@ -149,7 +163,7 @@ void ResultDocument::ReplaceMarks(std::span<const ResultMark> marks) {
     pugi::xml_node omrs = NewMarks(marks.size());
     for (const ResultMark& mark : marks) {
         pugi::xml_node element = omrs.append_child("OMR");
-        element.append_attribute("Name") = mark.Name.c_str();
+        element.append_attribute("Name") = XmlText(mark.Name).c_str();
         element.append_attribute("Checked") = mark.Checked ? kSet : kNotSet;
     }
 }
@@ -169,7 +183,7 @@ void ResultDocument::Save(app::Files& files, const std::string& path) const {
 }
 
 void ResultDocument::SetRoot(const char* attribute, const char* value) {
-    SetAttribute(Root(), attribute, value);
+    SetAttribute(Root(), attribute, XmlText(value).c_str());
 }
 
 pugi::xml_node ResultDocument::NewMarks(std::size_t count) {

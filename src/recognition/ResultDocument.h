@@ -38,7 +38,8 @@ class ResultDocument {
     ResultDocument Clone() const;
 
     std::string Profile() const { return Root().attribute("Profile").value(); }
-    std::string Image() const { return Root().attribute("Image").value(); }
+    /// The name of the image's file as it is on disk.
+    const std::string& Image() const { return image_; }
     std::string Confidence() const { return Root().attribute("Confidence").value(); }
     bool IsReviewed() const;
     std::vector<ResultMark> Marks() const;
@@ -65,6 +66,7 @@ class ResultDocument {
     pugi::xml_node NewMarks(std::size_t count);
 
     pugi::xml_document document_;
+    std::string image_;
 };
 
 /// The file that belongs to an image of the same folder (path ending in a separator): its base name with
@@ -73,7 +75,7 @@ std::string ResultPath(const std::string& folder, const std::string& imageName);
 
 /// Composes and writes a result document, replacing an earlier one as a whole. Throws `app::FileError`.
 void SaveResultDocument(app::Files& files, const std::string& path, const ResultHeader& header,
-                        std::span<const MarkReading> readings);
+                        std::span<const MarkReading> readings, app::Keep keep = app::Keep::Durably);
 
 /// Name and state of every box of a written result document, in its order. Throws `profiles::DocumentError`
 /// or `app::FileError`.

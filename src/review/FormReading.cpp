@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
 #include "review/BoxMatching.h"
 
@@ -16,34 +17,130 @@ FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink, doubl
     return {rect, ink, ink && std::abs(*ink - threshold) * 3 <= threshold};
 }
 
-}  // namespace
+recognition::ProfileMatch SearchProfile(const imaging::Page& page, const profiles::ProfileRecord& profile) {
+    return recognition::ClassifyImage(page, {&profile, 1}).matches.front();
+}
 
-void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold) {
-    form.Boxes.assign(form.Marks.size(), {});
-    const std::vector<BoxShift> shifts = ShiftsOfBoxes(form.Profile, form.Marks);
-    const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Marks);
-    for (std::size_t k = 0; k < marks.size(); ++k) {
-        form.Skipped += marks[k] ? 0 : 1;
-        if (page == nullptr)
-            continue;
-        const recognition::BoxMeasure measure = MeasureBox(*page, form.Profile, k, shifts[k]);
-        if (marks[k])
-            form.Boxes[*marks[k]] = Measured(measure.rect, measure.fill, fillThreshold);
-        else
-            form.SkippedRects.push_back(measure.rect);
+// Boxes of one column or row allow no spreading; those whose outline was found keep what was found.
+bool TrySpread(const profiles::ProfileRecord& profile, std::vector<BoxShift>& shifts) {
+    try {
+        SpreadShifts(profile, shifts);
+        return true;
+    } catch (const recognition::ReadingError&) {
+        return false;
     }
 }
 
+// The shift of each box of the profile as far as the document tells it.
+std::vector<std::optional<BoxShift>> KnownShifts(const profiles::ProfileRecord& profile,
+                                                 std::span<const recognition::ResultMark> marks) {
+    std::vector<std::optional<BoxShift>> known;
+    for (const std::optional<std::size_t>& mark : MarksOfBoxes(profile, marks))
+        known.push_back(mark ? marks[*mark].Shift : std::nullopt);
+    return known;
+}
+
+std::vector<recognition::BoxMeasure> MeasureBoxes(const OpenForm& form, const imaging::Page& page,
+                                                  std::int16_t fillThreshold,
+                                                  recognition::PreciseReader* precise) {
+    std::vector<recognition::BoxMeasure> measures;
+    if (precise != nullptr && precise->Reads()) {
+        const auto known = KnownShifts(form.Profile, form.Marks);
+        for (const recognition::MarkReading& reading :
+             precise->ReadAt(page, form.Profile, known, fillThreshold))
+            measures.push_back({reading.rect, reading.fill});
+    }
+    if (!measures.empty())
+        return measures;
+    const std::vector<BoxShift> shifts = ShiftsOfBoxes(form.Profile, {}, form.Marks);
+    for (std::size_t k = 0; k < shifts.size(); ++k)
+        measures.push_back(MeasureBox(page, form.Profile, k, shifts[k]));
+    return measures;
+}
+
+// Boxes that a second look reads otherwise than the measured ink does.
+std::vector<bool> ReadOtherwise(const OpenForm& form, const imaging::Page& page,
+                                std::span<const recognition::BoxMeasure> measures, std::int16_t fillThreshold,
+                                recognition::PreciseReader* precise) {
+    std::vector<bool> otherwise(measures.size(), false);
+    if (precise == nullptr || !precise->GivesSecondOpinion())
+        return otherwise;
+    const recognition::PreciseReading second = precise->ReadAs(page, form.Profile, fillThreshold);
+    for (std::size_t k = 0; k < second.marks.size(); ++k)
+        otherwise[k] = measures[k].fill && (*measures[k].fill >= fillThreshold) != second.marks[k].Checked;
+    return otherwise;
+}
+
+// The precise reading of a form against a profile; nothing where it is not wanted or does not see the form.
+std::vector<recognition::MarkReading> ReadFormPrecisely(const OpenForm& form, const imaging::Page& page,
+                                                        const profiles::ProfileRecord& profile,
+                                                        std::int16_t fillThreshold,
+                                                        recognition::PreciseReader* precise) {
+    if (precise == nullptr || !precise->Reads())
+        return {};
+    if (profile.Name == form.SavedProfile) {
+        auto readings = precise->ReadAt(page, profile, KnownShifts(profile, form.Opened), fillThreshold);
+        if (!readings.empty())
+            return readings;
+    }
+    return precise->ReadAs(page, profile, fillThreshold).marks;
+}
+
+}  // namespace
+
+void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
+                 recognition::PreciseReader* precise) {
+    form.Boxes.assign(form.Marks.size(), {});
+    const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Marks);
+    form.Skipped += static_cast<int>(std::ranges::count_if(marks, [](const auto& mark) { return !mark; }));
+    if (page == nullptr)
+        return;
+    const std::vector<recognition::BoxMeasure> measures = MeasureBoxes(form, *page, fillThreshold, precise);
+    const std::vector<bool> otherwise = ReadOtherwise(form, *page, measures, fillThreshold, precise);
+    for (std::size_t k = 0; k < marks.size(); ++k) {
+        if (!marks[k]) {
+            form.SkippedRects.push_back(measures[k].rect);
+            continue;
+        }
+        FormBox& box = form.Boxes[*marks[k]];
+        box = Measured(measures[k].rect, measures[k].fill, fillThreshold);
+        box.isDoubtful = box.isDoubtful || otherwise[k];
+    }
+}
+
+void FindLostShifts(OpenForm& form, const imaging::Page& page) {
+    const bool hasShift =
+        std::any_of(form.Opened.begin(), form.Opened.end(),
+                    [](const recognition::ResultMark& mark) { return mark.Shift.has_value(); });
+    if (hasShift || form.Profile.Boxes.empty())
+        return;
+    profiles::ProfileRecord searched = form.Profile;
+    searched.Active = true;
+    recognition::ProfileMatch match = SearchProfile(page, searched);
+    const bool isSpread = match.found > 0 && TrySpread(searched, match.shifts);
+    const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Opened);
+    for (std::size_t k = 0; k < marks.size(); ++k)
+        if (marks[k] && (isSpread || match.shifts[k] != BoxShift{}))
+            form.Opened[*marks[k]].Shift = match.shifts[k];
+    form.Marks = form.Opened;
+}
+
 OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
-                  std::int16_t fillThreshold) {
-    const std::vector<recognition::MarkReading> readings =
-        ReadMarks(page, profile, ShiftsOfBoxes(profile, form.Opened), fillThreshold);
+                  std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+    std::vector<recognition::MarkReading> readings =
+        ReadFormPrecisely(form, page, profile, fillThreshold, precise);
+    if (readings.empty())
+        readings =
+            ReadMarks(page, profile, ShiftsOfBoxes(profile, form.OpenedProfile, form.Opened), fillThreshold);
     OpenForm read;
     read.Name = form.Name;
     read.Document = form.Document;
     read.Result = form.Result.Clone();
     read.Result.Rewrite(profile.Name, readings);
+    read.Fingerprint = form.Fingerprint;
     read.Opened = form.Opened;
+    read.OpenedProfile = form.OpenedProfile;
+    read.Before = form.Before;
     read.Profile = profile;
     read.SavedProfile = form.SavedProfile;
     read.Marks = read.Result.Marks();

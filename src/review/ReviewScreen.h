@@ -10,6 +10,7 @@
 #include "app/Operator.h"
 #include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
+#include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::review {
 
@@ -29,6 +30,8 @@ class ReviewLines {
 
     /// Replaces all lines; none is selected.
     virtual void ShowLines(std::span<const ReviewLine> lines) = 0;
+    /// Puts a line before the one at `index`; the selection stays where it is, as it does in what follows.
+    virtual void InsertLine(std::size_t index, const ReviewLine& line) = 0;
     virtual void ChangeLine(std::size_t index, const ReviewLine& line) = 0;
     virtual void RemoveLine(std::size_t index) = 0;
 
@@ -56,6 +59,7 @@ struct ReviewContext {
     profiles::BoxRows& rows;
     ReviewLines& lines;
     ProfileChoice& choice;
+    recognition::PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
 };
 
 }  // namespace tavrene::review

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "app/Files.h"
@@ -23,11 +27,14 @@ class DiskFilesTest : public ::testing::Test {
 };
 
 TEST_F(DiskFilesTest, ListsPlainFilesByLowerCasedName) {
-    for (const char* name : {"b.tvp", "A.TVP", "a.tvp", "C d.Tvp", ".e.tvp", "f.tvp.bak", "ü.tvp"})
+    for (const char* name : {"b.tvp", "A.TVP", "a.tvp", "C d.Tvp", ".e.tvp", "f.tvp.bak", "ü.tvp", "Über.tvp",
+                             "Ärger.tvp", "ähnlich.tvp", "\xFF.tvp"})
         test::WriteText(folder_.File(name), "x");
     files_.CreateFolder(folder_.File("folder.tvp"));
     EXPECT_EQ(files_.List(folder_.Path() + "/", "*.Tvp"),
-              (std::vector<std::string>{"A.TVP", "a.tvp", "b.tvp", "C d.Tvp", "ü.tvp"}));
+              (std::vector<std::string>{"A.TVP", "a.tvp", "b.tvp", "C d.Tvp", "ähnlich.tvp", "Ärger.tvp",
+                                        "ü.tvp", "Über.tvp", "\xFF.tvp"}));
+    EXPECT_EQ(files_.List(folder_.Path() + "/", ".*"), std::vector<std::string>{".e.tvp"});
     EXPECT_THROW(files_.List(folder_.File("none"), "*"), FileError);
 }
 
@@ -57,16 +64,94 @@ TEST_F(DiskFilesTest, MovesOverAnotherFileAndAcrossFileSystems) {
     EXPECT_FALSE(files_.FileExists(folder_.File("a")));
     EXPECT_THROW(files_.Move(folder_.File("a"), folder_.File("b")), FileError);
 
-    const std::string other = "/dev/shm/tavrene-move-test";
-    struct ::stat here {};
-    struct ::stat there {};
-    if (::stat(folder_.Path().c_str(), &here) != 0 || ::stat("/dev/shm", &there) != 0 ||
-        here.st_dev == there.st_dev)
-        GTEST_SKIP() << "there is no second file system to move to";
-    files_.Move(folder_.File("b"), other);
-    EXPECT_EQ(test::ReadText(other), "new");
-    EXPECT_FALSE(files_.FileExists(folder_.File("b")));
-    files_.Delete(other);
+    // Of two links to one file the system would keep both.
+    std::filesystem::create_hard_link(folder_.File("b"), folder_.File("c"));
+    files_.Move(folder_.File("c"), folder_.File("b"));
+    EXPECT_EQ(test::ReadText(folder_.File("b")), "new");
+    EXPECT_FALSE(files_.FileExists(folder_.File("c")));
+    files_.Move(folder_.File("b"), folder_.Path() + "/./b");
+    EXPECT_EQ(test::ReadText(folder_.File("b")), "new");
+
+    files_.CreateFolder(folder_.File("taken"));
+    EXPECT_EQ(test::FaultOf([&] { files_.Move(folder_.File("b"), folder_.File("taken")); }),
+              "Cannot move " + folder_.File("b") + ": " + folder_.File("taken") + " is a folder");
+}
+
+TEST_F(DiskFilesTest, ReadsNoFileThatCannotBeOneOfItsOwn) {
+    test::WriteText(folder_.File("sparse"), "x");
+    std::filesystem::resize_file(folder_.File("sparse"), std::uintmax_t{60} << 30U);
+    EXPECT_EQ(test::FaultOf([&] { files_.Read(folder_.File("sparse")); }),
+              "Cannot read " + folder_.File("sparse") + ": it is larger than one gigabyte");
+}
+
+class MoveAcrossTest : public DiskFilesTest {
+  protected:
+    MoveAcrossTest() {
+        char name[] = "/dev/shm/tavrene-XXXXXX";
+        if (::mkdtemp(name) != nullptr)
+            other_ = name;
+    }
+    ~MoveAcrossTest() override { std::filesystem::remove_all(other_); }
+
+    void SetUp() override {
+        struct ::stat here {};
+        struct ::stat there {};
+        if (::stat(folder_.Path().c_str(), &here) != 0 || ::stat(other_.c_str(), &there) != 0 ||
+            here.st_dev == there.st_dev)
+            GTEST_SKIP() << "there is no second file system to move to";
+    }
+
+    std::string other_;
+};
+
+TEST_F(MoveAcrossTest, TheSourceGoesWhenTheCopyIsComplete) {
+    const std::string content(3'000'000, 'x');
+    test::WriteText(folder_.File("a"), content);
+    test::WriteText(other_ + "/a", "old");
+    files_.Move(folder_.File("a"), other_ + "/a");
+    EXPECT_EQ(test::ReadText(other_ + "/a"), content);
+    EXPECT_EQ(EntriesOnDisk(), 0U);
+    EXPECT_THROW(files_.Move(folder_.File("a"), other_ + "/a"), FileError);
+    EXPECT_EQ(files_.List(other_, "*").size() + files_.List(other_, ".*").size(), 1U);
+}
+
+TEST_F(MoveAcrossTest, AFileThatIsStillGrowingIsNotTaken) {
+    const std::string path = folder_.File("a");
+    test::WriteText(path, std::string(30'000'000, 'x'));
+    const std::string before = files_.Fingerprint(path);
+    const ::pid_t scanner = ::fork();
+    while (scanner == 0) {
+        files_.Append(path, "x");
+        ::usleep(100);
+    }
+    while (files_.Fingerprint(path) == before)
+        ::usleep(100);
+    const std::string fault = test::FaultOf([&] { files_.Move(path, other_ + "/a"); });
+    ::kill(scanner, SIGKILL);
+    ::waitpid(scanner, nullptr, 0);
+    EXPECT_EQ(fault, "Cannot move " + path + ": somebody is still writing to it");
+    EXPECT_TRUE(std::filesystem::is_empty(other_));
+    files_.Move(path, other_ + "/a");
+    EXPECT_TRUE(files_.FileExists(other_ + "/a"));
+}
+
+TEST_F(MoveAcrossTest, WhatCannotBeDeletedIsNotCopied) {
+    test::WriteText(folder_.File("a"), "new");
+    ::chmod(folder_.Path().c_str(), 0555);
+    ::chmod(other_.c_str(), 0777);
+    const ::pid_t nobody = ::fork();
+    if (nobody == 0) {
+        // The superuser may delete everywhere.
+        if (::geteuid() == 0 && ::setuid(65534) != 0)
+            ::_exit(2);
+        const std::string fault = test::FaultOf([&] { files_.Move(folder_.File("a"), other_ + "/a"); });
+        ::_exit(test::Has(fault, "Permission denied") ? 0 : 1);
+    }
+    int status = -1;
+    ::waitpid(nobody, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(std::filesystem::is_empty(other_));
+    ::chmod(folder_.Path().c_str(), 0755);
 }
 
 TEST(NumericTest, RoundsHalvesToTheEvenNeighbour) {

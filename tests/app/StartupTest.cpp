@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "app/Startup.h"
 #include "app/WorkingFolders.h"
@@ -77,6 +79,31 @@ TEST_F(StartupTest, AThresholdOfZeroTurnsTheDisplayOn) {
     store_.values["DisplayDuringProcess"] = "0";
     Start();
     EXPECT_FALSE(settings_.DisplayDuringProcess);
+    store_.values.erase("FillThreshold");
+    store_.isReadOnly = true;
+    Start();
+    EXPECT_EQ(settings_.FillThreshold, 8);
+    EXPECT_TRUE(settings_.DisplayDuringProcess) << "what was applied is in force, stored or not";
+}
+
+TEST_F(StartupTest, RemovesWhatAKilledInstanceWasWriting) {
+    store_.values = {{"WorkDir", work_.Path()}};
+    Start();
+    const ::pid_t dead = ::fork();
+    if (dead == 0)
+        ::_exit(0);
+    ::waitpid(dead, nullptr, 0);
+    const auto temporary = [this](::pid_t writer) {
+        return work_.File("ProcessOut/.tavrene-" + std::to_string(writer) + "-1.tmp");
+    };
+    for (const ::pid_t writer : {dead, ::getpid(), ::getppid()})
+        test::WriteText(temporary(writer), "half");
+    test::WriteText(work_.File("ProcessOut/a.xml"), "whole");
+    Start();
+    EXPECT_FALSE(files_.FileExists(temporary(dead)));
+    EXPECT_FALSE(files_.FileExists(temporary(::getpid()))) << "this process has only begun";
+    EXPECT_TRUE(files_.FileExists(temporary(::getppid())));
+    EXPECT_TRUE(files_.FileExists(work_.File("ProcessOut/a.xml")));
 }
 
 TEST_F(StartupTest, OpensTheWindowWhateverBecomesOfTheFolder) {

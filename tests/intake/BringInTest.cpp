@@ -147,6 +147,7 @@ TEST_F(BringInTest, WhatIsCancelledOrFailsLeavesNothing) {
         EXPECT_EQ(In(folders_.ProcessIn).size(), 2U);
         EXPECT_TRUE(In(folders_.Temp).empty());
     }
+    files_.refuse = nullptr;
     EXPECT_TRUE(Has(BringInFile("none.pdf").reason, "Cannot read"));
 }
 

@@ -1,6 +1,7 @@
 #include "FakeStrip.h"
 #include "imaging/TiffPages.h"
 #include "painter/ImageFiles.h"
+#include "painter/Random.h"
 #include "profiles/ProfileSession.h"
 #include "profiles/XmlFile.h"
 #include "support/FakeFileDialogs.h"
@@ -136,6 +137,26 @@ TEST_F(ProfileSessionTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
         EXPECT_PRED2(Has, person_.notices.at(0).text, "Cannot write " + folders_.Temp);
         EXPECT_TRUE(Pick(1)) << "nor one that is there";
     }
+}
+
+TEST_F(ProfileSessionTest, SizesThatMakeTooMuchWorkOfAPageChangeNothing) {
+    AddProfiles({"Beta"});
+    // Noise makes every run of two pixels a line piece near every other.
+    samples::Canvas noise(900, 900, 200);
+    samples::Random dice(7);
+    for (int place = 0; place < 900 * 900; ++place) {
+        if (dice.Chance(0.4))
+            noise.Set(place % 900, place / 900, samples::kBlack);
+    }
+    const std::string image = folders_.ProfileImages + "noise.tif";
+    samples::SaveImage(samples::ToBilevel(noise), imaging::ImageFormat::Tiff, image);
+    constexpr boxes::BoxSizes sizes{1, 10000, 1, 10000};
+    dialogs_.answers = {folders_.Profiles + "Gamma.Tvp", image};
+    session_.New(sizes, boxes::ReachFor(sizes));
+    EXPECT_PRED2(Has, transcript_.LinesOf("message: ").back(),
+                 "Please set sizes nearer to those of its boxes.");
+    EXPECT_FALSE(files_.FileExists(PathOf("Gamma")));
+    EXPECT_FALSE(Profile().IsOpen);
 }
 
 TEST_F(ProfileSessionTest, RefusesImagesBeforeAnyStep) {

@@ -1,7 +1,5 @@
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include "ReviewWorld.h"
+#include "support/Kill.h"
 
 namespace tavrene {
 namespace {
@@ -26,24 +24,8 @@ class DecisionsTest : public test::ReviewWorld {
 
     std::string Note() const { return folders_.ProcessOut + ".decision.xml"; }
 
-    // Runs a command in a process of its own, which dies before the file operation of that number (reading
-    // changes nothing). False when there is no such operation.
     bool DiesBefore(int operation, const std::function<void()>& command) {
-        constexpr int kDead = 9;
-        const ::pid_t child = ::fork();
-        if (child == 0) {
-            files_.refuse = [&operation](const std::string& kind, const std::string&) {
-                if (kind != "read" && operation-- == 0)
-                    ::_exit(kDead);
-                return false;
-            };
-            gate_.Guard(command);
-            ::_exit(0);
-        }
-        int status = -1;
-        EXPECT_EQ(::waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFEXITED(status));
-        return WEXITSTATUS(status) == kDead;
+        return test::DiesBefore(files_, operation, [&] { gate_.Guard(command); });
     }
 
     void ExpectNothingMoved() {
@@ -120,7 +102,7 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
         int kills = 0;
         for (bool killed = true; killed; kills += killed ? 1 : 0) {
             SCOPED_TRACE(kills);
-            person_.answers = {Answer::Yes};
+            person_.answers = {Answer::Yes, Answer::Yes};  // also to what a killed one has written
             killed = DiesBefore(kills, [this, accept] { accept ? Accept() : Reject(); });
 
             review::ReviewSession next(context_, settings_, folders_, profiles_);

@@ -1,4 +1,7 @@
+#include <filesystem>
+
 #include "recognition/ProcessRun.h"
+#include "recognition/ResultDocument.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 
@@ -63,7 +66,7 @@ TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
               "rows: clear Val | range: 4 | panel File: A form & Co.TIF | progress: 1 | "
               "events | panel File: b.tif | progress: 2 | events | panel File: form.tiff | progress: 3 | "
               "events | panel File: other.tif | progress: 4 | events | panel File: Profiles:1, Active:1 | "
-              "progress: 0 | panel ElapsedTime: 4 Files, 7 Sec.");
+              "progress: 0 | rows: clear | panel ElapsedTime: 4 Files, 7 Sec.");
 }
 
 TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {
@@ -77,6 +80,11 @@ TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {
     EXPECT_EQ(transcript_.LinesOf("view: "),
               (Names{"clear", "zoom 100", "picture 600x500", "refresh", "zoom 100", "clear", "refresh"}));
     EXPECT_EQ(transcript_.LinesOf("report: "), (Names{"[b.tif] Image not in bitmap format"}));
+    EXPECT_EQ(transcript_.LinesOf("rows: ").back(), "clear") << "no form is on the screen";
+    AddScan("c.tif");
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("rows: ").back(), "clear Val") << "the last form stays with its rows";
+    EXPECT_EQ(transcript_.LinesOf("row: ").size(), 4U);
 }
 
 TEST_F(ProcessRunTest, TakesOneFileWhenToldTo) {
@@ -90,6 +98,42 @@ TEST_F(ProcessRunTest, TakesOneFileWhenToldTo) {
               (Names{"Processing started", "Image [1.tif] classified as [Form] with confidence [100.00] ",
                      "1.tif: Processing complete", "Processed 0 Files, 0 Sec."}));
     EXPECT_EQ(transcript_.LinesOf("events").size(), 1U);
+}
+
+TEST_F(ProcessRunTest, ASingleRunPassesOverWhatCannotBeMoved) {
+    settings_.ProcessSingle = true;
+    for (const char* name : {"1.tif", "2.tif", "3.tif"})
+        AddScan(name);
+    files_.CreateFolder(folders_.ProcessOut + "1.tif");
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("report: "), Names{"[1.tif] Cannot move " + folders_.ProcessIn +
+                                                     "1.tif: " + folders_.ProcessOut + "1.tif is a folder"});
+    Process();
+    EXPECT_TRUE(LogHas("1.tif: Passed over, since it could not be moved before"));
+    Process();
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"1.tif"});
+    EXPECT_EQ(In(folders_.ProcessOut), (Names{"2.tif", "2.xml", "3.tif", "3.xml"}));
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("report: ").size(), 1U) << "nothing else is left, and nothing is silent";
+    AddScan("4.tif");
+    std::filesystem::remove(folders_.ProcessOut + "1.tif");
+    Process();
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"4.tif"});
+}
+
+TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
+    const std::string name =
+        "Gr\xF6\xDF"
+        "e \x01\t1.tif";
+    AddScan(name);
+    AddProfile("Form\x02", form_);
+    std::filesystem::remove(folders_.Profiles + "Form.Tvp");
+    Process();
+    const std::string path = recognition::ResultPath(folders_.ProcessOut, name);
+    EXPECT_PRED2(test::Has, ReadText(path),
+                 "Profile=\"Form\xEF\xBF\xBD\" Image=\"Gr\xEF\xBF\xBD\xEF\xBF\xBD"
+                 "e \xEF\xBF\xBD&#09;1.tif\"");
+    EXPECT_EQ(recognition::ResultDocument::Load(files_, path).Image(), name) << "its image is found";
 }
 
 TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {

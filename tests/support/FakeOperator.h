@@ -22,7 +22,8 @@ class FakeOperator final : public app::Operator {
 
     std::deque<app::Answer> answers;
     std::function<void()> onPendingEvents;
-    std::vector<app::Notice> notices;  ///< Those that are shown.
+    std::vector<app::Notice> notices;           ///< Those that are shown.
+    app::Answer lastPreset = app::Answer::Yes;  ///< What Enter would have answered to the last question.
 
     std::string PanelText(app::Panel panel) const {
         const auto found = panels_.find(panel);
@@ -35,8 +36,10 @@ class FakeOperator final : public app::Operator {
     void ReportFile(std::string_view fileName, std::string_view text) override {
         transcript_.Add("report: [" + std::string(fileName) + "] " + std::string(text));
     }
-    app::Answer AskYesNo(std::string_view text) override { return Ask(text); }
-    app::Answer AskYesNoCancel(std::string_view text) override { return Ask(text); }
+    app::Answer AskYesNo(std::string_view text, app::Answer preset) override { return Ask(text, preset); }
+    app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override {
+        return Ask(text, preset);
+    }
     void ShowNotices(std::span<const app::Notice> shown) override {
         notices.assign(shown.begin(), shown.end());
         for (const app::Notice& notice : notices)
@@ -59,7 +62,8 @@ class FakeOperator final : public app::Operator {
     }
 
   private:
-    app::Answer Ask(std::string_view text) {
+    app::Answer Ask(std::string_view text, app::Answer preset) {
+        lastPreset = preset;
         transcript_.Add("ask: " + std::string(text));
         if (answers.empty()) {
             ADD_FAILURE() << "no answer is scripted for: " << text;

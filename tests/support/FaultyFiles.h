@@ -8,10 +8,13 @@
 namespace tavrene::test {
 
 /// The disk, but a test can refuse any call: `refuse` gets the operation ("read", "write", "append", "move",
-/// "delete", "list", "create") and the path (of a move, the source) and answers true to make it fail.
+/// "delete", "list", "create") and the path (of a move, the source) and answers true to make it fail. A move
+/// from where `isElsewhere` says that another file system is copies, and then asks for the "unlink".
 class FaultyFiles final : public app::Files {
   public:
     std::function<bool(const std::string& operation, const std::string& path)> refuse;
+
+    std::function<bool(const std::string& path)> isElsewhere;
 
     bool FileExists(const std::string& path) const override { return disk_.FileExists(path); }
     bool FolderExists(const std::string& path) const override { return disk_.FolderExists(path); }
@@ -43,9 +46,16 @@ class FaultyFiles final : public app::Files {
         Check("append", path);
         disk_.Append(path, text);
     }
-    void Move(const std::string& from, const std::string& to) override {
+    void Move(const std::string& from, const std::string& to, app::Keep keep = app::Keep::Durably) override {
         Check("move", from);
-        disk_.Move(from, to);
+        if (!isElsewhere || !isElsewhere(from)) {
+            disk_.Move(from, to, keep);
+            return;
+        }
+        disk_.Write(to, disk_.Read(from), app::Keep::Durably);
+        if (refuse && refuse("unlink", from))
+            throw app::SourceRemains("Cannot delete " + from + ": refused by the test");
+        disk_.Delete(from);
     }
     void Delete(const std::string& path) override {
         Check("delete", path);

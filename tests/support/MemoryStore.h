@@ -11,6 +11,7 @@ namespace tavrene::test {
 class MemoryStore final : public app::SettingsStore {
   public:
     std::map<std::string, std::string> values;
+    bool isReadOnly = false;
 
     std::string ReadSettingValue(std::string_view application, std::string_view section,
                                  std::string_view name) const override {
@@ -20,8 +21,9 @@ class MemoryStore final : public app::SettingsStore {
     }
     bool WriteSettingValue(std::string_view, std::string_view, std::string_view name,
                            std::string_view text) override {
-        values[std::string(name)] = text;
-        return true;
+        if (!isReadOnly)
+            values[std::string(name)] = text;
+        return !isReadOnly;
     }
 };
 

@@ -219,6 +219,13 @@ TEST_F(BoxEditingTest, AnArrowKeyMovesNoBoxThatIsBeingDragged) {
     EXPECT_EQ(SavedPlace(1), PlaceOf(first_).translated(1, 0));
 }
 
+TEST_F(BoxEditingTest, TheFirstProfileOpensByKeyboard) {
+    AddSpecimenProfile("Form", form_);
+    Open();
+    Press(Strip(), Qt::Key_Down);
+    EXPECT_EQ(Rows().topLevelItemCount(), 6);
+}
+
 TEST_F(BoxEditingTest, EscapeEndsADragAndOnlyThenClosesTheWindow) {
     OpenForm();
     const QPointF middle = MiddleOf(first_);

@@ -159,6 +159,8 @@ TEST_F(SettingsDialogTest, SaveWritesEveryValueAndMakesTheFolders) {
     settings_.ProcessSingle = true;
     Open();
     Enter(ToQt(work_.Path()) + "/nested");
+    const auto& rows = Find<QListWidget>(*dialog_, "Dir1");
+    EXPECT_TRUE(rows.item(rows.count() - 1)->toolTip().endsWith("deep &amp; &lt;wide&gt;</span>"));
     Enter(ToQt(work_.Path()) + "/nested/deep & <wide>");
     Move("HScroll1", 20);
     Move("VScroll1", 28);
@@ -208,6 +210,35 @@ TEST_F(SettingsDialogTest, AFolderThatIsGoneStaysUntilAnotherIsChosen) {
     EXPECT_EQ(Text("lblFolder"), ToQt(work_.Path()));
     Click("cmdOK");
     EXPECT_EQ(settings_.WorkDir, work_.Path());
+}
+
+TEST_F(SettingsDialogTest, TheThresholdThatIsShownIsInForce) {
+    for (const auto& [stored, shown] : {std::pair{"150", 100}, {"-3", 1}, {"12", 12}, {"", 12}}) {
+        store_.values["FillThreshold"] = stored;
+        Open();
+        EXPECT_EQ(Text("lblThreshold"), QString::number(shown));
+        Click("cmdCancel");
+        EXPECT_EQ(settings_.FillThreshold, shown) << stored;
+    }
+}
+
+TEST_F(SettingsDialogTest, ArrowKeysMoveTheThumbTheirWay) {
+    Open();
+    const auto press = [this](const char* bar, int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&Find<QScrollBar>(*dialog_, bar), &event);
+    };
+    for (const char* bar : {"HScroll1", "HScroll2", "HScroll3"}) {
+        const int before = Position(bar);
+        press(bar, Qt::Key_Right);
+        EXPECT_EQ(Position(bar), before + 1) << bar;
+        press(bar, Qt::Key_Left);
+        EXPECT_EQ(Position(bar), before) << bar;
+    }
+    press("VScroll2", Qt::Key_Up);
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,35)") << "up is taller";
+    press("VScroll2", Qt::Key_Down);
+    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
 }
 
 TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStopHasAName) {

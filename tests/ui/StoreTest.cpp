@@ -2,6 +2,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "support/TempFolder.h"
 #include "ui/base/QtText.h"
 #include "ui/settings/QtSettingsStore.h"
@@ -27,10 +29,13 @@ TEST(QtSettingsStoreTest, ReadsWhatAPersonWroteByHand) {
     const test::TempFolder config;
     QtSettingsStore store(ToQt(config.Path()));
     store.WriteSettingValue("App", "Common", "FillThreshold", "8");
-    test::WriteText(config.File("App/settings.ini"), "[Common]\nFillThreshold=12\nWorkDir=/forms, old\n");
-    const QtSettingsStore reader(ToQt(config.Path()));
-    EXPECT_EQ(reader.ReadSettingValue("App", "Common", "FillThreshold"), "12");
-    EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), "/forms, old");
+    for (const std::string folder : {"/forms, old", "/forms,old", "/Zoë,  a ,b"}) {
+        test::WriteText(config.File("App/settings.ini"),
+                        "[Other]\nWorkDir=/x,y\n[Common]\nFillThreshold=12\nWorkDir = " + folder + "\n");
+        const QtSettingsStore reader(ToQt(config.Path()));
+        EXPECT_EQ(reader.ReadSettingValue("App", "Common", "FillThreshold"), "12");
+        EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), folder);
+    }
 }
 
 TEST(QtSettingsStoreTest, TellsWhenItCannotWrite) {
@@ -38,6 +43,24 @@ TEST(QtSettingsStoreTest, TellsWhenItCannotWrite) {
     test::WriteText(config.File("App"), "a file where the folder should be");
     QtSettingsStore store(ToQt(config.Path()));
     EXPECT_FALSE(store.WriteSettingValue("App", "Common", "FillThreshold", "8"));
+    EXPECT_EQ(store.ReadSettingValue("App", "Common", "FillThreshold"), "8") << "it is in force all the same";
+    std::filesystem::remove(config.File("App"));
+    EXPECT_TRUE(store.WriteSettingValue("App", "Common", "FillThreshold", "9"));
+    EXPECT_EQ(store.ReadSettingValue("App", "Common", "FillThreshold"), "9");
+}
+
+TEST(QtSettingsStoreTest, WaitsForNobodysLock) {
+    const test::TempFolder config;
+    QtSettingsStore store(ToQt(config.Path()));
+    EXPECT_TRUE(store.WriteSettingValue("App", "Common", "FillThreshold", "8"));
+    const std::string lock = config.File("App/settings.ini.lock");
+    test::WriteText(lock, "1\nprogram\nanother machine\n");
+    EXPECT_TRUE(store.WriteSettingValue("App", "Common", "FillThreshold", "9"));
+    std::filesystem::create_directory(lock);
+    EXPECT_TRUE(store.WriteSettingValue("App", "Common", "FillThreshold", "10"));
+    std::filesystem::create_directories(lock + "/full");
+    EXPECT_FALSE(store.WriteSettingValue("App", "Common", "FillThreshold", "11"));
+    EXPECT_EQ(store.ReadSettingValue("App", "Common", "FillThreshold"), "11");
 }
 
 TEST(SingleInstanceTest, ASecondOneIsRefusedUntilTheFirstEnds) {
@@ -62,8 +85,22 @@ TEST(SingleInstanceTest, TheLockOfACrashedHolderIsTakenOver) {
     int status = 0;
     ASSERT_EQ(waitpid(holder, &status, 0), holder);
     ASSERT_EQ(status, 0);
-    ASSERT_NE(test::ReadText(folder.File("instance.lock")), "");
     EXPECT_TRUE(SingleInstance(ToQt(folder.Path())).Become());
+}
+
+TEST(SingleInstanceTest, OnlyARunningOneCounts) {
+    const test::TempFolder folder;
+    const std::string lock = folder.File("instance.lock");
+    for (const std::string content : {"", "garbage", "1\nprogram\nanother machine\n", "folder"}) {
+        std::filesystem::remove(lock);
+        if (content == "folder")
+            std::filesystem::create_directory(lock);
+        else
+            test::WriteText(lock, content);
+        SingleInstance first(ToQt(folder.Path()));
+        EXPECT_TRUE(first.Become()) << content;
+        EXPECT_FALSE(SingleInstance(ToQt(folder.Path())).Become()) << content;
+    }
 }
 
 }  // namespace

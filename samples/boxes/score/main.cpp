@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -17,6 +18,7 @@ constexpr const char* kUsage =
     "  tavrene-score-boxes [--sample N] [--pages TEXT]        table by class and thickness\n"
     "  tavrene-score-boxes --ledger [--sample N]              the same as lines for the tests: class, true\n"
     "                                                         boxes, found, false, parted by tabs\n"
+    "  tavrene-score-boxes --markdown [--sample N]            the table of docs/box-finding.md\n"
     "  tavrene-score-boxes --list [TEXT]                      score of every page, with its number\n"
     "  tavrene-score-boxes --picture N FILE.png [--step K]    page N: right boxes green, missed blue,\n"
     "                                                         false red; with --step the segments after\n"
@@ -28,6 +30,7 @@ struct Options {
     std::string Pages;
     bool List = false;
     bool Ledger = false;
+    bool Markdown = false;
     std::optional<std::size_t> Picture;
     std::string PictureFile;
     std::optional<int> Step;
@@ -50,6 +53,8 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
             options.PictureFile = arguments[++index];
         } else if (argument == "--ledger") {
             options.Ledger = true;
+        } else if (argument == "--markdown") {
+            options.Markdown = true;
         } else if (argument == "--list") {
             options.List = true;
             if (left >= 1)
@@ -63,7 +68,7 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
 
 PageScore Score(const BoxPagePlan& plan) {
     const BoxPage page = PaintPage(plan);
-    return ScorePage(page.GroundTruth, AnalysePage(page).Boxes);
+    return ScorePage(page.GroundTruth, FindOnPage(page).Second);
 }
 
 void PrintTally(const std::string& name, const Tally& tally) {
@@ -89,14 +94,34 @@ void ListPages(const std::vector<BoxPagePlan>& plans, const std::string& part) {
 }
 
 void PrintTable(const std::vector<ScoreRow>& rows) {
-    PrintHead();
+    std::printf("%-44s %6s  %-15s %-15s %-22s\n", "", "", "rules", "first look", "with second look");
+    std::printf("%-44s %6s  %7s %6s  %7s %6s  %7s %6s %6s\n", "class, outline", "boxes", "recall", "false",
+                "recall", "false", "recall", "false", "edge");
     for (const ScoreRow& row : rows)
-        PrintTally(row.Name, row.Sum);
+        std::printf("%-44s %6zu  %7.1f %6zu  %7.1f %6zu  %7.1f %6zu %6.1f\n", row.Name.c_str(),
+                    row.First.True, row.Rules.Recall(), row.Rules.False, row.First.Recall(), row.First.False,
+                    row.Second.Recall(), row.Second.False, row.Second.WorstEdge);
 }
 
 void PrintLedger(const std::vector<ScoreRow>& rows) {
     for (const ScoreRow& row : rows)
-        std::printf("%s\t%zu\t%zu\t%zu\n", row.Name.c_str(), row.Sum.True, row.Sum.Right, row.Sum.False);
+        std::printf("%s\t%zu\t%zu\t%zu\t%zu\t%zu\n", row.Name.c_str(), row.First.True, row.First.Right,
+                    row.First.False, row.Second.Right, row.Second.False);
+}
+
+// Recall and false boxes; a page without boxes has no recall.
+std::string Cell(const Tally& tally) {
+    std::array<char, 16> recall{};
+    std::snprintf(recall.data(), recall.size(), "%.1f", tally.Recall());
+    return (tally.True == 0 ? "-" : std::string(recall.data())) + ", " + std::to_string(tally.False);
+}
+
+void PrintMarkdown(const std::vector<ScoreRow>& rows) {
+    std::printf("| class, outline | boxes | rules: recall, false | first look | with the second look |\n");
+    std::printf("|---|---|---|---|---|\n");
+    for (const ScoreRow& row : rows)
+        std::printf("| %s | %zu | %s | %s | %s |\n", row.Name.c_str(), row.First.True,
+                    Cell(row.Rules).c_str(), Cell(row.First).c_str(), Cell(row.Second).c_str());
 }
 
 void Run(const Options& options) {
@@ -107,6 +132,8 @@ void Run(const Options& options) {
                     options.PictureFile);
     } else if (options.List) {
         ListPages(plans, options.Pages);
+    } else if (options.Markdown) {
+        PrintMarkdown(ScoreTable(plans, options.Pages));
     } else if (options.Ledger) {
         PrintLedger(ScoreTable(plans, options.Pages));
     } else {

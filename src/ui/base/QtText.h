@@ -16,4 +16,9 @@ inline std::string FromQt(QStringView text) {
     return text.toUtf8().toStdString();
 }
 
+/// A tool tip that shows `text` as it is: a plain one with a < in it would be taken for rich text.
+inline QString ToolTipOf(const QString& text) {
+    return text.isEmpty() ? QString() : "<span>" + text.toHtmlEscaped() + "</span>";
+}
+
 }  // namespace tavrene::ui

@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
+
 namespace tavrene::commands {
 
 CommandGate::CommandGate(GateContext context) : context_(std::move(context)) {}
@@ -61,7 +63,7 @@ void CommandGate::Guard(const std::function<void()>& event) {
     try {
         event();
     } catch (const std::exception& failure) {
-        context_.person.ShowMessage("", failure.what());
+        context_.person.ShowMessage("", app::ReasonOf(failure));
     }
     if (context_.log.TakeLostLines() > 0)
         context_.person.SetPanel(app::Panel::Message, "The log in the working folder could not be written.");

@@ -38,10 +38,11 @@ const Rule kRules[] = {
     {{C::Okay, C::RejectForm}, "F", Prompts::None, "", "RF"},
     {{C::AcceptForm}, "F", Prompts::Form, "", "RF"},
     {{C::SelectBox, C::AddBox, C::DeleteBox}, "P"},
-    {{C::RenameBox, C::Undo, C::Redo}, "P"},
+    {{C::RenameBox, C::Undo, C::Redo, C::FindMoreBoxes}, "P"},
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
     {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},
+    {{C::PreciseAlignment, C::SecondOpinion, C::ReadAgain}, kIdle},
     {{C::Exit}, kLetters, Prompts::FormThenProfile},
 
     {{C::PickThumbnail}, "SDUP", Prompts::Profile},

@@ -24,7 +24,7 @@ const QColor kDoubt(255, 180, 0, 90);
 
 void ShowName(QTreeWidgetItem& row, const QString& name) {
     row.setText(0, name);
-    row.setToolTip(0, name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>");
+    row.setToolTip(0, ToolTipOf(name));
 }
 
 // Room for the widest ink, as a doubtful row shows it.

@@ -142,6 +142,11 @@ bool BoxLayer::HasBoxUnder(const QPointF& point) const {
                        [&point](const auto& box) { return box.second.place.contains(point); });
 }
 
+bool BoxLayer::IsEditable(int group) const {
+    const auto box = boxes_.find(group);
+    return box != boxes_.end() && box->second.style == imaging::RectStyle::Editable;
+}
+
 QRectF BoxLayer::PlaceOf(int group) const {
     const auto box = boxes_.find(group);
     return box == boxes_.end() ? QRectF() : box->second.place;

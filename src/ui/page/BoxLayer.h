@@ -61,6 +61,9 @@ class BoxLayer final {
     /// Whether a point lies within a box, and not only near it.
     bool HasBoxUnder(const QPointF& point) const;
     int SelectedBox() const { return selected_; }
+
+    /// Whether a box can be moved and resized; any other is told of when it is clicked.
+    bool IsEditable(int group) const;
     int NextGroup() const { return nextGroup_; }
 
     /// Where a box is shown; an empty rectangle for one that is not there.

@@ -32,6 +32,8 @@ Look LookOf(imaging::RectStyle style) {
             return {QColor(213, 94, 0), 2, 0.62};
         case imaging::RectStyle::Skipped:
             return {QColor(110, 110, 110), 2, 0.3};
+        case imaging::RectStyle::Candidate:
+            return {QColor(160, 60, 130), 2, 0.4};
         case imaging::RectStyle::Editable:
             break;
     }

@@ -28,8 +28,11 @@ void SelectTool::Press(const QPointF& point) {
     const int group = edges_ != kNoEdge ? layer_.SelectedBox() : layer_.BoxAt(point);
     if (group == 0)
         return;
+    const bool canMove = layer_.IsEditable(group);
     if (edges_ == kNoEdge)
         layer_.TellSelected(group, layer_.PlaceOf(group));
+    if (!canMove)
+        return;
     dragged_ = group;
     hasMoved_ = false;
     from_ = point;
@@ -69,10 +72,16 @@ bool SelectTool::Cancel() {
     return true;
 }
 
+QCursor SelectTool::CursorOver(int group) const {
+    if (group == 0)
+        return Qt::ArrowCursor;
+    return layer_.IsEditable(group) ? Qt::SizeAllCursor : Qt::PointingHandCursor;
+}
+
 QCursor SelectTool::CursorAt(const QPointF& point) const {
     switch (EdgesUnder(point)) {
         case kNoEdge:
-            return layer_.BoxAt(point) == 0 ? Qt::ArrowCursor : Qt::SizeAllCursor;
+            return CursorOver(layer_.BoxAt(point));
         case kLeftEdge:
         case kRightEdge:
             return Qt::SizeHorCursor;

@@ -22,6 +22,7 @@ class SelectTool final : public PageTool {
   private:
     unsigned EdgesUnder(const QPointF& point) const;
     QRectF Moved(const QPointF& point) const;
+    QCursor CursorOver(int group) const;
 
     BoxLayer& layer_;
     int dragged_ = 0;  ///< The box that is dragged; 0 for none.

@@ -17,8 +17,15 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       gate_(context.gate),
       controls_(controls),
       session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
-                recognition::AdviseOn},
-               state.profiles, {controls.view, controls.rows, controls.pane.Strip()}) {
+                recognition::AdviseOn,
+                [this] {
+                    return app::Notice{more_.Offer(), "Find More Boxes",
+                                       [this] { gate_.Run(Command::FindMoreBoxes); }};
+                }},
+               state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
+      more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
+             controls.candidates},
+            [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
     ConnectCommands();
     ConnectBoxCommands();
     ConnectControls();
@@ -34,6 +41,7 @@ void ProfileDesk::ConnectCommands() {
     connect(Command::New, [this] { session_.New(boxes::SizesOf(state_.settings), state_.reach); });
     connect(Command::Save, [this] { session_.Save(); });
     connect(Command::DeleteProfile, [this] { session_.Delete(); });
+    connect(Command::FindMoreBoxes, [this] { more_.Find(); });
 }
 
 void ProfileDesk::ConnectBoxCommands() {
@@ -59,7 +67,10 @@ void ProfileDesk::ConnectControls() {
          }});
     controls_.view.Boxes().SetListener(
         {[this](const imaging::RectReport& report) {
-             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectSelected(report); });
+             gate_.Take(Command::EditBoxes, [&] {
+                 if (!more_.Clicked(report.group))
+                     session_.Editor().RectSelected(report);
+             });
          },
          [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
     for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
@@ -88,6 +99,7 @@ void ProfileDesk::Pick(int thumbnail) {
     const std::string path = session_.PathOf(thumbnail);
     gate_.Take(Command::PickThumbnail, [&] {
         const BusyCursor busy;
+        more_.Close();
         session_.Open(path);
     });
 }
@@ -103,6 +115,7 @@ void ProfileDesk::FinishEdits() {
 }
 
 void ProfileDesk::Update() {
+    more_.Update();
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());

@@ -9,6 +9,7 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
+#include "ui/profiling/MoreBoxes.h"
 #include "ui/profiling/ProfilePane.h"
 
 namespace tavrene::ui {
@@ -28,6 +29,7 @@ struct DeskControls {
     ImageView& view;
     BoxListView& rows;
     ProfilePane& pane;
+    CandidatePane& candidates;
 };
 
 /// The window's profile desk: owns the session and connects it to the controls.
@@ -43,6 +45,9 @@ class ProfileDesk {
 
     /// Takes the profile off the desk without saving it.
     void Close();
+
+    /// Takes what may be more boxes off the screen; false when nothing of it was shown.
+    bool CloseCandidates() { return more_.Close(); }
 
     /// Brings what is being typed or dragged to an end, before a command.
     void FinishEdits();
@@ -67,6 +72,7 @@ class ProfileDesk {
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::ProfileSession session_;
+    MoreBoxes more_;
 };
 
 }  // namespace tavrene::ui

@@ -148,10 +148,7 @@ bool ThumbnailStripView::viewportEvent(QEvent* event) {
     const QModelIndex index = indexAt(help.pos());
     const QString name =
         index.isValid() && listener_.toolTip ? ToQt(listener_.toolTip(index.row() + 1)) : QString();
-    // As rich text, or a name with a < in it would be taken for a tag.
-    QToolTip::showText(help.globalPos(),
-                       name.isEmpty() ? QString() : "<span>" + name.toHtmlEscaped() + "</span>", viewport(),
-                       visualRect(index));
+    QToolTip::showText(help.globalPos(), ToolTipOf(name), viewport(), visualRect(index));
     return true;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QStackedWidget>
+#include <QTimer>
 #include <functional>
 
 #include "review/ReviewSession.h"
@@ -20,6 +22,7 @@ struct ReviewModeContext {
     app::Operator& person;
     app::ActivityLog& log;
     commands::CommandGate& gate;
+    recognition::PreciseReader& precise;
 };
 
 /// The controls that show the form under review.
@@ -47,6 +50,9 @@ class ReviewMode final : public QObject {
     void RunBegins() { session_.RunBegins(); }
     void RunEnded();
 
+    /// Fills the list anew in review: results have been added.
+    void Refill();
+
     const review::ReviewSession& Session() const { return session_; }
 
     /// Makes the controls show what can be done now.
@@ -65,12 +71,17 @@ class ReviewMode final : public QObject {
     void TakeFirstLine();
     void NextDoubtful();
     void RectClicked(int group);
+    void RowBecameCurrent(QTreeWidgetItem* row);
+    void WatchFolder();
 
+    const commands::AppState& state_;
     commands::CommandGate& gate_;
     std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
     review::ReviewSession session_;
+    QFileSystemWatcher watcher_;
+    QTimer folderChanged_;  ///< Waits until a burst of changes is over.
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
 

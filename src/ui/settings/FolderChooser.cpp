@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -129,7 +131,7 @@ void FolderChooser::AddRow(const QString& text, const QString& path, int depth) 
         new QListWidgetItem(QString(static_cast<qsizetype>(depth) * kIndent, ' ') + text, folders_);
     row->setIcon(style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirIcon));
     row->setData(Qt::UserRole, path);
-    row->setToolTip(QDir::toNativeSeparators(path).toHtmlEscaped());
+    row->setToolTip(ToolTipOf(QDir::toNativeSeparators(path)));
 }
 
 }  // namespace tavrene::ui

@@ -1,6 +1,10 @@
 #include "ui/settings/QtSettingsStore.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
+#include <QStringList>
 #include <utility>
 
 #include "ui/base/QtText.h"
@@ -10,6 +14,31 @@ namespace {
 
 QString KeyOf(std::string_view section, std::string_view name) {
     return ToQt(section) + '/' + ToQt(name);
+}
+
+// The text of a value as it stands in the file: the library takes one with a comma, written by hand without
+// quotes, for a list, and the blanks around the comma are lost.
+QString TextByHand(const QString& path, std::string_view section, std::string_view name) {
+    QFile file(path);
+    const QString heading = '[' + ToQt(section) + ']';
+    bool isInside = false;
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+        const qsizetype equals = line.indexOf('=');
+        if (line.startsWith('['))
+            isInside = line.trimmed() == heading;
+        else if (isInside && equals >= 0 && line.left(equals).trimmed() == ToQt(name))
+            return line.mid(equals + 1).trimmed();
+    }
+    return {};
+}
+
+// A lock beside the file is a leftover: one instance of the program runs, and it is writing only now. The
+// library would wait for its holder, even for one that died on another machine, for ever.
+bool RemoveLeftoverLock(const QString& path) {
+    const QString lock = path + ".lock";
+    return !QFileInfo::exists(lock) || QFile::remove(lock) || QDir().rmdir(lock);
 }
 
 }  // namespace
@@ -22,17 +51,30 @@ QString QtSettingsStore::FileOf(std::string_view application) const {
 
 std::string QtSettingsStore::ReadSettingValue(std::string_view application, std::string_view section,
                                               std::string_view name) const {
-    const QSettings file(FileOf(application), QSettings::IniFormat);
-    // An unquoted comma in a file edited by hand makes a list of the text.
-    return FromQt(file.value(KeyOf(section, name)).toStringList().join(", "));
+    const QString path = FileOf(application);
+    const auto unwritten = unwritten_.find(path + KeyOf(section, name));
+    if (unwritten != unwritten_.end())
+        return FromQt(unwritten->second);
+    const QVariant value = QSettings(path, QSettings::IniFormat).value(KeyOf(section, name));
+    const bool isList = value.typeId() == QMetaType::QStringList;
+    return FromQt(isList ? TextByHand(path, section, name) : value.toString());
 }
 
 bool QtSettingsStore::WriteSettingValue(std::string_view application, std::string_view section,
                                         std::string_view name, std::string_view text) {
-    QSettings file(FileOf(application), QSettings::IniFormat);
-    file.setValue(KeyOf(section, name), ToQt(text));
-    file.sync();
-    return file.status() == QSettings::NoError;
+    const QString path = FileOf(application);
+    const QString key = KeyOf(section, name);
+    if (RemoveLeftoverLock(path)) {
+        QSettings file(path, QSettings::IniFormat);
+        file.setValue(key, ToQt(text));
+        file.sync();
+        if (file.status() == QSettings::NoError) {
+            unwritten_.erase(path + key);
+            return true;
+        }
+    }
+    unwritten_[path + key] = ToQt(text);
+    return false;
 }
 
 }  // namespace tavrene::ui

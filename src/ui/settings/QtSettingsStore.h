@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <map>
 
 #include "app/SettingsStore.h"
 
 namespace tavrene::ui {
 
 /// The settings of an application in the file `settings.ini` of the folder named after it, under a
-/// configuration folder.
+/// configuration folder. What cannot be written there is in force all the same, until the program ends.
 class QtSettingsStore final : public app::SettingsStore {
   public:
     /// `configFolder` is the person's configuration folder, without a trailing separator.
@@ -22,6 +23,7 @@ class QtSettingsStore final : public app::SettingsStore {
     QString FileOf(std::string_view application) const;
 
     QString configFolder_;
+    std::map<QString, QString> unwritten_;  // by file and key
 };
 
 }  // namespace tavrene::ui

@@ -39,8 +39,11 @@ void SettingsDialog::LoadSizes() {
 }
 
 void SettingsDialog::LoadProcessing() {
-    settings_.FillThreshold = app::ReadCommonNumber(store_, "FillThreshold");
-    threshold_->setValue(settings_.FillThreshold);
+    // A threshold of 0 would check every box. It was none when the program started, so somebody has taken it
+    // out of the store since.
+    const std::int16_t stored = app::ReadCommonNumber(store_, "FillThreshold");
+    threshold_->setValue(stored != 0 ? stored : settings_.FillThreshold);
+    settings_.FillThreshold = static_cast<std::int16_t>(threshold_->value());
     thresholdLabel_->setNum(threshold_->value());
     display_->setChecked(settings_.DisplayDuringProcess);
     single_->setChecked(settings_.ProcessSingle);

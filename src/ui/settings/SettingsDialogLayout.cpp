@@ -31,6 +31,9 @@ QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, const char* a
     bar->setRange(lowest, highest);
     bar->setSingleStep(1);
     bar->setPageStep(1);
+    // The library turns the keys of every scroll bar round, which fits an upright one whose top is its start;
+    // on a lying one the right arrow key would go left.
+    bar->setInvertedControls(orientation == Qt::Vertical);
     bar->setFocusPolicy(Qt::StrongFocus);
     return bar;
 }

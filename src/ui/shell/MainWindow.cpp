@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "imaging/Bitmap.h"
+#include "recognition/precise/ReadAgain.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/Places.h"
@@ -25,6 +26,8 @@ using commands::Command;
 // What the window remembers about itself lies beside the settings, in a group of its own.
 constexpr std::string_view kWindowSection = "Window";
 constexpr std::string_view kLabelsShown = "ToolbarLabels";
+constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
+constexpr std::string_view kSecondOpinion = "SecondOpinion";
 
 QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
     return QByteArray::fromBase64(
@@ -52,30 +55,35 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     : context_(context),
       state_(commands::InitialState(settings)),
       panels_(new StatusPanels(this)),
+      opinions_(new OpinionBar(this)),
       splitter_(new QSplitter(this)),
       strip_(new MessageStrip(this)),
       view_(new ImageView(context.files, this)),
       boxes_(new BoxListView(this)),
+      candidates_(new CandidatePane(this)),
       side_(new QStackedWidget(this)),
       profiles_(new ProfilePane(this)),
       forms_(new ReviewPane(this)),
       operator_(*this, *panels_, *strip_),
       dialogs_(*this),
       log_(context.files, context.clock, operator_, state_.folders.Log),
-      run_({context.files, log_, operator_, context.clock, *view_, *boxes_}, state_.settings, state_.folders),
+      precise_(context.files, state_.reading),
+      run_({context.files, log_, operator_, context.clock, *view_, *boxes_, &precise_}, state_.settings,
+           state_.folders),
       gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
              [this] { return review_.MayLeave(); }}),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
-            {*view_, *boxes_, *profiles_}),
-      review_(state_, {context.files, operator_, log_, gate_}, {*view_, *boxes_, *side_, *forms_},
+            {*view_, *boxes_, *profiles_, *candidates_}),
+      review_(state_, {context.files, operator_, log_, gate_, precise_}, {*view_, *boxes_, *side_, *forms_},
               [this] { desk_.Close(); }),
-      runs_(state_, run_, {[this] { RunBegins(); }, [this] { review_.RunEnded(); }, [this] { close(); }}),
+      runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
     setWindowTitle(ToQt(app::kApplicationName));
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
+    ConnectReading();
     RestoreShape();
     UpdateCommands();
 }
@@ -89,16 +97,28 @@ void MainWindow::BuildLayout() {
     side_->addWidget(profiles_);
     side_->addWidget(forms_);
     side_->setMinimumWidth(150);
-    boxes_->setMinimumWidth(180);
+    auto* const lists = new QSplitter(Qt::Vertical, splitter_);
+    lists->setObjectName("Splitter2");
+    lists->setChildrenCollapsible(false);
+    lists->setMinimumWidth(180);
+    lists->addWidget(boxes_);
+    lists->addWidget(candidates_);
     view_->setMinimumWidth(300);
     splitter_->addWidget(side_);
     splitter_->addWidget(WithStripAbove(*strip_, *view_));
-    splitter_->addWidget(boxes_);
+    splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
-    setCentralWidget(splitter_);
+    auto* const middle = new QWidget(this);
+    auto* const column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(opinions_);
+    column->addWidget(splitter_, 1);
+    setCentralWidget(middle);
     const std::initializer_list<QWidget*> order = {
-        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_, view_, boxes_};
+        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_, view_, boxes_,
+        &candidates_->List()};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
@@ -157,6 +177,45 @@ void MainWindow::RunBegins() {
     UpdateCommands();
 }
 
+void MainWindow::RunEnded() {
+    ShowOpinions();
+    review_.RunEnded();
+}
+
+void MainWindow::ConnectReading() {
+    gate_.SetHandler(Command::PreciseAlignment,
+                     [this] { SwitchReading(state_.reading.preciseAlignment, kPreciseAlignment); });
+    gate_.SetHandler(Command::SecondOpinion,
+                     [this] { SwitchReading(state_.reading.secondOpinion, kSecondOpinion); });
+    gate_.SetHandler(
+        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
+    opinions_->SetListener([this] { RunCommand(Command::ReadAgain); });
+    const auto stored = [this](std::string_view name) {
+        return context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, name);
+    };
+    state_.reading = {stored(kPreciseAlignment) == "1", stored(kSecondOpinion) != "0"};
+}
+
+void MainWindow::SwitchReading(bool& option, std::string_view name) {
+    option = !option;
+    context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
+}
+
+void MainWindow::ShowOpinions() {
+    unread_ = run_.Opinions().unread;
+    opinions_->Show(recognition::TextOf(run_.Opinions()), !unread_.empty());
+}
+
+void MainWindow::ReadAgain() {
+    const auto count = recognition::ReadFormsAgain(std::exchange(unread_, {}), state_.folders.ProcessOut,
+                                                   context_.files, log_, operator_, precise_, state_.profiles,
+                                                   state_.settings.FillThreshold);
+    opinions_->Show(std::to_string(count) + (count == 1 ? " form was" : " forms were") +
+                        " read by Precise Alignment and can be reviewed.",
+                    false);
+    review_.Refill();
+}
+
 void MainWindow::RunCommand(Command command) {
     if (command == Command::Exit) {
         close();
@@ -177,10 +236,17 @@ void MainWindow::UpdateCommands() {
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
+    toolbars_.SetPressed(Command::PreciseAlignment, state_.reading.preciseAlignment);
+    toolbars_.SetPressed(Command::SecondOpinion, state_.reading.secondOpinion);
 }
 
 void MainWindow::Load() {
-    commands::LoadWindow(state_, {log_, operator_, &imaging::ImageLibraryVersion, [this] { desk_.Load(); }},
+    commands::LoadWindow(state_,
+                         {log_, operator_, &imaging::ImageLibraryVersion,
+                          [this] {
+                              run_.Settle();
+                              desk_.Load();
+                          }},
                          gate_);
     gate_.Guard([this] { review_.Load(); });
 }
@@ -208,10 +274,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else
+    if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
+    else if (!desk_.CloseCandidates())
+        close();
 }
 
 void MainWindow::RestoreShape() {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QMainWindow>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "app/ActivityLog.h"
 #include "app/Clock.h"
 #include "app/Files.h"
 #include "app/SettingsStore.h"
 #include "recognition/ProcessRun.h"
+#include "recognition/precise/PreciseReader.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/RunSession.h"
@@ -16,6 +20,7 @@
 #include "ui/profiling/ProfilePane.h"
 #include "ui/reviewing/ReviewMode.h"
 #include "ui/reviewing/ReviewPane.h"
+#include "ui/shell/OpinionBar.h"
 #include "ui/shell/QtFileDialogs.h"
 #include "ui/shell/QtOperator.h"
 #include "ui/shell/StatusPanels.h"
@@ -52,8 +57,13 @@ class MainWindow final : public QMainWindow {
     void ConnectCommands();
     commands::Mode CurrentMode() const;
     void RunBegins();
+    void RunEnded();
     void RunCommand(commands::Command command);
     void UpdateCommands();
+    void ConnectReading();
+    void SwitchReading(bool& option, std::string_view name);
+    void ShowOpinions();
+    void ReadAgain();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
     void RestoreShape();
@@ -62,22 +72,26 @@ class MainWindow final : public QMainWindow {
     WindowContext context_;
     commands::AppState state_;
     StatusPanels* panels_;
+    OpinionBar* opinions_;
     QSplitter* splitter_;
     MessageStrip* strip_;
     ImageView* view_;
     BoxListView* boxes_;
+    CandidatePane* candidates_;
     QStackedWidget* side_;
     ProfilePane* profiles_;
     ReviewPane* forms_;
     QtOperator operator_;
     QtFileDialogs dialogs_;
     app::ActivityLog log_;
+    recognition::PreciseReader precise_;
     recognition::ProcessRun run_;
     commands::CommandGate gate_;
     ProfileDesk desk_;
     ReviewMode review_;
     commands::RunSession runs_;
     Toolbars toolbars_;
+    std::vector<std::string> unread_;  ///< Forms of the last run that only precise alignment recognises.
 };
 
 }  // namespace tavrene::ui

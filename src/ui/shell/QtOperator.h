@@ -18,8 +18,8 @@ class QtOperator final : public app::Operator {
 
     void ShowMessage(std::string_view title, std::string_view text) override;
     void ReportFile(std::string_view fileName, std::string_view text) override;
-    app::Answer AskYesNo(std::string_view text) override;
-    app::Answer AskYesNoCancel(std::string_view text) override;
+    app::Answer AskYesNo(std::string_view text, app::Answer preset) override;
+    app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override;
     void ShowNotices(std::span<const app::Notice> notices) override { strip_.Show(notices); }
     void SetPanel(app::Panel panel, std::string_view text) override;
     void SetProgressRange(int last) override;
@@ -27,7 +27,7 @@ class QtOperator final : public app::Operator {
     void RunPendingEvents() override;
 
   private:
-    app::Answer Ask(std::string_view text, QMessageBox::StandardButtons buttons);
+    app::Answer Ask(std::string_view text, QMessageBox::StandardButtons buttons, app::Answer preset);
 
     QWidget& window_;
     StatusPanels& panels_;

@@ -5,6 +5,8 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -27,8 +29,7 @@ PanelLabel::PanelLabel(const QString& name) {
 
 void PanelLabel::ShowText(const QString& text) {
     setText(text);
-    // As rich text, or a name with a < in it would be taken for a tag.
-    setToolTip(text.isEmpty() ? QString() : "<span>" + text.toHtmlEscaped() + "</span>");
+    setToolTip(ToolTipOf(text));
     repaint();
 }
 

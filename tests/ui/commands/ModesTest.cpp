@@ -28,13 +28,27 @@ Commands All() {
     return all;
 }
 
-const Commands kAnywhere = {
-    C::ZoomToOrig, C::ZoomIn, C::ZoomOut,  C::FitPage, C::FitWidth,      C::Process,           C::Stop,
-    C::Review,     C::Exit,   C::Settings, C::About,   C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog};
+const Commands kAnywhere = {C::ZoomToOrig,
+                            C::ZoomIn,
+                            C::ZoomOut,
+                            C::FitPage,
+                            C::FitWidth,
+                            C::Process,
+                            C::Stop,
+                            C::Review,
+                            C::Exit,
+                            C::Settings,
+                            C::About,
+                            C::ToolbarLabels,
+                            C::OpenWorkingFolder,
+                            C::OpenLog,
+                            C::PreciseAlignment,
+                            C::SecondOpinion,
+                            C::ReadAgain};
 const Commands kProfiling = kAnywhere + Commands{C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
-const Commands kBoxes = {C::SelectBox, C::AddBox, C::DeleteBox, C::RenameBox,
-                         C::Undo,      C::Redo,   C::EditBoxes, C::SetActive};
+const Commands kBoxes = {C::SelectBox, C::AddBox,        C::DeleteBox, C::RenameBox, C::Undo,
+                         C::Redo,      C::FindMoreBoxes, C::EditBoxes, C::SetActive};
 const Commands kReview = kAnywhere + Commands{C::OpenForm, C::NextForm, C::PreviousForm, C::PickForm};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
 const Commands kForm = {C::FlipBox, C::NextDoubtful, C::PickProfile, C::PickMark};

@@ -1,0 +1,148 @@
+#include "recognition/FormDelivery.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace tavrene::recognition {
+namespace {
+
+// ".delivery-new-<number>-<fingerprint>.xml"; the dot keeps it out of every listing.
+constexpr std::string_view kPrefix = ".delivery-";
+constexpr std::string_view kNew = "new-";
+constexpr std::string_view kOld = "old-";
+constexpr std::string_view kSuffix = ".xml";
+
+std::string WhatWasSettled(bool hasArrived, bool isNew) {
+    if (hasArrived)
+        return isNew ? "Result put in its place" : "Result of the image before removed";
+    return isNew ? "Not moved, to be read again" : "Result put back";
+}
+
+}  // namespace
+
+FormDelivery::FormDelivery(app::Files& files, const app::WorkingFolders& folders)
+    : files_(files), folders_(folders) {}
+
+FormDelivery::Waiting FormDelivery::WaitingFor(bool isNew, const std::string& image) const {
+    Waiting document{isNew,
+                     {},
+                     ResultPath(folders_.ProcessOut, image),
+                     image,
+                     files_.Fingerprint(folders_.ProcessOut + image)};
+    // One that could not be settled yet keeps its name.
+    for (int number = 1; document.hidden.empty() || files_.FileExists(document.hidden); ++number) {
+        document.hidden = folders_.ProcessOut;
+        document.hidden.append(kPrefix).append(isNew ? kNew : kOld);
+        document.hidden.append(std::to_string(number)).append("-").append(document.before).append(kSuffix);
+    }
+    return document;
+}
+
+void FormDelivery::StageResult(const ResultHeader& header, std::span<const MarkReading> readings) {
+    Waiting document = WaitingFor(true, header.Image);
+    if (files_.FolderExists(document.place))
+        throw app::FileError("Cannot write " + document.place + ": a folder has that name");
+    try {
+        SaveResultDocument(files_, document.hidden, header, readings, app::Keep::WithNext);
+    } catch (const app::FileError& error) {
+        // The operator knows the document by the name that it was to have.
+        throw app::FileError(app::ReplaceFirst(error.what(), document.hidden, document.place));
+    }
+    waiting_ = std::move(document);
+}
+
+std::vector<ResultMark> FormDelivery::StagedMarks() const {
+    return waiting_ ? ReadResultMarks(files_, waiting_->hidden) : std::vector<ResultMark>();
+}
+
+// An image without a result must not lie beside the marks of the image that it replaces.
+bool FormDelivery::SetOutdatedAside(const std::string& image) {
+    Waiting document = WaitingFor(false, image);
+    if (!files_.FileExists(document.place) || ImageOfResult(files_, document.place) != image)
+        return false;
+    files_.Move(document.place, document.hidden, app::Keep::WithNext);
+    waiting_ = std::move(document);
+    return true;
+}
+
+FormDelivery::Earlier FormDelivery::Deliver(const std::string& image) {
+    Earlier earlier = Earlier::None;
+    if (waiting_)
+        earlier = files_.FileExists(waiting_->place) ? Earlier::Replaced : Earlier::None;
+    else if (SetOutdatedAside(image))
+        earlier = Earlier::Removed;
+    const std::optional<Waiting> document = std::exchange(waiting_, std::nullopt);
+    const app::Keep keep = document && document->isNew ? app::Keep::WithNext : app::Keep::Durably;
+    try {
+        files_.Move(folders_.ProcessIn + image, folders_.ProcessOut + image, keep);
+    } catch (const app::SourceRemains&) {
+        if (document)
+            Arrive(*document);
+        throw;
+    } catch (const app::FileError&) {
+        if (document)
+            TakeBackIfPossible(*document);
+        throw;
+    }
+    if (document)
+        Arrive(*document);
+    return earlier;
+}
+
+void FormDelivery::Arrive(const Waiting& document) {
+    if (document.isNew)
+        files_.Move(document.hidden, document.place, app::Keep::Durably);
+    else
+        files_.Delete(document.hidden);
+}
+
+void FormDelivery::TakeBack(const Waiting& document) {
+    if (document.isNew || files_.FileExists(document.place))
+        files_.Delete(document.hidden);
+    else
+        files_.Move(document.hidden, document.place, app::Keep::Durably);
+}
+
+// Why the image did not move is what has to be told; the document waits for the next run.
+void FormDelivery::TakeBackIfPossible(const Waiting& document) {
+    try {
+        TakeBack(document);
+    } catch (const app::FileError&) {
+        return;
+    }
+}
+
+FormDelivery::Waiting FormDelivery::ReadWaiting(const std::string& name) const {
+    Waiting document;
+    document.hidden = folders_.ProcessOut + name;
+    std::string_view rest = std::string_view(name).substr(kPrefix.size());
+    document.isNew = rest.starts_with(kNew);
+    const std::size_t number = std::min(rest.find('-') + 1, rest.size());
+    const std::size_t fingerprint = std::min(rest.find('-', number), rest.size() - kSuffix.size() - 1) + 1;
+    document.before = rest.substr(fingerprint, rest.size() - kSuffix.size() - fingerprint);
+    document.image = ImageOfResult(files_, document.hidden);
+    document.place = ResultPath(folders_.ProcessOut, document.image);
+    return document;
+}
+
+std::vector<std::string> FormDelivery::Settle() {
+    std::vector<std::string> settled;
+    if (!files_.FolderExists(folders_.ProcessOut))
+        return settled;
+    std::string pattern(kPrefix);
+    pattern.append("*").append(kSuffix);
+    for (const std::string& name : files_.List(folders_.ProcessOut, pattern)) {
+        const Waiting document = ReadWaiting(name);
+        if (document.image.empty())
+            continue;
+        const std::string now = files_.Fingerprint(folders_.ProcessOut + document.image);
+        const bool hasArrived = !now.empty() && now != document.before;
+        hasArrived ? Arrive(document) : TakeBack(document);
+        settled.push_back(document.image + ": " + WhatWasSettled(hasArrived, document.isNew) +
+                          ", which was cut short before");
+    }
+    return settled;
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace tavrene::recognition {
+
+/// How forms are read.
+struct ReadingOptions {
+    bool preciseAlignment = false;  ///< By precise alignment instead of the described rules.
+    bool secondOpinion = false;     ///< Without it: precise alignment looks, and says where it differs.
+};
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,63 @@
+#include "recognition/precise/PreciseReader.h"
+
+#include <algorithm>
+
+#include "recognition/precise/ShiftFit.h"
+
+namespace tavrene::recognition {
+
+PreciseReading PreciseReader::Read(const imaging::Page& page,
+                                   std::span<const profiles::ProfileRecord> profiles,
+                                   std::int16_t fillThreshold) {
+    return ReadPrecisely(
+        page, profiles, [&](std::size_t index) { return prints_.Of(profiles[index]); }, fillThreshold);
+}
+
+PreciseReading PreciseReader::ReadAs(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                                     std::int16_t fillThreshold) {
+    profiles::ProfileRecord active = profile;
+    active.Active = true;
+    return Read(page, {&active, 1}, fillThreshold);
+}
+
+std::vector<MarkReading> PreciseReader::ReadAt(const imaging::Page& page,
+                                               const profiles::ProfileRecord& profile,
+                                               std::span<const std::optional<BoxShift>> known,
+                                               std::int16_t fillThreshold) {
+    if (std::ranges::none_of(known, [](const auto& shift) { return shift.has_value(); }))
+        return {};
+    return ReadMarksPrecisely(page, profile, CompleteShifts(page, profile, known), prints_.Of(profile),
+                              fillThreshold);
+}
+
+void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinion) {
+    if (opinion.onlyPrecise)
+        unread.push_back(imageName);
+    if (opinion.otherProfile)
+        ++otherProfiles;
+    if (!opinion.boxes.empty())
+        ++forms;
+    boxes += static_cast<int>(opinion.boxes.size());
+}
+
+std::string TextOf(const OpinionTally& tally) {
+    const auto count = [](int number, const std::string& one, const std::string& many) {
+        return std::to_string(number) + " " + (number == 1 ? one : many);
+    };
+    std::string text;
+    const auto add = [&text](const std::string& sentence) { text += (text.empty() ? "" : "\n") + sentence; };
+    if (const int unread = static_cast<int>(tally.unread.size()); unread > 0)
+        add(count(unread, "form looks", "forms look") + " turned or stretched: Precise Alignment reads " +
+            (unread == 1 ? "it." : "them."));
+    if (tally.boxes > 0)
+        add(count(tally.boxes, "box", "boxes") + " in " + count(tally.forms, "form", "forms") +
+            " read otherwise by Precise Alignment; review shows them as doubtful.");
+    if (tally.otherProfiles > 0)
+        add(count(tally.otherProfiles, "form", "forms") +
+            " may belong to another profile than the one found, or to none.");
+    for (const std::string& profile : tally.replaced)
+        add("The boxes of profile " + profile + " do not lie on its specimen image: it was replaced.");
+    return text;
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "recognition/ReadingOptions.h"
+#include "recognition/precise/PreciseReading.h"
+#include "recognition/precise/SecondOpinion.h"
+#include "recognition/precise/SpecimenPrints.h"
+
+namespace tavrene::recognition {
+
+/// Precise alignment as runs and review use it: with the specimens of the loaded profiles, and as far as the
+/// person wants it.
+class PreciseReader {
+  public:
+    /// Both must outlive this; the options are asked anew for every page.
+    PreciseReader(const app::Files& files, const ReadingOptions& options)
+        : options_(options), prints_(files) {}
+
+    bool Reads() const { return options_.preciseAlignment; }
+    bool GivesSecondOpinion() const { return !options_.preciseAlignment && options_.secondOpinion; }
+
+    PreciseReading Read(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
+                        std::int16_t fillThreshold);
+
+    /// The form of one profile, active or not.
+    PreciseReading ReadAs(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                          std::int16_t fillThreshold);
+
+    /// The boxes of a profile at known shifts, one entry a box; the others take their place from these.
+    /// Nothing when none is known.
+    std::vector<MarkReading> ReadAt(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                                    std::span<const std::optional<BoxShift>> known,
+                                    std::int16_t fillThreshold);
+
+    /// Profiles whose specimen was found to be another picture than the one they were made from.
+    std::vector<std::string> TakeReplaced() { return prints_.TakeReplaced(); }
+
+  private:
+    const ReadingOptions& options_;
+    SpecimenPrints prints_;
+};
+
+/// What the second opinion has come to in a run.
+struct OpinionTally {
+    int boxes = 0;          ///< Boxes whose state differs,
+    int forms = 0;          ///< in so many forms.
+    int otherProfiles = 0;  ///< Forms that look like another one than they were taken for, or like none.
+    std::vector<std::string> unread;    ///< Image names of the forms that only precise alignment recognises.
+    std::vector<std::string> replaced;  ///< Profiles whose specimen was replaced.
+
+    void Add(const std::string& imageName, const SecondOpinion& opinion);
+};
+
+/// The tally in sentences; empty when there is nothing to tell.
+std::string TextOf(const OpinionTally& tally);
+
+}  // namespace tavrene::recognition

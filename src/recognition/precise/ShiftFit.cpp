@@ -1,0 +1,70 @@
+#include "recognition/precise/ShiftFit.h"
+
+#include <cmath>
+
+#include "app/Numeric.h"
+#include "recognition/precise/FormMatch.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using precise::CellPoint;
+using precise::PageMap;
+using precise::Sighting;
+using profiles::PrintedBox;
+
+// How farther than usual a form may lie before its being upside down is the better explanation: pixels.
+constexpr double kShiftReach = 100;
+
+CellPoint PlaceOn(const imaging::Page& page, const FormScale& scale, const PrintedBox& box, bool turned) {
+    return precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
+}
+
+struct Fit {
+    PageMap map;
+    bool turned = false;
+    double cost = 0;
+};
+
+Fit FitOneWay(const imaging::Page& page, const profiles::ProfileRecord& profile, const FormScale& scale,
+              std::span<const std::optional<BoxShift>> known, bool turned) {
+    std::vector<Sighting> sightings;
+    for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
+        if (!known[k])
+            continue;
+        const CellPoint upright = PlaceOn(page, scale, profile.Boxes[k], false);
+        sightings.push_back({PlaceOn(page, scale, profile.Boxes[k], turned),
+                             {upright.x + known[k]->dx, upright.y + known[k]->dy},
+                             1});
+    }
+    Fit fit{FitMap({page.grid.Width() / 2.0, page.grid.Rows() / 2.0}, sightings, kShiftReach), turned, 0};
+    for (const Sighting& sighting : sightings) {
+        const CellPoint mapped = fit.map(sighting.place);
+        fit.cost += std::hypot(mapped.x - sighting.seen.x, mapped.y - sighting.seen.y);
+    }
+    // With one or two boxes both ways fit: then the one that asks less of the page.
+    fit.cost += std::hypot(fit.map.shiftX, fit.map.shiftY) / kShiftReach + 100 * std::abs(fit.map.Turn());
+    return fit;
+}
+
+}  // namespace
+
+FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                          std::span<const std::optional<BoxShift>> known) {
+    const FormScale scale = ScaleBetween(page, profile);
+    const Fit upright = FitOneWay(page, profile, scale, known, false);
+    const Fit turned = FitOneWay(page, profile, scale, known, true);
+    const Fit& fit = turned.cost < upright.cost ? turned : upright;
+    FormPlaces places;
+    places.turned = fit.turned;
+    places.shifts.reserve(profile.Boxes.size());
+    for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
+        const CellPoint nominal = PlaceOn(page, scale, profile.Boxes[k], false);
+        const CellPoint mapped = fit.map(PlaceOn(page, scale, profile.Boxes[k], fit.turned));
+        places.shifts.push_back(known[k].value_or(
+            BoxShift{app::RoundToInt16(mapped.x - nominal.x), app::RoundToInt16(mapped.y - nominal.y)}));
+    }
+    return places;
+}
+
+}  // namespace tavrene::recognition

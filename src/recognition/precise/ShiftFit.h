@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "imaging/PageReader.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/precise/PreciseReading.h"
+
+namespace tavrene::recognition {
+
+/// The places of all boxes of a profile when only some are known (one entry a box): a box without one takes
+/// its place from the map that fits the others, also on a page that lies upside down. 0,0 when none is known.
+FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                          std::span<const std::optional<BoxShift>> known);
+
+}  // namespace tavrene::recognition

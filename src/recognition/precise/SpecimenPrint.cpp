@@ -1,0 +1,140 @@
+#include "recognition/precise/SpecimenPrint.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstddef>
+
+#include "recognition/FormScale.h"
+#include "recognition/MarkReading.h"
+#include "recognition/precise/BoxRefinement.h"
+#include "recognition/precise/CellPage.h"
+#include "recognition/precise/PreciseMark.h"
+
+namespace tavrene::recognition {
+namespace {
+
+using precise::BitPlane;
+using precise::CellPoint;
+
+constexpr std::size_t kPoints = 1500;
+constexpr std::size_t kLeastPoints = 200;
+constexpr int kTile = 32;               // cells
+constexpr double kMargin = 0.02;        // of the page on each side: there lie the scanner's shadows
+constexpr double kOutlineShare = 0.72;  // of an outline that must be there for a box to lie on the print
+constexpr int kReach = 4;
+constexpr std::size_t kBorder = 4;  // pixels of a box that are its printed line and the play around it
+constexpr int kLine = 3;
+constexpr double kPrintedInside = 2;  // percent: less is dirt of the specimen
+
+// Where the profile's boxes are printed.
+BitPlane BoxesOf(const precise::CellPage& page, const imaging::Page& specimen,
+                 const profiles::ProfileRecord& profile, const FormScale& scale) {
+    constexpr int around = 2;  // cells
+    BitPlane boxes(page.Cells().Width(), page.Cells().Height());
+    for (const profiles::PrintedBox& box : profile.Boxes) {
+        const GridRect place = PlaceOf(specimen.grid, box, scale, {});
+        for (int row = place.row0 / page.Factor() - around; row <= place.row1 / page.Factor() + around;
+             ++row) {
+            for (int column = place.col0 / page.Factor() - around;
+                 column <= place.col1 / page.Factor() + around; ++column)
+                boxes.Set(column, row);
+        }
+    }
+    return boxes;
+}
+
+// The ink of a page by tile, without its margins and what is to be left out.
+std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells, const BitPlane& leftOut) {
+    const int across = cells.Width() / kTile + 1;
+    std::vector<std::vector<CellPoint>> tiles(static_cast<std::size_t>(across) *
+                                              static_cast<std::size_t>(cells.Height() / kTile + 1));
+    const auto marginX = static_cast<int>(kMargin * cells.Width());
+    const auto marginY = static_cast<int>(kMargin * cells.Height());
+    const BitPlane solid = Eroded2(cells);
+    for (int row = marginY; row < cells.Height() - marginY; ++row) {
+        for (int index = 0; index < cells.Words(); ++index) {
+            BitPlane::Word word = cells.Row(row)[index] & ~solid.Row(row)[index] & ~leftOut.Row(row)[index];
+            for (; word != 0; word &= word - 1) {
+                const int column = index * BitPlane::kWordBits + std::countr_zero(word);
+                if (column >= marginX && column < cells.Width() - marginX)
+                    tiles[static_cast<std::size_t>(row / kTile * across + column / kTile)].push_back(
+                        {static_cast<double>(column), static_cast<double>(row)});
+            }
+        }
+    }
+    return tiles;
+}
+
+// The most points a tile may give so that all together are about `kPoints`.
+std::size_t FairPart(const std::vector<std::vector<CellPoint>>& tiles) {
+    std::size_t part = 1;
+    for (std::size_t sum = 0; part < kPoints; ++part) {
+        sum = 0;
+        for (const auto& tile : tiles)
+            sum += std::min(tile.size(), part);
+        if (sum >= kPoints)
+            break;
+    }
+    return part;
+}
+
+std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlane& leftOut, int height) {
+    const std::vector<std::vector<CellPoint>> tiles = InkByTile(page.Cells(), leftOut);
+    const std::size_t part = FairPart(tiles);
+    std::vector<CellPoint> points;
+    for (const auto& tile : tiles) {
+        const std::size_t taken = std::min(tile.size(), part);
+        for (std::size_t k = 0; k < taken; ++k) {
+            const CellPoint& cell = tile[k * tile.size() / taken];
+            points.push_back(
+                {page.ToPixels(cell.x), imaging::FlipVertically(double(height), page.ToPixels(cell.y))});
+        }
+    }
+    return points;
+}
+
+// Print is spread a little by a fat scan, and a box is found to the pixel, not better.
+BitPlane LetterIn(const BitPlane& pixels, const GridRect& place, const imaging::Page& specimen) {
+    constexpr int around = 2;  // pixels of 200 dpi
+    const int reach = specimen.DPI_X > 0 ? std::clamp(around * specimen.DPI_X / 200, 1, 8) : around;
+    BitPlane box(place.col1 - place.col0 + 1, place.row1 - place.row0 + 1);
+    for (int row = kLine; row < box.Height() - kLine; ++row) {
+        for (int column = kLine; column < box.Width() - kLine; ++column) {
+            if (pixels.Has(place.col0 + column, place.row0 + row))
+                box.Set(column, row);
+        }
+    }
+    return Dilated(box, reach);
+}
+
+}  // namespace
+
+SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRecord& profile) {
+    SpecimenPrint print;
+    const BitPlane pixels = WithoutNoise(precise::PlaneOf(specimen.grid));
+    precise::CellPages pages(pixels);
+    const FormScale scale = ScaleBetween(specimen, profile);
+    const precise::CellPage& page = pages.ForBoxesOf(precise::TypicalBox(profile, scale));
+    // The boxes have been matched before the print is asked: two forms with the same boxes differ elsewhere.
+    const int height = specimen.grid.Rows();
+    print.points = SpreadPoints(page, BoxesOf(page, specimen, profile, scale), height);
+    if (print.points.size() < kLeastPoints)
+        print.points = SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height);
+    precise::OutlineFinder finder(pixels, 1);
+    std::size_t lying = 0;
+    for (const profiles::PrintedBox& box : profile.Boxes) {
+        const GridRect place = PlaceOf(specimen.grid, box, scale, {});
+        if (finder.Find(place, kReach).ratio >= kOutlineShare)
+            ++lying;
+        auto& inside = print.inside.emplace_back();
+        for (std::size_t k = 0; k < inside.size(); ++k)
+            inside[k] = precise::FillInside(pixels, place, static_cast<int>(k) + 1);
+        print.letters.push_back(inside[kBorder - 1] >= kPrintedInside ? LetterIn(pixels, place, specimen)
+                                                                      : BitPlane());
+    }
+    print.belongs = 2 * lying > profile.Boxes.size() && !print.points.empty();
+    return print;
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,27 @@
+#include "recognition/precise/SpecimenPrints.h"
+
+#include <utility>
+#include <variant>
+
+namespace tavrene::recognition {
+
+const SpecimenPrint* SpecimenPrints::Of(const profiles::ProfileRecord& profile) {
+    std::string fingerprint = files_.Fingerprint(profile.Image);
+    Known& known = known_[profile.Name];
+    if (known.image != profile.Image || known.fingerprint != fingerprint || known.boxes != profile.Boxes) {
+        known = {profile.Image, std::move(fingerprint), profile.Boxes, std::nullopt};
+        const auto read = imaging::ReadSpecimen(files_, profile.Image);
+        if (const auto* const page = std::get_if<imaging::Page>(&read)) {
+            known.print = TakePrint(*page, profile);
+            if (!known.print->belongs)
+                replaced_.push_back(profile.Name);
+        }
+    }
+    return known.print ? &*known.print : nullptr;
+}
+
+std::vector<std::string> SpecimenPrints::TakeReplaced() {
+    return std::exchange(replaced_, {});
+}
+
+}  // namespace tavrene::recognition

@@ -1,0 +1,36 @@
+#include "ui/base/EscapeWatch.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace tavrene::ui {
+
+EscapeWatch::EscapeWatch() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool EscapeWatch::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+            wasPressed_ = wasPressed_ || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+            return true;
+        case QEvent::Close:
+            // The window asks again when the computation is over.
+            event->ignore();
+            wasPressed_ = true;
+            return true;
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace tavrene::ui

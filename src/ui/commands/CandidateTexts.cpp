@@ -1,0 +1,49 @@
+#include "ui/commands/CandidateTexts.h"
+
+namespace tavrene::commands {
+namespace {
+
+std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string Measures(int width, int height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+// Empty without boxes of another size.
+std::string OtherSizeText(const boxes::SecondLook& look) {
+    if (!look.Other)
+        return {};
+    const boxes::OtherSize& other = *look.Other;
+    return Counted(static_cast<std::size_t>(other.Count), "box", "boxes") + " of about " +
+           Measures(other.Size.Width, other.Size.Height) +
+           (other.IsLarger ? " px: larger than the settings allow."
+                           : " px: smaller than the settings allow.");
+}
+
+}  // namespace
+
+std::string OfferOf(int found, const boxes::SecondLook& look) {
+    if (look.Candidates.empty())
+        return {};
+    const std::string other = OtherSizeText(look);
+    return Counted(static_cast<std::size_t>(found), "box", "boxes") + " found. " +
+           (other.empty() ? "" : other + " ") + std::to_string(look.Candidates.size()) +
+           " more may be boxes: look at them with Find More Boxes (Ctrl+M).";
+}
+
+std::string HeadingOf(std::size_t candidates, const boxes::SecondLook& look) {
+    const std::string other = OtherSizeText(look);
+    const std::string keys = "Enter takes one, Ctrl+A all, Esc closes.";
+    if (candidates == 0)
+        return "No more boxes were found. Esc closes.";
+    return (other.empty() ? "" : other + " ") + std::to_string(candidates) + " more may be boxes. " + keys;
+}
+
+std::string RowOf(const profiles::OmrBox& box) {
+    return Measures(box.R - box.L, box.B - box.T) + " at " + std::to_string(box.L) + ", " +
+           std::to_string(box.T);
+}
+
+}  // namespace tavrene::commands

@@ -1,0 +1,171 @@
+#include "ui/profiling/MoreBoxes.h"
+
+#include <algorithm>
+#include <variant>
+
+#include "imaging/PageReader.h"
+#include "profiles/OmrsOfBoxes.h"
+#include "ui/base/EscapeWatch.h"
+#include "ui/base/QtText.h"
+#include "ui/commands/CandidateTexts.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kProgressSteps = 100;
+
+imaging::PageRect PlaceOf(const profiles::OmrBox& box) {
+    return {static_cast<double>(box.L), static_cast<double>(box.T), static_cast<double>(box.R - box.L),
+            static_cast<double>(box.B - box.T)};
+}
+
+std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::Candidate>& candidates) {
+    std::vector<boxes::BoxRect> rects;
+    for (const boxes::Candidate& candidate : candidates)
+        rects.push_back(candidate.Box);
+    return rects;
+}
+
+std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::LeftOutBox>& unlikely) {
+    std::vector<boxes::BoxRect> rects;
+    for (const boxes::LeftOutBox& leftOut : unlikely)
+        rects.push_back(leftOut.Box);
+    return rects;
+}
+
+}  // namespace
+
+MoreBoxes::MoreBoxes(const MoreBoxesContext& context, std::function<void(const std::function<void()>&)> take)
+    : context_(context) {
+    context_.pane.SetListener({[this](int id) { context_.page.Emphasise(-id); },
+                               [this, take](int id) { take([this, id] { Take(id); }); },
+                               [this, take] { take([this] { TakeAll(); }); }, [this] { Close(); },
+                               [this](bool shown) {
+                                   std::erase_if(shown_, [](const Shown& one) { return one.isUnlikely; });
+                                   if (shown)
+                                       AddShown(RectsOf(look_.Unlikely), true);
+                                   Show();
+                               }});
+}
+
+std::string MoreBoxes::DeskKey() const {
+    return context_.profile.IsOpen ? context_.profile.Path : "";
+}
+
+// False when the specimen cannot be read.
+bool MoreBoxes::Look() {
+    const auto read = imaging::ReadSpecimen(context_.files, context_.profile.Image);
+    const auto* const page = std::get_if<imaging::Page>(&read);
+    if (page == nullptr)
+        return false;
+    pageHeight_ = page->grid.Rows();
+    const EscapeWatch escape;
+    context_.person.SetProgressRange(kProgressSteps);
+    look_ = boxes::LookAgain(page->grid, profiles::BoxesOfOmrs(context_.profile.BoxList, pageHeight_),
+                             boxes::SizesOf(context_.state.settings), [&](double share) {
+                                 context_.person.SetProgress(static_cast<int>(share * kProgressSteps));
+                                 context_.person.RunPendingEvents();
+                                 return !escape.WasPressed();
+                             });
+    context_.person.SetProgress(0);
+    return true;
+}
+
+std::string MoreBoxes::Offer() {
+    if (!context_.profile.IsOpen || !Look())
+        return {};
+    return commands::OfferOf(context_.profile.Count, look_);
+}
+
+void MoreBoxes::Find() {
+    Close();
+    context_.person.SetPanel(app::Panel::Message, "Looking for more boxes... Esc stops.");
+    if (!Look()) {
+        context_.person.SetPanel(app::Panel::Message, "The specimen image cannot be read as an image.");
+        return;
+    }
+    desk_ = DeskKey();
+    AddShown(RectsOf(look_.Candidates), false);
+    context_.pane.SetUnlikely(static_cast<int>(look_.Unlikely.size()));
+    const std::string text = look_.WasStopped ? "Looking for more boxes was stopped."
+                                              : std::to_string(shown_.size()) + " more may be boxes.";
+    context_.person.SetPanel(app::Panel::Message,
+                             shown_.empty() && !look_.WasStopped ? "No more boxes were found." : text);
+    if (shown_.empty() && look_.Unlikely.empty()) {
+        desk_.clear();
+        return;
+    }
+    Show();
+    context_.pane.TakeFocus();
+}
+
+void MoreBoxes::AddShown(const std::vector<boxes::BoxRect>& boxes, bool unlikely) {
+    int id = 0;
+    for (const Shown& one : shown_)
+        id = std::max(id, one.id);
+    for (const profiles::OmrBox& box : profiles::OmrsOfBoxes(boxes, pageHeight_))
+        shown_.push_back({++id, box, unlikely});
+}
+
+void MoreBoxes::HideRects() {
+    for (int id = 1; id <= static_cast<int>(look_.Candidates.size() + look_.Unlikely.size()); ++id)
+        context_.page.RemoveRect(-id);
+}
+
+void MoreBoxes::Show() {
+    HideRects();
+    std::vector<CandidatePane::Row> rows;
+    for (const Shown& one : shown_) {
+        context_.page.PutRect(-one.id, PlaceOf(one.box), imaging::RectStyle::Candidate);
+        rows.push_back({one.id, ToQt(commands::RowOf(one.box) + (one.isUnlikely ? " (print?)" : ""))});
+    }
+    context_.pane.ShowRows(ToQt(commands::HeadingOf(shown_.size(), look_)), rows);
+}
+
+bool MoreBoxes::Clicked(int group) {
+    if (group >= 0)
+        return false;
+    Take(-group);
+    return true;
+}
+
+void MoreBoxes::Take(int id) {
+    const auto taken =
+        std::find_if(shown_.begin(), shown_.end(), [id](const Shown& one) { return one.id == id; });
+    if (taken == shown_.end())
+        return;
+    const profiles::OmrBox box = taken->box;
+    shown_.erase(taken);
+    context_.editor.AddBoxes({box});
+    if (shown_.empty())
+        Close();
+    else
+        Show();
+}
+
+void MoreBoxes::TakeAll() {
+    std::vector<profiles::OmrBox> boxes;
+    for (const Shown& one : shown_)
+        boxes.push_back(one.box);
+    Close();
+    context_.editor.AddBoxes(boxes);
+    context_.person.SetPanel(app::Panel::Message, std::to_string(boxes.size()) +
+                                                      (boxes.size() == 1 ? " box" : " boxes") + " added.");
+}
+
+bool MoreBoxes::Close() {
+    if (desk_.empty())
+        return false;
+    HideRects();
+    shown_.clear();
+    desk_.clear();
+    context_.pane.ShowRows({}, {});
+    return true;
+}
+
+void MoreBoxes::Update() {
+    if (!desk_.empty() && desk_ != DeskKey())
+        Close();
+}
+
+}  // namespace tavrene::ui
