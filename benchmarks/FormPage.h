@@ -38,6 +38,7 @@ class Nobody final : public app::Operator,
     void ReportFile(std::string_view, std::string_view) override {}
     app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
     app::Answer AskYesNoCancel(std::string_view, app::Answer) override { return app::Answer::Cancel; }
+    void ShowNotices(std::span<const app::Notice>) override {}
     void SetPanel(app::Panel, std::string_view) override {}
     void SetProgressRange(int) override {}
     void SetProgress(int) override {}

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace tavrene::app {
@@ -8,6 +11,13 @@ namespace tavrene::app {
 enum class Panel { File, Message, ElapsedTime, Progress };
 
 enum class Answer { Yes, No, Cancel };
+
+/// Something that the person should read and that stops nothing.
+struct Notice {
+    std::string text;                ///< Whole sentences.
+    std::string button = {};         ///< What can be done about it; empty for nothing.
+    std::function<void()> act = {};  ///< Called when the button is pressed.
+};
 
 /// The one door to the person at the machine. Texts are UTF-8.
 class Operator {
@@ -26,6 +36,10 @@ class Operator {
     /// gives: a safe one wherever Yes destroys or rewrites something.
     virtual Answer AskYesNo(std::string_view text, Answer preset) = 0;
     virtual Answer AskYesNoCancel(std::string_view text, Answer preset) = 0;
+
+    /// Shows notices over the page, whole, until the person closes them or others take their place; none take
+    /// them away.
+    virtual void ShowNotices(std::span<const Notice> notices) = 0;
 
     /// Puts a text into a panel; it can be read at once, also while a long operation runs.
     virtual void SetPanel(Panel panel, std::string_view text) = 0;

@@ -1,6 +1,7 @@
 #include "profiles/BoxEditor.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -15,13 +16,14 @@ using imaging::RectReport;
 
 constexpr int kRowsBetweenRepaints = 50;
 
+// A document written by hand may have the edges of a box in the other order; it stands at the same place.
 imaging::PageRect PlaceOf(const OmrBox& box) {
-    return {static_cast<double>(box.L), static_cast<double>(box.T), static_cast<double>(box.R - box.L),
-            static_cast<double>(box.B - box.T)};
+    return {static_cast<double>(std::min(box.L, box.R)), static_cast<double>(std::min(box.T, box.B)),
+            std::abs(static_cast<double>(box.R - box.L)), std::abs(static_cast<double>(box.B - box.T))};
 }
 
 bool IsSamePlace(const OmrBox& a, const OmrBox& b) {
-    return a.L == b.L && a.T == b.T && a.R == b.R && a.B == b.B;
+    return PlaceOf(a) == PlaceOf(b);
 }
 
 std::string RowText(const OmrBox& box, int number) {
@@ -129,7 +131,8 @@ bool BoxEditor::AddDrawnBox(const RectReport& report) {
         return false;
     }
     OmrBox box;
-    box.Name = UnnamedBox(report.group);
+    int number = report.group;
+    box.Name = FreeName(number);
     StoreCoordinates(report, box);
     profile_.BoxList.push_back(box);
     const std::int16_t before = profile_.Count++;
@@ -159,11 +162,12 @@ void BoxEditor::RectSelected(const RectReport& report) {
     Record(std::move(edit));
 }
 
-// Counts `number` up to the first one that names no box.
+// Counts `number` up behind the first one that names no box: a saved profile is numbered anew, so a box may
+// have the name of another one's number.
 std::string BoxEditor::FreeName(int& number) const {
     const auto isTaken = [this](const std::string& name) {
         return std::any_of(profile_.BoxList.begin(), profile_.BoxList.end(),
-                           [&](const OmrBox& box) { return box.Name == name; });
+                           [&](const OmrBox& box) { return box.Checked && box.Name == name; });
     };
     while (isTaken(UnnamedBox(number)))
         ++number;

@@ -4,6 +4,11 @@
 #include "imaging/WorkGrid.h"
 
 namespace tavrene::profiles {
+namespace {
+
+const std::string kUnnamed = "Un-named-";
+
+}  // namespace
 
 std::vector<OmrBox> OmrsOfBoxes(std::span<const boxes::BoxRect> found, int height) {
     std::vector<OmrBox> omrs;
@@ -36,7 +41,12 @@ std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height
 }
 
 std::string UnnamedBox(int number) {
-    return "Un-named-" + std::to_string(number);
+    return kUnnamed + std::to_string(number);
+}
+
+bool IsUnnamed(const std::string& name) {
+    return name.starts_with(kUnnamed) &&
+           name.find_first_not_of("0123456789", kUnnamed.size()) == std::string::npos;
 }
 
 }  // namespace tavrene::profiles

@@ -18,5 +18,6 @@ std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height
 
 /// The name of a box that nobody named: "Un-named-7".
 std::string UnnamedBox(int number);
+bool IsUnnamed(const std::string& name);
 
 }  // namespace tavrene::profiles

@@ -60,10 +60,15 @@ ProfileContent ReadProfileContent(const pugi::xml_document& document) {
         throw DocumentError("the root element is not Tavrene");
     ProfileContent content;
     content.Image = root.attribute("Image").value();
-    content.DPI_X = RequiredNumber(root, "DPI_X");
-    content.DPI_Y = RequiredNumber(root, "DPI_Y");
+    if (root.attribute("DPI_X"))
+        content.DPI_X = RequiredNumber(root, "DPI_X");
+    if (root.attribute("DPI_Y"))
+        content.DPI_Y = RequiredNumber(root, "DPI_Y");
     content.Active = root.attribute("Active").value() == std::string_view("1");
     const pugi::xml_node omrs = RequiredChild(root, "OMRs");
+    // A save would replace one of them, and the edits of its boxes would be lost behind the other.
+    if (omrs.next_sibling("OMRs"))
+        throw DocumentError("the element OMRs stands twice");
     content.Count = RequiredNumber(omrs, "Count");
     for (const pugi::xml_node child : omrs.children()) {
         if (child.type() == pugi::node_element)

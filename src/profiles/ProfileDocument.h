@@ -16,8 +16,8 @@ namespace tavrene::profiles {
 /// stand there.
 struct ProfileContent {
     std::string Image;  ///< Path of the specimen image as the operator chose it; empty when missing.
-    std::int16_t DPI_X = 0;
-    std::int16_t DPI_Y = 0;
+    std::optional<std::int16_t> DPI_X;  ///< None where the document has none.
+    std::optional<std::int16_t> DPI_Y;
     bool Active = false;
     std::int16_t Count = 0;  ///< The attribute; it need not agree with the number of boxes.
     std::vector<OmrBox> Boxes;
@@ -35,8 +35,8 @@ struct ProfileHeader {
 /// Loads a profile document. Throws `DocumentError` (see `ReadXml`) or `app::FileError`.
 pugi::xml_document LoadProfileDocument(const app::Files& files, const std::string& path);
 
-/// Reads what a loaded document holds. A missing `Name` is empty, a missing `Active` is off; anything else
-/// that is missing or no number throws `DocumentError`.
+/// Reads what a loaded document holds. A missing `Name` is empty, a missing `Active` is off, and a resolution
+/// may be missing too; anything else that is missing or no number throws `DocumentError`.
 ProfileContent ReadProfileContent(const pugi::xml_document& document);
 
 /// The 1-based place of the first checked box whose name cannot be written, because it holds a double quote,

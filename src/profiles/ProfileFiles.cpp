@@ -42,6 +42,22 @@ void ProfileFiles::Save(OpenProfile& profile) {
     } catch (const DocumentError& error) {
         throw DocumentError("The profile " + profile.Path + " is not saved: " + error.what() + ".");
     }
+    Write(profile, std::move(document));
+}
+
+void ProfileFiles::ChangeImage(OpenProfile& profile, const std::string& image) {
+    pugi::xml_document document;
+    document.reset(profile.Document);
+    pugi::xml_node root = document.first_child();
+    pugi::xml_attribute attribute = root.attribute("Image");
+    if (!attribute)
+        attribute = root.append_attribute("Image");
+    attribute.set_value(image.c_str());
+    Write(profile, std::move(document));
+    profile.Image = image;
+}
+
+void ProfileFiles::Write(OpenProfile& profile, pugi::xml_document document) {
     SaveProfileDocument(files_, profile.Path, document);
     profile.Document = std::move(document);
     profile.Fingerprint = files_.Fingerprint(profile.Path);

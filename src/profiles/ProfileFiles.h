@@ -32,6 +32,9 @@ class ProfileFiles {
     /// Writes the open profile over its document; the profile takes the new one over.
     void Save(OpenProfile& profile);
 
+    /// Writes the path of another specimen image into the profile's document, which else is as it was.
+    void ChangeImage(OpenProfile& profile, const std::string& image);
+
     /// One that has vanished already is deleted, too.
     void Delete(const OpenProfile& profile);
 
@@ -46,6 +49,8 @@ class ProfileFiles {
     int NumberOf(const std::string& path) const;
 
   private:
+    void Write(OpenProfile& profile, pugi::xml_document document);
+
     app::Files& files_;
     app::ActivityLog& log_;
     app::Operator& person_;

@@ -8,6 +8,7 @@
 #include "app/Numeric.h"
 #include "app/Reason.h"
 #include "profiles/ProfileDocument.h"
+#include "profiles/XmlFile.h"
 
 namespace tavrene::profiles {
 namespace {
@@ -26,6 +27,13 @@ BoxExtent ExtentOf(std::span<const PrintedBox> boxes) {
     return extent;
 }
 
+// Without it recognition could not tell how large a scan's boxes are.
+std::int16_t Resolution(const std::optional<std::int16_t>& value, const char* attribute) {
+    if (!value)
+        throw DocumentError(std::string("the attribute ") + attribute + " of Tavrene is missing");
+    return *value;
+}
+
 ProfileRecord ReadRecord(const app::Files& files, const std::string& path) {
     const ProfileContent content = ReadProfileContent(LoadProfileDocument(files, path));
     ProfileRecord record;
@@ -33,8 +41,8 @@ ProfileRecord ReadRecord(const app::Files& files, const std::string& path) {
     record.FileName = app::FileName(path);
     record.Image = content.Image;
     record.Active = content.Active;
-    record.DPI_X = content.DPI_X;
-    record.DPI_Y = content.DPI_Y;
+    record.DPI_X = Resolution(content.DPI_X, "DPI_X");
+    record.DPI_Y = Resolution(content.DPI_Y, "DPI_Y");
     const auto counted = static_cast<std::size_t>(std::max<std::int16_t>(content.Count, 0));
     const std::span<const OmrBox> boxes(content.Boxes.data(), std::min(content.Boxes.size(), counted));
     std::transform(boxes.begin(), boxes.end(), std::back_inserter(record.Boxes), PrintedBoxOf);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <utility>
+#include <variant>
 
 #include "boxes/ProfileImagePipeline.h"
 #include "profiles/OmrsOfBoxes.h"
@@ -50,16 +51,25 @@ void ProfileSession::New(const boxes::BoxSizes& sizes, const boxes::PairReach& r
         return;
     const std::optional<std::string> image = context_.dialogs.AskOpenFile(
         {"Image of the Blank Form", context_.folders.ProfileImages, "", kImageFilter});
-    if (!image)
+    if (!image) {
         screen_.page.Clear();
-    else if (Create(*path, *image, sizes, reach))
-        TellMore();
+        return;
+    }
+    try {
+        if (Create(*path, *image, sizes, reach))
+            TellMore();
+        else
+            ShowPanels();
+    } catch (...) {
+        ShowPanels();
+        throw;
+    }
 }
 
 bool ProfileSession::Create(const std::string& path, const std::string& image, const boxes::BoxSizes& sizes,
                             const boxes::PairReach& reach) {
     const std::string name = app::BaseName(path);
-    Note(specimen_.KeepOriginal(image));
+    const std::string copyFailure = specimen_.KeepOriginal(image);
     const std::optional<boxes::FoundBoxes> found = boxes::FindBoxesOnImage(
         image, name, sizes, reach, {context_.files, context_.person, context_.log, context_.clock});
     if (!found)
@@ -68,14 +78,16 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
                                 OmrsOfBoxes(found->Boxes, found->Height)));
     const ProfileContent content = ReadProfileContent(profile_.Document);
     Describe(content);
+    Note(copyFailure);
     ShowSpecimen(true);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
     RebuildStrip();
-    if (const std::string offer = context_.offerMore ? context_.offerMore() : ""; !offer.empty())
-        notes_.push_back(offer);
+    context_.person.SetPanel(Panel::Message, std::to_string(content.Count) + " OMR Boxes identified");
+    if (app::Notice offer = context_.offerMore ? context_.offerMore() : app::Notice(); !offer.text.empty())
+        notes_.push_back(std::move(offer));
     if (profile_.CurrentProfile == 0)
-        notes_.emplace_back("The new profile lies outside the Profiles folder, so no run will use it.");
+        Note("The new profile lies outside the Profiles folder, so no run will use it");
     return true;
 }
 
@@ -89,11 +101,12 @@ void ProfileSession::Open(const std::string& path) {
     }
     screen_.strip.SelectThumbnail(profiles_.NumberOf(path));
     Load(path);
-    TellMore(HeadingOf(profile_) + ".");
+    TellMore();
 }
 
 void ProfileSession::Load(const std::string& path) {
     Take(path, {});
+    ShowPanels();
     profile_.Document = profiles_.Load(path);
     profile_.Image = profile_.Document.first_child().attribute("Image").value();
     context_.person.SetPanel(Panel::Message, HeadingOf(profile_));
@@ -102,13 +115,14 @@ void ProfileSession::Load(const std::string& path) {
         content = ReadProfileContent(profile_.Document);
     } catch (const DocumentError& error) {
         ShowSpecimen(false);
+        TellMore();
         RefuseToOpen(path, error);
     }
     Describe(content);
-    context_.person.SetPanel(Panel::ElapsedTime, "OMRs:" + std::to_string(content.Count));
     ShowSpecimen(false);
     profile_.IsOpen = true;
     editor_.BuildBoxList(content);
+    ShowPanels();
     specimen_.Fit(profile_.ImageWidth);
 }
 
@@ -124,8 +138,10 @@ void ProfileSession::Take(const std::string& path, pugi::xml_document document) 
 
 void ProfileSession::Describe(const ProfileContent& content) {
     profile_.Image = content.Image;
-    profile_.DPI_X = content.DPI_X;
-    profile_.DPI_Y = content.DPI_Y;
+    profile_.DPI_X = content.DPI_X.value_or(0);
+    profile_.DPI_Y = content.DPI_Y.value_or(0);
+    if (!content.DPI_X || !content.DPI_Y)
+        Note("The document does not say the resolution of its image (DPI_X, DPI_Y), so runs leave it out");
     profile_.Active = content.Active;
 }
 
@@ -133,7 +149,28 @@ void ProfileSession::ShowSpecimen(bool isNewProfile) {
     const SpecimenShown shown = specimen_.Show(profile_.Image, isNewProfile);
     profile_.ImageWidth = shown.width;
     profile_.ImageHeight = shown.height;
-    notes_.insert(notes_.end(), shown.notes.begin(), shown.notes.end());
+    if (!shown.missing.empty())
+        notes_.push_back({shown.missing, "Locate...", [this] { Locate(); }});
+    Note(shown.copyFailure);
+}
+
+// Only the path changes in the file; unsaved boxes stay unsaved.
+void ProfileSession::Locate() {
+    const std::optional<std::string> image = context_.dialogs.AskOpenFile(
+        {"Image of the Blank Form", context_.folders.ProfileImages, "", kImageFilter});
+    if (!image || !MayOverwrite(context_.files.Fingerprint(profile_.Path)))
+        return;
+    const auto read = imaging::ReadSpecimen(context_.files, *image);
+    if (const auto* const error = std::get_if<imaging::PageError>(&read)) {
+        context_.person.ShowMessage("", imaging::ReasonOf(*error));
+        return;
+    }
+    profiles_.ChangeImage(profile_, *image);
+    ShowSpecimen(false);
+    specimen_.Fit(profile_.ImageWidth);
+    RebuildStrip();
+    ShowPanels();
+    TellMore();
 }
 
 bool ProfileSession::Save() {
@@ -154,9 +191,10 @@ bool ProfileSession::Write() {
         editor_.Select(*unwritable);
     profiles_.Save(profile_);
     if (onDisk.empty())
-        notes_.push_back("The file " + profile_.Path + " had been deleted and was written anew.");
+        Note("The file " + profile_.Path + " had been deleted and was written anew");
     editor_.ClearChanged();
     RebuildStrip();
+    context_.person.SetPanel(Panel::Message, "Saved Profile: " + profile_.Name);
     return true;
 }
 
@@ -173,9 +211,12 @@ void ProfileSession::Delete() {
     if (!HasProfile() ||
         context_.person.AskYesNo("Delete Profile " + profile_.Path, Answer::No) != Answer::Yes)
         return;
+    const std::string name = profile_.Name;
     profiles_.Delete(profile_);
     Close();
     RebuildStrip();
+    ShowPanels();
+    context_.person.SetPanel(Panel::Message, "Deleted Profile: " + name);
     if (profiles_.Entries().empty())
         thumbnails_.DeleteFile();
     TellMore();
@@ -199,25 +240,28 @@ void ProfileSession::RebuildStrip() {
 }
 
 void ProfileSession::Close() {
+    context_.person.ShowNotices({});
     editor_.Clear();
     screen_.page.Clear();
     profile_ = OpenProfile();
 }
 
-void ProfileSession::Note(const std::string& failure) {
-    if (!failure.empty())
-        notes_.push_back(failure + ".");
+// What the panels say of the profile at the desk; nothing of one that cannot be read, or of none.
+void ProfileSession::ShowPanels() {
+    context_.person.SetPanel(Panel::Message, IsOpen() ? HeadingOf(profile_) : "");
+    context_.person.SetPanel(Panel::ElapsedTime, IsOpen() ? "OMRs:" + std::to_string(profile_.Count) : "");
 }
 
-void ProfileSession::TellMore(const std::string& heading) {
-    std::string text = heading;
-    const auto add = [&text](const std::string& sentence) { text += (text.empty() ? "" : " ") + sentence; };
-    for (const std::string& note : std::exchange(notes_, {}))
-        add(note);
-    for (const std::string& advice : context_.advise(profile_))
-        add(advice);
-    if (text != heading)
-        context_.person.SetPanel(Panel::Message, text);
+void ProfileSession::Note(const std::string& failure) {
+    if (!failure.empty())
+        notes_.push_back({failure + "."});
+}
+
+void ProfileSession::TellMore() {
+    std::vector<app::Notice> notices = std::exchange(notes_, {});
+    for (std::string& advice : context_.advise(profile_))
+        notices.push_back({std::move(advice)});
+    context_.person.ShowNotices(notices);
 }
 
 }  // namespace tavrene::profiles

@@ -32,14 +32,14 @@ struct ProfileContext {
     /// What will go wrong in a run with the profile as it stands, in plain sentences.
     std::function<std::vector<std::string>(const OpenProfile&)> advise;
 
-    /// What is to be said of boxes that a new profile may lack; empty for nothing.
-    std::function<std::string()> offerMore = {};
+    /// What is to be said of boxes that a new profile may lack; without a text for nothing.
+    std::function<app::Notice()> offerMore = {};
 };
 
 /// The profile at the desk from its making or opening until it is closed: what the person is asked and told
 /// about it, and what strip, page and box list show. What fails throws with a text for the operator; the file
-/// and the profile at the desk then are as they were. After the texts of a command the `Message` panel says
-/// what else there is to know about the profile; of one that was opened it stands behind its heading.
+/// and the profile at the desk then are as they were. After a command the notices say what else there is to
+/// know about the profile at the desk.
 class ProfileSession {
   public:
     /// `records` are the loaded profiles that recognition uses; kept in line with the folder.
@@ -96,8 +96,10 @@ class ProfileSession {
     bool Write();
     bool MayOverwrite(const std::string& onDisk);
     void RebuildStrip();
+    void Locate();
+    void ShowPanels();
     void Note(const std::string& failure);
-    void TellMore(const std::string& heading = {});
+    void TellMore();
 
     ProfileContext context_;
     ProfileScreen screen_;
@@ -107,7 +109,7 @@ class ProfileSession {
     ProfileFiles profiles_;
     SpecimenPage specimen_;
     Thumbnails thumbnails_;
-    std::vector<std::string> notes_;  ///< About the command that goes on and a save before it, in sentences.
+    std::vector<app::Notice> notes_;  ///< About the command that goes on and a save before it.
 };
 
 }  // namespace tavrene::profiles

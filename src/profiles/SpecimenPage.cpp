@@ -40,9 +40,9 @@ SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
         page_.ShowFile(image);
     } else {
         page_.Clear();
-        shown.notes.push_back(
+        shown.missing =
             "The specimen image " + image +
-            (files_.FileExists(image) ? " cannot be read as an image." : " is not there any more."));
+            (files_.FileExists(image) ? " cannot be read as an image." : " is not there any more.");
     }
     return shown;
 }
@@ -50,10 +50,8 @@ SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
 void SpecimenPage::ShowPage(const imaging::Page& page, bool isNewProfile, SpecimenShown& shown) {
     KeepSize(page.bitmap, shown);
     page_.ShowPicture(page.bitmap);
-    if (page.format == ImageFormat::Tiff && !(isNewProfile && page.inverted))
-        return;
-    if (const std::string failure = scratch_.WriteConverted(page); !failure.empty())
-        shown.notes.push_back(failure + ".");
+    if (page.format != ImageFormat::Tiff || (isNewProfile && page.inverted))
+        shown.copyFailure = scratch_.WriteConverted(page);
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "app/Files.h"
 #include "imaging/PageReader.h"
@@ -14,7 +13,8 @@ namespace tavrene::profiles {
 struct SpecimenShown {
     int width = 0;  ///< Pixels of the image; 0 when it cannot be read.
     int height = 0;
-    std::vector<std::string> notes;  ///< What went wrong, in sentences for the person.
+    std::string missing;      ///< Why there is nothing to see, in a sentence; empty where there is.
+    std::string copyFailure;  ///< Why its copy could not be written, without a full stop.
 };
 
 /// Shows specimen images on the page and keeps the copies of them that belong into the `Temp` folder.

@@ -1,9 +1,13 @@
 #include "profiles/XmlFile.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <optional>
 #include <set>
 #include <sstream>
 
+#include "app/Numeric.h"
 #include "app/Utf8.h"
 
 namespace tavrene::profiles {
@@ -34,6 +38,19 @@ void CheckTopLevel(const pugi::xml_document& document, Declaration declaration) 
         if (node.type() != pugi::node_comment && node.type() != pugi::node_pi)
             throw DocumentError("something stands behind the root element");
     }
+}
+
+// As people write numbers: with blanks around them, a plus sign, a fraction.
+std::optional<double> ToNumber(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    text.remove_suffix(text.size() - (text.find_last_not_of(kBlanks) + 1));
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size() && std::isfinite(value);
+    return isNumber ? std::optional(value) : std::nullopt;
 }
 
 }  // namespace
@@ -82,12 +99,10 @@ std::int16_t RequiredNumber(const pugi::xml_node& element, const char* attribute
     const std::string place = std::string("the attribute ") + attribute + " of " + element.name();
     if (!found)
         throw DocumentError(place + " is missing");
-    const std::string_view text = found.value();
-    std::int16_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
-        throw DocumentError(place + " is \"" + std::string(text) + "\", which is no whole number of 16 bits");
-    return value;
+    const std::optional<double> value = ToNumber(found.value());
+    if (!value || app::RoundHalfToEven(*value) != app::RoundToInt16(*value))
+        throw DocumentError(place + " is \"" + found.value() + "\", which is no number of 16 bits");
+    return app::RoundToInt16(*value);
 }
 
 pugi::xml_node RequiredChild(const pugi::xml_node& element, const char* name) {

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <map>
 #include <utility>
 
 #include "app/Numeric.h"
+#include "profiles/OmrsOfBoxes.h"
 #include "recognition/SampleBoxes.h"
 
 namespace tavrene::recognition {
@@ -80,6 +82,29 @@ void AdviseOnSpread(const Boxes& boxes, std::vector<std::string>& advice) {
     }
 }
 
+// With fewer boxes a stranger's outlines will do.
+constexpr std::size_t kFewBoxes = 4;
+
+void AdviseOnNames(const Boxes& boxes, std::vector<std::string>& advice) {
+    std::map<std::string, int> uses;
+    std::vector<std::string> defaults;
+    for (const OmrBox& box : boxes) {
+        ++uses[box.Name];
+        if (profiles::IsUnnamed(box.Name))
+            defaults.push_back(box.Name);
+    }
+    const auto equal = std::find_if(uses.begin(), uses.end(), [](const auto& use) { return use.second > 1; });
+    if (equal != uses.end())
+        advice.push_back(std::to_string(equal->second) + " boxes have the name \"" + equal->first +
+                         "\", so results cannot tell them apart. Give each a name of its own.");
+    if (!defaults.empty())
+        advice.push_back(std::to_string(defaults.size()) + " of " + std::to_string(boxes.size()) +
+                         (defaults.size() == 1
+                              ? " boxes still has the name that it was given when it was made, as "
+                              : " boxes still have the names that they were given when they were made, as ") +
+                         defaults.front() + ". Results carry these names.");
+}
+
 // The area inside the outline, counted in 16 bits as reading does.
 bool HasNoArea(const OmrBox& box) {
     const int width = box.R - box.L - 1;
@@ -128,6 +153,10 @@ std::vector<std::string> AdviseOn(const OpenProfile& profile) {
     }
     AdviseOnSpread(boxes, advice);
     AdviseOnPlaces(profile, advice);
+    if (boxes.size() < kFewBoxes)
+        advice.push_back("With so few boxes (" + std::to_string(boxes.size()) +
+                         ") this profile may match forms that are not its own.");
+    AdviseOnNames(boxes, advice);
     return advice;
 }
 

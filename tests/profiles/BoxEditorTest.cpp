@@ -96,6 +96,34 @@ TEST_F(BoxEditorTest, DeletingTheLastBoxMakesTheFirstCurrent) {
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }
 
+// As a document written by hand may have it.
+TEST_F(BoxEditorTest, ABoxWithItsEdgesInTheOtherOrderMovesAsItIsDrawn) {
+    std::vector<OmrBox> boxes = TestForm::Grid(2, 1).boxes;
+    std::swap(boxes[0].L, boxes[0].R);
+    std::swap(boxes[0].T, boxes[0].B);
+    Open(boxes);
+    const imaging::PageRect drawn = screen_.rects.at(1);
+    EXPECT_EQ(drawn, (imaging::PageRect{60, 70, 24, 24}));
+    const auto report = [&](double dx) {
+        return imaging::RectReport{1, drawn.left + dx, drawn.top, drawn.width, drawn.height};
+    };
+    editor_.RectSelected(report(0));
+    EXPECT_FALSE(profile_.ProfileChanged) << "it was only selected";
+    editor_.RectSelected(report(7));
+    EXPECT_EQ(Place(1), (std::vector<int>{67, 70, 91, 94}));
+}
+
+TEST_F(BoxEditorTest, ADrawnBoxTakesTheNextNameThatIsFree) {
+    std::vector<OmrBox> boxes = TestForm::Grid(2, 1).boxes;
+    boxes[0].Name = "Un-named-3";
+    boxes[1].Name = "Un-named-4";
+    Open(boxes);
+    editor_.SetTool(BoxTool::Add);
+    Draw(300, 300, 20, 20);
+    Draw(400, 300, 20, 20);
+    EXPECT_EQ(screen_.rows.at(3) + " " + screen_.rows.at(4), "Un-named-5 Un-named-6");
+}
+
 TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxOnThePage) {
     editor_.Nudge(1, 0);  // no current box
     EXPECT_FALSE(profile_.ProfileChanged);

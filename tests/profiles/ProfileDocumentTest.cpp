@@ -64,6 +64,8 @@ TEST_F(ProfileDocumentTest, LeavesOutWhatCannotBeReadAndSaysWhy) {
         {with(" Count=\"4\"", ""), "Count of OMRs is missing"},
         {with(" L=\"60\"", ""), "L of OMR is missing"},
         {with("T=\"70\"", "T=\"12px\""), "T of OMR is \"12px\""},
+        {with("T=\"70\"", "T=\"nan\""), "T of OMR is \"nan\""},
+        {with("</OMRs>", "</OMRs><OMRs Count=\"0\"/>"), "OMRs stands twice"},
         {with("R=\"84\"", "R=\"40000\""), "R of OMR is \"40000\""},
         {with("B=\"94\"", "B=\"94\" B=\"95\""), "B stands twice"}};
     for (std::size_t k = 0; k < faults.size(); ++k)
@@ -90,7 +92,8 @@ TEST_F(ProfileDocumentTest, LoadsProfilesInListingOrderForRecognition) {
     std::string odd = form.ProfileText("x");
     odd.replace(odd.find("T=\"70\" R=\"84\" B=\"94\""), 20,
                 "T=\"94\" R=\"84\" B=\"70\"");  // the other way up
-    odd.replace(odd.find("Count=\"4\""), 9, "Count=\"3\"");
+    odd.replace(odd.find("Count=\"4\""), 9, "Count=\" +2.5e0 \"");
+    odd.replace(odd.find("DPI_X=\"200\""), 11, "DPI_X=\"199.5\"");
     odd.replace(odd.find("Active=\"1\""), 10, "Active=\"true\"");
     odd.replace(odd.find(" Name=\"Q2\""), 10, "");
     WriteProfile("gamma.tvp", odd);
@@ -101,7 +104,8 @@ TEST_F(ProfileDocumentTest, LoadsProfilesInListingOrderForRecognition) {
     EXPECT_EQ(loaded[1].FileName, "beta.TVP");
     EXPECT_TRUE(loaded[1].Active);
     EXPECT_FALSE(loaded[0].Active || loaded[2].Active);
-    EXPECT_EQ(loaded[2].Boxes.size(), 3U);
+    EXPECT_EQ(loaded[2].Boxes.size(), 2U);
+    EXPECT_EQ(loaded[2].DPI_X, 200);
     EXPECT_EQ(loaded[2].Boxes[1].Name, "");
     for (const ProfileRecord& profile : loaded) {
         EXPECT_EQ(profile.Boxes[0].lower, 94);

@@ -46,12 +46,18 @@ TEST(ProfileAdvice, TellsOfEachTrapAndOfNoOther) {
         {"row", TestForm::Grid(4, 1).boxes, {"all lie in one row"}},
         {"column", TestForm::Grid(1, 4).boxes, {"all lie in one column"}},
         {"two columns of which one is sampled", TestForm::Grid(2, 12).boxes, {"all lie in one column"}},
-        {"one box", TestForm::Grid(1, 1).boxes, {"all lie in one column", "all lie in one row"}},
+        {"one box",
+         TestForm::Grid(1, 1).boxes,
+         {"all lie in one column", "all lie in one row", "so few boxes (1)"}},
         {"narrow", narrow, {"near one column"}},
         {"no boxes", {}, {"no profile behind it"}},
         {"line", With(good, {"flat", 60, 70, 90, 70}), {"Box flat has no area"}},
         {"area of 16 bits", With(good, {"big", 10, 10, 267, 267}), {"Box big has no area"}},
-        {"outside", With(good, {"far", 590, 70, 614, 94}), {"Box far lies outside"}}};
+        {"outside", With(good, {"far", 590, 70, 614, 94}), {"Box far lies outside"}},
+        {"equal names", With(good, {"Q1", 114, 70, 138, 94}), {"2 boxes have the name \"Q1\""}},
+        {"default names",
+         With(good, {"Un-named-2", 114, 70, 138, 94}),
+         {"1 of 12 boxes still has the name"}}};
     for (const Trap& trap : traps) {
         const std::vector<std::string> advice = AdviseOn(ProfileOf(trap.boxes));
         ASSERT_EQ(advice.size(), trap.wanted.size()) << trap.name << ::testing::PrintToString(advice);
@@ -64,7 +70,7 @@ TEST(ProfileAdvice, LooksAtKeptBoxesAndAtTheCount) {
     profiles::OpenProfile profile = ProfileOf(TestForm::Grid(2, 2).boxes);
     profile.BoxList[1].Checked = profile.BoxList[3].Checked = false;
     profile.Count = 2;
-    ASSERT_EQ(AdviseOn(profile).size(), 1U);
+    ASSERT_EQ(AdviseOn(profile).size(), 2U);
     EXPECT_NE(AdviseOn(profile)[0].find("one column"), std::string::npos);
     profile.Count = 3;
     EXPECT_NE(AdviseOn(profile)[0].find("it counts 3 boxes but holds 2"), std::string::npos);

@@ -6,21 +6,23 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "app/Operator.h"
 #include "support/Transcript.h"
 
 namespace tavrene::test {
 
-/// Writes every message, panel text and progress change into the transcript ("message: ", "report: ", "ask:
-/// ", "panel File: ", "range: ", "progress: ", "events") and answers questions from a script. A question
-/// without a scripted answer fails the test at once and is answered Cancel.
+/// Writes every message, notice, panel text and progress change into the transcript ("message: ", "report: ",
+/// "ask: ", "notice: ", "panel File: ", "range: ", "progress: ", "events") and answers questions from a
+/// script. A question without a scripted answer fails the test at once and is answered Cancel.
 class FakeOperator final : public app::Operator {
   public:
     explicit FakeOperator(Transcript& transcript) : transcript_(transcript) {}
 
     std::deque<app::Answer> answers;
     std::function<void()> onPendingEvents;
+    std::vector<app::Notice> notices;           ///< Those that are shown.
     app::Answer lastPreset = app::Answer::Yes;  ///< What Enter would have answered to the last question.
 
     std::string PanelText(app::Panel panel) const {
@@ -37,6 +39,11 @@ class FakeOperator final : public app::Operator {
     app::Answer AskYesNo(std::string_view text, app::Answer preset) override { return Ask(text, preset); }
     app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override {
         return Ask(text, preset);
+    }
+    void ShowNotices(std::span<const app::Notice> shown) override {
+        notices.assign(shown.begin(), shown.end());
+        for (const app::Notice& notice : notices)
+            transcript_.Add("notice: " + notice.text);
     }
     void SetPanel(app::Panel panel, std::string_view text) override {
         static const std::map<app::Panel, std::string> names = {{app::Panel::File, "File"},

@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -108,6 +109,116 @@ TEST_F(BoxEditingTest, BoxesAreMovedResizedAndDrawnOnThePageOnly) {
     EXPECT_EQ(SavedPlace(7), QRectF(0, 0, page.width(), 30));
 }
 
+// Row, box on the page and command agree, so that no other box is deleted than the one that is highlighted.
+TEST_F(BoxEditingTest, OneBoxIsCurrentWhateverMadeItSo) {
+    form_ = TestForm::Grid(3, 20, 24, 60, 70);
+    form_.height = 1200;
+    AddSpecimenProfile("Form", form_);
+    OpenForm();
+    dynamic_cast<ImageView&>(View()).SetZoom(250);
+    const auto press = [this](int row, Qt::MouseButton button) {
+        Rows().scrollToItem(Rows().topLevelItem(row));
+        QTest::mousePress(Rows().viewport(), button, Qt::NoModifier,
+                          Rows().visualItemRect(Rows().topLevelItem(row)).center());
+    };
+    const auto release = [this](int row, Qt::MouseButton button) {
+        const QPoint point = Rows().visualItemRect(Rows().topLevelItem(row)).center();
+        QTest::mouseMove(Rows().viewport(), point);
+        QTest::mouseRelease(Rows().viewport(), button, Qt::NoModifier, point);
+    };
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"the Tab key into the list",
+         [this] {
+             View().setFocus();
+             Press(View(), Qt::Key_Tab);
+         }},
+        {"the Tab key in the name editor",
+         [this] {
+             ClickRow(40);
+             Press(Rows(), Qt::Key_F2);
+             TypeName("next", Qt::Key_Tab);
+             QTest::keyClick(&NameEditor(), Qt::Key_Escape);
+         }},
+        {"the right button",
+         [&] {
+             press(3, Qt::RightButton);
+             release(3, Qt::RightButton);
+         }},
+        {"the middle button",
+         [&] {
+             press(50, Qt::MiddleButton);
+             release(50, Qt::MiddleButton);
+         }},
+        {"press and release on two rows",
+         [&] {
+             ClickRow(20);
+             press(22, Qt::LeftButton);
+             release(24, Qt::LeftButton);
+         }},
+        {"the End key", [this] { Press(Rows(), Qt::Key_End); }},
+    };
+    for (const auto& [way, act] : ways) {
+        act();
+        const int row = CurrentRow();
+        const std::string name = RowTexts().at(static_cast<std::size_t>(row));
+        BoxLayer& boxes = dynamic_cast<ImageView&>(View()).Boxes();
+        const QRectF place = boxes.PlaceOf(boxes.SelectedBox());
+        EXPECT_TRUE(Rows().currentItem()->isSelected() && Rows().selectedItems().size() == 1) << way;
+        EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(place.center()))) << way;
+        Press(Rows(), Qt::Key_Delete);
+        EXPECT_TRUE(boxes.BoxAt(place.center()) == 0) << way;
+        const Names left = RowTexts();
+        EXPECT_EQ(std::count(left.begin(), left.end(), name), 0) << way;
+        EXPECT_EQ(left.size(), form_.boxes.size() - 1) << way;
+        Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    }
+    ClickRow(4);
+    Strip().setFocus();
+    Press(Strip(), Qt::Key_Delete);
+    EXPECT_EQ(RowTexts().size(), form_.boxes.size()) << "the strip has the focus";
+}
+
+// Every neighbour of every box is clicked at its corners, sides and middle.
+TEST_F(BoxEditingTest, HandlesGiveWayToTheBoxesOfADenseForm) {
+    form_ = TestForm::Grid(4, 4);
+    for (std::size_t k = 0; k < form_.boxes.size(); ++k) {
+        const auto x = static_cast<std::int16_t>(60 + 40 * (k % 4));
+        const auto y = static_cast<std::int16_t>(70 + 40 * (k / 4));
+        form_.boxes[k] = {form_.boxes[k].Name, x, y, static_cast<std::int16_t>(x + 30),
+                          static_cast<std::int16_t>(y + 30)};
+    }
+    AddSpecimenProfile("Form", form_);
+    OpenForm();
+    for (const double zoom : {40.0, 100.0}) {
+        dynamic_cast<ImageView&>(View()).SetZoom(zoom);
+        for (int k = 0; k < 16; ++k) {
+            const int neighbour = k % 4 == 3 ? k - 1 : k + 1;
+            const QRectF place = PlaceOf(form_.boxes[static_cast<std::size_t>(neighbour)]);
+            for (const QPointF& at : {place.topLeft(), place.bottomRight(), place.center(),
+                                      QPointF(place.left(), place.center().y())}) {
+                ClickRow(k);
+                Drag(at, at + QPointF(2, 2) * 100 / zoom);
+                EXPECT_EQ(CurrentRow(), neighbour) << zoom << " " << k;
+            }
+        }
+    }
+    EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled());
+}
+
+TEST_F(BoxEditingTest, AnArrowKeyMovesNoBoxThatIsBeingDragged) {
+    OpenForm();
+    const QPointF middle = MiddleOf(first_);
+    Mouse(QEvent::MouseButtonPress, middle);
+    Mouse(QEvent::MouseMove, middle + QPointF(40, 40));
+    Press(View(), Qt::Key_Right);
+    Mouse(QEvent::MouseMove, middle);
+    Mouse(QEvent::MouseButtonRelease, middle);
+    EXPECT_EQ(dynamic_cast<ImageView&>(View()).Boxes().PlaceOf(1), PlaceOf(first_));
+    EXPECT_EQ(SavedPlace(1), PlaceOf(first_));
+    Press(View(), Qt::Key_Right);
+    EXPECT_EQ(SavedPlace(1), PlaceOf(first_).translated(1, 0));
+}
+
 TEST_F(BoxEditingTest, TheFirstProfileOpensByKeyboard) {
     AddSpecimenProfile("Form", form_);
     Open();
@@ -171,7 +282,7 @@ TEST_F(BoxEditingTest, DeletedAndAddedBoxesAreNumberedAnewBySaving) {
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4", "Q6", "Un-named-7", "Un-named-6"}));
 }
 
-TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
+TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndCleanedOfWhatNoDocumentHolds) {
     OpenForm();
     ClickRow(2);
     Press(Rows(), Qt::Key_F2);
@@ -188,22 +299,35 @@ TEST_F(BoxEditingTest, NamesAreEditedInPlaceAndOneThatCannotBeWrittenIsShown) {
     EXPECT_EQ(NameOf(3), "Größe");
     EXPECT_EQ(NameOf(4), "typed");
 
-    const std::string before = test::ReadText(folders_.Profiles + "Form.Tvp");
-    ClickRow(1);
+    ClickRow(4);
     Press(Rows(), Qt::Key_F2);
-    TypeName("Yes & \"no\"", Qt::Key_Return);
+    QApplication::clipboard()->setText("from\ta\r\ntable \"<&\n");
+    NameEditor().paste();
+    TypeName(NameEditor().text() + "!", Qt::Key_Return);
+    EXPECT_EQ(RowTexts()[4], "from a table !");
+    Click("Save");
+    EXPECT_EQ(NameOf(5), "from a table !");
+}
+
+TEST_F(BoxEditingTest, ANameOfAnotherProgramThatCannotBeWrittenIsShown) {
+    const std::string path = folders_.Profiles + "Form.Tvp";
+    std::string before = test::ReadText(path);
+    before.replace(before.find("\"Q2\""), 4, "\"Yes &amp; no\"");
+    test::WriteText(path, before);
+    AddSpecimenProfile("Other", form_);
+    OpenForm();
     ClickRow(5);
+    Press(View(), Qt::Key_Right);
     DialogScript dialogs;
     dialogs.Press(QMessageBox::Ok);
     Click("Save");
-    EXPECT_NE(dialogs.shown.at(0).find("Yes & \"no\""), std::string::npos) << dialogs.shown.at(0);
+    EXPECT_PRED2(test::Has, dialogs.shown.at(0), "Yes & no");
     EXPECT_EQ(CurrentRow(), 1);
-    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"), before);
-    EXPECT_EQ(RowTexts()[1], "Yes & \"no\"");
-    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(RowTexts()[1], "Q2");
-    Click("Save");
-    EXPECT_EQ(test::ReadText(folders_.Profiles + "Form.Tvp"), before);
+    dialogs.Press(QMessageBox::Yes).Press(QMessageBox::Ok);
+    Press(Strip(), Qt::Key_Down);
+    EXPECT_EQ(SelectedThumbnail(), 1);
+    EXPECT_EQ(Strip().currentIndex().row(), 0) << "the keyboard goes on from the profile that stays open";
+    EXPECT_EQ(test::ReadText(path), before);
 }
 
 TEST_F(BoxEditingTest, ABoxDrawnByHandIsReadByARunWhichClosesTheProfile) {
@@ -263,7 +387,7 @@ TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
     test::WriteText(folders_.Profiles + "Text.Tvp", "no document");
     const std::string cut = AddSpecimenProfile("Cut", form_);
     std::string text = test::ReadText(cut);
-    test::WriteText(cut, text.erase(text.find(" DPI_Y"), 12));
+    test::WriteText(cut, text.erase(text.find(" Count"), 10));
     AddSpecimenProfile("Lost", form_, false);
     const std::string lost = folders_.ProfileImages + "Lost.tif";
     files_.Delete(lost);
@@ -276,8 +400,8 @@ TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
     ClickThumbnail(3);
     EXPECT_EQ(Rows().topLevelItemCount(), 6);
     EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isChecked());
-    EXPECT_EQ(Panel("Message"),
-              "Profile [Lost], Image [Lost.tif]. The specimen image " + lost + " is not there any more.");
+    EXPECT_EQ(Panel("Message"), "Profile [Lost], Image [Lost.tif]");
+    EXPECT_EQ(Notices(), "The specimen image " + lost + " is not there any more.");
     ClickPage(MiddleOf(form_.boxes[5]));
     EXPECT_EQ(CurrentRow(), 5) << "boxes can be reached without their page";
 
@@ -286,10 +410,11 @@ TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
     ClickThumbnail(4);
     ClickThumbnail(1);
     EXPECT_EQ(dialogs.shown.at(1),
-              "The profile " + cut + " cannot be opened: the attribute DPI_Y of Tavrene is missing.");
+              "The profile " + cut + " cannot be opened: the attribute Count of OMRs is missing.");
     EXPECT_EQ(View().sceneRect().width(), form_.width) << "its page is shown";
     EXPECT_EQ(Rows().topLevelItemCount(), 0);
     EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isEnabled());
+    EXPECT_EQ(Panel("ElapsedTime"), "") << "nothing of the profile before it";
     Click("Delete");
     EXPECT_PRED2(test::Has, ProfileLog(), "Deleted Profile: Cut\r\n");
     EXPECT_EQ(In(folders_.Profiles), (Names{"Form.Tvp", "Lost.Tvp", "Tavrene_Profiles.tif", "Text.Tvp"}));
@@ -298,6 +423,26 @@ TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
     Press(Strip(), Qt::Key_Down);
     EXPECT_NE(SelectedThumbnail(), 0);
     EXPECT_EQ(Rows().topLevelItemCount(), 6) << "the keyboard opens as well";
+}
+
+TEST_F(BoxEditingTest, ALostSpecimenIsLocatedWithoutSavingTheBoxes) {
+    const std::string moved = folders_.ProfileImages + "moved.tif";
+    files_.Move(folders_.ProfileImages + "Form.tif", moved);
+    OpenForm();
+    ClickRow(0);
+    Press(View(), Qt::Key_Right);
+    Press(Rows(), Qt::Key_F2);
+    TypeName("edited", Qt::Key_Return);
+    DialogScript dialogs;
+    dialogs.Type(moved);
+    Find<QFrame>(*window_, "MessageStrip").findChild<QPushButton*>()->click();
+    EXPECT_EQ(Notices(), "");
+    EXPECT_EQ(View().sceneRect().width(), form_.width);
+    EXPECT_EQ(Panel("Message"), "Profile [Form], Image [moved.tif]");
+    EXPECT_EQ(RowTexts()[0], "edited");
+    EXPECT_EQ(Saved("Form"), form_.boxes);
+    EXPECT_PRED2(test::Has, test::ReadText(folders_.Profiles + "Form.Tvp"), moved);
+    EXPECT_TRUE(Find<QAction>(*window_, "Undo").isEnabled());
 }
 
 }  // namespace

@@ -49,6 +49,15 @@ class DeskWindow : public RunWorld {
 
     QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }
     std::string Panel(const char* key) { return ui::FromQt(Find<QLabel>(*window_, key).text()); }
+    /// What stands in the strip over the page, one notice a line; empty while it is not to be seen.
+    std::string Notices() {
+        auto& strip = Find<QFrame>(*window_, "MessageStrip");
+        QStringList texts;
+        if (strip.isVisible())
+            for (const QLabel* const label : strip.findChildren<QLabel*>())
+                texts += label->text();
+        return ui::FromQt(texts.join('\n'));
+    }
     QListView& Strip() { return Find<QListView>(*window_, "ImgThumbnail1"); }
     QTreeWidget& Rows() { return Find<QTreeWidget>(*window_, "lvwSettings"); }
     int Thumbnails() { return Strip().model()->rowCount(); }

@@ -119,21 +119,40 @@ TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
         Click("New");
         EXPECT_NE(dialogs.shown.at(1).find("Old.Tvp already exists"), std::string::npos) << dialogs.shown[1];
     }
-    dialogs.Type("Form 2.1").Type(folders_.ProfileImages + "Old.tif");
+    const std::string image = folders_.ProfileImages + "the \"old\" one.tif";
+    files_.Move(folders_.ProfileImages + "Old.tif", image);
+    dialogs.Type("Form 2.1").Type(image);
     Click("New");
-    EXPECT_EQ(In(folders_.Profiles), (Names{"Form 2.1.Tvp", "Old.Tvp", "Tavrene_Profiles.tif"}));
-    EXPECT_EQ(SelectedThumbnail(), 1);
+    dialogs.Type("\"quoted\"").Type(image);
+    Click("New");
+    dialogs.Type("say \"yes\".").Type(image);
+    Click("New");
+    dialogs.shown.clear();
+    dialogs.Type("Say \"YES\".").Press(QMessageBox::No).Cancel();
+    Click("New");
+    EXPECT_PRED2(test::Has, dialogs.shown.at(1), "say \"yes\"..Tvp already exists");
+    dialogs.Type(".hidden").Press(QMessageBox::Ok).Cancel();
+    Click("New");
+    EXPECT_EQ(In(folders_.Profiles),
+              (Names{"Form 2.1.Tvp", "Old.Tvp", "quoted.Tvp", "say \"yes\"..Tvp", "Tavrene_Profiles.tif"}));
+    EXPECT_EQ(SelectedThumbnail(), 4);
 }
 
-TEST_F(NewProfileTest, TheMessagePanelTellsOfTrapsAfterTheTextsOfTheCommand) {
+TEST_F(NewProfileTest, TrapsAreToldOverThePageAndThePanelsStayTrue) {
     AddSpecimenProfile("Row", test::TestForm::Grid(4, 1));
     Open();
     ClickThumbnail(2);
-    EXPECT_PRED2(test::Has, Panel("Message"), "all lie in one row");
+    EXPECT_PRED2(test::Has, Notices(), "all lie in one row");
+    EXPECT_EQ(Panel("Message"), "Profile [Row], Image [Row.tif]");
     Click("Add", "CfgToolbar");
     Drag({200, 300}, {224, 324});
     Click("Save");
-    EXPECT_EQ(Panel("Message"), "Ready");
+    EXPECT_EQ(Panel("Message"), "Saved Profile: Row");
+    EXPECT_EQ(Notices(),
+              "1 of 5 boxes still has the name that it was given when it was made, as Un-named-5. "
+              "Results carry these names.");
+    Find<QAbstractButton>(*window_, "cmdCloseNotices").click();
+    EXPECT_EQ(Notices(), "");
 
     form_.boxes.clear();
     form_.SaveScan(folders_.ProfileImages + "empty.tif", {});
@@ -141,7 +160,15 @@ TEST_F(NewProfileTest, TheMessagePanelTellsOfTrapsAfterTheTextsOfTheCommand) {
     dialogs.Type("Zero").Type(folders_.ProfileImages + "empty.tif");
     Click("New");
     EXPECT_TRUE(Saved("Zero").empty());
-    EXPECT_PRED2(test::Has, Panel("Message"), "no profile behind it");
+    EXPECT_PRED2(test::Has, Notices(), "no profile behind it");
+    EXPECT_EQ(Panel("Message"), "0 OMR Boxes identified");
+    test::WriteText(folders_.ProfileImages + "letter.png", "no image");
+    dialogs.Type("No good").Type(folders_.ProfileImages + "letter.png").Press(QMessageBox::Ok);
+    Click("New");
+    EXPECT_EQ(Panel("Message"), "Profile [Zero], Image [empty.tif]") << "the open one is still this";
+    dialogs.Press(QMessageBox::Yes);
+    Click("Delete");
+    EXPECT_EQ(Panel("Message") + Panel("ElapsedTime") + Notices(), "Deleted Profile: Zero");
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::AddBox, T::Cfg, "Add", "Create New OMR CheckBox",
                 M::Boxes, "&Add Box", "F8", "Add", true, false},
     CommandInfo{C::DeleteBox, T::Cfg, "Delete", "Delete OMR CheckBox",
-                M::Boxes, "&Delete Box", "Del", "DeleteBox", false, false},
+                M::Boxes, "&Delete Box\tDel", "", "DeleteBox", false, false},
     CommandInfo{C::RenameBox, T::None, "Rename", "Give the selected box another name",
                 M::Boxes, "&Rename Box", "F2", "", false, false},
     CommandInfo{C::Undo, T::None, "Undo", "Take back the last change of a box",

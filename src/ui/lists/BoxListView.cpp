@@ -1,11 +1,14 @@
 #include "ui/lists/BoxListView.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QItemSelectionModel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QStyledItemDelegate>
 
+#include "app/ScopedFlag.h"
 #include "ui/base/QtText.h"
+#include "ui/lists/NameRule.h"
 
 namespace tavrene::ui {
 namespace {
@@ -55,6 +58,7 @@ class BoxListView::NameDelegate final : public QStyledItemDelegate {
         editor->setAccessibleName("Name of the check box");
         // The usual frame of a field would leave no room for the text in a row.
         editor->setStyleSheet("QLineEdit { border: 1px solid palette(highlight); }");
+        editor->setValidator(new NameRule(*editor));
         list_.nameEditor_ = editor;
         return editor;
     }
@@ -85,7 +89,11 @@ BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     header()->setSectionsMovable(false);
     setItemDelegateForColumn(0, new NameDelegate(*this));
     SetEditable(false);
-    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* row) { TellClicked(row); });
+    // Whatever makes a row current, be it a button of the mouse, a drag over the rows, the Tab key of the
+    // name editor or the focus: it is the one that commands act on. A click on the current row shows its box
+    // again.
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) { TakeCurrent(row); });
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* row) { TakeCurrent(row); });
 }
 
 void BoxListView::SetEditable(bool editable) {
@@ -111,6 +119,7 @@ int BoxListView::NumberOf(const QTreeWidgetItem* row) {
 }
 
 void BoxListView::ClearRows(profiles::BoxColumns columns) {
+    const app::ScopedFlag ours(isOurs_);
     clear();
     setColumnCount(static_cast<int>(columns) + 1);
     for (int column = kValColumn; column < columnCount(); ++column) {
@@ -146,10 +155,12 @@ QTreeWidgetItem& BoxListView::AddRow(int number) {
 }
 
 void BoxListView::RemoveRow(int number) {
+    const app::ScopedFlag ours(isOurs_);
     delete RowOf(number);
 }
 
 void BoxListView::SelectRow(int number) {
+    const app::ScopedFlag ours(isOurs_);
     QTreeWidgetItem* const row = RowOf(number);
     clearSelection();
     setCurrentItem(row);
@@ -180,21 +191,18 @@ QTreeWidgetItem* BoxListView::RowOf(int number) const {
     return NumberOf(row) == number ? row : nullptr;
 }
 
-void BoxListView::TellClicked(const QTreeWidgetItem* row) {
-    if (row != nullptr && listener_.clicked)
-        listener_.clicked(NumberOf(row));
+void BoxListView::TakeCurrent(QTreeWidgetItem* row) {
+    if (row == nullptr || isOurs_)
+        return;
+    selectionModel()->select(indexFromItem(row),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (listener_.chosen)
+        listener_.chosen(NumberOf(row));
 }
 
 void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton)
         QTreeWidget::mouseDoubleClickEvent(event);
-}
-
-void BoxListView::keyPressEvent(QKeyEvent* event) {
-    const QTreeWidgetItem* const before = currentItem();
-    QTreeWidget::keyPressEvent(event);
-    if (currentItem() != before)
-        TellClicked(currentItem());
 }
 
 }  // namespace tavrene::ui

@@ -13,7 +13,7 @@ namespace tavrene::ui {
 class BoxListView final : public QTreeWidget, public profiles::BoxRows {
   public:
     struct Listener {
-        std::function<void(int number)> clicked;  ///< By mouse or keyboard.
+        std::function<void(int number)> chosen;  ///< By mouse or keyboard: the row is the current one now.
         std::function<void(int number, const QString& name)> renamed;
     };
 
@@ -41,8 +41,6 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     void RefreshRows() override;
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
     /// Of the left button only, as with single clicks.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
@@ -52,9 +50,10 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     QTreeWidgetItem* RowOf(int number) const;
     QTreeWidgetItem& AddRow(int number);
     int PlaceFor(int number) const;
-    void TellClicked(const QTreeWidgetItem* row);
+    void TakeCurrent(QTreeWidgetItem* row);
 
     Listener listener_;
+    bool isOurs_ = false;  ///< The current row is changed by the program.
     QPointer<QWidget> nameEditor_;
 };
 

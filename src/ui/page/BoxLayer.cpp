@@ -137,6 +137,11 @@ int BoxLayer::BoxAt(const QPointF& point) const {
     return found;
 }
 
+bool BoxLayer::HasBoxUnder(const QPointF& point) const {
+    return std::any_of(boxes_.begin(), boxes_.end(),
+                       [&point](const auto& box) { return box.second.place.contains(point); });
+}
+
 bool BoxLayer::IsEditable(int group) const {
     const auto box = boxes_.find(group);
     return box != boxes_.end() && box->second.style == imaging::RectStyle::Editable;

@@ -57,6 +57,9 @@ class BoxLayer final {
 
     /// The box at a point, the smallest where several lie over each other; 0 for none.
     int BoxAt(const QPointF& point) const;
+
+    /// Whether a point lies within a box, and not only near it.
+    bool HasBoxUnder(const QPointF& point) const;
     int SelectedBox() const { return selected_; }
 
     /// Whether a box can be moved and resized; any other is told of when it is clicked.

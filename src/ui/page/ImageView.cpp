@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "ui/commands/Zoom.h"
 #include "ui/page/PageImage.h"
@@ -112,6 +113,11 @@ void ImageView::Refresh() {
     viewport()->repaint();
 }
 
+bool ImageView::CancelTool() {
+    isToolDown_ = false;
+    return tool_ != nullptr && tool_->Cancel();
+}
+
 void ImageView::MakeReachable(const QRectF& rect) {
     if (!sceneRect().contains(rect))
         scene()->setSceneRect(sceneRect().united(rect));
@@ -167,6 +173,7 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
         panFrom_ = event->position().toPoint();
         viewport()->setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::LeftButton && tool_ != nullptr) {
+        isToolDown_ = true;
         tool_->Press(PagePoint(*event));
     }
 }
@@ -183,7 +190,7 @@ void ImageView::mouseMoveEvent(QMouseEvent* event) {
 void ImageView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton)
         panFrom_.reset();
-    else if (event->button() == Qt::LeftButton && tool_ != nullptr)
+    else if (event->button() == Qt::LeftButton && std::exchange(isToolDown_, false) && tool_ != nullptr)
         tool_->Release(PagePoint(*event));
     ShowCursorAt(PagePoint(*event));
 }
@@ -226,6 +233,9 @@ void ImageView::keyPressEvent(QKeyEvent* event) {
     const auto arrow = arrows.find(event->key());
     const bool isPlain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
     if (arrow != arrows.end() && isPlain && takeArrow_) {
+        // What a drag holds stays where the drag puts it.
+        if (isToolDown_)
+            return;
         const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
         if (takeArrow_(by.x(), by.y()))
             return;

@@ -56,7 +56,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void UseTool(PageTool* tool);
 
     /// Gives up what the tool is doing; false when it does nothing.
-    bool CancelTool() { return tool_ != nullptr && tool_->Cancel(); }
+    bool CancelTool();
 
     /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; when it does
     /// not take one, the view scrolls.
@@ -91,6 +91,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
     std::function<bool(int, int)> takeArrow_;
+    bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;
     QString hint_;
     double zoom_ = 100;

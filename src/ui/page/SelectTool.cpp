@@ -14,9 +14,13 @@ constexpr double kTremble = 3;
 
 }  // namespace
 
+// Handles stand out of their box, on dense forms over its neighbours, and give way to them.
 unsigned SelectTool::EdgesUnder(const QPointF& point) const {
     const QRectF selected = layer_.PlaceOf(layer_.SelectedBox());
-    return selected.isNull() ? kNoEdge : EdgesAt(selected, layer_.Scale(), point);
+    if (selected.isNull())
+        return kNoEdge;
+    const bool isOverNeighbour = !selected.contains(point) && layer_.HasBoxUnder(point);
+    return isOverNeighbour ? kNoEdge : EdgesAt(selected, layer_.Scale(), point);
 }
 
 void SelectTool::Press(const QPointF& point) {

@@ -1,5 +1,8 @@
 #include "ui/profiling/ProfileDesk.h"
 
+#include <QShortcut>
+#include <initializer_list>
+
 #include "recognition/ProfileAdvice.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
@@ -14,7 +17,11 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       gate_(context.gate),
       controls_(controls),
       session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
-                recognition::AdviseOn, [this] { return more_.Offer(); }},
+                recognition::AdviseOn,
+                [this] {
+                    return app::Notice{more_.Offer(), "Find More Boxes",
+                                       [this] { gate_.Run(Command::FindMoreBoxes); }};
+                }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
@@ -66,6 +73,14 @@ void ProfileDesk::ConnectControls() {
              });
          },
          [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
+    for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
+        new QShortcut(
+            Qt::Key_Delete, widget,
+            [this] {
+                FinishEdits();
+                gate_.Run(Command::DeleteBox);
+            },
+            Qt::WidgetWithChildrenShortcut);
     controls_.view.SetArrowHandler([this](int dx, int dy) {
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)

@@ -38,6 +38,17 @@ void WriteShape(app::SettingsStore& store, std::string_view name, const QByteArr
     store.WriteSettingValue(app::kApplicationName, kWindowSection, name, shape.toBase64().toStdString());
 }
 
+// The strip takes room of its own, so that it hides no box.
+QWidget* WithStripAbove(QWidget& strip, QWidget& view) {
+    auto* const pane = new QWidget;
+    auto* const layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(&strip);
+    layout->addWidget(&view, 1);
+    return pane;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(const app::Settings& settings, const WindowContext& context)
@@ -46,13 +57,14 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       panels_(new StatusPanels(this)),
       opinions_(new OpinionBar(this)),
       splitter_(new QSplitter(this)),
+      strip_(new MessageStrip(this)),
       view_(new ImageView(context.files, this)),
       boxes_(new BoxListView(this)),
       candidates_(new CandidatePane(this)),
       side_(new QStackedWidget(this)),
       profiles_(new ProfilePane(this)),
       forms_(new ReviewPane(this)),
-      operator_(*this, *panels_),
+      operator_(*this, *panels_, *strip_),
       dialogs_(*this),
       log_(context.files, context.clock, operator_, state_.folders.Log),
       precise_(context.files, state_.reading),
@@ -93,7 +105,7 @@ void MainWindow::BuildLayout() {
     lists->addWidget(candidates_);
     view_->setMinimumWidth(300);
     splitter_->addWidget(side_);
-    splitter_->addWidget(view_);
+    splitter_->addWidget(WithStripAbove(*strip_, *view_));
     splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
@@ -105,7 +117,7 @@ void MainWindow::BuildLayout() {
     column->addWidget(splitter_, 1);
     setCentralWidget(middle);
     const std::initializer_list<QWidget*> order = {
-        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), view_, boxes_,
+        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_, view_, boxes_,
         &candidates_->List()};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
@@ -138,6 +150,10 @@ void MainWindow::ConnectCommands() {
     gate_.SetHandler(Command::OpenLog,
                      [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
     gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
+    strip_->SetRunner([this](const std::function<void()>& act) {
+        desk_.FinishEdits();
+        gate_.Guard(act);
+    });
     gate_.SetAfterwards([this] {
         UpdateCommands();
         runs_.CloseIfWaiting();

@@ -74,6 +74,7 @@ class MainWindow final : public QMainWindow {
     StatusPanels* panels_;
     OpinionBar* opinions_;
     QSplitter* splitter_;
+    MessageStrip* strip_;
     ImageView* view_;
     BoxListView* boxes_;
     CandidatePane* candidates_;

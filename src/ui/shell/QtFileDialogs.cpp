@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +35,13 @@ QString SpelledOnDisk(const QFileInfo& file) {
     return names.contains(file.fileName()) || found == names.end() ? file.fileName() : *found;
 }
 
+// As a path is pasted that another program has put in quotes.
+QString WithoutQuotesAround(const QString& typed) {
+    const bool isQuoted =
+        typed.size() > 2 && typed.startsWith('"') && typed.endsWith('"') && typed.count('"') == 2;
+    return isQuoted ? typed.mid(1, typed.size() - 2) : typed;
+}
+
 constexpr int kWidth = 760;
 constexpr int kHeight = 460;
 
@@ -57,19 +65,59 @@ class FileDialog final : public QFileDialog {
         const UsualCursor usual;
         if (exec() != QDialog::Accepted)
             return std::nullopt;
-        return FromQt(selectedFiles().front());
+        return FromQt(named_.isEmpty() ? selectedFiles().front() : named_);
     }
 
     void accept() override {
         auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
+        const QString typed = WithoutQuotesAround(nameEdit->text());
+        nameEdit->setText(typed);
+        if (typed.contains('"')) {
+            AcceptName(typed);
+            return;
+        }
         const QStringList files = selectedFiles();
-        if (!extension_.isEmpty() && nameEdit != nullptr && !files.isEmpty() &&
-            !QFileInfo(files.front()).isDir())
-            nameEdit->setText(Completed(nameEdit->text(), files.front()));
+        if (!extension_.isEmpty() && !files.isEmpty() && !QFileInfo(files.front()).isDir()) {
+            if (IsHidden(files.front()))
+                return;
+            nameEdit->setText(Completed(typed, files.front()));
+        }
         QFileDialog::accept();
     }
 
   private:
+    // The dialog itself would take each piece between two quotes for a file.
+    void AcceptName(const QString& typed) {
+        const QString path = directory().absoluteFilePath(typed);
+        const QString named =
+            extension_.isEmpty() ? path : directory().absoluteFilePath(Completed(typed, path));
+        const QString name = QFileInfo(named).fileName();
+        const bool isThere = QFileInfo::exists(named);
+        if (extension_.isEmpty() && !isThere) {
+            QMessageBox::warning(this, windowTitle(), name + "\nFile not found.");
+            return;
+        }
+        if (!extension_.isEmpty() && (IsHidden(named) || (isThere && !MayReplace(name))))
+            return;
+        named_ = named;
+        QDialog::accept();
+    }
+
+    bool MayReplace(const QString& name) {
+        return QMessageBox::warning(this, windowTitle(),
+                                    name + " already exists.\nDo you want to replace it?",
+                                    QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    }
+
+    // No list of the program shows such a file.
+    bool IsHidden(const QString& path) {
+        const bool isHidden = QFileInfo(path).fileName().startsWith('.');
+        if (isHidden)
+            QMessageBox::warning(this, windowTitle(),
+                                 "A file whose name begins with a dot is hidden. Choose another name.");
+        return isHidden;
+    }
+
     // What was typed for `path`.
     QString Completed(QString typed, const QString& path) const {
         const QString end = path.endsWith(extension_, Qt::CaseInsensitive) ? QString() : extension_;
@@ -80,6 +128,7 @@ class FileDialog final : public QFileDialog {
     }
 
     QString extension_;
+    QString named_;  ///< The file whose name the dialog itself would not take.
 };
 
 }  // namespace

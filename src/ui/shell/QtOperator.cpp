@@ -32,8 +32,8 @@ QMessageBox::StandardButton ButtonOf(app::Answer answer) {
 
 }  // namespace
 
-QtOperator::QtOperator(QWidget& window, StatusPanels& panels)
-    : window_(window), panels_(panels), reports_(new FileReports(&window)) {}
+QtOperator::QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip)
+    : window_(window), panels_(panels), strip_(strip), reports_(new FileReports(&window)) {}
 
 void QtOperator::ShowMessage(std::string_view title, std::string_view text) {
     ShowBox(window_, QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);

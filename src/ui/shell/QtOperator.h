@@ -3,21 +3,24 @@
 #include <QMessageBox>
 
 #include "app/Operator.h"
+#include "ui/page/MessageStrip.h"
 #include "ui/shell/FileReports.h"
 #include "ui/shell/StatusPanels.h"
 
 namespace tavrene::ui {
 
-/// The person at the window: message boxes over it, its status bar, and the box of file messages beside it.
+/// The person at the window: message boxes over it, its status bar, the strip over the page, and the box of
+/// file messages beside it.
 class QtOperator final : public app::Operator {
   public:
-    /// Both belong to the window and must outlive the object.
-    QtOperator(QWidget& window, StatusPanels& panels);
+    /// All belong to the window and must outlive the object.
+    QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip);
 
     void ShowMessage(std::string_view title, std::string_view text) override;
     void ReportFile(std::string_view fileName, std::string_view text) override;
     app::Answer AskYesNo(std::string_view text, app::Answer preset) override;
     app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override;
+    void ShowNotices(std::span<const app::Notice> notices) override { strip_.Show(notices); }
     void SetPanel(app::Panel panel, std::string_view text) override;
     void SetProgressRange(int last) override;
     void SetProgress(int value) override;
@@ -28,6 +31,7 @@ class QtOperator final : public app::Operator {
 
     QWidget& window_;
     StatusPanels& panels_;
+    MessageStrip& strip_;
     FileReports* reports_;
 };
 
