@@ -36,8 +36,8 @@ class Nobody final : public app::Operator,
     std::optional<std::string> AskOpenFile(const app::FileQuestion&) override { return std::nullopt; }
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
-    app::Answer AskYesNo(std::string_view) override { return app::Answer::No; }
-    app::Answer AskYesNoCancel(std::string_view) override { return app::Answer::Cancel; }
+    app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
+    app::Answer AskYesNoCancel(std::string_view, app::Answer) override { return app::Answer::Cancel; }
     void SetPanel(app::Panel, std::string_view) override {}
     void SetProgressRange(int) override {}
     void SetProgress(int) override {}

@@ -6,6 +6,7 @@
 
 #include "Floor.h"
 #include "FormPage.h"
+#include "imaging/ImageDecoder.h"
 #include "intake/BringIn.h"
 #include "painter/PdfFile.h"
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "imaging/ByteReader.h"
+#include "imaging/ImageDecoder.h"
 
 namespace tavrene::samples {
 namespace {

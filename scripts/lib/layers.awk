@@ -70,7 +70,7 @@ function library(header) {
         return "Poppler"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
-    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|windows|io)\.h$/)
+    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
         return "platform"
     return ""
 }

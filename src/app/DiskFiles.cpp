@@ -68,7 +68,7 @@ bool DiskFiles::FolderExists(const std::string& path) const {
 
 std::string DiskFiles::Fingerprint(const std::string& path) const {
     struct ::stat status {};
-    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (::stat(path.c_str(), &status) != 0 || (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode)))
         return {};
     return std::to_string(status.st_size) + "-" + std::to_string(status.st_mtim.tv_sec) + "." +
            std::to_string(status.st_mtim.tv_nsec) + "-" + std::to_string(status.st_ino);

@@ -41,8 +41,8 @@ class Files {
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool FolderExists(const std::string& path) const = 0;
 
-    /// A short text on one line that is another one after the file was written or replaced; the content is
-    /// not read. Empty when there is no such file.
+    /// A short text on one line that is another one after the file was written or replaced; of a folder,
+    /// after a name in it came, went or was replaced. The content is not read. Empty when there is neither.
     virtual std::string Fingerprint(const std::string& path) const = 0;
 
     /// When the file was last written, by the local clock; none when there is no such file.

@@ -22,9 +22,10 @@ class Operator {
     /// further ones are added to it as lines while it is open. One message a file.
     virtual void ReportFile(std::string_view fileName, std::string_view text) = 0;
 
-    /// Questions in a message box that carries the application's title.
-    virtual Answer AskYesNo(std::string_view text) = 0;
-    virtual Answer AskYesNoCancel(std::string_view text) = 0;
+    /// Questions in a message box that carries the application's title. `preset` is the answer that Enter
+    /// gives: a safe one wherever Yes destroys or rewrites something.
+    virtual Answer AskYesNo(std::string_view text, Answer preset) = 0;
+    virtual Answer AskYesNoCancel(std::string_view text, Answer preset) = 0;
 
     /// Puts a text into a panel; it can be read at once, also while a long operation runs.
     virtual void SetPanel(Panel panel, std::string_view text) = 0;

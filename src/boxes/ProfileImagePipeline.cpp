@@ -13,7 +13,6 @@
 namespace tavrene::boxes {
 namespace {
 
-constexpr const char* kNotABitmap = "Image not in bitmap format";
 constexpr const char* kTooMuchWork =
     "With the box sizes in the settings, this page has too many lines that could be sides of boxes. Please "
     "set "
@@ -28,8 +27,9 @@ std::optional<Page> ReadForm(const std::string& imagePath, const PipelineContext
     std::variant<Page, PageError> read = imaging::ReadSpecimen(context.files, imagePath);
     if (Page* const page = std::get_if<Page>(&read))
         return std::move(*page);
-    const bool hasColors = std::get<PageError>(read) == PageError::TooManyColors;
-    context.person.ShowMessage("", hasColors ? kTooManyColors : kNotABitmap);
+    const PageError error = std::get<PageError>(read);
+    context.person.ShowMessage("",
+                               error == PageError::TooManyColors ? kTooManyColors : imaging::ReasonOf(error));
     return std::nullopt;
 }
 

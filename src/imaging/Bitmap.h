@@ -4,9 +4,7 @@
 #include <span>
 #include <string>
 
-#include "app/Files.h"
-
-struct FIBITMAP;
+#include "imaging/LibraryHandles.h"
 
 namespace tavrene::imaging {
 
@@ -23,7 +21,7 @@ enum class ImageFormat {
     Webp = 35
 };
 
-/// The image library's version text; empty when the library cannot be called.
+/// The image library's version text; empty when there is no library.
 std::string ImageLibraryVersion();
 
 /// Owns one bitmap of the image library. May be empty ("no bitmap").
@@ -31,17 +29,12 @@ class Bitmap {
   public:
     Bitmap() = default;
     explicit Bitmap(FIBITMAP* handle) : handle_(handle) {}
-    Bitmap(Bitmap&& other) noexcept : handle_(other.Release()) {}
-    Bitmap& operator=(Bitmap&& other) noexcept;
-    Bitmap(const Bitmap&) = delete;
-    Bitmap& operator=(const Bitmap&) = delete;
-    ~Bitmap();
 
     /// A white one-bit page of the given size and resolution (dots per inch, 0 for none); bit 1 is black.
     static Bitmap BilevelPage(int width, int height, int dpi);
 
     explicit operator bool() const { return handle_ != nullptr; }
-    FIBITMAP* Get() const { return handle_; }
+    FIBITMAP* Get() const { return handle_.get(); }
 
     int Width() const;
     int Height() const;
@@ -54,23 +47,10 @@ class Bitmap {
     std::span<std::uint8_t> ScanLine(int row);
 
   private:
-    FIBITMAP* Release();
-
-    FIBITMAP* handle_ = nullptr;
+    BitmapHandle handle_;
 };
-
-/// What of an image is decoded. With the header alone the sizes are known and no pixel is unpacked; formats
-/// for which the library cannot do that are decoded whole.
-enum class Decode { Whole, HeaderOnly };
-
-/// Decodes an image; no bitmap when the content is not of that format or is damaged. Prints nothing.
-Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decode extent = Decode::Whole);
 
 /// Makes bit 1 of a one-bit image black and bit 0 white, by its palette; the bits stay.
 void MakeInkDark(Bitmap& bitmap);
-
-/// Encodes a one-bit image as TIFF with CCITT Group 4 compression; throws std::runtime_error when the library
-/// refuses.
-app::Bytes EncodeGroup4Tiff(const Bitmap& bitmap);
 
 }  // namespace tavrene::imaging

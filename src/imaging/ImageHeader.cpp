@@ -1,9 +1,10 @@
 #include "imaging/ImageHeader.h"
 
-#include <algorithm>
-#include <array>
+#include <optional>
 
 #include "imaging/ByteReader.h"
+#include "imaging/ImageDecoder.h"
+#include "imaging/JpegFile.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -12,23 +13,12 @@ using Order = ByteReader::Order;
 
 constexpr std::int64_t kMaxSide = 32'767;
 constexpr std::int64_t kMaxArea = 256'000'000;
+constexpr std::int64_t kMaxBytes = std::int64_t{1} << 30;
 
-// TIFF: the tags of the first directory, in the classic layout (42) or the one with 64-bit offsets (43).
 ResolutionPresence FindTiffResolution(std::span<const std::byte> content) {
-    const bool bigEndian = !content.empty() && content[0] == std::byte{'M'};
-    const ByteReader reader(content, bigEndian ? Order::BigEndian : Order::LittleEndian);
-    const bool wide = reader.Number(2, 2) == 43;
-    const std::uint64_t directory = wide ? reader.Number(8, 8) : reader.Number(4, 4);
-    const std::uint64_t entries = reader.Number(directory, wide ? 8 : 2);
-    const std::uint64_t entrySize = wide ? 20 : 12;
-    std::uint64_t entry = directory + (wide ? 8 : 2);
-    ResolutionPresence found;
-    for (std::uint64_t k = 0; k < entries && reader.Holds(entry, entrySize); ++k, entry += entrySize) {
-        const std::uint64_t tag = reader.Number(entry, 2);
-        found.x = found.x || tag == 282;
-        found.y = found.y || tag == 283;
-    }
-    return found;
+    for (const TiffHeader& first : ReadTiffHeaders(content, 1))
+        return {first.hasResolutionX, first.hasResolutionY};
+    return {};
 }
 
 // PNG: the physical-size chunk, which counts when its unit is the metre. It stands before the picture data.
@@ -50,37 +40,18 @@ ResolutionPresence FindPngResolution(std::span<const std::byte> content) {
     return {};
 }
 
-// Calls `see(marker, offset)` for the segments of a JPEG file up to the first scan, whose offset it returns.
-template <typename See>
-std::uint64_t WalkJpegSegments(const ByteReader& reader, See see) {
-    constexpr std::uint64_t kStartOfScan = 0xDA;
-    std::uint64_t segment = 2;
-    while (reader.Holds(segment, 4) && reader.Number(segment, 1) == 0xFF) {
-        const std::uint64_t marker = reader.Number(segment + 1, 1);
-        if (marker == kStartOfScan)
-            break;
-        see(marker, segment);
-        segment += 2 + reader.Number(segment + 2, 2);
-    }
-    return segment;
+// BMP: two numbers of the header, which its oldest form of 12 bytes does not have.
+ResolutionPresence FindBmpResolution(std::span<const std::byte> content) {
+    const ByteReader reader(content, Order::LittleEndian);
+    if (reader.Number(14, 4) < 40)
+        return {};
+    return {reader.Number(38, 4) != 0, reader.Number(42, 4) != 0};
 }
 
-// JPEG: the density unit of the JFIF segment, dots an inch (1) or a centimetre (2).
-ResolutionPresence FindJpegResolution(std::span<const std::byte> content) {
-    constexpr std::uint64_t kJfif = 0x4A46494600;
-    const ByteReader reader(content, Order::BigEndian);
-    bool measured = false;
-    WalkJpegSegments(reader, [&](std::uint64_t marker, std::uint64_t segment) {
-        const std::uint64_t unit = reader.Number(segment + 11, 1);
-        if (marker == 0xE0 && reader.Number(segment + 4, 5) == kJfif)
-            measured = unit == 1 || unit == 2;
-    });
-    return {measured, measured};
-}
-
-struct Size {
+struct Extent {
     std::int64_t width = 0;
     std::int64_t height = 0;
+    std::int64_t bytes = 0;
 };
 
 std::uint64_t SkipSubBlocks(const ByteReader& reader, std::uint64_t offset) {
@@ -90,7 +61,7 @@ std::uint64_t SkipSubBlocks(const ByteReader& reader, std::uint64_t offset) {
 }
 
 // GIF: the size of the first picture. The library can only decode GIF whole.
-Size FirstGifPicture(std::span<const std::byte> content) {
+std::optional<Extent> FirstGifPicture(std::span<const std::byte> content) {
     const ByteReader reader(content, Order::LittleEndian);
     const std::uint64_t flags = reader.Number(10, 1);
     std::uint64_t block = 13;
@@ -98,14 +69,34 @@ Size FirstGifPicture(std::span<const std::byte> content) {
         block += 3 * (std::uint64_t{2} << (flags & 7U));
     while (reader.Holds(block, 10)) {
         const std::uint64_t kind = reader.Number(block, 1);
-        if (kind == 0x2C)
-            return {static_cast<std::int64_t>(reader.Number(block + 5, 2)),
-                    static_cast<std::int64_t>(reader.Number(block + 7, 2))};
+        if (kind == 0x2C) {
+            const auto width = static_cast<std::int64_t>(reader.Number(block + 5, 2));
+            const auto height = static_cast<std::int64_t>(reader.Number(block + 7, 2));
+            return Extent{width, height, width * height};
+        }
         if (kind != 0x21)
             break;
         block = SkipSubBlocks(reader, block + 2);
     }
-    return {};
+    return std::nullopt;
+}
+
+std::optional<Extent> ExtentOf(std::span<const std::byte> content, ImageFormat format) {
+    if (format == ImageFormat::Gif)
+        return FirstGifPicture(content);
+    if (format == ImageFormat::Tiff) {
+        for (const TiffHeader& first : ReadTiffHeaders(content, 1))
+            return Extent{first.width, first.height, first.decodedBytes};
+        return std::nullopt;
+    }
+    const Bitmap header = DecodeImage(content, format, Decode::HeaderOnly);
+    if (!header)
+        return std::nullopt;
+    return Extent{header.Width(), header.Height(), std::int64_t{header.Pitch()} * header.Height()};
+}
+
+bool IsWithinLimits(const Extent& extent) {
+    return !IsTooLarge(extent.width, extent.height) && extent.bytes <= kMaxBytes;
 }
 
 }  // namespace
@@ -116,12 +107,15 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
             return FindTiffResolution(content);
         case ImageFormat::Png:
             return FindPngResolution(content);
-        case ImageFormat::Jpeg:
-            return FindJpegResolution(content);
+        case ImageFormat::Jpeg: {
+            const bool measured = OutlineOfJpeg(content).isMeasured;
+            return {measured, measured};
+        }
+        case ImageFormat::Bmp:
+            return FindBmpResolution(content);
         case ImageFormat::Gif:
         case ImageFormat::Webp:
             return {};
-        case ImageFormat::Bmp:
         case ImageFormat::Pcx:
         case ImageFormat::Jpeg2000:
         case ImageFormat::Jpeg2000Stream:
@@ -130,30 +124,43 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
     return {true, true};
 }
 
-bool IsWhole(std::span<const std::byte> content, ImageFormat format) {
-    if (format != ImageFormat::Jpeg)
-        return true;
-    // Within a scan the byte FF is never followed by D9, the end of the image.
-    const std::uint64_t scan =
-        WalkJpegSegments(ByteReader(content, Order::BigEndian), [](std::uint64_t, std::uint64_t) {});
-    constexpr std::array kEndOfImage = {std::byte{0xFF}, std::byte{0xD9}};
-    const std::span<const std::byte> rest = content.subspan(std::min<std::uint64_t>(scan, content.size()));
-    return std::search(rest.begin(), rest.end(), kEndOfImage.begin(), kEndOfImage.end()) != rest.end();
-}
-
 bool IsTooLarge(std::int64_t width, std::int64_t height) {
     const std::int64_t gridColumns = (width + 31) / 32 * 32;
     return gridColumns > kMaxSide || height > kMaxSide || width * height > kMaxArea;
 }
 
-bool IsTooLarge(std::span<const std::byte> content, ImageFormat format) {
-    Size size;
-    if (format == ImageFormat::Gif) {
-        size = FirstGifPicture(content);
-    } else if (const Bitmap header = DecodeImage(content, format, Decode::HeaderOnly)) {
-        size = {header.Width(), header.Height()};
+bool MayBeDecoded(std::span<const std::byte> content, ImageFormat format) {
+    const std::optional<Extent> extent = ExtentOf(content, format);
+    return extent && IsWithinLimits(*extent);
+}
+
+bool MayBeDecoded(const TiffHeader& header) {
+    return IsWithinLimits({header.width, header.height, header.decodedBytes});
+}
+
+// Behind 128 bytes of header a byte stands for itself, or, with its two highest bits set, for up to 63
+// repeats of the next one. In a file marked as not encoded every byte stands for itself; the library mixes up
+// its lines.
+bool HoldsItsLines(std::span<const std::byte> content, ImageFormat format) {
+    constexpr std::uint64_t kHeader = 128;
+    if (format != ImageFormat::Pcx)
+        return true;
+    const ByteReader reader(content, Order::LittleEndian);
+    const std::uint64_t lines = reader.Number(10, 2) - reader.Number(6, 2) + 1;
+    const std::uint64_t columns = reader.Number(8, 2) - reader.Number(4, 2) + 1;
+    const std::uint64_t lineBytes = reader.Number(66, 2);
+    const std::uint64_t wanted = lines * lineBytes * reader.Number(65, 1);
+    std::uint64_t held = 0;
+    std::uint64_t offset = kHeader;
+    while (held < wanted && reader.Holds(offset, 1)) {
+        const std::uint64_t byte = reader.Number(offset, 1);
+        const bool isRun = byte >= 0xC0;
+        if (isRun && !reader.Holds(offset, 2))
+            return false;
+        held += isRun ? byte - 0xC0 : 1;
+        offset += isRun ? 2 : 1;
     }
-    return IsTooLarge(size.width, size.height);
+    return reader.Number(2, 1) == 1 && held >= wanted && columns * reader.Number(3, 1) <= lineBytes * 8;
 }
 
 }  // namespace tavrene::imaging

@@ -5,12 +5,12 @@
 #include <span>
 
 #include "imaging/Bitmap.h"
+#include "imaging/TiffHeader.h"
 
 namespace tavrene::imaging {
 
 /// Which axes of an image file carry a resolution of their own. The library fills in defaults where there is
-/// none, so the file itself is asked. BMP and PCX count as carrying what the library reports; GIF carries
-/// none.
+/// none, so the file itself is asked. PCX counts as carrying what the library reports; GIF carries none.
 struct ResolutionPresence {
     bool x = false;
     bool y = false;
@@ -24,12 +24,16 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
 /// larger than 256 megapixels.
 bool IsTooLarge(std::int64_t width, std::int64_t height);
 
-/// The same of a file, by what it says. Asked before the pixels are unpacked: a few kilobytes can unpack to
+/// True when the file's header can be read and the picture that it promises is not too large and takes at
+/// most 1 GB when it is decoded. Asked before the pixels are unpacked: a few kilobytes can unpack to
 /// gigabytes.
-bool IsTooLarge(std::span<const std::byte> content, ImageFormat format);
+bool MayBeDecoded(std::span<const std::byte> content, ImageFormat format);
 
-/// False for a JPEG file that ends before its picture does: the library would fill up the rest with grey, and
-/// marks on it would be lost in silence. Other formats notice that by themselves.
-bool IsWhole(std::span<const std::byte> content, ImageFormat format);
+/// The same of one picture of a TIFF.
+bool MayBeDecoded(const TiffHeader& header);
+
+/// False for a PCX file that holds fewer bytes than its header's lines take, or holds them not encoded: the
+/// library would make up the page. Other formats notice damage when they are decoded.
+bool HoldsItsLines(std::span<const std::byte> content, ImageFormat format);
 
 }  // namespace tavrene::imaging

@@ -5,17 +5,23 @@
 
 #include "app/Files.h"
 
+struct FIBITMAP;
 struct FIMEMORY;
 struct FIMULTIBITMAP;
+struct FITAG;
 
 namespace tavrene::imaging {
 
 struct CloseHandle {
     void operator()(FIMEMORY* memory) const;
     void operator()(FIMULTIBITMAP* document) const;
+    void operator()(FIBITMAP* bitmap) const;
+    void operator()(FITAG* tag) const;
 };
 
-/// The image library's files in memory, and its documents of several pages.
+/// The image library's bitmaps, tags, files in memory and documents of several pages.
+using BitmapHandle = std::unique_ptr<FIBITMAP, CloseHandle>;
+using TagHandle = std::unique_ptr<FITAG, CloseHandle>;
 using MemoryHandle = std::unique_ptr<FIMEMORY, CloseHandle>;
 using DocumentHandle = std::unique_ptr<FIMULTIBITMAP, CloseHandle>;
 

@@ -1,13 +1,12 @@
 #include "imaging/PageReader.h"
 
-#include <FreeImage.h>
-
 #include <array>
 #include <cmath>
 #include <utility>
 
 #include "app/Numeric.h"
 #include "imaging/ImageHeader.h"
+#include "imaging/ImageLibrary.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -30,20 +29,20 @@ bool IsReducedToTwoColors(ImageFormat format) {
 
 Bitmap LaidOnWhite(const Bitmap& bitmap) {
     RGBQUAD white{255, 255, 255, 0};
-    const Bitmap full(FreeImage_ConvertTo32Bits(bitmap.Get()));
-    return Bitmap(FreeImage_Composite(full.Get(), FALSE, &white, nullptr));
+    const Bitmap full(Library().ConvertTo32Bits(bitmap.Get()));
+    return Bitmap(Library().Composite(full.Get(), FALSE, &white, nullptr));
 }
 
 // Two colours at level 128; light pixels become bit 1. A one-bit picture already has its two colours.
 Bitmap Thresholded(Bitmap bitmap) {
-    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.Get());
-    if (FreeImage_IsTransparent(bitmap.Get()) || type == FIT_RGBA16)
+    const FREE_IMAGE_TYPE type = Library().GetImageType(bitmap.Get());
+    if (Library().IsTransparent(bitmap.Get()) || type == FIT_RGBA16)
         bitmap = LaidOnWhite(bitmap);
     else if (type == FIT_RGB16)
-        bitmap = Bitmap(FreeImage_ConvertTo24Bits(bitmap.Get()));
+        bitmap = Bitmap(Library().ConvertTo24Bits(bitmap.Get()));
     if (bitmap.BitsPerPixel() == 1)
         return bitmap;
-    return Bitmap(FreeImage_Threshold(bitmap.Get(), kInkLevel));
+    return Bitmap(Library().Threshold(bitmap.Get(), kInkLevel));
 }
 
 int Luminance(const RGBQUAD& color) {
@@ -52,13 +51,13 @@ int Luminance(const RGBQUAD& color) {
 
 // Turns the bits round where bit 1 is the lighter colour. True when they were.
 bool MakeInkSetBits(Bitmap& bitmap) {
-    RGBQUAD* const palette = FreeImage_GetPalette(bitmap.Get());
+    RGBQUAD* const palette = Library().GetPalette(bitmap.Get());
     const bool inverted = Luminance(palette[1]) >= Luminance(palette[0]);
     if (inverted) {
         // With any other palette the library would turn round the palette instead of the bits.
         palette[0] = {0, 0, 0, 0};
         palette[1] = {255, 255, 255, 0};
-        FreeImage_Invert(bitmap.Get());
+        Library().Invert(bitmap.Get());
     }
     MakeInkDark(bitmap);
     return inverted;
@@ -73,10 +72,6 @@ WorkGrid Unpacked(const Bitmap& bitmap) {
 
 std::int16_t DotsPerInch(unsigned dotsPerMetre) {
     return app::ClampToInt16(std::floor(dotsPerMetre * 0.0254 + 0.5));
-}
-
-Bitmap Decoded(const app::Bytes& content, ImageFormat format) {
-    return IsTooLarge(content, format) || !IsWhole(content, format) ? Bitmap() : DecodeImage(content, format);
 }
 
 app::Bytes ContentOrNothing(const app::Files& files, const std::string& path) {
@@ -95,6 +90,8 @@ std::string_view ReasonOf(PageError error) {
             return "Unrecognized File type";
         case PageError::TooManyColors:
             return "Unable to process since image has more than 2 colors";
+        case PageError::NoLibrary:
+            return "FreeImage is not available";
         case PageError::NotABitmap:
             break;
     }
@@ -127,14 +124,19 @@ std::variant<Page, PageError> ReadPage(const app::Files& files, const std::strin
 }
 
 std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format) {
-    const app::Bytes content = ContentOrNothing(files, path);
+    return PageOf(ContentOrNothing(files, path), format);
+}
+
+std::variant<Page, PageError> PageOf(std::span<const std::byte> content, ImageFormat format) {
+    if (!HasImageLibrary())
+        return PageError::NoLibrary;
     Page page;
     page.format = format;
-    page.bitmap = Decoded(content, format);
+    page.bitmap = DecodeImage(content, format);
     if (page.bitmap) {
         const ResolutionPresence carried = FindResolution(content, format);
-        page.DPI_X = carried.x ? DotsPerInch(FreeImage_GetDotsPerMeterX(page.bitmap.Get())) : std::int16_t{0};
-        page.DPI_Y = carried.y ? DotsPerInch(FreeImage_GetDotsPerMeterY(page.bitmap.Get())) : std::int16_t{0};
+        page.DPI_X = carried.x ? DotsPerInch(Library().GetDotsPerMeterX(page.bitmap.Get())) : std::int16_t{0};
+        page.DPI_Y = carried.y ? DotsPerInch(Library().GetDotsPerMeterY(page.bitmap.Get())) : std::int16_t{0};
         if (IsReducedToTwoColors(format))
             page.bitmap = Thresholded(std::move(page.bitmap));
     }

@@ -2,12 +2,13 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
 
 #include "app/Files.h"
-#include "imaging/Bitmap.h"
+#include "imaging/ImageDecoder.h"
 #include "imaging/WorkGrid.h"
 
 namespace tavrene::imaging {
@@ -23,8 +24,8 @@ struct Page {
 };
 
 /// Why a file is no page: its extension stands for no file type, no bitmap could be had of it (damaged,
-/// mislabelled, missing, too large), or it has more than two colours.
-enum class PageError { UnknownType, NotABitmap, TooManyColors };
+/// mislabelled, missing, too large), it has more than two colours, or there is no image library to ask.
+enum class PageError { UnknownType, NotABitmap, TooManyColors, NoLibrary };
 
 /// The reason in words, for the log and the operator.
 std::string_view ReasonOf(PageError error);
@@ -37,8 +38,12 @@ std::optional<ImageFormat> FormatOfExtension(std::string_view path);
 /// otherwise.
 ImageFormat SpecimenFormat(std::string_view path);
 
-/// Reads a file as a page. PNG, GIF and JPEG are reduced to two colours at level 128, a transparent picture
-/// laid on white first; the other types must have two colours. Ink is what is dark, for every type.
+/// Makes a page of an image file's content. PNG, GIF and JPEG are reduced to two colours at level 128, a
+/// transparent picture laid on white first; the other types must have two colours. Ink is what is dark, for
+/// every type.
+std::variant<Page, PageError> PageOf(std::span<const std::byte> content, ImageFormat format);
+
+/// Reads a file as a page of the given type.
 std::variant<Page, PageError> ReadPage(const app::Files& files, const std::string& path, ImageFormat format);
 
 /// Reads a file as a page by the type that its extension stands for.

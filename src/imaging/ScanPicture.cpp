@@ -1,13 +1,12 @@
 #include "imaging/ScanPicture.h"
 
-#include <FreeImage.h>
-
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <stdexcept>
 #include <utility>
 
+#include "imaging/ImageDecoder.h"
+#include "imaging/ImageLibrary.h"
 #include "imaging/LibraryHandles.h"
 
 namespace tavrene::imaging {
@@ -45,8 +44,8 @@ Shades ShadesOf(const Bitmap& picture) {
 Bitmap PackedToBits(const Bitmap& picture) {
     const auto channels = static_cast<std::size_t>(picture.BitsPerPixel()) / 8;
     Bitmap bits = NewPicture(picture.Width(), picture.Height(), 1);
-    FreeImage_SetDotsPerMeterX(bits.Get(), FreeImage_GetDotsPerMeterX(picture.Get()));
-    FreeImage_SetDotsPerMeterY(bits.Get(), FreeImage_GetDotsPerMeterY(picture.Get()));
+    Library().SetDotsPerMeterX(bits.Get(), Library().GetDotsPerMeterX(picture.Get()));
+    Library().SetDotsPerMeterY(bits.Get(), Library().GetDotsPerMeterY(picture.Get()));
     for (int row = 0; row < picture.Height(); ++row) {
         const std::span<const std::uint8_t> from = picture.ScanLine(row);
         const std::span<std::uint8_t> to = bits.ScanLine(row);
@@ -59,18 +58,18 @@ Bitmap PackedToBits(const Bitmap& picture) {
 }
 
 bool IsGreyScale(const Bitmap& picture) {
-    return picture.BitsPerPixel() == 8 && FreeImage_GetColorType(picture.Get()) == FIC_MINISBLACK;
+    return picture.BitsPerPixel() == 8 && Library().GetColorType(picture.Get()) == FIC_MINISBLACK;
 }
 
 bool IsBlackAndWhite(const Bitmap& picture) {
-    const FREE_IMAGE_COLOR_TYPE colors = FreeImage_GetColorType(picture.Get());
+    const FREE_IMAGE_COLOR_TYPE colors = Library().GetColorType(picture.Get());
     return picture.BitsPerPixel() == 1 && (colors == FIC_MINISBLACK || colors == FIC_MINISWHITE);
 }
 
 app::Bytes EncodePng(const Bitmap& picture) {
     const MemoryHandle memory = NewMemory();
     // Packing harder takes four times as long and saves a seventh.
-    if (!FreeImage_SaveToMemory(FIF_PNG, picture.Get(), memory.get(), PNG_Z_BEST_SPEED))
+    if (!Library().SaveToMemory(FIF_PNG, picture.Get(), memory.get(), PNG_Z_BEST_SPEED))
         throw std::runtime_error("The image library cannot write this picture as PNG.");
     return BytesOf(memory);
 }
@@ -78,7 +77,7 @@ app::Bytes EncodePng(const Bitmap& picture) {
 }  // namespace
 
 Bitmap NewPicture(int width, int height, int bitsPerPixel) {
-    Bitmap picture(FreeImage_Allocate(width, height, bitsPerPixel));
+    Bitmap picture(Library().Allocate(width, height, bitsPerPixel, 0, 0, 0));
     if (!picture)
         throw std::runtime_error("There is not enough memory for a picture.");
     if (bitsPerPixel == 1)
@@ -87,16 +86,16 @@ Bitmap NewPicture(int width, int height, int bitsPerPixel) {
 }
 
 void SetResolution(Bitmap& picture, double x, double y) {
-    FreeImage_SetDotsPerMeterX(picture.Get(), static_cast<unsigned>(std::lround(x / 0.0254)));
-    FreeImage_SetDotsPerMeterY(picture.Get(), static_cast<unsigned>(std::lround(y / 0.0254)));
+    Library().SetDotsPerMeterX(picture.Get(), static_cast<unsigned>(std::lround(x / 0.0254)));
+    Library().SetDotsPerMeterY(picture.Get(), static_cast<unsigned>(std::lround(y / 0.0254)));
 }
 
 Bitmap Turned(Bitmap picture, Turn turn) {
     if (turn.mirrored)
-        FreeImage_FlipHorizontal(picture.Get());
+        Library().FlipHorizontal(picture.Get());
     if (turn.quarters == 0)
         return picture;
-    Bitmap turned(FreeImage_Rotate(picture.Get(), -90.0 * turn.quarters, nullptr));
+    Bitmap turned(Library().Rotate(picture.Get(), -90.0 * turn.quarters, nullptr));
     if (!turned)
         throw std::runtime_error("There is not enough memory for a picture.");
     return turned;
@@ -104,14 +103,14 @@ Bitmap Turned(Bitmap picture, Turn turn) {
 
 Bitmap InFewestBits(Bitmap picture) {
     const int bits = picture.BitsPerPixel();
-    const bool isOpaqueColour = (bits == 24 || bits == 32) && !FreeImage_IsTransparent(picture.Get());
+    const bool isOpaqueColour = (bits == 24 || bits == 32) && !Library().IsTransparent(picture.Get());
     if (!picture.IsStandardBitmap() || !(IsGreyScale(picture) || isOpaqueColour))
         return picture;
     switch (ShadesOf(picture)) {
         case Shades::BlackAndWhite:
             return PackedToBits(picture);
         case Shades::Grey:
-            return bits == 8 ? std::move(picture) : Bitmap(FreeImage_ConvertTo8Bits(picture.Get()));
+            return bits == 8 ? std::move(picture) : Bitmap(Library().ConvertTo8Bits(picture.Get()));
         case Shades::Colour:
             break;
     }
@@ -123,16 +122,6 @@ ScanFile EncodeScan(Bitmap picture) {
     if (picture.IsStandardBitmap() && IsBlackAndWhite(picture))
         return {EncodeGroup4Tiff(picture), ".tif"};
     return {EncodePng(picture), ".png"};
-}
-
-std::optional<ImageFormat> FormatOfContent(std::span<const std::byte> content) {
-    constexpr std::array kKnown = {ImageFormat::Bmp,  ImageFormat::Jpeg,           ImageFormat::Pcx,
-                                   ImageFormat::Png,  ImageFormat::Tiff,           ImageFormat::Gif,
-                                   ImageFormat::Webp, ImageFormat::Jpeg2000Stream, ImageFormat::Jpeg2000};
-    const MemoryHandle memory = MemoryOver(content);
-    const auto format = static_cast<ImageFormat>(FreeImage_GetFileTypeFromMemory(memory.get(), 0));
-    return std::find(kKnown.begin(), kKnown.end(), format) == kKnown.end() ? std::nullopt
-                                                                           : std::optional(format);
 }
 
 }  // namespace tavrene::imaging

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-#include <span>
 #include <string>
 
 #include "app/Files.h"
@@ -37,8 +35,5 @@ struct ScanFile {
 
 /// Throws std::runtime_error when the library refuses, as with pixels of more than 16 bits a channel.
 ScanFile EncodeScan(Bitmap picture);
-
-/// The file type by the content itself, whatever its name; none for what the program cannot decode.
-std::optional<ImageFormat> FormatOfContent(std::span<const std::byte> content);
 
 }  // namespace tavrene::imaging

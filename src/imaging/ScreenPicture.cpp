@@ -1,19 +1,19 @@
 #include "imaging/ScreenPicture.h"
 
-#include <FreeImage.h>
+#include "imaging/ImageLibrary.h"
 
 namespace tavrene::imaging {
 
 Bitmap ScreenPicture(Bitmap picture) {
     if (!picture.IsStandardBitmap())
         return {};
-    const FREE_IMAGE_COLOR_TYPE colors = FreeImage_GetColorType(picture.Get());
+    const FREE_IMAGE_COLOR_TYPE colors = Library().GetColorType(picture.Get());
     if (colors != FIC_MINISBLACK && colors != FIC_MINISWHITE)
-        return Bitmap(FreeImage_ConvertTo32Bits(picture.Get()));
+        return Bitmap(Library().ConvertTo32Bits(picture.Get()));
     if (picture.BitsPerPixel() > 1)
-        return Bitmap(FreeImage_ConvertToGreyscale(picture.Get()));
+        return Bitmap(Library().ConvertToGreyscale(picture.Get()));
     if (colors == FIC_MINISBLACK)
-        FreeImage_Invert(picture.Get());
+        Library().Invert(picture.Get());
     return picture;
 }
 

@@ -1,13 +1,13 @@
 #include "imaging/TiffPages.h"
 
-#include <FreeImage.h>
-
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
 #include "imaging/ImageHeader.h"
-#include "imaging/TiffMessages.h"
+#include "imaging/ImageLibrary.h"
+#include "imaging/LibraryMessages.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -17,29 +17,22 @@ constexpr const char* kLabelTag = "XMLPacket";
 
 std::string LabelOf(const Bitmap& picture) {
     FITAG* tag = nullptr;
-    if (!FreeImage_GetMetadata(FIMD_XMP, picture.Get(), kLabelTag, &tag))
+    if (!Library().GetMetadata(FIMD_XMP, picture.Get(), kLabelTag, &tag))
         return {};
-    const std::string label(static_cast<const char*>(FreeImage_GetTagValue(tag)),
-                            FreeImage_GetTagLength(tag));
+    const std::string label(static_cast<const char*>(Library().GetTagValue(tag)),
+                            Library().GetTagLength(tag));
     return label.substr(0, label.find('\0'));
 }
 
 void SetLabel(const Bitmap& picture, const std::string& label) {
-    FITAG* const tag = FreeImage_CreateTag();
+    const TagHandle tag(Library().CreateTag());
     const auto length = static_cast<DWORD>(label.size() + 1);
-    FreeImage_SetTagKey(tag, kLabelTag);
-    FreeImage_SetTagType(tag, FIDT_ASCII);
-    FreeImage_SetTagCount(tag, length);
-    FreeImage_SetTagLength(tag, length);
-    FreeImage_SetTagValue(tag, label.c_str());
-    FreeImage_SetMetadata(FIMD_XMP, picture.Get(), kLabelTag, tag);
-    FreeImage_DeleteTag(tag);
-}
-
-DocumentHandle OpenTiff(const MemoryHandle& memory, int flags) {
-    if (FreeImage_GetFileTypeFromMemory(memory.get(), 0) != FIF_TIFF)
-        return nullptr;
-    return DocumentHandle(FreeImage_LoadMultiBitmapFromMemory(FIF_TIFF, memory.get(), flags));
+    Library().SetTagKey(tag.get(), kLabelTag);
+    Library().SetTagType(tag.get(), FIDT_ASCII);
+    Library().SetTagCount(tag.get(), length);
+    Library().SetTagLength(tag.get(), length);
+    Library().SetTagValue(tag.get(), label.c_str());
+    Library().SetMetadata(FIMD_XMP, picture.Get(), kLabelTag, tag.get());
 }
 
 constexpr BYTE kPaper = 0xE0;
@@ -48,32 +41,29 @@ constexpr BYTE kLine = 0x90;
 }  // namespace
 
 TiffReader::TiffReader(std::span<const std::byte> content)
-    : memory_(MemoryOver(content)), headerMemory_(MemoryOver(content)) {
-    ListenToTiffLibrary();
-    document_ = OpenTiff(memory_, 0);
-    headers_ = OpenTiff(headerMemory_, FIF_LOAD_NOPIXELS);
-    // The library counts only as far as the file is sound.
-    if (!headers_ || TiffWasDamaged())
-        document_.reset();
+    : headers_(ReadTiffHeaders(content, std::numeric_limits<int>::max())) {
+    // The headers end where the list of pages is unsound.
+    if (headers_.empty() || DamageWasMet() || !HasImageLibrary())
+        return;
+    memory_ = MemoryOver(content);
+    document_.reset(Library().LoadMultiBitmapFromMemory(FIF_TIFF, memory_.get(), 0));
 }
 
 int TiffReader::PageCount() const {
-    return document_ ? FreeImage_GetPageCount(document_.get()) : 0;
+    return document_ ? Library().GetPageCount(document_.get()) : 0;
 }
 
 Bitmap TiffReader::Page(int index) const {
-    const auto copyOfPage = [index](const DocumentHandle& document) {
-        FIBITMAP* const locked = FreeImage_LockPage(document.get(), index);
-        Bitmap page(locked == nullptr ? nullptr : FreeImage_Clone(locked));
-        FreeImage_UnlockPage(document.get(), locked, FALSE);
-        return page;
-    };
-    ListenToTiffLibrary();
-    const Bitmap header = copyOfPage(headers_);
-    if (!header || IsTooLarge(header.Width(), header.Height()))
+    const auto number = static_cast<std::size_t>(index);
+    if (number >= headers_.size() || !MayBeDecoded(headers_[number]))
         return {};
-    Bitmap page = copyOfPage(document_);
-    return TiffWasDamaged() ? Bitmap() : std::move(page);
+    ListenToLibraries();
+    FIBITMAP* const locked = Library().LockPage(document_.get(), index);
+    if (locked == nullptr)
+        return {};
+    Bitmap page(Library().Clone(locked));
+    Library().UnlockPage(document_.get(), locked, FALSE);
+    return DamageWasMet() ? Bitmap() : std::move(page);
 }
 
 std::vector<TiffPage> DecodeTiffPages(std::span<const std::byte> content) {
@@ -92,34 +82,36 @@ std::vector<TiffPage> DecodeTiffPages(std::span<const std::byte> content) {
 app::Bytes EncodeTiffPages(std::span<const TiffPage> pages) {
     if (pages.empty())
         return {};
-    ListenToTiffLibrary();
+    ListenToLibraries();
     // A document without a name lives in memory and is never saved by being closed.
-    const DocumentHandle document(FreeImage_OpenMultiBitmap(FIF_TIFF, "", TRUE, FALSE, TRUE, 0));
+    const DocumentHandle document(Library().OpenMultiBitmap(FIF_TIFF, "", TRUE, FALSE, TRUE, 0));
     if (!document)
         throw std::runtime_error("The image library cannot make a TIFF of several pages.");
     for (const TiffPage& page : pages) {
         SetLabel(page.picture, page.label);
-        FreeImage_AppendPage(document.get(), page.picture.Get());
+        Library().AppendPage(document.get(), page.picture.Get());
     }
     const MemoryHandle memory = NewMemory();
-    if (FreeImage_GetPageCount(document.get()) != static_cast<int>(pages.size()) ||
-        !FreeImage_SaveMultiBitmapToMemory(FIF_TIFF, document.get(), memory.get(), 0))
+    if (Library().GetPageCount(document.get()) != static_cast<int>(pages.size()) ||
+        !Library().SaveMultiBitmapToMemory(FIF_TIFF, document.get(), memory.get(), 0))
         throw std::runtime_error("The image library cannot write a TIFF of several pages.");
     return BytesOf(memory);
 }
 
 Bitmap ReducedPicture(const Bitmap& picture, int width, int maxHeight) {
-    const Bitmap grey(FreeImage_ConvertToGreyscale(picture.Get()));
+    const Bitmap grey(Library().ConvertToGreyscale(picture.Get()));
     const double scale = static_cast<double>(width) / picture.Width();
     const int height = std::clamp(static_cast<int>(picture.Height() * scale), 1, maxHeight);
-    Bitmap reduced(grey ? FreeImage_Rescale(grey.Get(), width, height, FILTER_BOX) : nullptr);
+    Bitmap reduced(grey ? Library().Rescale(grey.Get(), width, height, FILTER_BOX) : nullptr);
     if (!reduced)
         throw std::runtime_error("There is not enough memory for a reduced picture.");
     return reduced;
 }
 
 Bitmap PlaceholderPicture(int width, int height) {
-    Bitmap sheet(FreeImage_Allocate(width, height, 8));
+    if (!HasImageLibrary())
+        return {};
+    Bitmap sheet(Library().Allocate(width, height, 8, 0, 0, 0));
     if (!sheet)
         throw std::runtime_error("There is not enough memory for a picture.");
     for (int row = 0; row < height; ++row) {

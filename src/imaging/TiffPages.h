@@ -7,6 +7,7 @@
 #include "app/Files.h"
 #include "imaging/Bitmap.h"
 #include "imaging/LibraryHandles.h"
+#include "imaging/TiffHeader.h"
 
 namespace tavrene::imaging {
 
@@ -18,15 +19,14 @@ class TiffReader {
 
     int PageCount() const;
 
-    /// Page `index`, counted from 0; no bitmap when it is damaged or beyond the sizes that `IsTooLarge`
+    /// Page `index`, counted from 0; no bitmap when it is damaged or takes more than `MayBeDecoded`
     /// allows.
     Bitmap Page(int index) const;
 
   private:
+    std::vector<TiffHeader> headers_;
     MemoryHandle memory_;
-    MemoryHandle headerMemory_;
     DocumentHandle document_;
-    DocumentHandle headers_;  // the same pages without their pixels
 };
 
 /// One page of a multi-page TIFF with a text of its own, which travels in the file and is shown nowhere.
@@ -45,7 +45,8 @@ app::Bytes EncodeTiffPages(std::span<const TiffPage> pages);
 /// std::runtime_error when there is no memory for it.
 Bitmap ReducedPicture(const Bitmap& picture, int width, int maxHeight);
 
-/// Stands for a picture that is not there: an empty grey sheet, crossed out.
+/// Stands for a picture that is not there: an empty grey sheet, crossed out. Without an image library there
+/// is none.
 Bitmap PlaceholderPicture(int width, int height);
 
 }  // namespace tavrene::imaging

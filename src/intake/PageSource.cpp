@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "imaging/ImageDecoder.h"
 #include "imaging/ImageHeader.h"
 #include "imaging/ScanPicture.h"
 #include "imaging/TiffPages.h"
@@ -42,8 +43,6 @@ class PictureSource final : public PageSource {
     int PageCount() const override { return 1; }
 
     std::variant<Bitmap, Reason> Page(int index) override {
-        if (imaging::IsTooLarge(content_, format_) || !imaging::IsWhole(content_, format_))
-            return DamagedPage(index);
         Bitmap picture = imaging::DecodeImage(content_, format_);
         if (!picture)
             return DamagedPage(index);

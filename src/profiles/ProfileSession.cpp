@@ -32,7 +32,7 @@ bool ProfileSession::MayLeave() {
     notes_.clear();
     if (!profile_.ProfileChanged)
         return true;
-    switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?")) {
+    switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?", Answer::Yes)) {
         case Answer::Yes:
             return Write();
         case Answer::No:
@@ -162,12 +162,14 @@ bool ProfileSession::MayOverwrite(const std::string& onDisk) {
     return onDisk.empty() || onDisk == profile_.Fingerprint ||
            context_.person.AskYesNo(
                "The file " + profile_.Path +
-               " was changed by somebody else after it was opened here. Save over it?") == Answer::Yes;
+                   " was changed by somebody else after it was opened here. Save over it?",
+               Answer::No) == Answer::Yes;
 }
 
 void ProfileSession::Delete() {
     notes_.clear();
-    if (!HasProfile() || context_.person.AskYesNo("Delete Profile " + profile_.Path) != Answer::Yes)
+    if (!HasProfile() ||
+        context_.person.AskYesNo("Delete Profile " + profile_.Path, Answer::No) != Answer::Yes)
         return;
     profiles_.Delete(profile_);
     Close();

@@ -16,9 +16,12 @@ namespace tavrene::review {
 std::vector<std::optional<std::size_t>> MarksOfBoxes(const profiles::ProfileRecord& profile,
                                                      std::span<const recognition::ResultMark> marks);
 
-/// A shift for every box of a profile: that of its mark, or else that of the nearest box that has one, or
-/// else 0,0.
+/// A shift for every box of a profile from the marks of a document: that of the mark of its name; or else of
+/// the box of `old` (the profile that the document was read with; empty where it is not known) at its place;
+/// or else of the mark at its place in the order; or else of the nearest box that has one. 0,0 only where no
+/// mark has a shift.
 std::vector<recognition::BoxShift> ShiftsOfBoxes(const profiles::ProfileRecord& profile,
+                                                 const profiles::ProfileRecord& old,
                                                  std::span<const recognition::ResultMark> marks);
 
 }  // namespace tavrene::review

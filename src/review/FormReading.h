@@ -11,6 +11,10 @@ namespace tavrene::review {
 /// the profile has. Without a page the boxes have neither.
 void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold);
 
+/// Searches the shifts of a form whose document has none, as a run would, but for its own profile alone. They
+/// are kept with the form; nothing is written.
+void FindLostShifts(OpenForm& form, const imaging::Page& page);
+
 /// The form as it reads against `profile`, at the shifts that its document had when it was opened: what was
 /// read against another profile in between may have lost them. Nothing is written. Throws
 /// `recognition::ReadingError`.

@@ -35,7 +35,8 @@ void FormReview::Open(const std::string& document) {
         OpenForm form;
         form.Name = app::BaseName(document);
         form.Document = document;
-        form.Result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
+        form.Fingerprint = context_.files.Fingerprint(PathOf(form));
+        form.Result = recognition::ResultDocument::Load(context_.files, PathOf(form));
         if (Prepare(form)) {
             form_ = std::move(form);
             context_.choice.SetChoice(form_->Profile.Name);
@@ -51,35 +52,54 @@ void FormReview::Open(const std::string& document) {
 
 // False when the opening ends here.
 bool FormReview::Prepare(OpenForm& form) {
-    const std::string image = form.Result.Image();
-    if (!context_.files.FileExists(folders_.ProcessOut + image)) {
-        context_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
+    if (!HasImage(form))
         return false;
-    }
-    ShowImage(image);
-    const std::string profileName = form.Result.Profile();
-    const ProfileRecord* const profile = FindProfile(profileName);
-    if (profile == nullptr) {
-        if (context_.person.AskYesNo("The profile " + profileName +
-                                     " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
-                                     "ProcessIn Dir...") == app::Answer::Yes)
-            SendBack(form);
-        return false;
-    }
-    form.Profile = *profile;
-    form.SavedProfile = profileName;
+    ShowImage(form.Result.Image());
     form.Opened = form.Result.Marks();
     form.Marks = form.Opened;
+    form.SavedProfile = form.Result.Profile();
+    const ProfileRecord* const profile = FindProfile(form.SavedProfile);
+    if (profile == nullptr)
+        return KeepWithoutProfile(form);
+    form.Profile = *profile;
+    form.OpenedProfile = *profile;
+    if (page_)
+        FindLostShifts(form, *page_);
     MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
+}
+
+// Its marks can be listed and decided about; where its boxes lie nobody knows any more.
+bool FormReview::KeepWithoutProfile(OpenForm& form) {
+    if (context_.person.AskYesNo("The profile " + form.SavedProfile +
+                                     " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
+                                     "ProcessIn Dir...",
+                                 app::Answer::No) == app::Answer::Yes) {
+        SendBack(form);
+        return false;
+    }
+    form.Profile.Name = form.SavedProfile;
+    form.HasProfile = false;
+    form.Boxes.assign(form.Marks.size(), {});
+    screen_.ShowBoxes(form);
+    return true;
+}
+
+bool FormReview::HasImage(const OpenForm& form) {
+    const std::string image = form.Result.Image();
+    if (context_.files.FileExists(folders_.ProcessOut + image))
+        return true;
+    context_.log.LogProcessEvent("File " + image + " referred by " + form.Document + " was not found.");
+    return false;
 }
 
 bool FormReview::SettleDifferences(OpenForm& form) {
     switch (
         context_.person.AskYesNoCancel("The profile has changed. Re-evaluate using the new profile?\n"
                                        "Selecting No would keep the same profile but skip the modified "
-                                       "fields.")) {
+                                       "fields.",
+                                       app::Answer::No)) {
         case app::Answer::Yes:
             return ReadAnew(form, ProfileRecord(form.Profile));
         case app::Answer::No:
@@ -115,24 +135,72 @@ void FormReview::SendBack(const OpenForm& form) {
     const std::string waiting = folders_.ProcessIn + image;
     const bool replaces = context_.files.FileExists(waiting);
     context_.files.Move(folders_.ProcessOut + image, waiting);
-    if (replaces)
-        context_.log.LogProcessEvent("Image [" + image + "] replaces the waiting file " + waiting);
-    context_.files.Delete(folders_.ProcessOut + form.Document);
+    context_.log.LogProcessEvent("Image [" + image + "] sent back to " + folders_.ProcessIn +
+                                 (replaces ? " in place of the waiting file of that name" : ""));
+    context_.files.Delete(PathOf(form));
     list_.Remove(form.Document);
     list_.ShowCounts();
 }
 
-// Rewrites the document. False when there is no page to read; the form changes only when all is done.
-bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
-    if (!page_)
-        return false;
-    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
-    read.Result.Save(context_.files, folders_.ProcessOut + form.Document);
-    form = std::move(read);
-    screen_.ShowBoxes(form);
+bool FormReview::MayOverwrite(const OpenForm& form) {
+    const std::string onDisk = context_.files.Fingerprint(PathOf(form));
+    return onDisk.empty() || onDisk == form.Fingerprint ||
+           context_.person.AskYesNo(
+               "The document " + PathOf(form) +
+                   " was changed by somebody else after it was opened here. Write over it?",
+               app::Answer::No) == app::Answer::Yes;
+}
+
+void FormReview::ShowInList(const OpenForm& form) {
     list_.Change(form.Document, form.Result.IsReviewed(), form.Result.Confidence());
     list_.ShowCounts();
+}
+
+// Rewrites the document. False when there is no page to read, or the document is not to be rewritten; the
+// form changes only when all is done.
+bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
+    if (!page_ || !MayOverwrite(form))
+        return false;
+    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold);
+    read.Result.Save(context_.files, PathOf(form));
+    read.Fingerprint = context_.files.Fingerprint(PathOf(form));
+    form = std::move(read);
+    screen_.ShowBoxes(form);
+    ShowInList(form);
     return true;
+}
+
+bool FormReview::Save() {
+    if (!MayOverwrite(*form_))
+        return false;
+    recognition::ResultDocument saved = form_->Result.Clone();
+    saved.SetReviewed(true);
+    saved.SetProfile(form_->Profile.Name);
+    if (form_->Profile.Name == form_->SavedProfile)
+        saved.SetChecked(form_->Marks);
+    else
+        saved.ReplaceMarks(form_->Marks);
+    saved.Save(context_.files, PathOf(*form_));
+    form_->Result = std::move(saved);
+    form_->Fingerprint = context_.files.Fingerprint(PathOf(*form_));
+    form_->SavedProfile = form_->Profile.Name;
+    form_->Before.reset();
+    form_->Changed = false;
+    return true;
+}
+
+// A document that has gone in the meantime is not brought back.
+void FormReview::DropChanges() {
+    if (!form_->Before)
+        return;
+    const std::string path = PathOf(*form_);
+    if (context_.files.FileExists(path) && MayOverwrite(*form_)) {
+        context_.files.Write(path, *form_->Before);
+        form_->Result = recognition::ResultDocument::Load(context_.files, path);
+        form_->Fingerprint = context_.files.Fingerprint(path);
+        ShowInList(*form_);
+    }
+    form_->Before.reset();
 }
 
 void FormReview::TakeOffScreen() {
@@ -163,12 +231,16 @@ void FormReview::ReadAgainst(const std::string& profileName) {
     const std::string image = form_->Result.Image();
     try {
         const ProfileRecord* const profile = FindProfile(profileName);
-        if (profile != nullptr)
-            LoadForProcessing(folders_.ProcessOut + image);
-        if (profile != nullptr && ReadAnew(*form_, *profile)) {
-            form_->Changed = true;
-            screen_.ShowState(*form_);
-            context_.person.SetPanel(app::Panel::Message, image + " [" + profileName + "]");
+        std::optional<app::Bytes> before = form_->Before;
+        if (profile != nullptr && LoadForProcessing(*form_)) {
+            if (!before && context_.files.FileExists(PathOf(*form_)))
+                before = context_.files.Read(PathOf(*form_));
+            if (ReadAnew(*form_, *profile)) {
+                form_->Before = std::move(before);
+                form_->Changed = true;
+                screen_.ShowState(*form_);
+                context_.person.SetPanel(app::Panel::Message, image + " [" + profileName + "]");
+            }
         }
     } catch (...) {
         context_.choice.SetChoice(form_->Profile.Name);
@@ -178,10 +250,17 @@ void FormReview::ReadAgainst(const std::string& profileName) {
 }
 
 // As a run loads it, with the display copies.
-void FormReview::LoadForProcessing(const std::string& path) {
+bool FormReview::LoadForProcessing(const OpenForm& form) {
+    const std::string path = folders_.ProcessOut + form.Result.Image();
+    page_.reset();
+    if (!HasImage(form)) {
+        context_.person.ShowMessage("", "The image " + path + " was not found.");
+        return false;
+    }
     page_ = recognition::LoadPage(context_.files, context_.log, context_.person, path);
     if (page_)
         LogFailure(path, scratch_.WritePage(*page_));
+    return page_.has_value();
 }
 
 int FormReview::NextDoubtful(int number) const {

@@ -25,12 +25,11 @@ class FormReview {
                ReviewList& list);
 
     /// The open form; none between forms.
-    OpenForm* Form() { return form_ ? &*form_ : nullptr; }
     const OpenForm* Form() const { return form_ ? &*form_ : nullptr; }
 
     /// Opens the form of a document of `ProcessOut` (file name) instead of the open one. No form is open
-    /// afterwards when its image or profile is gone, the person does not want it so, or something cannot be
-    /// read or written: that throws `app::FileError`, `profiles::DocumentError` or
+    /// afterwards when its image is gone, the person does not want it so, or something cannot be read or
+    /// written: that throws `app::FileError`, `profiles::DocumentError` or
     /// `recognition::ReadingError`.
     void Open(const std::string& document);
 
@@ -44,6 +43,14 @@ class FormReview {
     /// nothing. Throws as `Open` does; the form is then as it was before.
     void ReadAgainst(const std::string& profileName);
 
+    /// Writes the open form's marks as reviewed. False when the person would rather keep what somebody else
+    /// has written in the meantime. Throws `app::FileError`; all is then as it was before.
+    bool Save();
+
+    /// Puts the document back that reading against another profile has replaced; the form is about to be
+    /// left.
+    void DropChanges();
+
     /// The next row after `number` whose ink is so near to the threshold that the mark is open to doubt,
     /// round the end of the list; 0 without one.
     int NextDoubtful(int number) const;
@@ -51,11 +58,16 @@ class FormReview {
   private:
     const profiles::ProfileRecord* FindProfile(const std::string& name) const;
     bool Prepare(OpenForm& form);
+    bool KeepWithoutProfile(OpenForm& form);
     bool SettleDifferences(OpenForm& form);
     void ShowImage(const std::string& image);
-    void LoadForProcessing(const std::string& path);
+    bool LoadForProcessing(const OpenForm& form);
     void LogFailure(const std::string& image, const std::string& failure);
     void SendBack(const OpenForm& form);
+    bool HasImage(const OpenForm& form);
+    bool MayOverwrite(const OpenForm& form);
+    std::string PathOf(const OpenForm& form) const { return folders_.ProcessOut + form.Document; }
+    void ShowInList(const OpenForm& form);
     bool ReadAnew(OpenForm& form, const profiles::ProfileRecord& profile);
     void TakeOffScreen();
 

@@ -81,7 +81,7 @@ void FormScreen::ShowMark(const OpenForm& form, int number) {
 void FormScreen::ShowState(const OpenForm& form) {
     context_.person.SetPanel(Panel::Message,
                              "Image [" + form.Result.Image() + "], Profile [" + form.Profile.Name + "]");
-    const std::size_t count = form.Profile.Boxes.size();
+    const std::size_t count = form.HasProfile ? form.Profile.Boxes.size() : form.Marks.size();
     context_.person.SetPanel(Panel::ElapsedTime,
                              form.Skipped == 0
                                  ? "OMRs:" + std::to_string(count)

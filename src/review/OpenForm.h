@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Files.h"
 #include "imaging/PageRect.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ResultDocument.h"
@@ -22,10 +23,18 @@ struct OpenForm {
     std::string Name;      ///< Base name of the document.
     std::string Document;  ///< File name of the document.
     recognition::ResultDocument Result;
-    std::vector<recognition::ResultMark> Opened;  ///< The document's marks and shifts when it was opened.
+    std::string Fingerprint;  ///< Of the document when it was last read or written here.
+
+    /// The document's marks and shifts when it was opened, and the profile that it had then.
+    std::vector<recognition::ResultMark> Opened;
+    profiles::ProfileRecord OpenedProfile;
+
+    /// The document before it was read against another profile, while that is not saved.
+    std::optional<app::Bytes> Before;
 
     /// The profile now chosen for it, as it was when it was chosen: a reload of the profiles changes nothing.
     profiles::ProfileRecord Profile;
+    bool HasProfile = true;    ///< False for one that is gone: `Profile` has its name alone.
     std::string SavedProfile;  ///< The profile it had when it was opened or last saved.
 
     /// The current marks and what is shown of them: one each for every box of the document, in its order.

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "app/Reason.h"
@@ -17,43 +20,96 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     for (const profiles::ProfileRecord& profile : profiles)
         names.push_back(profile.Name);
     context_.choice.ShowProfiles(names);
+    entries_.clear();
     lines_.clear();
-    reviewed_ = 0;
-    missing_ = 0;
     context_.lines.ShowLines({});
     ShowCounts();
-    ReadLines();
+    folder_ = context_.files.Fingerprint(folders_.ProcessOut);
+    for (const std::string& document : context_.files.List(folders_.ProcessOut, "*.xml")) {
+        entries_.push_back(Read(document));
+        if (entries_.back().line)
+            lines_.push_back(*entries_.back().line);
+    }
     context_.lines.ShowLines(lines_);
-    if (missing_ > 0)
+    const auto missing = std::count_if(entries_.begin(), entries_.end(), [](const Entry& entry) {
+        return !entry.line && !entry.image.empty();
+    });
+    if (missing > 0)
         context_.person.SetPanel(app::Panel::Message,
-                                 "Warning: Images referred in <" + std::to_string(missing_) +
+                                 "Warning: Images referred in <" + std::to_string(missing) +
                                      "> Forms were missing and hence not loaded. Please refer process log.");
     ShowCounts();
 }
 
-void ReviewList::ReadLines() {
-    for (const std::string& document : context_.files.List(folders_.ProcessOut, "*.xml")) {
-        try {
-            std::optional<ReviewLine> line = ReadLine(document);
-            if (!line)
-                continue;
-            reviewed_ += line->Reviewed ? 1 : 0;
-            lines_.push_back(*std::move(line));
-        } catch (const std::exception& error) {
-            context_.log.LogProcessEvent(std::string("Review: Form left out: ") + app::ReasonOf(error));
-        }
+ReviewList::Entry ReviewList::Read(const std::string& document) {
+    const std::string path = folders_.ProcessOut + document;
+    Entry entry{document, context_.files.Fingerprint(path), {}, std::nullopt};
+    try {
+        const auto result = recognition::ResultDocument::Load(context_.files, path);
+        entry.image = folders_.ProcessOut + result.Image();
+        if (context_.files.FileExists(entry.image))
+            entry.line =
+                ReviewLine{app::BaseName(document), document, result.IsReviewed(), result.Confidence()};
+        else
+            context_.log.LogProcessEvent("Review: Image <" + entry.image + "> does not exist.");
+    } catch (const std::exception& error) {
+        context_.log.LogProcessEvent(std::string("Review: Form left out: ") + app::ReasonOf(error));
     }
+    return entry;
 }
 
-std::optional<ReviewLine> ReviewList::ReadLine(const std::string& document) {
-    const auto result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
-    const std::string image = folders_.ProcessOut + result.Image();
-    if (!context_.files.FileExists(image)) {
-        ++missing_;
-        context_.log.LogProcessEvent("Review: Image <" + image + "> does not exist.");
-        return std::nullopt;
+bool ReviewList::IsCurrent(const Entry& entry) const {
+    if (context_.files.Fingerprint(folders_.ProcessOut + entry.document) != entry.fingerprint)
+        return false;
+    return entry.image.empty() || context_.files.FileExists(entry.image) == entry.line.has_value();
+}
+
+void ReviewList::Follow() {
+    // A form is opened within a frame's time, and a folder of thousands is not listed in one.
+    const std::string folder = context_.files.Fingerprint(folders_.ProcessOut);
+    if (folder == folder_)
+        return;
+    std::vector<std::string> documents;
+    try {
+        documents = context_.files.List(folders_.ProcessOut, "*.xml");
+    } catch (const app::FileError&) {
+        return;
     }
-    return ReviewLine{app::BaseName(document), document, result.IsReviewed(), result.Confidence()};
+    folder_ = folder;
+    std::map<std::string, Entry> known;
+    for (Entry& entry : entries_)
+        known.emplace(entry.document, std::move(entry));
+    entries_.clear();
+    std::vector<ReviewLine> lines;
+    for (const std::string& document : documents) {
+        const auto old = known.find(document);
+        entries_.push_back(old != known.end() && IsCurrent(old->second) ? old->second : Read(document));
+        if (entries_.back().line)
+            lines.push_back(*entries_.back().line);
+    }
+    ShowDifference(lines);
+    ShowCounts();
+}
+
+// Line by line, for a list that is shown anew would lose selection and place. Both are in the folder's order.
+void ReviewList::ShowDifference(const std::vector<ReviewLine>& wanted) {
+    std::set<std::string_view> documents;
+    for (const ReviewLine& line : wanted)
+        documents.insert(line.Document);
+    std::size_t k = 0;
+    for (; k < wanted.size(); ++k) {
+        while (k < lines_.size() && !documents.contains(lines_[k].Document))
+            RemoveAt(k);
+        if (k == lines_.size() || lines_[k].Document != wanted[k].Document) {
+            lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(k), wanted[k]);
+            context_.lines.InsertLine(k, wanted[k]);
+        } else if (lines_[k] != wanted[k]) {
+            lines_[k] = wanted[k];
+            context_.lines.ChangeLine(k, wanted[k]);
+        }
+    }
+    while (lines_.size() > k)
+        RemoveAt(k);
 }
 
 std::optional<std::size_t> ReviewList::IndexOf(const std::string& document) const {
@@ -69,26 +125,26 @@ void ReviewList::Change(const std::string& document, bool reviewed, const std::s
     const std::optional<std::size_t> index = IndexOf(document);
     if (!index)
         return;
-    ReviewLine& line = lines_[*index];
-    reviewed_ += reviewed ? 1 : 0;
-    reviewed_ -= line.Reviewed ? 1 : 0;
-    line.Reviewed = reviewed;
-    line.Confidence = confidence;
-    context_.lines.ChangeLine(*index, line);
+    lines_[*index].Reviewed = reviewed;
+    lines_[*index].Confidence = confidence;
+    context_.lines.ChangeLine(*index, lines_[*index]);
 }
 
 void ReviewList::Remove(const std::string& document) {
-    const std::optional<std::size_t> index = IndexOf(document);
-    if (!index)
-        return;
-    reviewed_ -= lines_[*index].Reviewed ? 1 : 0;
-    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*index));
-    context_.lines.RemoveLine(*index);
+    if (const std::optional<std::size_t> index = IndexOf(document))
+        RemoveAt(*index);
+}
+
+void ReviewList::RemoveAt(std::size_t index) {
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(index));
+    context_.lines.RemoveLine(index);
 }
 
 void ReviewList::ShowCounts() const {
+    const auto reviewed =
+        std::count_if(lines_.begin(), lines_.end(), [](const ReviewLine& line) { return line.Reviewed; });
     context_.person.SetPanel(
-        app::Panel::File, "Reviewed: " + std::to_string(reviewed_) + " of " + std::to_string(lines_.size()));
+        app::Panel::File, "Reviewed: " + std::to_string(reviewed) + " of " + std::to_string(lines_.size()));
 }
 
 }  // namespace tavrene::review

@@ -24,6 +24,10 @@ class ReviewList {
     /// empty then.
     void Fill(std::span<const profiles::ProfileRecord> profiles);
 
+    /// Takes over what came, went or was replaced in the folder since it was last looked at; the selection
+    /// stays. A folder that cannot be listed changes nothing.
+    void Follow();
+
     const std::vector<ReviewLine>& Lines() const { return lines_; }
 
     /// The line of a document; none when it is not listed.
@@ -37,14 +41,24 @@ class ReviewList {
     void ShowCounts() const;
 
   private:
-    std::optional<ReviewLine> ReadLine(const std::string& document);
-    void ReadLines();
+    // A document of the folder as it was when it was last read.
+    struct Entry {
+        std::string document;
+        std::string fingerprint;
+        std::string image;  // empty where the document is damaged
+        std::optional<ReviewLine> line;
+    };
+
+    Entry Read(const std::string& document);
+    bool IsCurrent(const Entry& entry) const;
+    void ShowDifference(const std::vector<ReviewLine>& wanted);
+    void RemoveAt(std::size_t index);
 
     ReviewContext context_;
     const app::WorkingFolders& folders_;
+    std::string folder_;          ///< Its fingerprint when it was last looked at.
+    std::vector<Entry> entries_;  ///< In the order of the folder.
     std::vector<ReviewLine> lines_;
-    int reviewed_ = 0;
-    int missing_ = 0;
 };
 
 }  // namespace tavrene::review

@@ -29,6 +29,8 @@ class ReviewLines {
 
     /// Replaces all lines; none is selected.
     virtual void ShowLines(std::span<const ReviewLine> lines) = 0;
+    /// Puts a line before the one at `index`; the selection stays where it is, as it does in what follows.
+    virtual void InsertLine(std::size_t index, const ReviewLine& line) = 0;
     virtual void ChangeLine(std::size_t index, const ReviewLine& line) = 0;
     virtual void RemoveLine(std::size_t index) = 0;
 

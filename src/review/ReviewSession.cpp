@@ -47,7 +47,7 @@ void ReviewSession::Refill() {
 
 void ReviewSession::ShowList() {
     TrySettle();
-    tried_.reset();
+    tried_.clear();
     list_.Fill(profiles_);
 }
 
@@ -58,16 +58,25 @@ std::optional<std::size_t> ReviewSession::OpenLine() const {
 void ReviewSession::Open(std::size_t line) {
     const std::string document = list_.Lines().at(line).Document;
     context_.lines.SelectLine(line);
-    tried_ = line;
+    tried_ = document;
     form_.Open(document);
     if (!list_.IndexOf(document))
-        tried_.reset();
+        SelectLineNear(line);
+}
+
+// The next line has moved up into the place of the one that left.
+void ReviewSession::SelectLineNear(std::size_t line) {
+    tried_.clear();
+    if (!list_.Lines().empty())
+        context_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
 }
 
 std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
     const std::optional<std::size_t> open = OpenLine();
     const std::optional<std::size_t> from = open ? open : selected;
-    const bool isNext = !open && selected != tried_ && step > 0;
+    const bool isTried =
+        selected && *selected < list_.Lines().size() && list_.Lines()[*selected].Document == tried_;
+    const bool isNext = !open && !isTried && step > 0;
     const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + (isNext ? 0 : step) : 0;
     if (line < 0 || line >= std::ssize(list_.Lines()))
         return std::nullopt;
@@ -100,22 +109,23 @@ bool ReviewSession::NextDoubtful(int row) {
 bool ReviewSession::MayLeave() {
     if (!HasForm() || !form_.Form()->Changed)
         return true;
-    switch (context_.person.AskYesNoCancel("Save changes to Form <" + form_.Form()->Name + ">?")) {
-        case app::Answer::No:
-            return true;
-        case app::Answer::Cancel:
-            SelectOpenLine();
-            return false;
-        case app::Answer::Yes:
-            break;
-    }
+    bool isLeft = false;
     try {
-        Save();
+        isLeft = Leave(context_.person.AskYesNoCancel("Save changes to Form <" + form_.Form()->Name + ">?",
+                                                      app::Answer::Yes));
     } catch (...) {
         SelectOpenLine();
         throw;
     }
-    return true;
+    if (!isLeft)
+        SelectOpenLine();
+    return isLeft;
+}
+
+bool ReviewSession::Leave(app::Answer answer) {
+    if (answer == app::Answer::No)
+        form_.DropChanges();
+    return answer == app::Answer::No || (answer == app::Answer::Yes && Save());
 }
 
 // The form that is not left is the one that counts, wherever the person has clicked.
@@ -124,40 +134,30 @@ void ReviewSession::SelectOpenLine() {
         context_.lines.SelectLine(*line);
 }
 
-void ReviewSession::Save() {
-    if (!HasForm())
-        return;
-    OpenForm& form = *form_.Form();
-    recognition::ResultDocument saved = form.Result.Clone();
-    saved.SetReviewed(true);
-    saved.SetProfile(form.Profile.Name);
-    if (form.Profile.Name == form.SavedProfile)
-        saved.SetChecked(form.Marks);
-    else
-        saved.ReplaceMarks(form.Marks);
-    saved.Save(context_.files, folders_.ProcessOut + form.Document);
-    form.Result = std::move(saved);
-    form.SavedProfile = form.Profile.Name;
-    form.Changed = false;
+bool ReviewSession::Save() {
+    if (!form_.Save())
+        return false;
+    const OpenForm& form = *form_.Form();
     list_.Change(form.Document, true, form.Result.Confidence());
     context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
     list_.ShowCounts();
+    return true;
+}
+
+void ReviewSession::FollowFolder() {
+    if (IsOn())
+        list_.Follow();
 }
 
 // What an earlier decision left half done is settled first, since there is one note for all moves.
 void ReviewSession::Decide(Decision decision) {
-    if (!HasForm())
-        return;
     SettleInterrupted();
     const FormMove move{decision, form_.Form()->Result.Image(), form_.Form()->Document};
     mover_.Move(move);
     const std::size_t line = OpenLine().value_or(0);
     list_.Remove(move.Document);
     form_.Close();
-    tried_.reset();
-    // The next line has moved up into the place of the one that left.
-    if (!list_.Lines().empty())
-        context_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+    SelectLineNear(line);
     LogDecision(move);
     list_.ShowCounts();
 }

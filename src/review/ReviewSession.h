@@ -45,6 +45,9 @@ class ReviewSession {
     /// Fills the list anew when the person is in review: a run has ended.
     void Refill();
 
+    /// Takes over what has come and gone in the folder, while the person is in review.
+    void FollowFolder();
+
     /// Whether `Okay`, `AcceptForm`, `RejectForm` and `cboProfiles` have a form to act on.
     bool HasForm() const { return form_.Form() != nullptr; }
 
@@ -74,8 +77,9 @@ class ReviewSession {
 
     void ReadAgainst(const std::string& profileName) { form_.ReadAgainst(profileName); }
 
-    /// Marks the open form as reviewed and writes its marks; counts it when it was not reviewed before.
-    void Save();
+    /// Marks the open form as reviewed and writes its marks; counts it when it was not reviewed before. False
+    /// when the person would rather keep what somebody else has written in the meantime.
+    bool Save();
 
     /// Moves image and document of the open form out of `ProcessOut` and selects the next line.
     void Accept() { Decide(Decision::Accept); }
@@ -86,7 +90,9 @@ class ReviewSession {
 
     void TrySettle();
     void ShowList();
+    bool Leave(app::Answer answer);
     void SelectOpenLine();
+    void SelectLineNear(std::size_t line);
     void Decide(Decision decision);
     void LogDecision(const FormMove& move);
 
@@ -97,7 +103,7 @@ class ReviewSession {
     FormReview form_;
     FormMover mover_;
     Stage stage_ = Stage::NotYet;
-    std::optional<std::size_t> tried_;  ///< The line that was opened last, or could not be opened.
+    std::string tried_;  ///< The document that was opened last, or could not be opened.
 };
 
 }  // namespace tavrene::review

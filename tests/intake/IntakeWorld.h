@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "imaging/ImageDecoder.h"
 #include "imaging/ScanPicture.h"
 #include "intake/BringIn.h"
 #include "painter/Canvas.h"

@@ -133,6 +133,10 @@ TEST_F(BadFormsTest, ImagesThatVanishOrAreNone) {
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "Checked:0 of 4 Skip:1");
     Choose("Other");
     EXPECT_EQ(transcript_.LinesOf("choice: "), Names{"Form"});
+    files_.Delete(folders_.ProcessOut + "b.tif");
+    Choose("Other");
+    EXPECT_EQ(Messages(), Names{"The image " + folders_.ProcessOut + "b.tif was not found."});
+    EXPECT_EQ(LastLogLine(), "File b.tif referred by b.xml was not found.");
     EXPECT_EQ(Result("b.xml"), saved);
 }
 

@@ -102,7 +102,7 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
         int kills = 0;
         for (bool killed = true; killed; kills += killed ? 1 : 0) {
             SCOPED_TRACE(kills);
-            person_.answers = {Answer::Yes};
+            person_.answers = {Answer::Yes, Answer::Yes};  // also to what a killed one has written
             killed = DiesBefore(kills, [this, accept] { accept ? Accept() : Reject(); });
 
             review::ReviewSession next(context_, settings_, folders_, profiles_);

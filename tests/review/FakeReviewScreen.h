@@ -23,6 +23,9 @@ class FakeReviewScreen final : public review::ReviewLines, public review::Profil
         for (const review::ReviewLine& line : all)
             lines.push_back(TextOf(line));
     }
+    void InsertLine(std::size_t index, const review::ReviewLine& line) override {
+        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(index), TextOf(line));
+    }
     void ChangeLine(std::size_t index, const review::ReviewLine& line) override {
         lines.at(index) = TextOf(line);
     }

@@ -1,5 +1,6 @@
 #include "ReviewWorld.h"
 #include "painter/ImageFiles.h"
+#include "review/BoxMatching.h"
 
 namespace tavrene {
 namespace {
@@ -128,27 +129,188 @@ TEST_F(ReviewWalkTest, UnsavedMarksAreAskedFor) {
     EXPECT_PRED2(test::Has, ReadText(folders_.ProcessReject + "b.xml"), "Q1\" Shift=\"2,-1\" Checked=\"0\"");
 }
 
-TEST_F(ReviewWalkTest, AFormOfADeletedProfileCanGoBack) {
+TEST_F(ReviewWalkTest, AFormOfADeletedProfileCanBeDecidedAbout) {
     Process();
     files_.Delete(folders_.Profiles + "Form.Tvp");
     AddProfile("Other", TestForm::Grid(1, 2));
     EnterReview();
-    person_.answers = {Answer::No, Answer::Yes};
-    const std::string question =
-        "The profile Form no longer exists. Re-evaluate?\nSelecting Yes will move the image to ProcessIn "
-        "Dir...";
+    person_.answers = {Answer::No};
     Open(0);
-    EXPECT_EQ(transcript_.LinesOf("ask: "), Names{question});
-    EXPECT_TRUE(files_.FileExists(folders_.ProcessOut + "a.xml"));
-    EXPECT_FALSE(review_.HasForm());
+    EXPECT_EQ(transcript_.LinesOf("ask: "),
+              Names{"The profile Form no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
+                    "ProcessIn Dir..."});
+    EXPECT_EQ(transcript_.LinesOf("view: ").size(), 1U);
+    EXPECT_EQ(transcript_.LinesOf("row: "), (Names{"1 Q1|1", "2 Q2|0", "3 Q3|0", "4 Q4|0"}));
+    EXPECT_TRUE(screen_.rects.empty()) << "where the boxes lie nobody knows";
+    EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:4");
+    EXPECT_EQ(transcript_.LinesOf("choice: "), Names{"Form"});
+    Flip(2);
+    Okay();
+    EXPECT_TRUE(ResultHas("a.xml", "Profile=\"Form\" Image=\"a.tif\" Reviewed=\"1\""));
+    EXPECT_TRUE(ResultHas("a.xml", "Q2\" Shift=\"0,0\" Checked=\"1\""));
+    Choose("Other");
+    EXPECT_TRUE(ResultHas("a.xml", "Profile=\"Other\" Image=\"a.tif\" Reviewed=\"0\""));
+    EXPECT_EQ(screen_.rects.size(), 2U);
+    Reject();
+    EXPECT_EQ(In(folders_.ProcessReject), (Names{"a.tif", "a.xml"}));
+}
+
+TEST_F(ReviewWalkTest, AFormOfADeletedProfileCanGoBack) {
+    Process();
+    files_.Delete(folders_.Profiles + "Form.Tvp");
+    EnterReview();
+    person_.answers = {Answer::Yes, Answer::Yes};
+    Open(1);
+    EXPECT_EQ(person_.lastPreset, Answer::No);
+    EXPECT_EQ(LastLogLine(), "Image [b.tif] sent back to " + folders_.ProcessIn);
+    EXPECT_EQ(review_.Neighbour(1, 1), 1U) << "the next form is the one that moved up";
     WriteText(folders_.ProcessIn + "a.tif", "a waiting file of that name");
     Open(0);
     EXPECT_FALSE(review_.HasForm());
-    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+    EXPECT_EQ(In(folders_.ProcessIn), (Names{"a.tif", "b.tif"}));
     EXPECT_NE(ReadText(folders_.ProcessIn + "a.tif"), "a waiting file of that name");
-    EXPECT_EQ(In(folders_.ProcessOut), (Names{"b.tif", "b.xml", "c.tif", "c.xml"}));
-    EXPECT_EQ(LastLogLine(), "Image [a.tif] replaces the waiting file " + folders_.ProcessIn + "a.tif");
-    EXPECT_EQ(list_.lines, (Names{"b 100", "c 100"}));
+    EXPECT_EQ(LastLogLine(), "Image [a.tif] sent back to " + folders_.ProcessIn +
+                                 " in place of the waiting file of that name");
+    EXPECT_EQ(In(folders_.ProcessOut), (Names{"c.tif", "c.xml"}));
+    EXPECT_EQ(list_.lines, Names{"c 100"});
+}
+
+TEST_F(ReviewWalkTest, NoPutsTheDocumentBackThatAnotherProfileReplaced) {
+    AddProfile("Other", TestForm::Grid(1, 2));
+    AddProfile("Third", TestForm::Grid(2, 1));
+    ProcessAndReview();
+    Open(1);
+    Okay();
+    WriteText(folders_.ProcessOut + "b.xml", Result("b.xml") + "<!-- by hand -->");
+    const std::string before = Result("b.xml");
+    Open(1);
+    Choose("Other");
+    Choose("Third");
+    EXPECT_TRUE(ResultHas("b.xml", "Profile=\"Third\" Image=\"b.tif\" Reviewed=\"0\""));
+    person_.answers = {Answer::Cancel, Answer::No};
+    Open(2);
+    EXPECT_TRUE(ResultHas("b.xml", "Profile=\"Third\""));
+    Open(2);
+    EXPECT_EQ(Result("b.xml"), before);
+    EXPECT_EQ(list_.lines, (Names{"a 100", "+ b 100", "c 100"}));
+
+    // What is saved stays.
+    Open(1);
+    Choose("Other");
+    Okay();
+    Flip(1);
+    const std::string saved = Result("b.xml");
+    person_.answers = {Answer::No};
+    Open(2);
+    EXPECT_EQ(Result("b.xml"), saved);
+}
+
+TEST_F(ReviewWalkTest, WhatSomebodyElseWroteIsOverwrittenOnlyAfterAQuestion) {
+    AddProfile("Other", TestForm::Grid(1, 2));
+    ProcessAndReview();
+    Open(0);
+    Flip(1);
+    const std::string theirs = Result("a.xml") + "<!-- theirs -->";
+    WriteText(folders_.ProcessOut + "a.xml", theirs);
+    person_.answers = {Answer::No, Answer::No, Answer::Yes, Answer::No};
+    Okay();
+    EXPECT_EQ(transcript_.LinesOf("ask: "),
+              Names{"The document " + folders_.ProcessOut +
+                    "a.xml was changed by somebody else after it was opened here. Write over it?"});
+    EXPECT_EQ(person_.lastPreset, Answer::No);
+    Choose("Other");
+    Open(1);
+    EXPECT_EQ(review_.OpenLine(), 0U) << "Yes at the prompt, No at the question: it is not left";
+    EXPECT_EQ(Result("a.xml"), theirs);
+    person_.answers = {Answer::Yes};
+    Okay();
+    EXPECT_TRUE(ResultHas("a.xml", "Reviewed=\"1\""));
+    Okay();
+    EXPECT_TRUE(transcript_.LinesOf("ask: ").empty());
+}
+
+TEST_F(ReviewWalkTest, TheListFollowsTheFolder) {
+    ProcessAndReview();
+    Open(1);
+    const std::string document = Result("a.xml");
+    const auto follow = [this] { Do([this] { review_.FollowFolder(); }); };
+    follow();
+    EXPECT_TRUE(transcript_.Lines().empty());
+    files_.Delete(folders_.ProcessOut + "a.xml");
+    files_.Delete(folders_.ProcessOut + "c.tif");
+    for (const char* name : {"aa", "d"}) {
+        std::string text = document;
+        text.replace(text.find("a.tif"), 5, std::string(name) + ".tif");
+        WriteText(folders_.ProcessOut + name + ".xml", text);
+    }
+    files_.Move(folders_.ProcessOut + "a.tif", folders_.ProcessOut + "aa.tif");
+    follow();
+    EXPECT_EQ(list_.lines, (Names{"aa 100", "b 100"}));
+    EXPECT_EQ(review_.OpenLine(), 1U);
+    EXPECT_TRUE(transcript_.LinesOf("select: ").empty());
+    EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 2");
+    const std::size_t logged = ProcessLog().size();
+    WriteText(folders_.ProcessOut + "c.tif", "there again");
+    WriteText(folders_.ProcessOut + "d.tif", "late");
+    follow();
+    EXPECT_EQ(list_.lines, (Names{"aa 100", "b 100", "c 100", "d 100"}));
+    EXPECT_EQ(ProcessLog().size(), logged);
+    files_.Delete(folders_.ProcessOut + "b.xml");
+    follow();
+    EXPECT_EQ(list_.lines, (Names{"aa 100", "c 100", "d 100"}));
+    Okay();
+    EXPECT_EQ(Messages(), Names{"Cannot save " + folders_.ProcessOut + "b.xml: the file is gone"});
+}
+
+// Marks 1 to 4 with shifts of their own.
+std::vector<recognition::ResultMark> MarksOf(const TestForm& form) {
+    std::vector<recognition::ResultMark> marks;
+    for (const profiles::OmrBox& box : form.boxes)
+        marks.push_back(
+            {box.Name, false, recognition::BoxShift{static_cast<std::int16_t>(marks.size() + 1), 7}});
+    return marks;
+}
+
+TEST_F(ReviewWalkTest, ShiftsAreTakenByNameThenPlaceThenOrderThenFromTheNearest) {
+    const profiles::ProfileRecord old = form_.Record("Form");
+    std::vector<recognition::ResultMark> marks = MarksOf(form_);
+    const auto shifts = [&](const profiles::ProfileRecord& profile, const profiles::ProfileRecord& known) {
+        std::string text;
+        for (const recognition::BoxShift& shift : review::ShiftsOfBoxes(profile, known, marks))
+            text += std::to_string(shift.dx);
+        return text;
+    };
+    EXPECT_EQ(shifts(old, {}), "1234");
+    profiles::ProfileRecord other = old;
+    std::swap(other.Boxes[0], other.Boxes[3]);
+    EXPECT_EQ(shifts(other, old), "4231") << "by name, wherever it stands";
+    for (profiles::PrintedBox& box : other.Boxes)
+        box.Name += " renamed";
+    EXPECT_EQ(shifts(other, old), "4231") << "by place";
+    EXPECT_EQ(shifts(other, {}), "1234") << "by order";
+    other.DPI_X = other.DPI_Y = 400;
+    profiles::ProfileRecord coarse = old;
+    coarse.DPI_X = coarse.DPI_Y = 200;
+    for (profiles::PrintedBox& box : other.Boxes)
+        for (std::int16_t* const side : {&box.L, &box.R, &box.lower, &box.upper})
+            *side = static_cast<std::int16_t>(*side * 2);
+    EXPECT_EQ(shifts(other, coarse), "4231") << "at another resolution";
+    marks[0].Shift.reset();
+    marks[1].Shift.reset();
+    EXPECT_EQ(shifts(other, {}), "3434") << "from the nearest";
+    other.Boxes.resize(2);
+    EXPECT_EQ(shifts(other, {}), "33") << "any rather than none";
+}
+
+TEST_F(ReviewWalkTest, LostShiftsAreSearchedAnewOnOpening) {
+    ProcessAndReview();
+    std::string document = Result("b.xml");
+    for (std::size_t at = 0; (at = document.find(" Shift=\"2,-1\"", at)) != std::string::npos;)
+        document.erase(at, 13);
+    WriteText(folders_.ProcessOut + "b.xml", document);
+    Open(1);
+    EXPECT_EQ(transcript_.LinesOf("rect: ")[0], "1 62,71 24x24 unchecked");
+    EXPECT_EQ(Result("b.xml"), document) << "looking at a form rewrites nothing";
 }
 
 TEST_F(ReviewWalkTest, AChangedProfileAsksWhatToDo) {
@@ -210,7 +372,7 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
     Open(1);
     const std::string opened = Result("b.xml");
     Choose("Strange");
-    EXPECT_TRUE(ResultHas("b.xml", "Strange Q1\" Shift=\"0,0\""));
+    EXPECT_TRUE(ResultHas("b.xml", "Strange Q1\" Shift=\"2,-1\""));
     Choose("Form");
     EXPECT_EQ(Result("b.xml"), opened) << "the way back finds the shifts again";
     Flip(1);
@@ -237,7 +399,8 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
     Okay();  // now the profile is the saved one
     EXPECT_EQ(Result("b.xml"), withoutShifts);
     Open(1);
-    EXPECT_EQ(transcript_.LinesOf("rect: ")[0], "1 114,70 24x24 checked");
+    EXPECT_EQ(transcript_.LinesOf("rect: ")[0], "1 116,71 24x24 checked")
+        << "the saved shifts are searched anew";
     EXPECT_EQ(person_.PanelText(Panel::Message), "Image [b.tif], Profile [Other]");
     EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 1 of 3");
 

@@ -21,6 +21,7 @@ class FakeOperator final : public app::Operator {
 
     std::deque<app::Answer> answers;
     std::function<void()> onPendingEvents;
+    app::Answer lastPreset = app::Answer::Yes;  ///< What Enter would have answered to the last question.
 
     std::string PanelText(app::Panel panel) const {
         const auto found = panels_.find(panel);
@@ -33,8 +34,10 @@ class FakeOperator final : public app::Operator {
     void ReportFile(std::string_view fileName, std::string_view text) override {
         transcript_.Add("report: [" + std::string(fileName) + "] " + std::string(text));
     }
-    app::Answer AskYesNo(std::string_view text) override { return Ask(text); }
-    app::Answer AskYesNoCancel(std::string_view text) override { return Ask(text); }
+    app::Answer AskYesNo(std::string_view text, app::Answer preset) override { return Ask(text, preset); }
+    app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override {
+        return Ask(text, preset);
+    }
     void SetPanel(app::Panel panel, std::string_view text) override {
         static const std::map<app::Panel, std::string> names = {{app::Panel::File, "File"},
                                                                 {app::Panel::Message, "Message"},
@@ -52,7 +55,8 @@ class FakeOperator final : public app::Operator {
     }
 
   private:
-    app::Answer Ask(std::string_view text) {
+    app::Answer Ask(std::string_view text, app::Answer preset) {
+        lastPreset = preset;
         transcript_.Add("ask: " + std::string(text));
         if (answers.empty()) {
             ADD_FAILURE() << "no answer is scripted for: " << text;

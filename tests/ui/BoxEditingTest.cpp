@@ -108,6 +108,13 @@ TEST_F(BoxEditingTest, BoxesAreMovedResizedAndDrawnOnThePageOnly) {
     EXPECT_EQ(SavedPlace(7), QRectF(0, 0, page.width(), 30));
 }
 
+TEST_F(BoxEditingTest, TheFirstProfileOpensByKeyboard) {
+    AddSpecimenProfile("Form", form_);
+    Open();
+    Press(Strip(), Qt::Key_Down);
+    EXPECT_EQ(Rows().topLevelItemCount(), 6);
+}
+
 TEST_F(BoxEditingTest, EscapeEndsADragAndOnlyThenClosesTheWindow) {
     OpenForm();
     const QPointF middle = MiddleOf(first_);

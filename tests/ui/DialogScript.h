@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <deque>
 #include <functional>
@@ -41,6 +42,12 @@ class DialogScript {
             ASSERT_NE(box->button(button), nullptr) << FromDialog(dialog);
             box->button(button)->click();
         });
+        return *this;
+    }
+
+    /// Gives the answer that the dialog proposes.
+    DialogScript& PressEnter() {
+        answers_.emplace_back([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
         return *this;
     }
 

@@ -351,8 +351,7 @@ TEST_F(ReviewModeTest, AnotherProfileReadsTheFormAgain) {
     ClickLine(1);
     Q_EMIT Choice().textActivated("Zweite");
     EXPECT_EQ(Panel("Message"), "b.tif [Zweite]");
-    // Boxes of other names have no shift in the document, so they are read where the profile has them.
-    EXPECT_EQ(Marks(), (Names{"R1 0 0.0%", "R2 1 45.4%", "R3 1 45.4%"}));
+    EXPECT_EQ(Marks(), (Names{"R1 0 0.0%", "R2 1 54.6%", "R3 1 54.6%"})) << "at the shifts of the document";
     EXPECT_EQ(Choice().currentText(), "Zweite");
     Click("Okay");
     EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml").find("Shift"), std::string::npos);
@@ -401,12 +400,42 @@ TEST_F(ReviewModeTest, AChangedOrMissingProfileAsks) {
     Open();
     Click("Review");
     DialogScript answers;
-    answers.Press(Box::No).Press(Box::Yes);
+    answers.PressEnter().Press(Box::Yes).PressEnter();
     ClickLine(0);
-    EXPECT_EQ(Lines().size(), 3U);
+    EXPECT_EQ(Lines()[0], "a 100 *") << "No is the safe answer";
+    EXPECT_TRUE(Offers("AcceptForm") && Choice().isEnabled());
     ClickLine(0);
     EXPECT_EQ(Lines().size(), 2U);
     EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+    Press(List(), Qt::Key_PageDown);
+    EXPECT_EQ(Lines()[0], "+ b 100 *") << "the form below the one that went back";
+}
+
+TEST_F(ReviewModeTest, TheListFollowsTheFolderUnderTheSelection) {
+    ProcessAndReview();
+    ClickLine(1);
+    std::filesystem::copy(folders_.ProcessOut + "a.tif", folders_.ProcessOut + "0.tif");
+    std::string document = ReadText(folders_.ProcessOut + "a.xml");
+    Replace(document, "a.tif", "0.tif");
+    test::WriteText(folders_.ProcessOut + "0.xml", document);
+    files_.Delete(folders_.ProcessOut + "c.xml");
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        return Lines() == Names{"0 100", "a 100", "b 100 *"};
+    })) << "by itself";
+    EXPECT_EQ(Selected(), 2);
+    files_.Delete(folders_.ProcessOut + "0.xml");
+    Click("ZoomIn");
+    EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *"})) << "at once with a command";
+    EXPECT_EQ(Selected(), 1);
+}
+
+TEST_F(ReviewModeTest, TheFirstBoxIsHighlightedWhenTheKeyboardComesToIt) {
+    ProcessAndReview();
+    Press(List(), Qt::Key_Return);
+    Rows().setFocus();
+    ASSERT_EQ(Rows().selectedItems().size(), 1);
+    EXPECT_EQ(Rows().selectedItems().front(), Rows().topLevelItem(0));
+    EXPECT_EQ(Rows().currentItem(), Rows().topLevelItem(0));
 }
 
 }  // namespace

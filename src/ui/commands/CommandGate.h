@@ -35,6 +35,9 @@ class CommandGate {
     /// Called when a command or event has ended, well or not; once, however many others it has led to.
     void SetAfterwards(std::function<void()> afterwards);
 
+    /// A command or event is under way; what strikes in the meantime (a timer behind an open question) waits.
+    bool IsBusy() const { return depth_ > 0; }
+
     Mode CurrentMode() const { return context_.mode(); }
 
     /// Whether the command's button is to be enabled.

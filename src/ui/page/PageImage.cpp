@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "imaging/PageReader.h"
+#include "imaging/ImageDecoder.h"
 #include "imaging/ScreenPicture.h"
 
 namespace tavrene::ui {
@@ -22,6 +22,8 @@ QImage::Format FormatOf(const imaging::Bitmap& picture) {
 }  // namespace
 
 QImage ToImage(const imaging::Bitmap& picture) {
+    if (!picture)
+        return {};
     QImage image(picture.Width(), picture.Height(), FormatOf(picture));
     if (image.isNull())
         return {};
@@ -36,12 +38,9 @@ QImage ToImage(const imaging::Bitmap& picture) {
 }
 
 QImage ReadPageImage(const app::Files& files, const std::string& path) {
-    const auto format = imaging::FormatOfExtension(path);
-    if (!format)
-        return {};
     try {
-        const imaging::Bitmap picture =
-            imaging::ScreenPicture(imaging::DecodeImage(files.Read(path), *format));
+        // By its content: a specimen is read as TIFF whatever its extension.
+        const imaging::Bitmap picture = imaging::ScreenPicture(imaging::DecodeAnyImage(files.Read(path)));
         return picture ? ToImage(picture) : QImage();
     } catch (const app::FileError&) {
         // Nothing to show is a state of the view; who needs the file itself tells of it.

@@ -33,6 +33,14 @@ class ReviewListView::Lines final : public QAbstractTableModel {
         endResetModel();
     }
 
+    void Insert(std::size_t row, const review::ReviewLine& line) {
+        const int place = static_cast<int>(row);
+        beginInsertRows({}, place, place);
+        open_ += open_ >= place ? 1 : 0;
+        lines_.insert(lines_.begin() + place, line);
+        endInsertRows();
+    }
+
     void Change(std::size_t row, const review::ReviewLine& line) {
         lines_.at(row) = line;
         TellChanged(static_cast<int>(row));
@@ -41,7 +49,7 @@ class ReviewListView::Lines final : public QAbstractTableModel {
     void Remove(std::size_t row) {
         const int removed = static_cast<int>(row);
         beginRemoveRows({}, removed, removed);
-        open_ = -1;
+        open_ = open_ == removed ? -1 : open_ - (open_ > removed ? 1 : 0);
         lines_.erase(lines_.begin() + removed);
         endRemoveRows();
     }
@@ -129,6 +137,10 @@ ReviewListView::ReviewListView(QWidget* parent)
 
 void ReviewListView::ShowLines(std::span<const review::ReviewLine> lines) {
     lines_->Show(lines);
+}
+
+void ReviewListView::InsertLine(std::size_t index, const review::ReviewLine& line) {
+    lines_->Insert(index, line);
 }
 
 void ReviewListView::ChangeLine(std::size_t index, const review::ReviewLine& line) {

@@ -20,6 +20,7 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void SetListener(Opened opened) { opened_ = std::move(opened); }
 
     void ShowLines(std::span<const review::ReviewLine> lines) override;
+    void InsertLine(std::size_t index, const review::ReviewLine& line) override;
     void ChangeLine(std::size_t index, const review::ReviewLine& line) override;
     void RemoveLine(std::size_t index) override;
     void SelectLine(std::size_t index) override;

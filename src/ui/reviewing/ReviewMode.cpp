@@ -35,7 +35,8 @@ std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
 
 ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext& context,
                        const ReviewControls& controls, std::function<void()> closeProfile)
-    : gate_(context.gate),
+    : state_(state),
+      gate_(context.gate),
       closeProfile_(std::move(closeProfile)),
       controls_(controls),
       marks_(controls.view),
@@ -45,6 +46,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
     ConnectCommands();
     ConnectFormCommands();
     ConnectControls();
+    WatchFolder();
 }
 
 void ReviewMode::ConnectCommands() {
@@ -89,7 +91,7 @@ void ReviewMode::ConnectControls() {
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr)
-            gate_.Take(Command::PickMark, [&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
+            gate_.Take(Command::PickMark, [&] { RowBecameCurrent(row); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -99,8 +101,10 @@ void ReviewMode::Toggle() {
     const BusyCursor busy;
     if (session_.IsOn()) {
         session_.End();
+        watcher_.removePath(ToQt(state_.folders.ProcessOut));
         return;
     }
+    watcher_.addPath(ToQt(state_.folders.ProcessOut));
     closeProfile_();
     session_.Begin();
     TakeFirstLine();
@@ -112,6 +116,25 @@ void ReviewMode::TakeFirstLine() {
     controls_.pane.List().setFocus();
     if (controls_.pane.List().model()->rowCount() > 0)
         controls_.pane.List().SelectLine(0);
+}
+
+// A list that gets the focus makes its first row the current one, but leaves it unselected.
+void ReviewMode::RowBecameCurrent(QTreeWidgetItem* row) {
+    row->setSelected(true);
+    session_.BoxSelected(controls_.boxes.NumberOf(row));
+}
+
+// While a command is under way, with a question of it open perhaps, the list stays as the command found it;
+// it is brought up to date at the command's end.
+void ReviewMode::WatchFolder() {
+    constexpr int kBurst = 200;  // milliseconds
+    folderChanged_.setSingleShot(true);
+    folderChanged_.setInterval(kBurst);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] { folderChanged_.start(); });
+    connect(&folderChanged_, &QTimer::timeout, this, [this] {
+        if (!gate_.IsBusy())
+            gate_.Guard([this] { session_.FollowFolder(); });
+    });
 }
 
 void ReviewMode::NextDoubtful() {
@@ -134,6 +157,8 @@ void ReviewMode::RunEnded() {
 }
 
 void ReviewMode::Update() {
+    if (gate_.CurrentMode() != commands::Mode::Run)
+        session_.FollowFolder();
     const bool inReview = session_.IsOn();
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
     marks_.SetActive(session_.HasForm());

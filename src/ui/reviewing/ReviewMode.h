@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QStackedWidget>
+#include <QTimer>
 #include <functional>
 
 #include "review/ReviewSession.h"
@@ -65,12 +67,17 @@ class ReviewMode final : public QObject {
     void TakeFirstLine();
     void NextDoubtful();
     void RectClicked(int group);
+    void RowBecameCurrent(QTreeWidgetItem* row);
+    void WatchFolder();
 
+    const commands::AppState& state_;
     commands::CommandGate& gate_;
     std::function<void()> closeProfile_;
     ReviewControls controls_;
     ReviewMarks marks_;
     review::ReviewSession session_;
+    QFileSystemWatcher watcher_;
+    QTimer folderChanged_;  ///< Waits until a burst of changes is over.
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
 

@@ -10,11 +10,24 @@ namespace tavrene::ui {
 namespace {
 
 int ShowBox(QWidget& window, QMessageBox::Icon icon, std::string_view title, std::string_view text,
-            QMessageBox::StandardButtons buttons) {
+            QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
     QMessageBox box(icon, ToQt(title.empty() ? app::kApplicationName : title), ToQt(text), buttons, &window);
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(preset);
     const UsualCursor usual;
     return box.exec();
+}
+
+QMessageBox::StandardButton ButtonOf(app::Answer answer) {
+    switch (answer) {
+        case app::Answer::Yes:
+            return QMessageBox::Yes;
+        case app::Answer::No:
+            return QMessageBox::No;
+        case app::Answer::Cancel:
+            break;
+    }
+    return QMessageBox::Cancel;
 }
 
 }  // namespace
@@ -23,15 +36,15 @@ QtOperator::QtOperator(QWidget& window, StatusPanels& panels)
     : window_(window), panels_(panels), reports_(new FileReports(&window)) {}
 
 void QtOperator::ShowMessage(std::string_view title, std::string_view text) {
-    ShowBox(window_, QMessageBox::Information, title, text, QMessageBox::Ok);
+    ShowBox(window_, QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void QtOperator::ReportFile(std::string_view fileName, std::string_view text) {
     reports_->Add(ToQt(fileName), ToQt(text));
 }
 
-app::Answer QtOperator::Ask(std::string_view text, QMessageBox::StandardButtons buttons) {
-    switch (ShowBox(window_, QMessageBox::Question, {}, text, buttons)) {
+app::Answer QtOperator::Ask(std::string_view text, QMessageBox::StandardButtons buttons, app::Answer preset) {
+    switch (ShowBox(window_, QMessageBox::Question, {}, text, buttons, ButtonOf(preset))) {
         case QMessageBox::Yes:
             return app::Answer::Yes;
         case QMessageBox::No:
@@ -41,12 +54,12 @@ app::Answer QtOperator::Ask(std::string_view text, QMessageBox::StandardButtons 
     }
 }
 
-app::Answer QtOperator::AskYesNo(std::string_view text) {
-    return Ask(text, QMessageBox::Yes | QMessageBox::No);
+app::Answer QtOperator::AskYesNo(std::string_view text, app::Answer preset) {
+    return Ask(text, QMessageBox::Yes | QMessageBox::No, preset);
 }
 
-app::Answer QtOperator::AskYesNoCancel(std::string_view text) {
-    return Ask(text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+app::Answer QtOperator::AskYesNoCancel(std::string_view text, app::Answer preset) {
+    return Ask(text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, preset);
 }
 
 void QtOperator::SetPanel(app::Panel panel, std::string_view text) {

@@ -16,15 +16,15 @@ class QtOperator final : public app::Operator {
 
     void ShowMessage(std::string_view title, std::string_view text) override;
     void ReportFile(std::string_view fileName, std::string_view text) override;
-    app::Answer AskYesNo(std::string_view text) override;
-    app::Answer AskYesNoCancel(std::string_view text) override;
+    app::Answer AskYesNo(std::string_view text, app::Answer preset) override;
+    app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override;
     void SetPanel(app::Panel panel, std::string_view text) override;
     void SetProgressRange(int last) override;
     void SetProgress(int value) override;
     void RunPendingEvents() override;
 
   private:
-    app::Answer Ask(std::string_view text, QMessageBox::StandardButtons buttons);
+    app::Answer Ask(std::string_view text, QMessageBox::StandardButtons buttons, app::Answer preset);
 
     QWidget& window_;
     StatusPanels& panels_;

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace tavrene::imaging {
+
+/// From here on the image libraries print nothing, and what they say about damage to a picture is remembered:
+/// they take what was decoded up to there for the whole page. Damaged scans are told of in the log and on the
+/// screen, not on the console.
+void ListenToLibraries();
+
+/// Whether a damaged picture was met since the last `ListenToLibraries`.
+bool DamageWasMet();
+
+}  // namespace tavrene::imaging

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace tavrene::imaging {
+
+/// What a TIFF says of one of its pictures.
+struct TiffHeader {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    std::int64_t decodedBytes = 0;  ///< At least what decoding it takes.
+    bool hasResolutionX = false;
+    bool hasResolutionY = false;
+};
+
+/// The headers of the first `most` pictures; fewer where the file has fewer, none where it is no TIFF or a
+/// picture is of a kind that the image library cannot take. Never reads outside `content`.
+std::vector<TiffHeader> ReadTiffHeaders(std::span<const std::byte> content, int most);
+
+}  // namespace tavrene::imaging
