@@ -91,7 +91,7 @@ class MoveAcrossTest : public DiskFilesTest {
         if (::mkdtemp(name) != nullptr)
             other_ = name;
     }
-    ~MoveAcrossTest() override { std::filesystem::remove_all(other_); }
+    void TearDown() override { std::filesystem::remove_all(other_); }
 
     void SetUp() override {
         struct ::stat here {};
@@ -117,12 +117,13 @@ TEST_F(MoveAcrossTest, TheSourceGoesWhenTheCopyIsComplete) {
 
 TEST_F(MoveAcrossTest, AFileThatIsStillGrowingIsNotTaken) {
     const std::string path = folder_.File("a");
-    test::WriteText(path, std::string(30'000'000, 'x'));
+    test::WriteText(path, "x");
+    std::filesystem::resize_file(path, 30'000'000);
     const std::string before = files_.Fingerprint(path);
     const ::pid_t scanner = ::fork();
-    while (scanner == 0) {
-        files_.Append(path, "x");
-        ::usleep(100);
+    if (scanner == 0) {
+        for (;; ::usleep(100))
+            files_.Append(path, "x");
     }
     while (files_.Fingerprint(path) == before)
         ::usleep(100);

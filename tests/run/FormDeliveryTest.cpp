@@ -130,6 +130,14 @@ TEST_F(FormDeliveryTest, TheNextStartTellsWhatItSettled) {
     StartAgain();
     ExpectMarksOfTheirPicture("new.tif");
     EXPECT_EQ(ProcessLog().back(), "a.tif: Result put in its place, which was cut short before");
+
+    const std::string marks = ReadText(folders_.ProcessOut + "a.xml");
+    WriteText(
+        folders_.ProcessOut + ".delivery-old-1-" + files_.Fingerprint(folders_.ProcessOut + "a.tif") + ".xml",
+        kReviewed);
+    StartAgain();
+    EXPECT_EQ(ReadText(folders_.ProcessOut + "a.xml"), marks);
+    EXPECT_EQ(files_.List(folders_.ProcessOut, ".*"), Names());
     WriteText(folders_.ProcessOut + ".delivery-new-1-.xml", "damaged");
     StartAgain();
     EXPECT_TRUE(files_.FileExists(folders_.ProcessOut + ".delivery-new-1-.xml"));
