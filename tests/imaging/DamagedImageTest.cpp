@@ -193,10 +193,9 @@ TEST_F(DamagedImageTest, ATiffMayHaveBrokenTagsBesideItsPicture) {
     const std::string tagged = TiffWith([&xmp](TIFF* file) {
         TIFFSetField(file, TIFFTAG_XMLPACKET, static_cast<std::uint32_t>(xmp.size()), xmp.data());
         TIFFSetField(file, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(xmp.size()), xmp.data());
-        TIFFSetField(file, TIFFTAG_EXIFIFD, std::uint64_t{8});
         TIFFSetField(file, TIFFTAG_SOFTWARE, xmp.c_str());
     });
-    for (const int tag : {TIFFTAG_XMLPACKET, TIFFTAG_ICCPROFILE, TIFFTAG_EXIFIFD, TIFFTAG_SOFTWARE}) {
+    for (const int tag : {TIFFTAG_XMLPACKET, TIFFTAG_ICCPROFILE, TIFFTAG_SOFTWARE}) {
         const auto read = Read(WithTagLost(tagged, tag), ImageFormat::Tiff);
         ASSERT_TRUE(std::holds_alternative<Page>(read)) << tag;
         EXPECT_TRUE(ShowsThePicture(std::get<Page>(read))) << tag;
