@@ -39,7 +39,8 @@ bool NamesOneOf(std::string_view text, const std::array<std::string_view, Size>&
                        [text](std::string_view part) { return Contains(text, part); });
 }
 
-std::string_view TextOf(std::span<char> buffer, const char* format, va_list values) {
+[[gnu::format(printf, 2, 0)]] std::string_view TextOf(std::span<char> buffer, const char* format,
+                                                      va_list values) {
     std::vsnprintf(buffer.data(), buffer.size(), format, values);
     return buffer.data();
 }
@@ -53,14 +54,14 @@ bool SpoilsPage(std::string_view text) {
            (Contains(text, "IO error") && NamesOneOf(text, kResolutionTags));
 }
 
-void NoteTiffError(const char* module, const char* format, va_list values) {
+[[gnu::format(printf, 2, 0)]] void NoteTiffError(const char* module, const char* format, va_list values) {
     std::array<char, 512> buffer{};
     if (module == nullptr || !IsTagReader(module) || SpoilsPage(TextOf(buffer, format, values)))
         damageWasMet = true;
 }
 
 // In a Group 4 page every line builds on the one before, so a line of the wrong length spoils the rest.
-void NoteTiffWarning(const char* module, const char* format, va_list values) {
+[[gnu::format(printf, 2, 0)]] void NoteTiffWarning(const char* module, const char* format, va_list values) {
     std::array<char, 512> buffer{};
     if ((module != nullptr && std::string_view(module) == "Fax4Decode") ||
         SpoilsPage(TextOf(buffer, format, values)))
