@@ -55,7 +55,8 @@ class DeskWindow : public RunWorld {
         QStringList texts;
         if (strip.isVisible())
             for (const QLabel* const label : strip.findChildren<QLabel*>())
-                texts += label->text();
+                if (!label->isHidden() && !label->parentWidget()->isHidden())
+                    texts += label->text();
         return ui::FromQt(texts.join('\n'));
     }
     QListView& Strip() { return Find<QListView>(*window_, "ImgThumbnail1"); }

@@ -148,9 +148,9 @@ TEST_F(NewProfileTest, TrapsAreToldOverThePageAndThePanelsStayTrue) {
     Drag({200, 300}, {224, 324});
     Click("Save");
     EXPECT_EQ(Panel("Message"), "Saved Profile: Row");
-    EXPECT_PRED2(test::Has, Notices(),
-                 "1 of 5 boxes still has the name that it was given when it was made, as Un-named-5. "
-                 "Results carry these names.");
+    EXPECT_EQ(Notices(),
+              "1 of 5 boxes still has the name that it was given when it was made, as Un-named-5. "
+              "Results carry these names.");
     Find<QAbstractButton>(*window_, "cmdCloseNotices").click();
     EXPECT_EQ(Notices(), "");
 

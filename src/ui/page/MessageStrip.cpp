@@ -32,6 +32,8 @@ MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), lines_(new QVBoxLa
 
 void MessageStrip::Show(std::span<const app::Notice> notices) {
     while (QLayoutItem* const line = lines_->takeAt(0)) {
+        // The button of the line may be what is being clicked, so the line only goes from sight at once.
+        line->widget()->hide();
         line->widget()->deleteLater();
         delete line;
     }
@@ -57,6 +59,7 @@ void MessageStrip::Add(const app::Notice& notice) {
         layout->addWidget(button, 0, Qt::AlignTop);
     }
     lines_->addWidget(line);
+    line->show();
 }
 
 }  // namespace tavrene::ui
