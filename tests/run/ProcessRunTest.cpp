@@ -121,6 +121,17 @@ TEST_F(ProcessRunTest, ASingleRunPassesOverWhatCannotBeMoved) {
     EXPECT_EQ(In(folders_.ProcessIn), Names{"4.tif"});
 }
 
+TEST_F(ProcessRunTest, WithoutTheImageLibraryNothingMoves) {
+    AddScan("a.tif");
+    recognition::ProcessRun blind({files_, log_, person_, clock_, screen_, screen_, nullptr, false},
+                                  settings_, folders_);
+    EXPECT_FALSE(blind.MayStart(profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles)));
+    const std::string text = "Nothing is processed: FreeImage is not available, so no image can be read.";
+    EXPECT_EQ(transcript_.LinesOf("message: "), Names{"[] " + text});
+    EXPECT_EQ(ProcessLog(), Names{text});
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+}
+
 TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
     const std::string name =
         "Gr\xF6\xDF"
