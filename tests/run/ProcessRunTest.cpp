@@ -137,6 +137,8 @@ TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
         "Gr\xF6\xDF"
         "e \x01\t1.tif";
     AddScan(name);
+    const std::string alike = app::ReplaceFirst(name, "\xF6", "\xE4");
+    AddScan(alike);
     AddProfile("Form\x02", form_);
     std::filesystem::remove(folders_.Profiles + "Form.Tvp");
     Process();
@@ -145,6 +147,8 @@ TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
                  "Profile=\"Form\xEF\xBF\xBD\" Image=\"Gr\xEF\xBF\xBD\xEF\xBF\xBD"
                  "e \xEF\xBF\xBD&#09;1.tif\"");
     EXPECT_EQ(recognition::ResultDocument::Load(files_, path).Image(), name) << "its image is found";
+    const std::string other = recognition::ResultPath(folders_.ProcessOut, alike);
+    EXPECT_EQ(recognition::ResultDocument::Load(files_, other).Image(), alike);
 }
 
 TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {
