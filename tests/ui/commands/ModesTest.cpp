@@ -65,6 +65,7 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Process, Prompts::ProfileThenForm},
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
+                                                {C::ExportResults, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
                                                 {C::PreviousForm, Prompts::Form},
