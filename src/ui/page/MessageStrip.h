@@ -2,10 +2,14 @@
 
 #include <QFrame>
 #include <functional>
+#include <set>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "app/Operator.h"
 
+class QScrollArea;
 class QVBoxLayout;
 
 namespace tavrene::ui {
@@ -19,14 +23,19 @@ class MessageStrip final : public QFrame {
     /// `run` is given what a button does.
     void SetRunner(std::function<void(const std::function<void()>& act)> run) { run_ = std::move(run); }
 
-    /// Shows these notices instead of the ones before them.
+    /// Shows these notices instead of the ones before them, but for those that the person has closed.
     void Show(std::span<const app::Notice> notices);
 
   private:
+    void Close();
+    void Fill(std::vector<app::Notice> notices);
     void Add(const app::Notice& notice);
 
     std::function<void(const std::function<void()>&)> run_;
-    QVBoxLayout* lines_;
+    QScrollArea* area_;
+    QVBoxLayout* lines_ = nullptr;
+    std::vector<app::Notice> shown_;
+    std::set<std::string> closed_;  ///< Topics.
 };
 
 }  // namespace tavrene::ui
