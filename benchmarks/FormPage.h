@@ -34,6 +34,9 @@ class Nobody final : public app::Operator,
   public:
     std::optional<std::string> AskSaveFile(const app::FileQuestion&) override { return std::nullopt; }
     std::optional<std::string> AskOpenFile(const app::FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskFolder(const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
     app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
