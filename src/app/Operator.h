@@ -38,9 +38,13 @@ class Operator {
     virtual Answer AskYesNo(std::string_view text, Answer preset) = 0;
     virtual Answer AskYesNoCancel(std::string_view text, Answer preset) = 0;
 
-    /// Shows notices over the page, whole, until others take their place; none take them away. One that the
-    /// person has closed stays closed as long as its topic is among them.
+    /// Shows notices over the page, whole, until the person closes them or others take their place; none take
+    /// them away.
     virtual void ShowNotices(std::span<const Notice> notices) = 0;
+
+    /// The same for what stands about the work at hand, whatever else is told. They are told again and again;
+    /// one that the person has closed stays closed as long as its topic is among them.
+    virtual void ShowStandingNotices(std::span<const Notice> notices) = 0;
 
     /// Puts a text into a panel; it can be read at once, also while a long operation runs.
     virtual void SetPanel(Panel panel, std::string_view text) = 0;

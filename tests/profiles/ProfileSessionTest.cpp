@@ -305,6 +305,7 @@ TEST_F(ProfileSessionTest, ASaveThatIsCutOffLeavesAWholeDocument) {
 TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     AddProfiles({"A"});
     std::string text = ReadText(PathOf("A"));
+    text.erase(text.find(" DPI_X=\"200\""), 12);
     WriteText(PathOf("A"), text.replace(text.find("Count=\"6\""), 9, "Count=\"3\""));
     Pick(1);
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:3");
@@ -314,6 +315,7 @@ TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     EXPECT_EQ(Profile().BoxList[3].L, 60);  // no box gave its place to the drawn one
     EXPECT_TRUE(session_.Save());
     EXPECT_PRED2(Has, ReadText(PathOf("A")), "Count=\"4\"");
+    EXPECT_PRED2(Has, session_.Notices().at(0).text, "does not say the resolution") << "saved or not";
 }
 
 TEST_F(ProfileSessionTest, AFailingLogCostsOnlyItsLines) {

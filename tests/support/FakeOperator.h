@@ -43,6 +43,7 @@ class FakeOperator final : public app::Operator {
         for (const app::Notice& notice : shown)
             transcript_.Add("notice: " + notice.text);
     }
+    void ShowStandingNotices(std::span<const app::Notice> shown) override { ShowNotices(shown); }
     void SetPanel(app::Panel panel, std::string_view text) override {
         static const std::map<app::Panel, std::string> names = {{app::Panel::File, "File"},
                                                                 {app::Panel::Message, "Message"},

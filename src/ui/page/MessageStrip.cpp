@@ -75,24 +75,35 @@ MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), area_(new NoticeAr
 }
 
 void MessageStrip::Show(std::span<const app::Notice> notices) {
+    told_ = {notices.begin(), notices.end()};
+    Refresh();
+}
+
+void MessageStrip::ShowStanding(std::span<const app::Notice> notices) {
+    standing_ = {notices.begin(), notices.end()};
+    Refresh();
+}
+
+void MessageStrip::Refresh() {
     std::set<std::string> closed;
-    std::vector<app::Notice> open;
-    for (const app::Notice& notice : notices) {
+    std::vector<app::Notice> open = told_;
+    for (const app::Notice& notice : standing_) {
         if (closed_.contains(TopicOf(notice)))
             closed.insert(TopicOf(notice));
         else
             open.push_back(notice);
     }
     closed_ = std::move(closed);
-    // They are told after every command, and what is being read stays in place.
+    // Those that stand are told after every command, and what is being read stays in place.
     if (!std::ranges::equal(open, shown_, {}, &app::Notice::text, &app::Notice::text))
         Fill(std::move(open));
 }
 
 void MessageStrip::Close() {
-    for (const app::Notice& notice : shown_)
+    told_.clear();
+    for (const app::Notice& notice : standing_)
         closed_.insert(TopicOf(notice));
-    Fill({});
+    Refresh();
 }
 
 void MessageStrip::Fill(std::vector<app::Notice> notices) {

@@ -120,8 +120,7 @@ void ProfileDesk::FinishEdits() {
 
 void ProfileDesk::Update() {
     more_.Update();
-    if (session_.HasProfile())
-        person_.ShowNotices(session_.Notices());
+    person_.ShowStandingNotices(session_.Notices());
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());
