@@ -42,6 +42,7 @@ class Nobody final : public app::Operator,
     app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
     app::Answer AskYesNoCancel(std::string_view, app::Answer) override { return app::Answer::Cancel; }
     void ShowNotices(std::span<const app::Notice>) override {}
+    void ShowStandingNotices(std::span<const app::Notice>) override {}
     void SetPanel(app::Panel, std::string_view) override {}
     void SetProgressRange(int) override {}
     void SetProgress(int) override {}
