@@ -31,6 +31,36 @@ bool TrySpread(const profiles::ProfileRecord& profile, std::vector<BoxShift>& sh
     }
 }
 
+bool HasShift(std::span<const recognition::ResultMark> marks) {
+    return std::any_of(marks.begin(), marks.end(),
+                       [](const recognition::ResultMark& mark) { return mark.Shift.has_value(); });
+}
+
+// As a run would find them for that profile alone; none for a box where nothing was found.
+std::vector<std::optional<BoxShift>> SearchShifts(const imaging::Page& page,
+                                                  profiles::ProfileRecord profile) {
+    profile.Active = true;
+    recognition::ProfileMatch match = SearchProfile(page, profile);
+    const bool isSpread = match.found > 0 && TrySpread(profile, match.shifts);
+    std::vector<std::optional<BoxShift>> shifts;
+    for (const BoxShift& shift : match.shifts)
+        shifts.push_back(isSpread || shift != BoxShift{} ? std::optional(shift) : std::nullopt);
+    return shifts;
+}
+
+// Where the document tells none and its own profile, against which they are searched, has gone, the profile
+// that is to take its place is searched for.
+std::vector<BoxShift> ShiftsToReadAt(const OpenForm& form, const imaging::Page& page,
+                                     const profiles::ProfileRecord& profile) {
+    std::vector<BoxShift> shifts = ShiftsOfBoxes(profile, form.OpenedProfile, form.Opened);
+    if (HasShift(form.Opened) || !form.OpenedProfile.Boxes.empty() || profile.Boxes.empty())
+        return shifts;
+    const std::vector<std::optional<BoxShift>> found = SearchShifts(page, profile);
+    for (std::size_t k = 0; k < shifts.size(); ++k)
+        shifts[k] = found[k].value_or(BoxShift{});
+    return shifts;
+}
+
 // The shift of each box of the profile as far as the document tells it.
 std::vector<std::optional<BoxShift>> KnownShifts(const profiles::ProfileRecord& profile,
                                                  std::span<const recognition::ResultMark> marks) {
@@ -109,19 +139,13 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
 }
 
 void FindLostShifts(OpenForm& form, const imaging::Page& page) {
-    const bool hasShift =
-        std::any_of(form.Opened.begin(), form.Opened.end(),
-                    [](const recognition::ResultMark& mark) { return mark.Shift.has_value(); });
-    if (hasShift || form.Profile.Boxes.empty())
+    if (HasShift(form.Opened) || form.Profile.Boxes.empty())
         return;
-    profiles::ProfileRecord searched = form.Profile;
-    searched.Active = true;
-    recognition::ProfileMatch match = SearchProfile(page, searched);
-    const bool isSpread = match.found > 0 && TrySpread(searched, match.shifts);
+    const std::vector<std::optional<BoxShift>> shifts = SearchShifts(page, form.Profile);
     const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Opened);
     for (std::size_t k = 0; k < marks.size(); ++k)
-        if (marks[k] && (isSpread || match.shifts[k] != BoxShift{}))
-            form.Opened[*marks[k]].Shift = match.shifts[k];
+        if (marks[k])
+            form.Opened[*marks[k]].Shift = shifts[k];
     form.Marks = form.Opened;
 }
 
@@ -130,8 +154,7 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
     std::vector<recognition::MarkReading> readings =
         ReadFormPrecisely(form, page, profile, fillThreshold, precise);
     if (readings.empty())
-        readings =
-            ReadMarks(page, profile, ShiftsOfBoxes(profile, form.OpenedProfile, form.Opened), fillThreshold);
+        readings = ReadMarks(page, profile, ShiftsToReadAt(form, page, profile), fillThreshold);
     OpenForm read;
     read.Name = form.Name;
     read.Document = form.Document;

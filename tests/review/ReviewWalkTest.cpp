@@ -319,6 +319,13 @@ TEST_F(ReviewWalkTest, LostShiftsAreSearchedAnewOnOpening) {
     Open(1);
     EXPECT_EQ(transcript_.LinesOf("rect: ")[0], "1 62,71 24x24 unchecked");
     EXPECT_EQ(Result("b.xml"), document) << "looking at a form rewrites nothing";
+
+    files_.Move(folders_.Profiles + "Form.Tvp", folders_.Profiles + "Heir.Tvp");
+    LoadProfiles();
+    person_.answers = {Answer::No};
+    Open(1);
+    Choose("Heir");
+    EXPECT_TRUE(ResultHas("b.xml", "Q2\" Shift=\"2,-1\" Checked=\"1\"")) << "for its own profile has gone";
 }
 
 TEST_F(ReviewWalkTest, AChangedProfileAsksWhatToDo) {
