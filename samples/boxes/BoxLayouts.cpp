@@ -219,7 +219,7 @@ void PaintSmallSecond(BoxSheet& sheet, const OuterSize& size, const OuterSize& s
             // The first ones come early, so that a short page has some as well.
             const OuterSize& current = ++count % every == 5 ? second : size;
             sheet.AddBox(x, y, current);
-            sheet.AddText(x + current.Width + sheet.Mm(1), y + current.Height, 8, Words(sheet.Dice(), 1));
+            sheet.AddText(x + current.Width + sheet.Mm(1), y + current.Height, 6, Words(sheet.Dice(), 1));
         }
     }
 }

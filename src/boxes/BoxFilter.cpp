@@ -31,7 +31,7 @@ SizeTable CountSizes(const std::vector<BoxRect>& boxes) {
 
 std::optional<LeftOutFor> ReasonAgainst(const RuledBox& ruled, const PrintInBoxes& print) {
     const BoxOutline& outline = ruled.Outline;
-    if (outline.OpenCorners >= 2 && !outline.HasStraightSides)
+    if (outline.HasBow || (outline.OpenCorners >= 2 && !outline.HasStraightSides))
         return LeftOutFor::OpenCorners;
     if (!outline.IsOnPrint)
         return LeftOutFor::BesidePrint;

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdlib>
 
+#include "boxes/SideFaces.h"
+
 namespace tavrene::boxes {
 namespace {
 
@@ -126,73 +128,6 @@ bool AreEdgesNearMiddle(const std::array<EdgeOnLine, 4>& edges) {
     });
 }
 
-// Places along one side that lie on a straight line, as shares of all. `isInk` takes the place along the side
-// and the distance outwards from it, negative inwards.
-//
-// Print, shadows and tapering lie on one face of a line only, so it is enough that the other is straight. The
-// arc of a letter bends both, by more than the pixel that a slanting or worn line does.
-class SideFaces {
-  public:
-    template <typename IsInk>
-    SideFaces(int length, IsInk isInk) {
-        const int skipped = length / 10;
-        for (int along = skipped; along <= length - skipped; ++along, ++places_) {
-            const int line = LineAt(along, isInk);
-            if (line > 1)
-                continue;
-            outer_[Slot(Face(along, line, 1, isInk))]++;
-            inner_[Slot(Face(along, line, -1, isInk))]++;
-        }
-    }
-
-    // How far a straight face may stray from its line.
-    enum class Bend { None, OnePixel };
-
-    bool IsStraight(Bend bend) const {
-        return IsMost(std::max(MostOnLine(inner_, bend), MostOnLine(outer_, bend)));
-    }
-
-  private:
-    static constexpr int kFarthest = 9;
-    using Histogram = std::array<int, 2 * kFarthest + 1>;
-
-    // Where the line is at a place: 0, or one pixel to either side; 2 where it is not.
-    template <typename IsInk>
-    static int LineAt(int along, IsInk isInk) {
-        for (const int distance : {0, 1, -1}) {
-            if (isInk(along, distance))
-                return distance;
-        }
-        return 2;
-    }
-
-    template <typename IsInk>
-    static int Face(int along, int line, int direction, IsInk isInk) {
-        int distance = line;
-        while (std::abs(distance) < kFarthest && isInk(along, distance + direction))
-            distance += direction;
-        return distance;
-    }
-
-    bool IsMost(int places) const {
-        constexpr int neededPercent = 85;
-        return places * 100 >= neededPercent * places_;
-    }
-
-    static std::size_t Slot(int distance) { return static_cast<std::size_t>(distance + kFarthest); }
-
-    static int MostOnLine(const Histogram& faces, Bend bend) {
-        int most = 0;
-        for (std::size_t slot = 0; slot + 1 < faces.size(); ++slot)
-            most = std::max(most, faces[slot] + (bend == Bend::OnePixel ? faces[slot + 1] : 0));
-        return most;
-    }
-
-    Histogram outer_{};
-    Histogram inner_{};
-    int places_ = 0;
-};
-
 std::array<SideFaces, 4> FacesOf(const WorkGrid& grid, const BoxRect& box) {
     const auto upright = [&](int column, int outwards) {
         return SideFaces(box.B - box.T, [&, column, outwards](int along, int distance) {
@@ -210,7 +145,7 @@ std::array<SideFaces, 4> FacesOf(const WorkGrid& grid, const BoxRect& box) {
 // Looks at the sides only where they decide. A letter with a bar on one side and a bow on the other has two
 // open corners and bends little; a box has all four alike, or one face of every line dead straight.
 void JudgeSides(const WorkGrid& grid, const BoxRect& box, BoxOutline& outline) {
-    if (outline.OpenCorners < 2 && outline.IsEmpty)
+    if (outline.IsClosed() && outline.IsEmpty)
         return;
     using Bend = SideFaces::Bend;
     const Bend bend = outline.OpenCorners == 2 || outline.OpenCorners == 3 ? Bend::None : Bend::OnePixel;
@@ -221,6 +156,12 @@ void JudgeSides(const WorkGrid& grid, const BoxRect& box, BoxOutline& outline) {
     };
     outline.HasStraightSides = areStraight(bend);
     outline.IsDeadStraight = areStraight(Bend::None);
+    if (outline.IsClosed())
+        return;
+    // Print that runs into a box bends one side and opens one corner.
+    const auto bows =
+        std::count_if(sides.begin(), sides.end(), [](const SideFaces& side) { return side.IsBow(); });
+    outline.HasBow = bows > 1 || (bows == 1 && outline.OpenCorners > 1);
 }
 
 bool IsEmptyInside(const WorkGrid& grid, const BoxRect& box) {

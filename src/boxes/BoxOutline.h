@@ -12,11 +12,15 @@ struct BoxOutline {
     bool IsOnPrint = true;  ///< No edge lies farther than two pixels from the middle of its printed line.
 
     /// Every side shows a straight line between its corners, as those of a box with rounded or gapped corners
-    /// do. Asked for only where two corners or more are open or ink is inside.
+    /// do. Asked for only where a corner is open or ink is inside.
     bool HasStraightSides = false;
 
     /// One face of each of the sides has no step at all. Asked for like the above.
     bool IsDeadStraight = false;
+
+    /// Corners are open and sides bend even in their middle, more than print that runs into a side makes
+    /// them.
+    bool HasBow = false;
 
     bool IsClosed() const { return OpenCorners == 0; }
     bool operator==(const BoxOutline&) const = default;

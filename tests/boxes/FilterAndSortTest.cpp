@@ -108,10 +108,12 @@ TEST(Filter, WhatDoesNotLookLikeABoxIsLeftOutWithItsReason) {
                                  .Add(5, 30, 30)
                                  .Add(2, 31, 30, straight)
                                  .Add(1, 30, 30, {.OpenCorners = 2})
+                                 .Add(1, 30, 30, {.OpenCorners = 1, .HasBow = true})
                                  .Add(1, 30, 30, {.IsOnPrint = false})
                                  .Filtered();
     EXPECT_EQ(page.Boxes.size(), 7U);
-    EXPECT_EQ(Reasons(page), (Reasoned{LeftOutFor::OpenCorners, LeftOutFor::BesidePrint}));
+    EXPECT_EQ(Reasons(page),
+              (Reasoned{LeftOutFor::OpenCorners, LeftOutFor::OpenCorners, LeftOutFor::BesidePrint}));
 }
 
 TEST(Sort, TopOfThePageFirstThenFromLeftToRight) {

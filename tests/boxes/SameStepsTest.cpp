@@ -66,12 +66,12 @@ struct Step {
 // What each step left of the pages below when a slow and independent writing of the rules still stood beside
 // it and left the same. A form must have the same boxes in every version, however fast they are found.
 constexpr std::array kSteps = {
-    Step{"first gap closing", 11300322303905927191U},  Step{"masking", 9445193344461780504U},
-    Step{"second gap closing", 16233042086757346593U}, Step{"line finding", 1019594045200698247U},
-    Step{"first crossings", 9534689322524291339U},     Step{"overshoots", 10756511606429632254U},
-    Step{"second crossings", 15555517737294446463U},   Step{"grouping", 10514048420444869864U},
-    Step{"best of a group", 9446378928068516452U},     Step{"third crossings", 12829538296952259104U},
-    Step{"restoring", 13657955223125329565U},          Step{"assembly", 13759656730008785441U}};
+    Step{"first gap closing", 11030590293911709055U}, Step{"masking", 12138436542409911057U},
+    Step{"second gap closing", 6171531647217199833U}, Step{"line finding", 1410993981085612506U},
+    Step{"first crossings", 1503470763812682786U},    Step{"overshoots", 14086021030189667986U},
+    Step{"second crossings", 8201141711313367312U},   Step{"grouping", 12517734682823314373U},
+    Step{"best of a group", 17758874858549188910U},   Step{"third crossings", 300418890555174043U},
+    Step{"restoring", 4472140724317071683U},          Step{"assembly", 13563754993563057709U}};
 
 // Strokes and boxes of random place and size, some of them just out of true, over random dirt.
 WorkGrid RandomPage(Random& dice, const BoxSizes& sizes) {

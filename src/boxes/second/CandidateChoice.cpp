@@ -20,9 +20,9 @@ constexpr int kMostBent = 2;
 // Outlines of boxes overlap by their thickness where they share a side.
 constexpr int kSharedSide = 4;
 
-bool FitsSettings(BoxSize size, const BoxSizes& sizes) {
-    return size.Width >= sizes.BoxMinWidth && size.Width <= sizes.BoxMaxWidth &&
-           size.Height >= sizes.BoxMinHeight && size.Height <= sizes.BoxMaxHeight;
+bool FitsSettings(BoxSize size, const BoxSizes& sizes, int slack = 0) {
+    return size.Width >= sizes.BoxMinWidth - slack && size.Width <= sizes.BoxMaxWidth + slack &&
+           size.Height >= sizes.BoxMinHeight - slack && size.Height <= sizes.BoxMaxHeight + slack;
 }
 
 // A table has cells of all shapes; boxes to be ticked are about as wide as high.
@@ -33,7 +33,7 @@ bool IsBoxShaped(BoxSize size) {
 class Choice {
   public:
     Choice(const std::vector<Proposal>& proposals, const std::vector<BoxRect>& there, const BoxSizes& sizes)
-        : settings_(sizes), thereCount_(static_cast<int>(there.size())) {
+        : settings_(sizes) {
         for (const Proposal& proposal : proposals)
             print_.Add(proposal.Ruled);
         for (const BoxRect& box : there)
@@ -65,6 +65,17 @@ class Choice {
     static bool IsBent(const Proposal& proposal) {
         return proposal.Walls.BluntCorners > 0 || proposal.Walls.BentPixels > kMostBent;
     }
+    // Two breaks leave more than four fifths of a small box, missing corners two thirds of each wall; letters
+    // with an open side, such as U and H, have less.
+    static bool LacksTooMuch(const Proposal& proposal) {
+        const Frame& walls = proposal.Walls;
+        const int around = 2 * (walls.Right - walls.Left + walls.Upper - walls.Lower - 2);
+        return walls.MissingPixels * 5 >= around && walls.WorstPercent < 65;
+    }
+    // Zeros are nearly closed too; of boxes, those with no corner have straight sides to show.
+    static bool IsRoundish(const Proposal& proposal) {
+        return proposal.Ruled.Outline.OpenCorners > 2 && !proposal.Walls.HasStraightMiddles;
+    }
     // A frame that looks printed as one: small bowls of letters have closed corners too, but bend.
     static bool IsSharp(const Proposal& proposal) {
         return IsClosed(proposal) && proposal.Walls.HasStraightMiddles;
@@ -74,7 +85,6 @@ class Choice {
     }
 
     BoxSizes settings_;
-    int thereCount_;
     PrintInBoxes print_;
     SizeTable there_;
     SizeTable sharp_;
@@ -85,25 +95,27 @@ class Choice {
 int Choice::OddsOf(const Proposal& proposal) const {
     const BoxSize size = SizeOf(proposal.Ruled.Box);
     const bool fits = FitsSettings(size, settings_);
-    if (!fits && !IsBoxShaped(size))
+    const bool isAsThere = there_.CountNear(size) >= kAFew;
+    const bool isWornByAPixel = isAsThere && FitsSettings(size, settings_, 1);
+    if (!fits && !(IsBoxShaped(size) && (isWornByAPixel || proposal.Walls.HasStraightMiddles)))
         return 0;
     const int sharp = sharp_.CountNear(size);
     const int sound = sharp + sound_.CountNear(size);
-    const bool isSizeOfForm = there_.CountNear(size) >= kAFew || sharp >= kInNumber;
+    const bool isSizeOfForm = isAsThere || sharp >= kInNumber;
     const int shown = proposal.Walls.WorstPercent / 10;
     if (IsSound(proposal)) {
         if (isSizeOfForm)
             return 80 + shown;
         if (IsClosed(proposal) && fits)
             return 60 + shown;
-        // Zeros of a large type are as straight; on a form of boxes of another size they are no third kind.
-        if (fits && sound >= std::max(2 * kInNumber, 2 * thereCount_))
+        if (fits && sound >= 2 * kInNumber)
             return 50 + shown;
         return 0;
     }
-    if (IsBent(proposal) || !HasCleanInside(proposal))
+    if (IsBent(proposal) || LacksTooMuch(proposal) || !HasCleanInside(proposal))
         return 0;
-    if (isSizeOfForm && proposal.Walls.MissingPixels <= kMostMissing && proposal.Ruled.Outline.IsOnPrint)
+    if (isSizeOfForm && !IsRoundish(proposal) && proposal.Walls.MissingPixels <= kMostMissing &&
+        proposal.Ruled.Outline.IsOnPrint)
         return 40 + shown;
     if (fits && proposal.Walls.HasStraightMiddles && middles_.CountNear(size) + sound >= kInNumber)
         return 30 + shown;

@@ -10,8 +10,9 @@ using imaging::WorkGrid;
 
 constexpr int kThickest = 12;
 
-// Ink outwards from the inner face: the middle one of seven places along the wall, so that neither a break
-// nor print beside it decides. `isInk` takes the place along the wall and the distance outwards.
+// Ink outwards from the inner face: the middle one of seven places along the wall, so that print beside it
+// does not decide, without those in a break. `isInk` takes the place along the wall and the distance
+// outwards.
 template <typename IsInk>
 int Thickness(int length, IsInk isInk) {
     std::array<int, 7> found{};
@@ -23,8 +24,9 @@ int Thickness(int length, IsInk isInk) {
         while (from + thickness < kThickest && isInk(along, from + thickness))
             ++thickness;
     }
-    std::nth_element(found.begin(), found.begin() + 3, found.end());
-    return std::max(found[3], 1);
+    std::sort(found.begin(), found.end());
+    const auto breaks = std::count(found.begin(), found.end(), 0);
+    return std::max(found[static_cast<std::size_t>(breaks + 6) / 2], 1);
 }
 
 }  // namespace

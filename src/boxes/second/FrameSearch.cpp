@@ -15,6 +15,10 @@ using imaging::WorkGrid;
 // A break beside a corner, a gap or a rounding there leaves a wall this much shorter than the inside.
 constexpr int kEndReach = 6;
 
+// A wall beside such a break in the next one runs on to the outer edge of the box, so one of two walls may be
+// longer than the other by a thick line and a break.
+constexpr int kEndsApart = 10;
+
 // Of every wall so much must be seen: what two breaks leave, or one of the longest in a small box.
 int NeededPlaces(int length) {
     constexpr int seenPercent = 58;
@@ -23,9 +27,16 @@ int NeededPlaces(int length) {
                     length * leastPercent / 100);
 }
 
-// A frame over two neighbours shows its walls as well as each of them does: a farther wall must be clearly
-// better than a near one.
-constexpr int kClearlyBetter = 12;
+// A frame over two neighbours, or over a box and a letter beside it, shows its walls as well as a worn box
+// does: a farther wall must be clearly better than a near one, and not have more missing.
+bool IsClearlyBetter(const Frame& far, const Frame& near) {
+    constexpr int clearly = 12;
+    const auto sides = [](const Frame& frame) {
+        return frame.Right - frame.Left + frame.Upper - frame.Lower;
+    };
+    return far.WorstPercent > near.WorstPercent + clearly &&
+           far.MissingPixels * sides(near) <= near.MissingPixels * sides(far);
+}
 
 // A row or a column that may bound a frame, and how many places of it do.
 struct Bound {
@@ -88,12 +99,12 @@ int Ends(const Wall& a, const Wall& b) {
 }
 
 std::optional<Frame> Search::BestFrame(const Wall& left) {
-    const SearchRect searched{left.Column + limits_.MinWidth + 1, left.First - kEndReach,
-                              left.Column + limits_.MaxWidth + 1, left.First + kEndReach};
+    const SearchRect searched{left.Column + limits_.MinWidth + 1, left.First - kEndsApart,
+                              left.Column + limits_.MaxWidth + 1, left.First + kEndsApart};
     near_.clear();
     index_.VisitNear(searched, [&](int number) {
         const Wall& right = rightWalls_[static_cast<std::size_t>(number)];
-        if (searched.Contains(right.Column, right.First) && Ends(left, right) <= kEndReach)
+        if (searched.Contains(right.Column, right.First) && Ends(left, right) <= kEndsApart)
             near_.push_back(number);
     });
     // They are numbered by column.
@@ -101,18 +112,19 @@ std::optional<Frame> Search::BestFrame(const Wall& left) {
     std::optional<Frame> best;
     for (const int number : near_) {
         const std::optional<Frame> frame = FrameBetween(left, rightWalls_[static_cast<std::size_t>(number)]);
-        if (frame && (!best || frame->WorstPercent > best->WorstPercent + kClearlyBetter))
+        if (frame && (!best || IsClearlyBetter(*frame, *best)))
             best = frame;
     }
     return best;
 }
 
-// A quick look at the two columns in thirds between the walls: most pairs of strokes have nothing there.
+// A quick look at three columns between the walls: most pairs of strokes have nothing there. A break takes
+// two of them at most.
 bool Search::HasInkAcross(const Wall& left, const Wall& right) const {
     const int width = right.Column - left.Column;
     int seen = 0;
-    for (const int third : {1, 2}) {
-        const int column = left.Column + width * third / 3;
+    for (const int quarter : {1, 2, 3}) {
+        const int column = left.Column + width * quarter / 4;
         const int lower = std::min(left.First, right.First) - 1;
         const int upper = std::max(left.Last, right.Last) + 1;
         bool below = false;
@@ -126,41 +138,80 @@ bool Search::HasInkAcross(const Wall& left, const Wall& right) const {
     return seen > 0;
 }
 
-// The line from `from` on, in steps away from the inside, that shows most of a wall.
-Bound BestBound(const LineBits& faces, int from, int steps, int direction, int first, int last) {
+// The places between two upright walls, and how many of them a wall across must show.
+struct Across {
+    int First;
+    int Last;
+    int Needed;
+};
+
+// The nearest line from `from` on, in steps away from the inside, that shows enough, or one of the next two
+// if that shows more. What lies farther out may be a ruling.
+Bound NearestBound(const LineBits& faces, const Across& across, int from, int direction, int steps) {
+    constexpr int further = 2;
     Bound best{from, 0};
     for (int step = 0; step <= steps; ++step) {
         const int line = from + step * direction;
-        const int seen = faces.CountNear(line, first, last);
+        const int seen = faces.CountNear(line, across.First, across.Last);
+        if (best.Seen < across.Needed && seen >= across.Needed)
+            steps = std::min(steps, step + further);
         if (seen > best.Seen)
             best = {line, seen};
     }
     return best;
 }
 
-// Whether the middle three fifths of a wall lie on one line, or on as many as a wall of that length may slant
-// over. The arc of a letter of the same length strays twice as far.
-bool IsMiddleStraight(const LineBits& faces, int line, int first, int last) {
+// Places along a wall where it is not seen, but ink is near on its inner side. `isInk` takes a line and a
+// place.
+template <typename IsInk>
+int BentPlaces(const LineBits& faces, int line, int inwards, int first, int last, IsInk isInk) {
+    int bent = 0;
+    for (int place = first; place <= last; ++place) {
+        if (faces.CountNear(line, place, place) == 0 &&
+            (isInk(line + 2 * inwards, place) || isInk(line + 3 * inwards, place) ||
+             isInk(line + 4 * inwards, place)))
+            ++bent;
+    }
+    return bent;
+}
+
+// Whether the middle three fifths of a wall, as far as it is seen, lie on one line, or on as many as a wall
+// of that length may slant over. The arc of a letter of the same length strays twice as far.
+template <typename IsInk>
+bool IsMiddleStraight(const LineBits& faces, int line, int inwards, int first, int last, IsInk isInk) {
     constexpr int neededPercent = 95;
     constexpr int lengthPerLine = 20;
     const int length = last - first + 1;
     const int skipped = length / 5;
+    first += skipped;
+    last -= skipped;
     const int lines = 1 + std::min(length / lengthPerLine, 2);
     int most = 0;
     for (int lowest = line - lines; lowest <= line + 1; ++lowest) {
         int seen = 0;
         for (int place = std::max(lowest, 0); place < std::min(lowest + lines, faces.Lines()); ++place)
-            seen += faces.Bits.CountInkInRow(place, first + skipped, last - skipped);
+            seen += faces.Bits.CountInkInRow(place, first, last);
         most = std::max(most, seen);
     }
-    return most * 100 >= neededPercent * (length - 2 * skipped);
+    const int all = last - first + 1;
+    if (most * 100 >= neededPercent * all)
+        return true;
+    const int shown =
+        faces.CountNear(line, first, last) + BentPlaces(faces, line, inwards, first, last, isInk);
+    return most * 3 >= all && most * 100 >= neededPercent * shown;
 }
 
 bool Search::HasStraightMiddles(const Frame& frame) const {
-    return IsMiddleStraight(faces_.Left, frame.Left, frame.Lower + 1, frame.Upper - 1) &&
-           IsMiddleStraight(faces_.Right, frame.Right, frame.Lower + 1, frame.Upper - 1) &&
-           IsMiddleStraight(faces_.Lower, frame.Lower, frame.Left + 1, frame.Right - 1) &&
-           IsMiddleStraight(faces_.Upper, frame.Upper, frame.Left + 1, frame.Right - 1);
+    const auto inColumn = [&](int column, int row) { return faces_.Columns.IsInk(row, column); };
+    const auto inRow = [&](int row, int column) { return faces_.Columns.IsInk(row, column); };
+    const int left = frame.Left + 1;
+    const int right = frame.Right - 1;
+    const int lower = frame.Lower + 1;
+    const int upper = frame.Upper - 1;
+    return IsMiddleStraight(faces_.Left, frame.Left, 1, lower, upper, inColumn) &&
+           IsMiddleStraight(faces_.Right, frame.Right, -1, lower, upper, inColumn) &&
+           IsMiddleStraight(faces_.Lower, frame.Lower, 1, left, right, inRow) &&
+           IsMiddleStraight(faces_.Upper, frame.Upper, -1, left, right, inRow);
 }
 
 // The innermost pixel of a corner and its two neighbours along the walls. Where a box slants one of its walls
@@ -180,20 +231,6 @@ int Search::CountBluntCorners(const Frame& frame) const {
            int{IsBlunt(left, upper, 1, -1)} + int{IsBlunt(right, upper, -1, -1)};
 }
 
-// Places along a wall where it is not seen, but ink is near on its inner side. `isInk` takes a line and a
-// place.
-template <typename IsInk>
-int BentPlaces(const LineBits& faces, int line, int inwards, int first, int last, IsInk isInk) {
-    int bent = 0;
-    for (int place = first; place <= last; ++place) {
-        if (faces.CountNear(line, place, place) == 0 &&
-            (isInk(line + 2 * inwards, place) || isInk(line + 3 * inwards, place) ||
-             isInk(line + 4 * inwards, place)))
-            ++bent;
-    }
-    return bent;
-}
-
 int Search::CountBentPixels(const Frame& frame) const {
     if (frame.MissingPixels == 0)
         return 0;
@@ -208,20 +245,18 @@ int Search::CountBentPixels(const Frame& frame) const {
 }
 
 std::optional<Frame> Search::FrameBetween(const Wall& left, const Wall& right) const {
-    const int first = left.Column + 1;
-    const int last = right.Column - 1;
-    const int width = last - first + 1;
-    const int needed = NeededPlaces(width);
+    const int width = right.Column - left.Column - 1;
+    const Across across{left.Column + 1, right.Column - 1, NeededPlaces(width)};
     if (!HasInkAcross(left, right))
         return std::nullopt;
     const auto [nearFirst, farFirst] = std::minmax(left.First, right.First);
     const Bound lower =
-        BestBound(faces_.Lower, farFirst - 1, farFirst - nearFirst + kEndReach, -1, first, last);
-    if (lower.Seen < needed)
+        NearestBound(faces_.Lower, across, farFirst - 1, -1, farFirst - nearFirst + kEndReach);
+    if (lower.Seen < across.Needed)
         return std::nullopt;
     const auto [farLast, nearLast] = std::minmax(left.Last, right.Last);
-    const Bound upper = BestBound(faces_.Upper, farLast + 1, nearLast - farLast + kEndReach, 1, first, last);
-    if (upper.Seen < needed)
+    const Bound upper = NearestBound(faces_.Upper, across, farLast + 1, 1, nearLast - farLast + kEndReach);
+    if (upper.Seen < across.Needed)
         return std::nullopt;
     const int height = upper.Line - lower.Line - 1;
     if (height < limits_.MinHeight || height > limits_.MaxHeight)

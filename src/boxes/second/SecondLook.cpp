@@ -22,6 +22,10 @@ constexpr int kSmallestShare = 2;
 constexpr int kSmallestInside = 7;
 constexpr int kLargestInside = 160;
 
+// Thick lines leave a box of a size that the settings allow, or nearly, an inside so much smaller than those
+// of other boxes.
+constexpr int kThickLines = 3;
+
 // With so few boxes the settings are probably wrong for the page.
 constexpr std::size_t kFewBoxes = 8;
 
@@ -38,8 +42,18 @@ int LargestInside(int side) {
 }
 
 InsideLimits LimitsFor(const BoxSizes& sizes) {
-    return {SmallestInside(sizes.BoxMinWidth), LargestInside(sizes.BoxMaxWidth),
-            SmallestInside(sizes.BoxMinHeight), LargestInside(sizes.BoxMaxHeight)};
+    return {SmallestInside(sizes.BoxMinWidth) - kThickLines, LargestInside(sizes.BoxMaxWidth),
+            SmallestInside(sizes.BoxMinHeight) - kThickLines, LargestInside(sizes.BoxMaxHeight)};
+}
+
+bool HasRoomInside(const Frame& frame, const BoxSizes& sizes) {
+    return frame.Right - frame.Left > SmallestInside(sizes.BoxMinWidth) &&
+           frame.Upper - frame.Lower > SmallestInside(sizes.BoxMinHeight);
+}
+
+bool IsLargeEnough(const BoxRect& box, const BoxSizes& sizes) {
+    const BoxSize size = SizeOf(box);
+    return size.Width + kThickLines >= sizes.BoxMinWidth && size.Height + kThickLines >= sizes.BoxMinHeight;
 }
 
 // Part of the whole work, from one share of it to another.
@@ -51,7 +65,8 @@ void AddFrames(std::vector<Proposal>& proposals, const WorkGrid& page, const Box
                const GoOn& goOn) {
     for (const Frame& frame : FindFrames(page, LimitsFor(sizes), goOn)) {
         const BoxRect box = BoxOf(frame, page);
-        proposals.push_back({{box, LookAtOutline(page, box)}, frame});
+        if (HasRoomInside(frame, sizes) || IsLargeEnough(box, sizes))
+            proposals.push_back({{box, LookAtOutline(page, box)}, frame});
     }
 }
 

@@ -55,8 +55,7 @@ void Scan::Close(const Wall& wall) {
         return;
     // The columns beside show the same wall; it belongs to the one with most of it.
     const int own = Count(wall.Column, wall);
-    if (own * 5 < wall.Length() * 2 || own <= Count(wall.Column - 1, wall) ||
-        own < Count(wall.Column + 1, wall))
+    if (own * 3 < wall.Length() || own <= Count(wall.Column - 1, wall) || own < Count(wall.Column + 1, wall))
         return;
     walls_.push_back(wall);
 }
