@@ -18,15 +18,6 @@ constexpr std::int16_t Max(std::int16_t a, std::int16_t b) {
     return a >= b ? a : b;
 }
 
-/// The nearest whole number, halves to the even neighbour.
-inline double RoundHalfToEven(double value) {
-    const double below = std::floor(value);
-    const double rest = value - below;
-    if (rest != 0.5)
-        return rest < 0.5 ? below : below + 1.0;
-    return std::fmod(below, 2.0) == 0.0 ? below : below + 1.0;
-}
-
 /// `value` held at the nearest number of 16 bits.
 constexpr std::int16_t ClampToInt16(double value) {
     constexpr double low = std::numeric_limits<std::int16_t>::min();
@@ -34,16 +25,17 @@ constexpr std::int16_t ClampToInt16(double value) {
     return static_cast<std::int16_t>(std::clamp(value, low, high));
 }
 
-/// The nearest 16-bit number, halves to the even neighbour, held at the ends of the range. Not for NaN.
+/// The nearest 16-bit number (the default rounding mode is never changed), halves to the even neighbour, held
+/// at the ends of the range. Not for NaN.
 inline std::int16_t RoundToInt16(double value) {
-    return ClampToInt16(RoundHalfToEven(value));
+    return ClampToInt16(std::nearbyint(value));
 }
 
 /// The nearest 32-bit number, halves to the even neighbour, held at the ends of the range. Not for NaN.
 inline int RoundToInt(double value) {
     constexpr double low = std::numeric_limits<int>::min();
     constexpr double high = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(RoundHalfToEven(value), low, high));
+    return static_cast<int>(std::clamp(std::nearbyint(value), low, high));
 }
 
 /// The low 16 bits of `value` as a signed number.

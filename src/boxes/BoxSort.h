@@ -7,7 +7,7 @@
 namespace tavrene::boxes {
 
 /// Orders boxes from the top of the page down, and from left to right within a row, by their lower row and
-/// left column. Boxes that agree in both may come in any order. `width` is that of the image.
+/// left column; those that agree in both stay as they are. `width` is that of the image.
 void SortBoxes(std::vector<BoxRect>& boxes, int width);
 
 }  // namespace tavrene::boxes

@@ -23,7 +23,7 @@ struct LineSeg {
     boxes::Orientation Orientation = boxes::Orientation::Horizontal;
     std::int16_t BoxId = -1;       ///< Number of the box that took the segment, -1 for none.
     std::int16_t Link = 0;         ///< -1 on a side that assembly created where nothing was found.
-    std::int16_t Aux = -1;         ///< Carried along, read by nobody.
+    std::int16_t Aux = -1;         ///< Part of the record of a segment; finding boxes leaves it at -1.
     std::int16_t CornerHits = 0;   ///< Crossing segments that pass the end test.
     std::int16_t SourceIndex = 0;  ///< Index in the segment list before grouping.
     std::int16_t Length = 0;       ///< Pixels of the run when it was found; ends that move leave it alone.

@@ -1,5 +1,6 @@
 #include "boxes/ProfileImagePipeline.h"
 
+#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -58,7 +59,7 @@ bool RunSteps(BoxAnalysis& analysis, const PipelineContext& context) {
 }
 
 std::string WholeSeconds(double seconds) {
-    return std::to_string(static_cast<long long>(app::RoundHalfToEven(seconds)));
+    return std::to_string(static_cast<long long>(std::nearbyint(seconds)));
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ std::int16_t RequiredNumber(const pugi::xml_node& element, const char* attribute
     if (!found)
         throw DocumentError(place + " is missing");
     const std::optional<double> value = ToNumber(found.value());
-    if (!value || app::RoundHalfToEven(*value) != app::RoundToInt16(*value))
+    if (!value || std::nearbyint(*value) != app::RoundToInt16(*value))
         throw DocumentError(place + " is \"" + found.value() + "\", which is no number of 16 bits");
     return app::RoundToInt16(*value);
 }

@@ -1,6 +1,7 @@
 #include "ui/commands/Zoom.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "app/Numeric.h"
 
@@ -17,14 +18,14 @@ bool HasArea(const Extent& extent) {
 }  // namespace
 
 double ZoomedIn(double percent) {
-    double next = app::RoundHalfToEven(percent + percent / 4);
+    double next = std::nearbyint(percent + percent / 4);
     if (next == percent)
         next = percent + 1;
     return std::min(next, kHighestZoom);
 }
 
 double ZoomedOut(double percent) {
-    return std::max(app::RoundHalfToEven(percent - percent / 5), kLowestZoom);
+    return std::max(std::nearbyint(percent - percent / 5), kLowestZoom);
 }
 
 double ZoomToFitPage(const Extent& page, const Extent& view) {

@@ -1,12 +1,12 @@
 #include "ui/page/BoxLayer.h"
 
 #include <QGraphicsScene>
-#include <QPen>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
 
+#include "ui/page/CosmeticPen.h"
 #include "ui/page/DrawTool.h"
 #include "ui/page/ImageView.h"
 #include "ui/page/SelectTool.h"
@@ -34,9 +34,7 @@ BoxLayer::BoxLayer(ImageView& view)
     : view_(view), items_(new QGraphicsItemGroup), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
     tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
     tools_[imaging::BoxTool::Add] = std::make_unique<DrawTool>(*this);
-    QPen pen(QColor(213, 94, 0), 1.5, Qt::DashLine);
-    pen.setCosmetic(true);
-    drawn_->setPen(pen);
+    drawn_->setPen(CosmeticPen(QColor(213, 94, 0), 1.5, Qt::DashLine));
     drawn_->setBrush(QColor(213, 94, 0, 40));
     drawn_->setZValue(2);
     drawn_->setVisible(false);

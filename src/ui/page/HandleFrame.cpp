@@ -1,10 +1,11 @@
 #include "ui/page/HandleFrame.h"
 
 #include <QPainter>
-#include <QPen>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
 #include <cmath>
+
+#include "ui/page/CosmeticPen.h"
 
 namespace tavrene::ui {
 namespace {
@@ -16,12 +17,6 @@ constexpr double kHandleSide = 7;
 constexpr double kReach = 6;
 
 const QColor kFrame(213, 94, 0);
-
-QPen CosmeticPen(const QColor& color, double width) {
-    QPen pen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
-    pen.setCosmetic(true);
-    return pen;
-}
 
 }  // namespace
 

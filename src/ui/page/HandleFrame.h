@@ -14,7 +14,7 @@ struct Handle {
     QPointF centre;  ///< Page frame.
 };
 
-/// The handles of a rectangle in the page frame that is shown at `scale` pixels of the screen an image pixel.
+/// The handles of a rectangle in the page frame; one pixel of the image takes `scale` pixels of the screen.
 /// On a small rectangle they stand off and leave out the middles of its sides, so that it can still be taken
 /// by its inside.
 std::vector<Handle> HandlesOf(const QRectF& rect, double scale);

@@ -1,10 +1,11 @@
 #include "ui/page/RectItem.h"
 
 #include <QPainter>
-#include <QPen>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
 #include <cmath>
+
+#include "ui/page/CosmeticPen.h"
 
 namespace tavrene::ui {
 namespace {
@@ -40,12 +41,6 @@ Look LookOf(imaging::RectStyle style) {
     return {QColor(0, 114, 178), 1.5, 1};
 }
 
-QPen CosmeticPen(const QColor& color, double width) {
-    QPen pen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
-    pen.setCosmetic(true);
-    return pen;
-}
-
 // A whole number of dashes a side, with half a dash on either side of every corner, so that a small box still
 // looks like one. `side` in pixels of the screen, `dots` of the device on each of them.
 void BreakUp(QPen& pen, double side, double dots, double inked) {
@@ -56,7 +51,7 @@ void BreakUp(QPen& pen, double side, double dots, double inked) {
 }
 
 // A frame that stands off the rectangle, dark on a light seam, over a tint that lets the mark show through.
-// `scale` in pixels of the screen an image pixel.
+// One pixel of the image takes `scale` pixels of the screen.
 void PaintEmphasis(QPainter& painter, const QRectF& rect, double scale, double dots) {
     const double off = kEmphasisGap / std::max(scale, 0.01);
     const QRectF frame = rect.adjusted(-off, -off, off, off);

@@ -6,10 +6,8 @@
 #include <QSplitter>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <utility>
 
 #include "imaging/Bitmap.h"
-#include "recognition/precise/ReadAgain.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/Places.h"
@@ -22,12 +20,10 @@ namespace tavrene::ui {
 namespace {
 
 using commands::Command;
+using commands::kWindowSection;
 
 // What the window remembers about itself lies beside the settings, in a group of its own.
-constexpr std::string_view kWindowSection = "Window";
 constexpr std::string_view kLabelsShown = "ToolbarLabels";
-constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
-constexpr std::string_view kSecondOpinion = "SecondOpinion";
 
 QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
     return QByteArray::fromBase64(
@@ -55,7 +51,6 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     : context_(context),
       state_(commands::InitialState(settings)),
       panels_(new StatusPanels(this)),
-      opinions_(new OpinionBar(this)),
       splitter_(new QSplitter(this)),
       strip_(new MessageStrip(this)),
       view_(new ImageView(context.files, this)),
@@ -76,6 +71,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, gate_, precise_}, {*view_, *boxes_, *side_, *forms_},
               [this] { desk_.Close(); }),
+      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_},
+               [this] { review_.Refill(); }),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
@@ -83,7 +80,6 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
-    ConnectReading();
     RestoreShape();
     UpdateCommands();
 }
@@ -109,13 +105,7 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
-    auto* const middle = new QWidget(this);
-    auto* const column = new QVBoxLayout(middle);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(opinions_);
-    column->addWidget(splitter_, 1);
-    setCentralWidget(middle);
+    setCentralWidget(splitter_);
     const std::initializer_list<QWidget*> order = {
         &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_, view_, boxes_,
         &candidates_->List()};
@@ -178,42 +168,8 @@ void MainWindow::RunBegins() {
 }
 
 void MainWindow::RunEnded() {
-    ShowOpinions();
+    reading_.RunEnded(run_.Opinions());
     review_.RunEnded();
-}
-
-void MainWindow::ConnectReading() {
-    gate_.SetHandler(Command::PreciseAlignment,
-                     [this] { SwitchReading(state_.reading.preciseAlignment, kPreciseAlignment); });
-    gate_.SetHandler(Command::SecondOpinion,
-                     [this] { SwitchReading(state_.reading.secondOpinion, kSecondOpinion); });
-    gate_.SetHandler(
-        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
-    opinions_->SetListener([this] { RunCommand(Command::ReadAgain); });
-    const auto stored = [this](std::string_view name) {
-        return context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, name);
-    };
-    state_.reading = {stored(kPreciseAlignment) == "1", stored(kSecondOpinion) != "0"};
-}
-
-void MainWindow::SwitchReading(bool& option, std::string_view name) {
-    option = !option;
-    context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
-}
-
-void MainWindow::ShowOpinions() {
-    unread_ = run_.Opinions().unread;
-    opinions_->Show(recognition::TextOf(run_.Opinions()), !unread_.empty());
-}
-
-void MainWindow::ReadAgain() {
-    const auto count = recognition::ReadFormsAgain(std::exchange(unread_, {}), state_.folders.ProcessOut,
-                                                   context_.files, log_, operator_, precise_, state_.profiles,
-                                                   state_.settings.FillThreshold);
-    opinions_->Show(std::to_string(count) + (count == 1 ? " form was" : " forms were") +
-                        " read by Precise Alignment and can be reviewed.",
-                    false);
-    review_.Refill();
 }
 
 void MainWindow::RunCommand(Command command) {

@@ -2,8 +2,6 @@
 
 #include <QMainWindow>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "app/ActivityLog.h"
 #include "app/Clock.h"
@@ -13,6 +11,7 @@
 #include "recognition/precise/PreciseReader.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
+#include "ui/commands/ReadingCommands.h"
 #include "ui/commands/RunSession.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
@@ -20,7 +19,6 @@
 #include "ui/profiling/ProfilePane.h"
 #include "ui/reviewing/ReviewMode.h"
 #include "ui/reviewing/ReviewPane.h"
-#include "ui/shell/OpinionBar.h"
 #include "ui/shell/QtFileDialogs.h"
 #include "ui/shell/QtOperator.h"
 #include "ui/shell/StatusPanels.h"
@@ -60,10 +58,6 @@ class MainWindow final : public QMainWindow {
     void RunEnded();
     void RunCommand(commands::Command command);
     void UpdateCommands();
-    void ConnectReading();
-    void SwitchReading(bool& option, std::string_view name);
-    void ShowOpinions();
-    void ReadAgain();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
     void RestoreShape();
@@ -72,7 +66,6 @@ class MainWindow final : public QMainWindow {
     WindowContext context_;
     commands::AppState state_;
     StatusPanels* panels_;
-    OpinionBar* opinions_;
     QSplitter* splitter_;
     MessageStrip* strip_;
     ImageView* view_;
@@ -89,9 +82,9 @@ class MainWindow final : public QMainWindow {
     commands::CommandGate gate_;
     ProfileDesk desk_;
     ReviewMode review_;
+    commands::ReadingCommands reading_;
     commands::RunSession runs_;
     Toolbars toolbars_;
-    std::vector<std::string> unread_;  ///< Forms of the last run that only precise alignment recognises.
 };
 
 }  // namespace tavrene::ui

@@ -1,0 +1,51 @@
+#include "ui/commands/ReadingCommands.h"
+
+#include <array>
+#include <utility>
+
+#include "recognition/precise/ReadAgain.h"
+
+namespace tavrene::commands {
+
+ReadingCommands::ReadingCommands(AppState& state, const Context& context, std::function<void()> formsRead)
+    : state_(state), context_(context), formsRead_(std::move(formsRead)) {
+    const auto stored = [&context](std::string_view name) {
+        return context.store.ReadSettingValue(app::kApplicationName, kWindowSection, name);
+    };
+    state_.reading = {stored(kPreciseAlignment) == "1", stored(kSecondOpinion) != "0"};
+    CommandGate& gate = context_.gate;
+    gate.SetHandler(Command::PreciseAlignment,
+                    [this] { Switch(state_.reading.preciseAlignment, kPreciseAlignment); });
+    gate.SetHandler(Command::SecondOpinion, [this] { Switch(state_.reading.secondOpinion, kSecondOpinion); });
+    gate.SetHandler(
+        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
+}
+
+void ReadingCommands::Switch(bool& option, std::string_view name) {
+    option = !option;
+    context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
+}
+
+void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
+    unread_ = opinions.unread;
+    app::Notice notice{recognition::TextOf(opinions)};
+    if (notice.text.empty())
+        return;
+    if (!unread_.empty()) {
+        notice.button = "Read These Again";
+        notice.act = [this] { context_.gate.Run(Command::ReadAgain); };
+    }
+    context_.person.ShowNotices(std::array{notice});
+}
+
+void ReadingCommands::ReadAgain() {
+    const int count = recognition::ReadFormsAgain(
+        std::exchange(unread_, {}), state_.folders.ProcessOut, context_.files, context_.log, context_.person,
+        context_.reader, state_.profiles, state_.settings.FillThreshold);
+    context_.person.ShowNotices(
+        std::array{app::Notice{std::to_string(count) + (count == 1 ? " form was" : " forms were") +
+                               " read by Precise Alignment and can be reviewed."}});
+    formsRead_();
+}
+
+}  // namespace tavrene::commands
