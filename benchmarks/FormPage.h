@@ -34,11 +34,15 @@ class Nobody final : public app::Operator,
   public:
     std::optional<std::string> AskSaveFile(const app::FileQuestion&) override { return std::nullopt; }
     std::optional<std::string> AskOpenFile(const app::FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskFolder(const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
     void ShowMessage(std::string_view, std::string_view) override {}
     void ReportFile(std::string_view, std::string_view) override {}
     app::Answer AskYesNo(std::string_view, app::Answer) override { return app::Answer::No; }
     app::Answer AskYesNoCancel(std::string_view, app::Answer) override { return app::Answer::Cancel; }
     void ShowNotices(std::span<const app::Notice>) override {}
+    void ShowStandingNotices(std::span<const app::Notice>) override {}
     void SetPanel(app::Panel, std::string_view) override {}
     void SetProgressRange(int) override {}
     void SetProgress(int) override {}

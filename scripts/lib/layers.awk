@@ -19,9 +19,10 @@ BEGIN {
     may["ui/profiling"] = " ui/page ui/lists ui/base" engine
     may["ui/reviewing"] = may["ui/profiling"]
     may["ui/settings"] = may["ui/profiling"]
-    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/page ui/lists ui/base" engine
+    may["ui/exporting"] = may["ui/profiling"]
+    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/exporting ui/page ui/lists ui/base" engine
     # The rooms that know a library.
-    knows["Qt"] = " ui/base ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/shell "
+    knows["Qt"] = " ui/base ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/shell "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review "

@@ -1,7 +1,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 
@@ -39,41 +41,108 @@ void DropOtherLink(const std::string& from, const std::string& to) {
         DeleteSource(from, to);
 }
 
-// Asked before anything is copied: a source that stays would be read again and again.
-void CheckMayBeDeleted(const std::string& path) {
-    const std::string folder = FromPath(ToPath(path).parent_path() / ".");
-    if (::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) != 0)
-        Refuse("move", path, errno);
+[[noreturn]] void RefuseToMove(const std::string& from, const std::string& to, int error) {
+    Refuse("move", from + " to " + to, error);
 }
 
-void CopyContent(const std::string& from, const std::string& to, const std::string& shown) {
-    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
-    if (source.Number() < 0)
-        Refuse("read", from, errno);
-    Descriptor target(::open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (target.Number() < 0)
-        Refuse("write", shown, errno);
-    Bytes chunk(kChunk);
-    for (;;) {
-        const ::ssize_t got = ::read(source.Number(), chunk.data(), chunk.size());
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            Refuse("read", from, errno);
-        if (got == 0)
-            break;
-        if (!disk::WriteAll(target.Number(), std::span(chunk).first(static_cast<std::size_t>(got))))
-            Refuse("write", shown, errno);
-    }
-    if (::fsync(target.Number()) != 0 || !target.Close())
-        Refuse("write", shown, errno);
+// In a folder where everybody may write, each may delete his own files alone.
+bool IsKeptByOthers(const struct ::stat& folder, const struct ::stat& file) {
+    const ::uid_t me = ::geteuid();
+    return (folder.st_mode & S_ISVTX) != 0 && me != 0 && me != folder.st_uid && me != file.st_uid;
 }
+
+// Asked before anything is copied: a source that stays would be read again and again.
+void CheckMayBeDeleted(const std::string& from, const std::string& to) {
+    const std::string folder = FromPath(ToPath(from).parent_path() / ".");
+    struct ::stat around {};
+    struct ::stat file {};
+    if (::stat(folder.c_str(), &around) != 0 || ::lstat(from.c_str(), &file) != 0 ||
+        ::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) != 0)
+        RefuseToMove(from, to, errno);
+    if (IsKeptByOthers(around, file))
+        RefuseToMove(from, to, EPERM);
+}
+
+// Copies one file into another and leaves its holes: what is only marked as large takes no room.
+class FileCopy {
+  public:
+    FileCopy(const std::string& from, const std::string& temporary, const std::string& to)
+        : from_(from),
+          to_(to),
+          source_(::open(from.c_str(), O_RDONLY | O_CLOEXEC)),
+          target_(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
+
+    void Run() {
+        struct ::stat status {};
+        if (source_.Number() < 0 || ::fstat(source_.Number(), &status) != 0)
+            Refuse("read", from_, errno);
+        if (target_.Number() < 0)
+            Refuse("write", to_, errno);
+        CheckRoomFor(status);
+        for (::off_t data = NextData(0, status.st_size); data < status.st_size;) {
+            const ::off_t hole = ::lseek(source_.Number(), data, SEEK_HOLE);
+            const ::off_t end = hole < 0 ? status.st_size : std::min(hole, status.st_size);
+            CopyPart(data, end);
+            data = NextData(end, status.st_size);
+        }
+        if (::ftruncate(target_.Number(), status.st_size) != 0 || ::fsync(target_.Number()) != 0 ||
+            !target_.Close())
+            Refuse("write", to_, errno);
+    }
+
+  private:
+    // Better than to fill the disk first.
+    void CheckRoomFor(const struct ::stat& source) {
+        constexpr std::uint64_t kBlock = 512;  // whatever the blocks of the file system are
+        struct ::statvfs room {};
+        if (::fstatvfs(target_.Number(), &room) == 0 && room.f_blocks > 0 &&
+            static_cast<std::uint64_t>(source.st_blocks) * kBlock > room.f_bavail * room.f_frsize)
+            RefuseToMove(from_, to_, ENOSPC);
+    }
+
+    // A file system that knows of no holes is all data.
+    ::off_t NextData(::off_t at, ::off_t size) {
+        const ::off_t data = ::lseek(source_.Number(), at, SEEK_DATA);
+        if (data >= 0)
+            return data;
+        return errno == ENXIO ? size : at;
+    }
+
+    void CopyPart(::off_t at, ::off_t end) {
+        if (::lseek(source_.Number(), at, SEEK_SET) < 0)
+            Refuse("read", from_, errno);
+        if (::lseek(target_.Number(), at, SEEK_SET) < 0)
+            Refuse("write", to_, errno);
+        while (at < end) {
+            const std::size_t wanted = std::min(chunk_.size(), static_cast<std::size_t>(end - at));
+            const ::ssize_t got = ::read(source_.Number(), chunk_.data(), wanted);
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got < 0)
+                Refuse("read", from_, errno);
+            if (got == 0)
+                return;
+            if (!disk::WriteAll(target_.Number(), std::span(chunk_).first(static_cast<std::size_t>(got))))
+                Refuse("write", to_, errno);
+            at += got;
+        }
+    }
+
+    const std::string& from_;
+    const std::string& to_;
+    Descriptor source_;
+    Descriptor target_;
+    Bytes chunk_ = Bytes(kChunk);
+};
 
 }  // namespace
 
 void DiskFiles::Move(const std::string& from, const std::string& to, Keep keep) {
     if (FolderExists(to))
         throw FileError("Cannot move " + from + ": " + to + " is a folder");
+    // A link would arrive as one, and point elsewhere from its new place.
+    if (std::error_code ignored; std::filesystem::is_symlink(ToPath(from), ignored))
+        return MoveAcross(from, to);
     if (::rename(from.c_str(), to.c_str()) == 0) {
         if (keep == Keep::Durably)
             disk::FlushFolderOf(to);
@@ -81,16 +150,16 @@ void DiskFiles::Move(const std::string& from, const std::string& to, Keep keep) 
     } else if (errno == EXDEV) {
         MoveAcross(from, to);
     } else {
-        Refuse("move", from, errno);
+        RefuseToMove(from, to, errno);
     }
 }
 
 void DiskFiles::MoveAcross(const std::string& from, const std::string& to) {
-    CheckMayBeDeleted(from);
+    CheckMayBeDeleted(from, to);
     const std::string before = Fingerprint(from);
     const std::string temporary = disk::TemporaryNeighbour(to);
     try {
-        CopyContent(from, temporary, to);
+        FileCopy(from, temporary, to).Run();
         if (Fingerprint(from) != before)
             throw FileError("Cannot move " + from + ": somebody is still writing to it");
     } catch (const FileError&) {

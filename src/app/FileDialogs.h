@@ -24,6 +24,10 @@ class FileDialogs {
 
     /// A file that exists.
     virtual std::optional<std::string> AskOpenFile(const FileQuestion& question) = 0;
+
+    /// A folder that exists; the path ends in a separator, as `startFolder` does.
+    virtual std::optional<std::string> AskFolder(const std::string& title,
+                                                 const std::string& startFolder) = 0;
 };
 
 }  // namespace tavrene::app

@@ -17,6 +17,7 @@ struct Notice {
     std::string text;                ///< Whole sentences.
     std::string button = {};         ///< What can be done about it; empty for nothing.
     std::function<void()> act = {};  ///< Called when the button is pressed.
+    std::string topic = {};          ///< What stays the same while the text changes; empty for the text.
 };
 
 /// The one door to the person at the machine. Texts are UTF-8.
@@ -40,6 +41,10 @@ class Operator {
     /// Shows notices over the page, whole, until the person closes them or others take their place; none take
     /// them away.
     virtual void ShowNotices(std::span<const Notice> notices) = 0;
+
+    /// The same for what stands about the work at hand, whatever else is told. They are told again and again;
+    /// one that the person has closed stays closed as long as its topic is among them.
+    virtual void ShowStandingNotices(std::span<const Notice> notices) = 0;
 
     /// Puts a text into a panel; it can be read at once, also while a long operation runs.
     virtual void SetPanel(Panel panel, std::string_view text) = 0;

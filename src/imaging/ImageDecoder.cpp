@@ -9,12 +9,14 @@
 #include "imaging/ImageLibrary.h"
 #include "imaging/JpegFile.h"
 #include "imaging/LibraryMessages.h"
+#include "imaging/TiffMetadata.h"
 
 namespace tavrene::imaging {
 namespace {
 
 Bitmap Load(std::span<const std::byte> content, ImageFormat format, int flags) {
-    const MemoryHandle memory = MemoryOver(content);
+    const app::Bytes plain = format == ImageFormat::Tiff ? WithoutMetadata(content) : app::Bytes();
+    const MemoryHandle memory = MemoryOver(plain.empty() ? content : plain);
     return Bitmap(Library().LoadFromMemory(static_cast<FREE_IMAGE_FORMAT>(format), memory.get(), flags));
 }
 

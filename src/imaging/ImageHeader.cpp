@@ -92,7 +92,8 @@ std::optional<Extent> ExtentOf(std::span<const std::byte> content, ImageFormat f
     const Bitmap header = DecodeImage(content, format, Decode::HeaderOnly);
     if (!header)
         return std::nullopt;
-    return Extent{header.Width(), header.Height(), std::int64_t{header.Pitch()} * header.Height()};
+    const std::int64_t held = format == ImageFormat::Jpeg ? OutlineOfJpeg(content).heldBytes : 0;
+    return Extent{header.Width(), header.Height(), std::int64_t{header.Pitch()} * header.Height() + held};
 }
 
 bool IsWithinLimits(const Extent& extent) {

@@ -50,13 +50,26 @@ class Scans {
   public:
     void StartPicture(const ByteReader& reader, std::uint64_t segment) {
         isProgressive_ = reader.Number(segment + 1, 1) == kProgressive;
+        hasManyScans_ = isProgressive_;
         lowest_.clear();
-        for (std::uint64_t k = 0; k < reader.Number(segment + 9, 1); ++k)
+        std::int64_t blocks = 0;
+        std::int64_t across = 1;  // blocks of the finest component in one unit
+        std::int64_t down = 1;
+        for (std::uint64_t k = 0; k < reader.Number(segment + 9, 1); ++k) {
             lowest_[reader.Number(segment + 10 + 3 * k, 1)].fill(kNothing);
+            const auto sampling = static_cast<std::int64_t>(reader.Number(segment + 11 + 3 * k, 1));
+            blocks += (sampling >> 4) * (sampling & 15);
+            across = std::max(across, sampling >> 4);
+            down = std::max(down, sampling & 15);
+        }
+        const auto height = static_cast<std::int64_t>(reader.Number(segment + 5, 2));
+        const auto width = static_cast<std::int64_t>(reader.Number(segment + 7, 2));
+        coefficientBytes_ = Units(width, across) * Units(height, down) * blocks * kBlockSide * kBlockSide * 2;
     }
 
     void Add(const ByteReader& reader, std::uint64_t segment) {
         const std::uint64_t components = reader.Number(segment + 4, 1);
+        hasManyScans_ = hasManyScans_ || components < lowest_.size();
         const std::uint64_t range = segment + 5 + 2 * components;
         const std::uint64_t first = isProgressive_ ? reader.Number(range, 1) : 0;
         const std::uint64_t last = isProgressive_ ? reader.Number(range + 1, 1) : 63;
@@ -76,9 +89,19 @@ class Scans {
         return !lowest_.empty() && std::all_of(lowest_.begin(), lowest_.end(), isComplete);
     }
 
+    std::int64_t HeldBytes() const { return hasManyScans_ ? coefficientBytes_ : 0; }
+
   private:
     static constexpr std::uint64_t kNothing = 255;
+    static constexpr std::int64_t kBlockSide = 8;
+
+    static std::int64_t Units(std::int64_t pixels, std::int64_t blocks) {
+        return (pixels + kBlockSide * blocks - 1) / (kBlockSide * blocks);
+    }
+
     bool isProgressive_ = false;
+    bool hasManyScans_ = false;
+    std::int64_t coefficientBytes_ = 0;
     std::map<std::uint64_t, std::array<std::uint64_t, 64>> lowest_;
 };
 
@@ -108,6 +131,7 @@ JpegOutline OutlineOfJpeg(std::span<const std::byte> content) {
             scans.Add(reader, segment);
     });
     outline.hasAllScans = scans.AreComplete();
+    outline.heldBytes = scans.HeldBytes();
     return outline;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace tavrene::imaging {
@@ -10,6 +11,10 @@ struct JpegOutline {
     bool isMeasured = false;   ///< A resolution: its JFIF segment measures dots an inch or a centimetre.
     bool hasAllScans = false;  ///< Every component has its scans, in a progressive file down to the last bit.
     bool hasEndMarker = false;
+
+    /// What the decoder holds beside the picture until the last scan has come: all coefficients of a picture
+    /// that is sent in several scans.
+    std::int64_t heldBytes = 0;
 };
 
 /// Never reads outside `content`, whatever it holds.

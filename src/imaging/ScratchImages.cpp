@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
+
 namespace tavrene::imaging {
 namespace {
 
@@ -16,7 +18,7 @@ std::string FailureOf(Write write) {
         write();
         return {};
     } catch (const std::exception& error) {
-        return error.what();
+        return app::ReasonOf(error);
     }
 }
 

@@ -88,8 +88,9 @@ std::int64_t DecodedBytes(TIFF* file, std::int64_t width, std::int64_t height) {
     const std::uint64_t part = TIFFIsTiled(file) != 0 ? TIFFTileSize64(file) : TIFFStripSize64(file);
     // As real numbers, for a header may name any size; what is too large need not be exact.
     const double pixels = static_cast<double>(width) * static_cast<double>(height);
-    const double bytes = std::max({static_cast<double>(line) * static_cast<double>(height),
-                                   isBilevel ? pixels / 8 : pixels * 4, static_cast<double>(part)});
+    const double bitmap = std::max(static_cast<double>(line) * static_cast<double>(height),
+                                   isBilevel ? pixels / 8 : pixels * 4);
+    const double bytes = bitmap + static_cast<double>(part);
     return static_cast<std::int64_t>(std::min(bytes, 1e18));
 }
 

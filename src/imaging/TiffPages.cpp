@@ -8,6 +8,7 @@
 #include "imaging/ImageHeader.h"
 #include "imaging/ImageLibrary.h"
 #include "imaging/LibraryMessages.h"
+#include "imaging/TiffMetadata.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -45,7 +46,8 @@ TiffReader::TiffReader(std::span<const std::byte> content)
     // The headers end where the list of pages is unsound.
     if (headers_.empty() || DamageWasMet() || !HasImageLibrary())
         return;
-    memory_ = MemoryOver(content);
+    content_ = WithoutMetadata(content);
+    memory_ = MemoryOver(content_);
     document_.reset(Library().LoadMultiBitmapFromMemory(FIF_TIFF, memory_.get(), 0));
 }
 

@@ -14,7 +14,7 @@ namespace tavrene::imaging {
 /// The pages of a TIFF, each decoded when it is asked for.
 class TiffReader {
   public:
-    /// `content` must outlive the reader. What is no TIFF, or ends within its list of pages, has none.
+    /// What is no TIFF, or ends within its list of pages, has no pages.
     explicit TiffReader(std::span<const std::byte> content);
 
     int PageCount() const;
@@ -25,6 +25,7 @@ class TiffReader {
 
   private:
     std::vector<TiffHeader> headers_;
+    app::Bytes content_;
     MemoryHandle memory_;
     DocumentHandle document_;
 };

@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/Reason.h"
 #include "imaging/ScanPicture.h"
 #include "intake/ImageNames.h"
 #include "intake/PageSource.h"
@@ -38,7 +39,7 @@ class Intake {
             try {
                 TakeIn(source, outcome);
             } catch (const std::exception& error) {
-                outcome.reason = error.what();
+                outcome.reason = app::ReasonOf(error);
             }
             if (report_.isCancelled)
                 break;
@@ -69,8 +70,8 @@ class Intake {
                 found_.push_back({Inside(folder, name)});
             for (const std::string& name : files_.ListFolders(folder))
                 Find({Inside(folder, name)});
-        } catch (const app::FileError& error) {
-            report_.files.push_back({folder, {}, error.what()});
+        } catch (const std::exception& error) {
+            report_.files.push_back({folder, {}, app::ReasonOf(error)});
         }
     }
 

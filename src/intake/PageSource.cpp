@@ -4,6 +4,7 @@
 
 #include "imaging/ImageDecoder.h"
 #include "imaging/ImageHeader.h"
+#include "imaging/PageReader.h"
 #include "imaging/ScanPicture.h"
 #include "imaging/TiffPages.h"
 #include "intake/PdfPages.h"
@@ -20,7 +21,7 @@ Reason DamagedPage(int index) {
 
 class TiffSource final : public PageSource {
   public:
-    explicit TiffSource(app::Bytes content) : content_(std::move(content)), reader_(content_) {}
+    explicit TiffSource(const app::Bytes& content) : reader_(content) {}
 
     int PageCount() const override { return reader_.PageCount(); }
 
@@ -32,7 +33,6 @@ class TiffSource final : public PageSource {
     }
 
   private:
-    app::Bytes content_;
     imaging::TiffReader reader_;
 };
 
@@ -61,6 +61,8 @@ class PictureSource final : public PageSource {
 }  // namespace
 
 std::variant<std::unique_ptr<PageSource>, Reason> OpenPages(app::Bytes content) {
+    if (imaging::ImageLibraryVersion().empty())
+        return Reason{std::string(ReasonOf(imaging::PageError::NoLibrary)) + "."};
     if (IsPdf(content))
         return OpenPdf(std::move(content));
     const std::optional<ImageFormat> format = imaging::FormatOfContent(content);
@@ -68,7 +70,7 @@ std::variant<std::unique_ptr<PageSource>, Reason> OpenPages(app::Bytes content) 
         return Reason{"This is no PDF and no picture that can be read."};
     if (*format != ImageFormat::Tiff)
         return std::make_unique<PictureSource>(std::move(content), *format);
-    auto tiff = std::make_unique<TiffSource>(std::move(content));
+    auto tiff = std::make_unique<TiffSource>(content);
     if (tiff->PageCount() == 0)
         return Reason{"The file is damaged."};
     return tiff;

@@ -15,6 +15,7 @@ using app::Answer;
 using app::Panel;
 
 constexpr const char* kProfileFilter = "Tavrene Profiles (*.Tvp)|*.Tvp";
+constexpr const char* kSpecimen = "specimen";
 constexpr const char* kImageFilter = "Image Files (*.Tif;*.Jpg;*.Png)|*.Tif;*.Jpg;*.Png";
 
 }  // namespace
@@ -30,7 +31,7 @@ ProfileSession::ProfileSession(const ProfileContext& context, std::vector<Profil
       thumbnails_(context.files, context.log, context.person, context.folders.Profiles) {}
 
 bool ProfileSession::MayLeave() {
-    notes_.clear();
+    DropNotes();
     if (!profile_.ProfileChanged)
         return true;
     switch (context_.person.AskYesNoCancel("Save changes to Profile <" + profile_.Path + ">?", Answer::Yes)) {
@@ -56,9 +57,7 @@ void ProfileSession::New(const boxes::BoxSizes& sizes, const boxes::PairReach& r
         return;
     }
     try {
-        if (Create(*path, *image, sizes, reach))
-            TellMore();
-        else
+        if (!Create(*path, *image, sizes, reach))
             ShowPanels();
     } catch (...) {
         ShowPanels();
@@ -87,7 +86,7 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
     if (app::Notice offer = context_.offerMore ? context_.offerMore() : app::Notice(); !offer.text.empty())
         notes_.push_back(std::move(offer));
     if (profile_.CurrentProfile == 0)
-        Note("The new profile lies outside the Profiles folder, so no run will use it");
+        lasting_.push_back({"The new profile lies outside the Profiles folder, so no run will use it."});
     return true;
 }
 
@@ -101,7 +100,6 @@ void ProfileSession::Open(const std::string& path) {
     }
     screen_.strip.SelectThumbnail(profiles_.NumberOf(path));
     Load(path);
-    TellMore();
 }
 
 void ProfileSession::Load(const std::string& path) {
@@ -115,7 +113,6 @@ void ProfileSession::Load(const std::string& path) {
         content = ReadProfileContent(profile_.Document);
     } catch (const DocumentError& error) {
         ShowSpecimen(false);
-        TellMore();
         RefuseToOpen(path, error);
     }
     Describe(content);
@@ -141,7 +138,8 @@ void ProfileSession::Describe(const ProfileContent& content) {
     profile_.DPI_X = content.DPI_X.value_or(0);
     profile_.DPI_Y = content.DPI_Y.value_or(0);
     if (!content.DPI_X || !content.DPI_Y)
-        Note("The document does not say the resolution of its image (DPI_X, DPI_Y), so runs leave it out");
+        lasting_.push_back(
+            {"The document does not say the resolution of its image (DPI_X, DPI_Y), so runs leave it out."});
     profile_.Active = content.Active;
 }
 
@@ -149,8 +147,9 @@ void ProfileSession::ShowSpecimen(bool isNewProfile) {
     const SpecimenShown shown = specimen_.Show(profile_.Image, isNewProfile);
     profile_.ImageWidth = shown.width;
     profile_.ImageHeight = shown.height;
+    std::erase_if(lasting_, [](const app::Notice& notice) { return notice.topic == kSpecimen; });
     if (!shown.missing.empty())
-        notes_.push_back({shown.missing, "Locate...", [this] { Locate(); }});
+        lasting_.push_back({shown.missing, "Locate...", [this] { Locate(); }, kSpecimen});
     Note(shown.copyFailure);
 }
 
@@ -170,15 +169,11 @@ void ProfileSession::Locate() {
     specimen_.Fit(profile_.ImageWidth);
     RebuildStrip();
     ShowPanels();
-    TellMore();
 }
 
 bool ProfileSession::Save() {
-    notes_.clear();
-    const bool isWritten = Write();
-    if (isWritten)
-        TellMore();
-    return isWritten;
+    DropNotes();
+    return Write();
 }
 
 bool ProfileSession::Write() {
@@ -207,7 +202,7 @@ bool ProfileSession::MayOverwrite(const std::string& onDisk) {
 }
 
 void ProfileSession::Delete() {
-    notes_.clear();
+    DropNotes();
     if (!HasProfile() ||
         context_.person.AskYesNo("Delete Profile " + profile_.Path, Answer::No) != Answer::Yes)
         return;
@@ -219,17 +214,11 @@ void ProfileSession::Delete() {
     context_.person.SetPanel(Panel::Message, "Deleted Profile: " + name);
     if (profiles_.Entries().empty())
         thumbnails_.DeleteFile();
-    TellMore();
 }
 
 void ProfileSession::SetActive(bool active) {
     if (profile_.IsOpen)
         profile_.Active = active;
-}
-
-void ProfileSession::FillStrip() {
-    RebuildStrip();
-    TellMore();
 }
 
 void ProfileSession::RebuildStrip() {
@@ -241,6 +230,8 @@ void ProfileSession::RebuildStrip() {
 
 void ProfileSession::Close() {
     context_.person.ShowNotices({});
+    context_.person.ShowStandingNotices(notes_);
+    lasting_.clear();
     editor_.Clear();
     screen_.page.Clear();
     profile_ = OpenProfile();
@@ -257,11 +248,11 @@ void ProfileSession::Note(const std::string& failure) {
         notes_.push_back({failure + "."});
 }
 
-void ProfileSession::TellMore() {
-    std::vector<app::Notice> notices = std::exchange(notes_, {});
-    for (std::string& advice : context_.advise(profile_))
-        notices.push_back({std::move(advice)});
-    context_.person.ShowNotices(notices);
+std::vector<app::Notice> ProfileSession::Notices() const {
+    std::vector<app::Notice> notices = lasting_;
+    for (const std::vector<app::Notice>& more : {notes_, context_.advise(profile_)})
+        notices.insert(notices.end(), more.begin(), more.end());
+    return notices;
 }
 
 }  // namespace tavrene::profiles

@@ -30,7 +30,7 @@ struct ProfileContext {
     const app::WorkingFolders& folders;
 
     /// What will go wrong in a run with the profile as it stands, in plain sentences.
-    std::function<std::vector<std::string>(const OpenProfile&)> advise;
+    std::function<std::vector<app::Notice>(const OpenProfile&)> advise;
 
     /// What is to be said of boxes that a new profile may lack; without a text for nothing.
     std::function<app::Notice()> offerMore = {};
@@ -38,8 +38,7 @@ struct ProfileContext {
 
 /// The profile at the desk from its making or opening until it is closed: what the person is asked and told
 /// about it, and what strip, page and box list show. What fails throws with a text for the operator; the file
-/// and the profile at the desk then are as they were. After a command the notices say what else there is to
-/// know about the profile at the desk.
+/// and the profile at the desk then are as they were.
 class ProfileSession {
   public:
     /// `records` are the loaded profiles that recognition uses; kept in line with the folder.
@@ -53,6 +52,12 @@ class ProfileSession {
 
     const OpenProfile& Profile() const { return profile_; }
     BoxEditor& Editor() { return editor_; }
+
+    /// What else the person should read, about the profile as it stands and the command that was the last.
+    std::vector<app::Notice> Notices() const;
+
+    /// What the last command said is over, for another one begins.
+    void DropNotes() { notes_.clear(); }
 
     /// Asks whether unsaved changes are to be saved, and does so. False when the profile is not to be left.
     bool MayLeave();
@@ -72,7 +77,7 @@ class ProfileSession {
     void SetActive(bool active);
 
     /// Loads the profiles of the folder anew and fills the strip.
-    void FillStrip();
+    void FillStrip() { RebuildStrip(); }
 
     /// Opens a profile by its path. One that cannot be read throws, but shows its specimen where that is
     /// known, and stands at the desk without being open. One that has vanished is told of.
@@ -99,7 +104,6 @@ class ProfileSession {
     void Locate();
     void ShowPanels();
     void Note(const std::string& failure);
-    void TellMore();
 
     ProfileContext context_;
     ProfileScreen screen_;
@@ -109,7 +113,8 @@ class ProfileSession {
     ProfileFiles profiles_;
     SpecimenPage specimen_;
     Thumbnails thumbnails_;
-    std::vector<app::Notice> notes_;  ///< About the command that goes on and a save before it.
+    std::vector<app::Notice> lasting_;  ///< About the profile, for as long as it is at the desk.
+    std::vector<app::Notice> notes_;    ///< About the last command and a save before it.
 };
 
 }  // namespace tavrene::profiles

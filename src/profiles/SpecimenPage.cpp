@@ -7,6 +7,7 @@ namespace tavrene::profiles {
 namespace {
 
 using imaging::ImageFormat;
+using imaging::PageError;
 
 constexpr double kFittingWidth = 750;
 constexpr double kFittingStep = 0.96;
@@ -31,13 +32,16 @@ SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
     SpecimenShown shown;
     const auto read = imaging::ReadSpecimen(files_, image);
     page_.SetZoom(100);
-    if (const imaging::Page* const page = std::get_if<imaging::Page>(&read)) {
-        ShowPage(*page, isNewProfile, shown);
-    } else if (std::get<imaging::PageError>(read) == imaging::PageError::TooManyColors) {
+    const PageError* const error = std::get_if<PageError>(&read);
+    if (error == nullptr) {
+        ShowPage(std::get<imaging::Page>(read), isNewProfile, shown);
+    } else if (*error == PageError::TooManyColors) {
         KeepSize(imaging::DecodeImage(files_.Read(image), imaging::SpecimenFormat(image),
                                       imaging::Decode::HeaderOnly),
                  shown);
         page_.ShowFile(image);
+    } else if (*error == PageError::NoLibrary) {
+        page_.Clear();  // told when the program started
     } else {
         page_.Clear();
         shown.missing =

@@ -36,6 +36,10 @@ std::string Caption(std::size_t number, std::size_t count) {
     return "Profile " + std::to_string(number) + " of " + std::to_string(count);
 }
 
+bool HasLibrary() {
+    return !imaging::ImageLibraryVersion().empty();
+}
+
 }  // namespace
 
 Thumbnails::Thumbnails(app::Files& files, app::ActivityLog& log, app::Operator& person,
@@ -46,7 +50,8 @@ void Thumbnails::Rebuild(std::span<const StripEntry> profiles, ThumbnailStrip& s
     TakeOverFile();
     const std::vector<std::string> before = LabelsOf(pages_);
     pages_ = PagesOf(profiles);
-    if (!pages_.empty() && (LabelsOf(pages_) != before || !files_.FileExists(path_)))
+    // Without the image library there are no pictures, and the file keeps those that it has.
+    if (HasLibrary() && !pages_.empty() && (LabelsOf(pages_) != before || !files_.FileExists(path_)))
         WriteFile();
     std::vector<StripThumbnail> thumbnails;
     thumbnails.reserve(pages_.size());
@@ -66,7 +71,7 @@ void Thumbnails::TakeOverFile() {
     try {
         pages_ = imaging::DecodeTiffPages(files_.Read(path_));
     } catch (const std::exception& error) {
-        log_.LogProfileEvent(error.what());
+        log_.LogProfileEvent(app::ReasonOf(error));
     }
 }
 
@@ -96,7 +101,7 @@ imaging::TiffPage Thumbnails::MakePage(const StripEntry& profile, const std::str
     const auto placeholder = [] {
         return imaging::TiffPage{imaging::PlaceholderPicture(kWidth, kPlaceholderHeight), {}};
     };
-    if (!profile.IsReadable)  // the loader has logged why
+    if (!profile.IsReadable || !HasLibrary())  // why is in the log already
         return placeholder();
     std::string reason = "its specimen image " + profile.Image + " cannot be read";
     try {
@@ -114,7 +119,7 @@ void Thumbnails::WriteFile() {
     try {
         files_.Write(path_, imaging::EncodeTiffPages(pages_));
     } catch (const std::exception& error) {
-        log_.LogProfileEvent(error.what(), app::ShowInStatusBar::Yes);
+        log_.LogProfileEvent(app::ReasonOf(error), app::ShowInStatusBar::Yes);
     }
 }
 

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "app/Reason.h"
+
 namespace tavrene::recognition {
 namespace {
 
@@ -39,21 +41,21 @@ FormDelivery::Waiting FormDelivery::WaitingFor(bool isNew, const std::string& im
     return document;
 }
 
-void FormDelivery::StageResult(const ResultHeader& header, std::span<const MarkReading> readings) {
+std::vector<ResultMark> FormDelivery::StageResult(const ResultHeader& header,
+                                                  std::span<const MarkReading> readings) {
     Waiting document = WaitingFor(true, header.Image);
     if (files_.FolderExists(document.place))
         throw app::FileError("Cannot write " + document.place + ": a folder has that name");
     try {
         SaveResultDocument(files_, document.hidden, header, readings, app::Keep::WithNext);
-    } catch (const app::FileError& error) {
+        std::vector<ResultMark> marks = ReadResultMarks(files_, document.hidden);
+        waiting_ = std::move(document);
+        return marks;
+    } catch (const std::exception& error) {
+        TakeBackIfPossible(document);
         // The operator knows the document by the name that it was to have.
-        throw app::FileError(app::ReplaceFirst(error.what(), document.hidden, document.place));
+        throw app::FileError(app::ReplaceFirst(app::ReasonOf(error), document.hidden, document.place));
     }
-    waiting_ = std::move(document);
-}
-
-std::vector<ResultMark> FormDelivery::StagedMarks() const {
-    return waiting_ ? ReadResultMarks(files_, waiting_->hidden) : std::vector<ResultMark>();
 }
 
 // An image without a result must not lie beside the marks of the image that it replaces.

@@ -23,12 +23,10 @@ class FormDelivery {
     /// Both must outlive the delivery.
     FormDelivery(app::Files& files, const app::WorkingFolders& folders);
 
-    /// Writes the result of a waiting image, to be taken along by `Deliver`. Throws `app::FileError`; then
-    /// there is none.
-    void StageResult(const ResultHeader& header, std::span<const MarkReading> readings);
-
-    /// The marks of the staged result, read back; none without one.
-    std::vector<ResultMark> StagedMarks() const;
+    /// Writes the result of a waiting image, to be taken along by `Deliver`, and gives the marks that the
+    /// document holds. Throws `app::FileError`, or what else keeps it from being read back; then there is
+    /// none.
+    std::vector<ResultMark> StageResult(const ResultHeader& header, std::span<const MarkReading> readings);
 
     /// Moves the image (file name), replacing what has its name, and puts the staged result in its place;
     /// without one, an earlier result of that image goes. Throws `app::FileError` when the image cannot be

@@ -16,7 +16,8 @@ std::optional<Page> LoadPage(const app::Files& files, app::ActivityLog& log, app
     const PageError error = std::get<PageError>(read);
     const std::string name = app::FileName(path);
     log.LogProcessEvent(name + ": " + std::string(ReasonOf(error)));
-    if (error != PageError::UnknownType)
+    // That there is no library was told when the program started, and holds for every file alike.
+    if (error != PageError::UnknownType && error != PageError::NoLibrary)
         person.ReportFile(name, ReasonOf(error));
     return std::nullopt;
 }

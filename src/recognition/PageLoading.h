@@ -11,7 +11,8 @@
 namespace tavrene::recognition {
 
 /// The page of an image, by the type that its extension stands for. Why there is none is written to the
-/// process log, and the operator is told unless the file is of no type that could hold a page.
+/// process log, and the operator is told unless the file is of no type that could hold a page, or there is
+/// no image library at all.
 std::optional<imaging::Page> LoadPage(const app::Files& files, app::ActivityLog& log, app::Operator& person,
                                       const std::string& path);
 

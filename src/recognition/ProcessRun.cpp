@@ -18,6 +18,7 @@ namespace {
 
 using app::Panel;
 using app::ShowInStatusBar;
+using imaging::PageError;
 using profiles::ProfileRecord;
 
 }  // namespace
@@ -51,6 +52,13 @@ bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
             "ACTIVE checkbox and clicking the SAVE button.");
         return false;
     }
+    if (!context_.canReadImages) {
+        const std::string text = "Nothing is processed: " + std::string(ReasonOf(PageError::NoLibrary)) +
+                                 ", so no image can be read.";
+        context_.log.LogProcessEvent(text);
+        context_.person.ShowMessage("", text);
+        return false;
+    }
     return true;
 }
 
@@ -76,17 +84,17 @@ void ProcessRun::Settle() {
     try {
         for (const std::string& line : delivery_.Settle())
             context_.log.LogProcessEvent(line);
-    } catch (const app::FileError& error) {
-        context_.log.LogProcessEvent(error.what());
+    } catch (const std::exception& error) {
+        context_.log.LogProcessEvent(app::ReasonOf(error));
     }
 }
 
 std::vector<std::string> ProcessRun::ListImages() {
     try {
         return context_.files.List(folders_.ProcessIn, "*");
-    } catch (const app::FileError& error) {
-        context_.log.LogProcessEvent(error.what());
-        context_.person.ShowMessage("", error.what());
+    } catch (const std::exception& error) {
+        context_.log.LogProcessEvent(app::ReasonOf(error));
+        context_.person.ShowMessage("", app::ReasonOf(error));
         return {};
     }
 }
@@ -144,16 +152,21 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
         context_.page.SetZoom(100);
     }
     FileOutcome outcome;
+    LogFailureOf(name, [&] { Recognise(name, profiles, outcome); });
+    // Also of a form that the described rules failed on.
+    LogFailureOf(name, [&] { AskSecondOpinion(name, profiles, outcome); });
+    if (display)
+        LogFailureOf(name, [&] { ShowPage(outcome); });
+    return MoveToProcessOut(name);
+}
+
+// Whatever goes wrong with one file, it moves on, and so does the run.
+void ProcessRun::LogFailureOf(const std::string& name, const std::function<void()>& step) {
     try {
-        Recognise(name, profiles, outcome);
+        step();
     } catch (const std::exception& error) {
         LogAbout(name, app::ReasonOf(error));
     }
-    // Also of a form that the described rules failed on.
-    AskSecondOpinion(name, profiles, outcome);
-    if (display)
-        ShowPage(outcome);
-    return MoveToProcessOut(name);
 }
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
@@ -174,8 +187,8 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.shifts);
     outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
-    delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
-    outcome.marks = delivery_.StagedMarks();
+    outcome.marks =
+        delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
     outcome.winner = classification.winner;
 }
 
@@ -188,10 +201,9 @@ void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const Pro
         return;
     outcome.readings = std::move(reading.marks);
     outcome.turned = reading.turned;
-    delivery_.StageResult(
+    outcome.marks = delivery_.StageResult(
         {profiles[static_cast<std::size_t>(reading.winner)].Name, name, "0", reading.Confidence},
         outcome.readings);
-    outcome.marks = delivery_.StagedMarks();
     outcome.winner = reading.winner;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <span>
 #include <string>
@@ -11,6 +12,7 @@
 #include "app/Operator.h"
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
+#include "imaging/Bitmap.h"
 #include "imaging/PageScreen.h"
 #include "imaging/ScratchImages.h"
 #include "profiles/BoxRows.h"
@@ -30,6 +32,7 @@ struct RunContext {
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
     PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
+    bool canReadImages = !imaging::ImageLibraryVersion().empty();
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
@@ -39,7 +42,8 @@ class ProcessRun {
     /// The settings are asked anew for every file; the folders are those of the window.
     ProcessRun(const RunContext& context, const app::Settings& settings, const app::WorkingFolders& folders);
 
-    /// False, after telling the operator why, when there is no profile to match images against.
+    /// False, after telling the operator why, when there is no profile to match images against, or when no
+    /// image can be read: they would all be moved unread.
     bool MayStart(std::span<const profiles::ProfileRecord> profiles);
 
     /// Runs until the folder is done, after one file when `ProcessSingle` is on, or until `Stop`. Lets the
@@ -71,6 +75,7 @@ class ProcessRun {
                    FileOutcome& outcome);
     void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                             FileOutcome& outcome);
+    void LogFailureOf(const std::string& name, const std::function<void()>& step);
     void AskSecondOpinion(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                           const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);

@@ -16,6 +16,11 @@ namespace {
 using profiles::OmrBox;
 using profiles::OpenProfile;
 using Boxes = std::vector<OmrBox>;
+using Advice = std::vector<app::Notice>;
+
+void Add(Advice& advice, std::string topic, std::string text) {
+    advice.push_back({.text = std::move(text), .topic = std::move(topic)});
+}
 
 // The sampled boxes carry the slope of the whole page. A shift is found to within a pixel, so boxes that are
 // this many times as far apart as the sample are wrong by as much as the border that reading leaves out.
@@ -70,22 +75,22 @@ std::string SteepSlope(const std::string& line) {
         .append(". Add or delete boxes so that others are chosen.");
 }
 
-void AdviseOnSpread(const Boxes& boxes, std::vector<std::string>& advice) {
+void AdviseOnSpread(const Boxes& boxes, Advice& advice) {
     const Boxes sampled = SampledBoxes(boxes);
     const std::pair<Ordinate, std::string> axes[] = {{Left, "column"}, {Lower, "row"}};
     for (const auto& [ordinate, line] : axes) {
         const int spread = SpreadOf(sampled, ordinate);
         if (spread == 0)
-            advice.push_back(NoSlope(line, sampled.size(), boxes.size()));
+            Add(advice, "no slope in one " + line, NoSlope(line, sampled.size(), boxes.size()));
         else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
-            advice.push_back(SteepSlope(line));
+            Add(advice, "near one " + line, SteepSlope(line));
     }
 }
 
 // With fewer boxes a stranger's outlines will do.
 constexpr std::size_t kFewBoxes = 4;
 
-void AdviseOnNames(const Boxes& boxes, std::vector<std::string>& advice) {
+void AdviseOnNames(const Boxes& boxes, Advice& advice) {
     std::map<std::string, int> uses;
     std::vector<std::string> defaults;
     for (const OmrBox& box : boxes) {
@@ -95,14 +100,16 @@ void AdviseOnNames(const Boxes& boxes, std::vector<std::string>& advice) {
     }
     const auto equal = std::find_if(uses.begin(), uses.end(), [](const auto& use) { return use.second > 1; });
     if (equal != uses.end())
-        advice.push_back(std::to_string(equal->second) + " boxes have the name \"" + equal->first +
-                         "\", so results cannot tell them apart. Give each a name of its own.");
+        Add(advice, "equal names",
+            std::to_string(equal->second) + " boxes have the name \"" + equal->first +
+                "\", so results cannot tell them apart. Give each a name of its own.");
     if (!defaults.empty())
-        advice.push_back(std::to_string(defaults.size()) + " of " + std::to_string(boxes.size()) +
-                         (defaults.size() == 1
-                              ? " boxes still has the name that it was given when it was made, as "
-                              : " boxes still have the names that they were given when they were made, as ") +
-                         defaults.front() + ". Results carry these names.");
+        Add(advice, "default names",
+            std::to_string(defaults.size()) + " of " + std::to_string(boxes.size()) +
+                (defaults.size() == 1
+                     ? " boxes still has the name that it was given when it was made, as "
+                     : " boxes still have the names that they were given when they were made, as ") +
+                defaults.front() + ". Results carry these names.");
 }
 
 // The area inside the outline, counted in 16 bits as reading does.
@@ -112,11 +119,11 @@ bool HasNoArea(const OmrBox& box) {
     return width <= 0 || height <= 0 || app::WrapToInt16(std::int64_t{width} * height) == 0;
 }
 
-void AdviseOnPlaces(const OpenProfile& profile, std::vector<std::string>& advice) {
+void AdviseOnPlaces(const OpenProfile& profile, Advice& advice) {
     const auto report = [&](auto isBad, const std::string& trouble) {
         for (const OmrBox& box : profile.BoxList) {
             if (box.Checked && isBad(box)) {
-                advice.push_back("Box " + box.Name + trouble);
+                Add(advice, trouble, "Box " + box.Name + trouble);
                 return;
             }
         }
@@ -135,27 +142,28 @@ void AdviseOnPlaces(const OpenProfile& profile, std::vector<std::string>& advice
 
 }  // namespace
 
-std::vector<std::string> AdviseOn(const OpenProfile& profile) {
-    std::vector<std::string> advice;
+std::vector<app::Notice> AdviseOn(const OpenProfile& profile) {
+    Advice advice;
     if (!profile.IsOpen)
         return advice;
     const Boxes boxes = KeptBoxes(profile);
     if (static_cast<std::size_t>(std::max<int>(profile.Count, 0)) != boxes.size())
-        advice.push_back("The document does not agree with itself: it counts " +
-                         std::to_string(profile.Count) + " boxes but holds " + std::to_string(boxes.size()) +
-                         "; a run reads the smaller number. Create the profile anew.");
+        Add(advice, "count",
+            "The document does not agree with itself: it counts " + std::to_string(profile.Count) +
+                " boxes but holds " + std::to_string(boxes.size()) +
+                "; a run reads the smaller number. Create the profile anew.");
     if (boxes.empty()) {
-        advice.emplace_back(
+        Add(advice, "no boxes",
             "This profile has no boxes, so a run will look at no profile behind it in the list, even when it "
-            "is "
-            "not active. Add boxes or delete it.");
+            "is not active. Add boxes or delete it.");
         return advice;
     }
     AdviseOnSpread(boxes, advice);
     AdviseOnPlaces(profile, advice);
     if (boxes.size() < kFewBoxes)
-        advice.push_back("With so few boxes (" + std::to_string(boxes.size()) +
-                         ") this profile may match forms that are not its own.");
+        Add(advice, "few boxes",
+            "With so few boxes (" + std::to_string(boxes.size()) +
+                ") this profile may match forms that are not its own.");
     AdviseOnNames(boxes, advice);
     return advice;
 }

@@ -63,8 +63,12 @@ std::string NameOnDisk(const app::Files& files, const std::string& document, con
     if (image.find("\xEF\xBF\xBD") == std::string::npos || files.FileExists(folder + image))
         return image;
     const std::vector<std::string> names = files.List(folder, "*");
-    const auto found = std::find_if(names.begin(), names.end(),
-                                    [&image](const std::string& name) { return XmlText(name) == image; });
+    const auto stands = [&image](const std::string& name) { return XmlText(name) == image; };
+    // Several names may look alike in a document; its own is the one that it is named after.
+    const auto own = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+        return stands(name) && ResultPath(folder, name) == document;
+    });
+    const auto found = own != names.end() ? own : std::find_if(names.begin(), names.end(), stands);
     return found == names.end() ? image : *found;
 }
 

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "app/Reason.h"
 #include "app/Utf8.h"
 #include "recognition/ResultDocument.h"
 
@@ -115,7 +116,7 @@ std::optional<Results> ReadResults(const app::Files& files, const std::string& f
         try {
             AddDocument(files, folder + documents[k], tables);
         } catch (const std::exception& error) {
-            results.Damaged.push_back({documents[k], error.what()});
+            results.Damaged.push_back({documents[k], app::ReasonOf(error)});
         }
     }
     results.Tables = tables.Take();

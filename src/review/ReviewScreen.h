@@ -45,9 +45,12 @@ class ProfileChoice {
     virtual ~ProfileChoice() = default;
     virtual void ShowProfiles(std::span<const std::string> names) = 0;
 
-    /// Shows a profile as the chosen one, which reads nothing, and offers the choice; an empty name shows
-    /// none and takes the offer away.
+    /// Shows a profile as the chosen one, which reads nothing, and offers the choice; a name that is none of
+    /// the profiles shows none.
     virtual void SetChoice(std::string_view name) = 0;
+
+    /// Shows none and takes the offer away.
+    virtual void TakeAway() = 0;
 };
 
 /// What review needs of the world; everything must outlive it.

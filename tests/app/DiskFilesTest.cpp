@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "app/Files.h"
 #include "app/Numeric.h"
@@ -72,9 +73,17 @@ TEST_F(DiskFilesTest, MovesOverAnotherFileAndAcrossFileSystems) {
     files_.Move(folder_.File("b"), folder_.Path() + "/./b");
     EXPECT_EQ(test::ReadText(folder_.File("b")), "new");
 
+    // A link that arrived as one would lose the file here, and point elsewhere in another folder.
+    std::filesystem::create_symlink("b", folder_.File("c"));
+    files_.Move(folder_.File("c"), folder_.File("b"));
+    EXPECT_EQ(test::ReadText(folder_.File("b")), "new");
+    EXPECT_EQ(EntriesOnDisk(), 1U);
+
     files_.CreateFolder(folder_.File("taken"));
     EXPECT_EQ(test::FaultOf([&] { files_.Move(folder_.File("b"), folder_.File("taken")); }),
               "Cannot move " + folder_.File("b") + ": " + folder_.File("taken") + " is a folder");
+    EXPECT_EQ(test::FaultOf([&] { files_.Move(folder_.File("b"), folder_.File("b/c")); }),
+              "Cannot move " + folder_.File("b") + " to " + folder_.File("b/c") + ": Not a directory");
 }
 
 TEST_F(DiskFilesTest, ReadsNoFileThatCannotBeOneOfItsOwn) {
@@ -115,10 +124,25 @@ TEST_F(MoveAcrossTest, TheSourceGoesWhenTheCopyIsComplete) {
     EXPECT_EQ(files_.List(other_, "*").size() + files_.List(other_, ".*").size(), 1U);
 }
 
+TEST_F(MoveAcrossTest, HolesTakeNoRoom) {
+    test::WriteText(folder_.File("sparse"), "begin");
+    std::filesystem::resize_file(folder_.File("sparse"), std::uintmax_t{60} << 30U);
+    files_.Append(folder_.File("sparse"), "end");
+    files_.Move(folder_.File("sparse"), other_ + "/sparse");
+    struct ::stat moved {};
+    ASSERT_EQ(::stat((other_ + "/sparse").c_str(), &moved), 0);
+    EXPECT_EQ(moved.st_size, (::off_t{60} << 30U) + 3);
+    EXPECT_LT(moved.st_blocks, 1'000);
+    std::ifstream content(other_ + "/sparse");
+    std::string begin(5, ' ');
+    std::string end(3, ' ');
+    content.read(begin.data(), 5).seekg(-3, std::ios::end).read(end.data(), 3);
+    EXPECT_EQ(begin + end, "beginend");
+}
+
 TEST_F(MoveAcrossTest, AFileThatIsStillGrowingIsNotTaken) {
     const std::string path = folder_.File("a");
-    test::WriteText(path, "x");
-    std::filesystem::resize_file(path, 30'000'000);
+    test::WriteText(path, std::string(30'000'000, 'x'));
     const std::string before = files_.Fingerprint(path);
     const ::pid_t scanner = ::fork();
     if (scanner == 0) {

@@ -7,6 +7,7 @@
 
 #include "imaging/ImageHeader.h"
 #include "imaging/PageReader.h"
+#include "imaging/TiffPages.h"
 #include "painter/ImageFiles.h"
 #include "support/TempFolder.h"
 
@@ -91,11 +92,11 @@ class DamagedImageTest : public testing::Test {
 
     std::string Jpeg() const { return Saved(samples::ToGrey(picture_), ImageFormat::Jpeg, 100); }
 
-    // A TIFF of the picture with whatever tags `more` sets.
-    std::string TiffWith(const std::function<void(TIFF*)>& more) const {
+    // A TIFF of the picture with whatever tags `more` sets; `mode` tells the order of its bytes and its kind.
+    std::string TiffWith(const std::function<void(TIFF*)>& more, const char* mode = "wl") const {
         const std::string path = work_.File("made.tif");
         const Bitmap bits = samples::ToBilevel(picture_);
-        TIFF* const file = TIFFOpen(path.c_str(), "w");
+        TIFF* const file = TIFFOpen(path.c_str(), mode);
         TIFFSetField(file, TIFFTAG_IMAGEWIDTH, 100);
         TIFFSetField(file, TIFFTAG_IMAGELENGTH, 60);
         TIFFSetField(file, TIFFTAG_BITSPERSAMPLE, 1);
@@ -180,6 +181,35 @@ TEST_F(DamagedImageTest, AJpegMayHaveFillBytes) {
     EXPECT_TRUE(IsAccepted(jpeg + "trailing bytes", ImageFormat::Jpeg));
 }
 
+// What the file tells beside the picture never reaches the image library, which reads memory that it has
+// given back where there are both a colour profile and an EXIF directory.
+void SetMetadata(TIFF* file) {
+    const std::string text(300, 'x');
+    TIFFSetField(file, TIFFTAG_XMLPACKET, static_cast<std::uint32_t>(text.size()), text.data());
+    TIFFSetField(file, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(text.size()), text.data());
+    TIFFSetField(file, TIFFTAG_EXIFIFD, std::uint64_t{8});
+    TIFFSetField(file, TIFFTAG_SOFTWARE, text.c_str());
+}
+
+TEST_F(DamagedImageTest, ATiffIsReadWithoutWhatItTellsBesideItsPicture) {
+    for (const char* mode : {"wl", "wb", "w8l", "w8b"}) {
+        const std::string tiff = TiffWith(SetMetadata, mode);
+        EXPECT_TRUE(ShowsThePicture(std::get<Page>(Read(tiff, ImageFormat::Tiff)))) << mode;
+        const std::vector<TiffPage> pages = DecodeTiffPages(app::AsBytes(tiff));
+        ASSERT_EQ(pages.size(), 1U) << mode;
+        EXPECT_EQ(pages[0].label, std::string(300, 'x'));
+        const Bitmap alone = DecodeImage(app::AsBytes(tiff), ImageFormat::Tiff);
+        for (const Bitmap* bitmap : {&pages[0].picture, &alone})
+            EXPECT_EQ(FreeImage_GetICCProfile(bitmap->Get())->size, 0U) << mode;
+    }
+    std::string whole = TiffWith(SetMetadata);
+    const auto end = static_cast<char>(whole.size() & 0xFFU);
+    whole.replace(EntryOf(whole, TIFFTAG_EXIFIFD) + 8, 2, {end, static_cast<char>(whole.size() >> 8U)});
+    using namespace std::string_literals;
+    whole += "\x01\0\0\x90\x07\0\x04\0\0\0"s + "0230" + "\0\0\0\0"s;
+    EXPECT_TRUE(ShowsThePicture(std::get<Page>(Read(whole, ImageFormat::Tiff)))) << "a sound EXIF directory";
+}
+
 TEST_F(DamagedImageTest, ATiffMayHaveBrokenTagsBesideItsPicture) {
     const std::string plain = TiffWith([](TIFF*) {});
     for (const char unit : {'\0', '\x09'}) {
@@ -189,13 +219,8 @@ TEST_F(DamagedImageTest, ATiffMayHaveBrokenTagsBesideItsPicture) {
         EXPECT_TRUE(ShowsThePicture(page));
         EXPECT_EQ(page.DPI_X, 200);
     }
-    const std::string xmp(300, 'x');
-    const std::string tagged = TiffWith([&xmp](TIFF* file) {
-        TIFFSetField(file, TIFFTAG_XMLPACKET, static_cast<std::uint32_t>(xmp.size()), xmp.data());
-        TIFFSetField(file, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(xmp.size()), xmp.data());
-        TIFFSetField(file, TIFFTAG_SOFTWARE, xmp.c_str());
-    });
-    for (const int tag : {TIFFTAG_XMLPACKET, TIFFTAG_ICCPROFILE, TIFFTAG_SOFTWARE}) {
+    const std::string tagged = TiffWith(SetMetadata);
+    for (const int tag : {TIFFTAG_XMLPACKET, TIFFTAG_ICCPROFILE, TIFFTAG_EXIFIFD, TIFFTAG_SOFTWARE}) {
         const auto read = Read(WithTagLost(tagged, tag), ImageFormat::Tiff);
         ASSERT_TRUE(std::holds_alternative<Page>(read)) << tag;
         EXPECT_TRUE(ShowsThePicture(std::get<Page>(read))) << tag;
@@ -221,6 +246,18 @@ TEST_F(DamagedImageTest, ATiffHeaderIsAskedForAllThatIsToBeDecoded) {
     };
     EXPECT_TRUE(isTaken(sized(1)));
     EXPECT_FALSE(isTaken(sized(64)));
+}
+
+TEST_F(DamagedImageTest, AJpegInSeveralScansIsHeldWhole) {
+    const Bitmap colour(FreeImage_ConvertTo24Bits(samples::ToGrey(picture_).Get()));
+    for (const bool progressive : {false, true}) {
+        std::string jpeg =
+            Saved(colour, ImageFormat::Jpeg, JPEG_SUBSAMPLING_444 | (progressive ? JPEG_PROGRESSIVE : 0));
+        EXPECT_TRUE(MayBeDecoded(app::AsBytes(jpeg), ImageFormat::Jpeg));
+        const std::size_t frame = jpeg.find(progressive ? "\xFF\xC2" : "\xFF\xC0");
+        jpeg.replace(frame + 5, 4, "\x3A\x98\x3E\x80");  // 15,000 lines of 16,000 pixels
+        EXPECT_EQ(MayBeDecoded(app::AsBytes(jpeg), ImageFormat::Jpeg), !progressive);
+    }
 }
 
 TEST_F(DamagedImageTest, AOneBitPageOfOneColourIsReadByIndex) {

@@ -70,8 +70,9 @@ class ProfileSessionTest : public test::RunWorld {
     TestForm form_ = TestForm::Grid(3, 2);
     test::FakeStrip strip_;
     test::FakeFileDialogs dialogs_;
-    ProfileContext context_{
-        files_, person_, dialogs_, log_, clock_, folders_, [](const OpenProfile&) { return Names(); }};
+    ProfileContext context_{files_, person_, dialogs_, log_, clock_, folders_, [](const OpenProfile&) {
+                                return std::vector<app::Notice>();
+                            }};
     ProfileSession session_{context_, profiles_, {screen_, screen_, strip_}};
 };
 
@@ -134,7 +135,7 @@ TEST_F(ProfileSessionTest, AScratchCopyThatCannotBeWrittenCostsNoProfile) {
         EXPECT_TRUE(Profile().IsOpen && Profile().CurrentProfile == 1 && screen_.rows.size() == 6);
         EXPECT_EQ(strip_.captions.size(), 2U);
         EXPECT_EQ(transcript_.LinesOf("view: ").back(), "picture 600x500");
-        EXPECT_PRED2(Has, person_.notices.at(0).text, "Cannot write " + folders_.Temp);
+        EXPECT_PRED2(Has, session_.Notices().at(0).text, "Cannot write " + folders_.Temp);
         EXPECT_TRUE(Pick(1)) << "nor one that is there";
     }
 }
@@ -250,7 +251,7 @@ TEST_F(ProfileSessionTest, MindsWhatOthersDoToTheFile) {
     session_.Editor().RowRenamed(2, "again");
     files_.Delete(path);
     EXPECT_TRUE(session_.Save());
-    EXPECT_EQ(person_.notices.at(0).text, "The file " + path + " had been deleted and was written anew.");
+    EXPECT_EQ(session_.Notices().at(0).text, "The file " + path + " had been deleted and was written anew.");
     EXPECT_PRED2(Has, ReadText(path), "again");
 
     files_.Delete(PathOf("B"));
@@ -304,6 +305,7 @@ TEST_F(ProfileSessionTest, ASaveThatIsCutOffLeavesAWholeDocument) {
 TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     AddProfiles({"A"});
     std::string text = ReadText(PathOf("A"));
+    text.erase(text.find(" DPI_X=\"200\""), 12);
     WriteText(PathOf("A"), text.replace(text.find("Count=\"6\""), 9, "Count=\"3\""));
     Pick(1);
     EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:3");
@@ -313,6 +315,7 @@ TEST_F(ProfileSessionTest, WorksWithTheCountThatTheDocumentHas) {
     EXPECT_EQ(Profile().BoxList[3].L, 60);  // no box gave its place to the drawn one
     EXPECT_TRUE(session_.Save());
     EXPECT_PRED2(Has, ReadText(PathOf("A")), "Count=\"4\"");
+    EXPECT_PRED2(Has, session_.Notices().at(0).text, "does not say the resolution") << "saved or not";
 }
 
 TEST_F(ProfileSessionTest, AFailingLogCostsOnlyItsLines) {

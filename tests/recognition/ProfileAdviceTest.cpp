@@ -59,10 +59,10 @@ TEST(ProfileAdvice, TellsOfEachTrapAndOfNoOther) {
          With(good, {"Un-named-2", 114, 70, 138, 94}),
          {"1 of 12 boxes still has the name"}}};
     for (const Trap& trap : traps) {
-        const std::vector<std::string> advice = AdviseOn(ProfileOf(trap.boxes));
-        ASSERT_EQ(advice.size(), trap.wanted.size()) << trap.name << ::testing::PrintToString(advice);
+        const std::vector<app::Notice> advice = AdviseOn(ProfileOf(trap.boxes));
+        ASSERT_EQ(advice.size(), trap.wanted.size()) << trap.name;
         for (std::size_t k = 0; k < advice.size(); ++k)
-            EXPECT_NE(advice[k].find(trap.wanted[k]), std::string::npos) << advice[k];
+            EXPECT_NE(advice[k].text.find(trap.wanted[k]), std::string::npos) << advice[k].text;
     }
 }
 
@@ -71,9 +71,9 @@ TEST(ProfileAdvice, LooksAtKeptBoxesAndAtTheCount) {
     profile.BoxList[1].Checked = profile.BoxList[3].Checked = false;
     profile.Count = 2;
     ASSERT_EQ(AdviseOn(profile).size(), 2U);
-    EXPECT_NE(AdviseOn(profile)[0].find("one column"), std::string::npos);
+    EXPECT_NE(AdviseOn(profile)[0].text.find("one column"), std::string::npos);
     profile.Count = 3;
-    EXPECT_NE(AdviseOn(profile)[0].find("it counts 3 boxes but holds 2"), std::string::npos);
+    EXPECT_NE(AdviseOn(profile)[0].text.find("it counts 3 boxes but holds 2"), std::string::npos);
     profile.IsOpen = false;
     EXPECT_TRUE(AdviseOn(profile).empty());
 }

@@ -36,6 +36,7 @@ class FakeReviewScreen final : public review::ReviewLines, public review::Profil
 
     void ShowProfiles(std::span<const std::string> names) override { offered = {names.begin(), names.end()}; }
     void SetChoice(std::string_view name) override { transcript_.Add("choice: " + std::string(name)); }
+    void TakeAway() override { transcript_.Add("choice: none"); }
 
   private:
     static std::string TextOf(const review::ReviewLine& line) {

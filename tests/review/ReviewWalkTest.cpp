@@ -60,9 +60,9 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"});
 
     Accept();
-    EXPECT_EQ(transcript_.Lines(),
-              (Names{"view: clear", "rows: clear", "choice: ", "panel Message: ", "panel ElapsedTime: ",
-                     "select: c 100", "panel File: Reviewed: 0 of 2"}));
+    EXPECT_EQ(transcript_.Lines(), (Names{"view: clear", "rows: clear", "choice: none",
+                                          "panel Message: ", "panel ElapsedTime: ", "select: c 100",
+                                          "panel File: Reviewed: 0 of 2"}));
     EXPECT_EQ(ReadText(folders_.ProcessFinal + "b.xml"), saved);
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
     EXPECT_FALSE(review_.HasForm());
@@ -86,7 +86,7 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     Toggle();
     EXPECT_EQ(transcript_.Joined(),
               "panel File: Profiles:1, Active:1 | panel Message:  | panel ElapsedTime:  | view: clear | "
-              "rows: clear | choice: ");
+              "rows: clear | choice: none");
     EXPECT_FALSE(review_.IsOn());
 }
 
@@ -153,6 +153,18 @@ TEST_F(ReviewWalkTest, AFormOfADeletedProfileCanBeDecidedAbout) {
     EXPECT_EQ(screen_.rects.size(), 2U);
     Reject();
     EXPECT_EQ(In(folders_.ProcessReject), (Names{"a.tif", "a.xml"}));
+}
+
+TEST_F(ReviewWalkTest, AFormWithoutAProfileNameCanBeGivenOne) {
+    Process();
+    WriteText(folders_.ProcessOut + "a.xml",
+              app::ReplaceFirst(ReadText(folders_.ProcessOut + "a.xml"), "\"Form\"", "\"\""));
+    EnterReview();
+    person_.answers = {Answer::No};
+    Open(0);
+    EXPECT_EQ(transcript_.LinesOf("choice: "), Names{""}) << "it is offered";
+    Choose("Form");
+    EXPECT_TRUE(ResultHas("a.xml", "Profile=\"Form\" Image=\"a.tif\""));
 }
 
 TEST_F(ReviewWalkTest, AFormOfADeletedProfileCanGoBack) {
@@ -330,7 +342,7 @@ TEST_F(ReviewWalkTest, AChangedProfileAsksWhatToDo) {
         (Names{"The profile has changed. Re-evaluate using the new profile?\nSelecting No would keep the "
                "same profile but skip the modified fields."}));
     EXPECT_FALSE(review_.HasForm());
-    EXPECT_EQ(transcript_.Lines().back(), "choice: ");
+    EXPECT_EQ(transcript_.Lines().back(), "choice: none");
     EXPECT_EQ(Result("b.xml"), before);
 
     Open(1);

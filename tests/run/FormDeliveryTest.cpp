@@ -89,6 +89,7 @@ TEST_F(FormDeliveryTest, AKillBetweenAnyTwoFileOperationsKeepsMarksAndPicturesTo
 TEST_F(FormDeliveryTest, WhateverIsRefusedKeepsMarksAndPicturesTogether) {
     const std::pair<std::string, std::string> refusals[] = {{"move", folders_.ProcessIn},
                                                             {"write", folders_.ProcessOut},
+                                                            {"read", folders_.ProcessOut + ".delivery-new"},
                                                             {"read", folders_.ProcessOut + "a.xml"}};
     for (const auto& [kind, place] : refusals) {
         for (const std::string scan : {"new.tif", "strange.tif"}) {
@@ -100,7 +101,8 @@ TEST_F(FormDeliveryTest, WhateverIsRefusedKeepsMarksAndPicturesTogether) {
             };
             Process();
             files_.refuse = nullptr;
-            if (kind == "write") {
+            EXPECT_EQ(In(folders_.ProcessIn).empty(), kind != "move");
+            if (kind == "write" || place.ends_with("new")) {
                 EXPECT_EQ(In(folders_.ProcessOut), Names{"a.tif"}) << "it arrives, but without a result";
             } else if (kind == "move" || scan == "new.tif") {
                 ExpectMarksOfTheirPicture(scan);

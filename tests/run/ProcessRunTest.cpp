@@ -121,11 +121,24 @@ TEST_F(ProcessRunTest, ASingleRunPassesOverWhatCannotBeMoved) {
     EXPECT_EQ(In(folders_.ProcessIn), Names{"4.tif"});
 }
 
+TEST_F(ProcessRunTest, WithoutTheImageLibraryNothingMoves) {
+    AddScan("a.tif");
+    recognition::ProcessRun blind({files_, log_, person_, clock_, screen_, screen_, nullptr, false},
+                                  settings_, folders_);
+    EXPECT_FALSE(blind.MayStart(profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles)));
+    const std::string text = "Nothing is processed: FreeImage is not available, so no image can be read.";
+    EXPECT_EQ(transcript_.LinesOf("message: "), Names{"[] " + text});
+    EXPECT_EQ(ProcessLog(), Names{text});
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+}
+
 TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
     const std::string name =
         "Gr\xF6\xDF"
         "e \x01\t1.tif";
     AddScan(name);
+    const std::string alike = app::ReplaceFirst(name, "\xF6", "\xE4");
+    AddScan(alike);
     AddProfile("Form\x02", form_);
     std::filesystem::remove(folders_.Profiles + "Form.Tvp");
     Process();
@@ -134,6 +147,8 @@ TEST_F(ProcessRunTest, NamesThatNoDocumentCanHoldLeaveItReadable) {
                  "Profile=\"Form\xEF\xBF\xBD\" Image=\"Gr\xEF\xBF\xBD\xEF\xBF\xBD"
                  "e \xEF\xBF\xBD&#09;1.tif\"");
     EXPECT_EQ(recognition::ResultDocument::Load(files_, path).Image(), name) << "its image is found";
+    const std::string other = recognition::ResultPath(folders_.ProcessOut, alike);
+    EXPECT_EQ(recognition::ResultDocument::Load(files_, other).Image(), alike);
 }
 
 TEST_F(ProcessRunTest, AnImageThatReplacesAnotherTakesItsMarksAway) {

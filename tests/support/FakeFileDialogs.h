@@ -19,17 +19,20 @@ class FakeFileDialogs final : public app::FileDialogs {
     std::vector<std::string> asked;  ///< Titles.
 
     std::optional<std::string> AskSaveFile(const app::FileQuestion& question) override {
-        return Ask(question);
+        return Ask(question.title);
     }
     std::optional<std::string> AskOpenFile(const app::FileQuestion& question) override {
-        return Ask(question);
+        return Ask(question.title);
+    }
+    std::optional<std::string> AskFolder(const std::string& title, const std::string&) override {
+        return Ask(title);
     }
 
   private:
-    std::optional<std::string> Ask(const app::FileQuestion& question) {
-        asked.push_back(question.title);
+    std::optional<std::string> Ask(const std::string& title) {
+        asked.push_back(title);
         if (answers.empty()) {
-            ADD_FAILURE() << "no answer is scripted for: " << question.title;
+            ADD_FAILURE() << "no answer is scripted for: " << title;
             return std::nullopt;
         }
         std::optional<std::string> answer = answers.front();

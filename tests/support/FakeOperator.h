@@ -22,7 +22,6 @@ class FakeOperator final : public app::Operator {
 
     std::deque<app::Answer> answers;
     std::function<void()> onPendingEvents;
-    std::vector<app::Notice> notices;           ///< Those that are shown.
     app::Answer lastPreset = app::Answer::Yes;  ///< What Enter would have answered to the last question.
 
     std::string PanelText(app::Panel panel) const {
@@ -41,10 +40,10 @@ class FakeOperator final : public app::Operator {
         return Ask(text, preset);
     }
     void ShowNotices(std::span<const app::Notice> shown) override {
-        notices.assign(shown.begin(), shown.end());
-        for (const app::Notice& notice : notices)
+        for (const app::Notice& notice : shown)
             transcript_.Add("notice: " + notice.text);
     }
+    void ShowStandingNotices(std::span<const app::Notice> shown) override { ShowNotices(shown); }
     void SetPanel(app::Panel panel, std::string_view text) override {
         static const std::map<app::Panel, std::string> names = {{app::Panel::File, "File"},
                                                                 {app::Panel::Message, "Message"},

@@ -104,6 +104,11 @@ TEST_F(BoxEditingTest, BoxesAreMovedResizedAndDrawnOnThePageOnly) {
     EXPECT_EQ(SavedPlace(1).topRight(), QPointF(page.width(), 90));
     Drag(SavedPlace(1).bottomRight(), page.bottomRight() + QPointF(20, 20));
     EXPECT_EQ(SavedPlace(1).bottomRight(), page.bottomRight());
+    const QRectF beside = PlaceOf(form_.boxes[5]);
+    Drag({400, beside.center().y()}, {450, beside.center().y() - 50});
+    EXPECT_EQ(SavedPlace(6), beside.translated(0, -50)) << "no further out, and as large as before";
+    Drag({400, beside.center().y() - 50}, {330, beside.center().y() - 50});
+    EXPECT_EQ(SavedPlace(6), beside.translated(-70, -50));
     Click("Add", "CfgToolbar");
     Drag({-20, -20}, {page.width() + 20, 30});
     EXPECT_EQ(SavedPlace(7), QRectF(0, 0, page.width(), 30));
@@ -155,6 +160,11 @@ TEST_F(BoxEditingTest, OneBoxIsCurrentWhateverMadeItSo) {
              press(22, Qt::LeftButton);
              release(24, Qt::LeftButton);
          }},
+        {"the Ctrl key",
+         [this] {
+             ClickRow(2);
+             Press(Rows(), Qt::Key_Space, Qt::ControlModifier);
+         }},
         {"the End key", [this] { Press(Rows(), Qt::Key_End); }},
     };
     for (const auto& [way, act] : ways) {
@@ -178,29 +188,35 @@ TEST_F(BoxEditingTest, OneBoxIsCurrentWhateverMadeItSo) {
     EXPECT_EQ(RowTexts().size(), form_.boxes.size()) << "the strip has the focus";
 }
 
-// Every neighbour of every box is clicked at its corners, sides and middle.
+// Every box is clicked while a neighbour is current, at each of its corners and sides and in its middle.
 TEST_F(BoxEditingTest, HandlesGiveWayToTheBoxesOfADenseForm) {
-    form_ = TestForm::Grid(4, 4);
-    for (std::size_t k = 0; k < form_.boxes.size(); ++k) {
-        const auto x = static_cast<std::int16_t>(60 + 40 * (k % 4));
-        const auto y = static_cast<std::int16_t>(70 + 40 * (k / 4));
-        form_.boxes[k] = {form_.boxes[k].Name, x, y, static_cast<std::int16_t>(x + 30),
-                          static_cast<std::int16_t>(y + 30)};
+    constexpr int kColumns = 18;
+    form_ = TestForm::Grid(kColumns, 16);
+    form_.width = form_.height = 800;
+    for (int k = 0; k < 288; ++k) {
+        OmrBox& box = form_.boxes[static_cast<std::size_t>(k)];
+        box.L = static_cast<std::int16_t>(30 + 40 * (k % kColumns));
+        box.T = static_cast<std::int16_t>(30 + 40 * (k / kColumns));
+        box.R = static_cast<std::int16_t>(box.L + 30);
+        box.B = static_cast<std::int16_t>(box.T + 30);
     }
     AddSpecimenProfile("Form", form_);
     OpenForm();
     for (const double zoom : {40.0, 100.0}) {
         dynamic_cast<ImageView&>(View()).SetZoom(zoom);
-        for (int k = 0; k < 16; ++k) {
-            const int neighbour = k % 4 == 3 ? k - 1 : k + 1;
-            const QRectF place = PlaceOf(form_.boxes[static_cast<std::size_t>(neighbour)]);
-            for (const QPointF& at : {place.topLeft(), place.bottomRight(), place.center(),
-                                      QPointF(place.left(), place.center().y())}) {
-                ClickRow(k);
-                Drag(at, at + QPointF(2, 2) * 100 / zoom);
-                EXPECT_EQ(CurrentRow(), neighbour) << zoom << " " << k;
-            }
+        int hits = 0;
+        for (int k = 0; k < 288; ++k) {
+            const int column = k % 3 - 1;
+            const int row = k / 3 % 3 - 1;
+            const int neighbour = k + column + row * kColumns;
+            const QRectF place = PlaceOf(form_.boxes[static_cast<std::size_t>(k)]);
+            if (neighbour >= 0 && neighbour < 288)
+                ClickRow(neighbour);
+            const QPointF at = place.center() + QPointF(column * 15, row * 15);
+            Drag(at, at + QPointF(2, 2) * 100 / zoom);
+            hits += CurrentRow() == k ? 1 : 0;
         }
+        EXPECT_EQ(hits, 288) << zoom;
     }
     EXPECT_FALSE(Find<QAction>(*window_, "Undo").isEnabled());
 }
@@ -401,6 +417,7 @@ TEST_F(BoxEditingTest, DamagedProfilesAndALostSpecimenStayInReach) {
     EXPECT_EQ(Rows().topLevelItemCount(), 6);
     EXPECT_FALSE(Find<QCheckBox>(*window_, "chkActive").isChecked());
     EXPECT_EQ(Panel("Message"), "Profile [Lost], Image [Lost.tif]");
+    Click("Save");
     EXPECT_EQ(Notices(), "The specimen image " + lost + " is not there any more.");
     ClickPage(MiddleOf(form_.boxes[5]));
     EXPECT_EQ(CurrentRow(), 5) << "boxes can be reached without their page";

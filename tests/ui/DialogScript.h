@@ -64,6 +64,11 @@ class DialogScript {
         return *this;
     }
 
+    DialogScript& Do(std::function<void(QDialog&)> act) {
+        answers_.push_back(std::move(act));
+        return *this;
+    }
+
     DialogScript& Cancel() {
         answers_.emplace_back([](QDialog& dialog) { dialog.reject(); });
         return *this;

@@ -40,6 +40,8 @@ TEST_F(MoreBoxesTest, EachTakenBoxComesWhereSortingPutsItAndGoesWithOneUndo) {
     EXPECT_EQ(Candidates().item(0)->text(), ToQt("24 x 24 at " + std::to_string(form_.boxes[3].L) + ", " +
                                                  std::to_string(form_.boxes[3].T)));
     const std::vector<std::string> before = RowTexts();
+    Press(View(), Qt::Key_Delete);
+    EXPECT_EQ(RowTexts(), before) << "what stands out on the page is no box yet";
     QTest::keyClick(&Candidates(), Qt::Key_Return);
     EXPECT_EQ(Candidates().count(), 2);
     ASSERT_EQ(Rows().topLevelItemCount(), 7);

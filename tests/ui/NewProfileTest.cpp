@@ -146,13 +146,26 @@ TEST_F(NewProfileTest, TrapsAreToldOverThePageAndThePanelsStayTrue) {
     EXPECT_EQ(Panel("Message"), "Profile [Row], Image [Row.tif]");
     Click("Add", "CfgToolbar");
     Drag({200, 300}, {224, 324});
-    Click("Save");
-    EXPECT_EQ(Panel("Message"), "Saved Profile: Row");
     EXPECT_EQ(Notices(),
               "1 of 5 boxes still has the name that it was given when it was made, as Un-named-5. "
               "Results carry these names.");
+    dynamic_cast<ImageView&>(View()).SetZoom(400);
+    ClickRow(4);
+    const auto place = [this] { return View().viewport()->mapToGlobal(View().mapFromScene(200, 300)); };
+    const QPoint before = place();
     Find<QAbstractButton>(*window_, "cmdCloseNotices").click();
+    QApplication::processEvents();
     EXPECT_EQ(Notices(), "");
+    EXPECT_EQ(place(), before) << "nothing moves under the pointer";
+    Drag({240, 300}, {264, 324});
+    Click("Save");
+    EXPECT_EQ(Notices(), "") << "what was closed stays closed";
+    EXPECT_EQ(Panel("Message"), "Saved Profile: Row");
+    Press(View(), Qt::Key_Delete);
+    ClickRow(4);
+    Press(View(), Qt::Key_Delete);
+    EXPECT_PRED2(test::Has, Notices(), "all lie in one row");
+    Click("Save");
 
     form_.boxes.clear();
     form_.SaveScan(folders_.ProfileImages + "empty.tif", {});

@@ -26,6 +26,7 @@ class ReviewWindow : public test::DeskWindow {
         Open();
         Click("Process");
         Click("Review");
+        QApplication::processEvents();
     }
 
     QTreeView& List() { return Find<QTreeView>(*window_, "lvwReview"); }

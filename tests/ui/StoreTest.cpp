@@ -35,6 +35,8 @@ TEST(QtSettingsStoreTest, ReadsWhatAPersonWroteByHand) {
         const QtSettingsStore reader(ToQt(config.Path()));
         EXPECT_EQ(reader.ReadSettingValue("App", "Common", "FillThreshold"), "12");
         EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), folder);
+        store.WriteSettingValue("App", "Window", "Labels", "1");
+        EXPECT_EQ(reader.ReadSettingValue("App", "Common", "WorkDir"), folder) << "another value is written";
     }
 }
 

@@ -68,6 +68,8 @@ constexpr std::array kCommands = {
                 M::Review, "&Turn Mark\tSpace", "", "", false, true},
     CommandInfo{C::NextDoubtful, T::None, "NextDoubtful", "Go to the next box whose ink is near the threshold",
                 M::Review, "Next &Doubtful Box", "Ctrl+D", "", false, false},
+    CommandInfo{C::ExportResults, T::None, "ExportResults", "Write the results of all forms into tables",
+                M::File, "&Export Results...", "Ctrl+E", "", false, true},
     CommandInfo{C::OpenWorkingFolder, T::None, "OpenWorkingFolder", "Show the working folder on the desktop",
                 M::File, "Open &Working Folder", "Ctrl+Shift+O", "", false, true},
     CommandInfo{C::OpenLog, T::None, "OpenLog", "Read the newest log",

@@ -32,6 +32,7 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    ExportResults,
     OpenWorkingFolder,
     OpenLog,
     ToolbarLabels,

@@ -41,6 +41,7 @@ const Rule kRules[] = {
     {{C::RenameBox, C::Undo, C::Redo, C::FindMoreBoxes}, "P"},
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
+    {{C::ExportResults}, kIdle, Prompts::Form},
     {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},
     {{C::PreciseAlignment, C::SecondOpinion, C::ReadAgain}, kIdle},
     {{C::Exit}, kLetters, Prompts::FormThenProfile},

@@ -200,6 +200,12 @@ void BoxListView::TakeCurrent(QTreeWidgetItem* row) {
         listener_.chosen(NumberOf(row));
 }
 
+QItemSelectionModel::SelectionFlags BoxListView::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent*) const {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+}
+
 void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton)
         QTreeWidget::mouseDoubleClickEvent(event);

@@ -41,6 +41,10 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     void RefreshRows() override;
 
   protected:
+    /// The current row is always the selected one: no key takes that away.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+
     /// Of the left button only, as with single clicks.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 

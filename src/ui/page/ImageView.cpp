@@ -184,6 +184,20 @@ void ImageView::paintEvent(QPaintEvent* event) {
     PaintNoPage(painter, viewport()->rect(), palette(), hint_);
 }
 
+void ImageView::moveEvent(QMoveEvent* event) {
+    QGraphicsView::moveEvent(event);
+    pushedDown_ = event->pos().y() - event->oldPos().y();
+}
+
+// A page that is scrolled keeps its place on the screen, under the pointer of a person who works on it.
+void ImageView::resizeEvent(QResizeEvent* event) {
+    QGraphicsView::resizeEvent(event);
+    QScrollBar& bar = *verticalScrollBar();
+    const int by = std::exchange(pushedDown_, 0);
+    if (bar.value() > bar.minimum())
+        bar.setValue(bar.value() + by);
+}
+
 QPointF ImageView::PagePoint(const QMouseEvent& event) const {
     return viewportTransform().inverted().map(event.position());
 }

@@ -72,6 +72,8 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -100,6 +102,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     bool isTurned_ = false;
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
+    int pushedDown_ = 0;    ///< By what came to stand above the view, until the view has its new size.
     int wheelTurned_ = 0;   ///< What is left of the wheel's way to the next step.
     bool isUnseen_ = true;  ///< The page has not been painted yet, so the person has scrolled nowhere.
 };

@@ -1,16 +1,58 @@
 #include "ui/page/MessageStrip.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
+#include <algorithm>
+#include <utility>
 
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
+namespace {
 
-MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), lines_(new QVBoxLayout) {
+const std::string& TopicOf(const app::Notice& notice) {
+    return notice.topic.empty() ? notice.text : notice.topic;
+}
+
+// As tall as its notices, which are scrolled where they would take more than a part of the window.
+class NoticeArea final : public QScrollArea {
+  public:
+    explicit NoticeArea(QWidget* strip) : QScrollArea(strip) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidgetResizable(true);
+        setWidget(new QWidget);
+        viewport()->setAutoFillBackground(false);
+        widget()->setAutoFillBackground(false);
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+        window()->installEventFilter(this);
+    }
+
+    int heightForWidth(int width) const override {
+        constexpr int kPart = 3;
+        return std::min(widget()->heightForWidth(width), window()->height() / kPart);
+    }
+    QSize minimumSizeHint() const override { return {0, 0}; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == window() && event->type() == QEvent::Resize)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
+
+}  // namespace
+
+MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), area_(new NoticeArea(this)) {
     setObjectName("MessageStrip");
     setAccessibleName("Notices about the page");
     setAutoFillBackground(true);
@@ -22,15 +64,49 @@ MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), lines_(new QVBoxLa
     close->setAutoRaise(true);
     close->setToolTip("Close these notices");
     close->setAccessibleName(close->toolTip());
-    connect(close, &QToolButton::clicked, this, [this] { Show({}); });
+    connect(close, &QToolButton::clicked, this, [this] { Close(); });
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 6, 6);
-    layout->addLayout(lines_, 1);
+    layout->addWidget(area_, 1);
     layout->addWidget(close, 0, Qt::AlignTop);
     setVisible(false);
+    lines_ = new QVBoxLayout(area_->widget());
+    lines_->setContentsMargins(0, 0, 0, 0);
 }
 
 void MessageStrip::Show(std::span<const app::Notice> notices) {
+    told_ = {notices.begin(), notices.end()};
+    Refresh();
+}
+
+void MessageStrip::ShowStanding(std::span<const app::Notice> notices) {
+    standing_ = {notices.begin(), notices.end()};
+    Refresh();
+}
+
+void MessageStrip::Refresh() {
+    std::set<std::string> closed;
+    std::vector<app::Notice> open = told_;
+    for (const app::Notice& notice : standing_) {
+        if (closed_.contains(TopicOf(notice)))
+            closed.insert(TopicOf(notice));
+        else
+            open.push_back(notice);
+    }
+    closed_ = std::move(closed);
+    // Those that stand are told after every command, and what is being read stays in place.
+    if (!std::ranges::equal(open, shown_, {}, &app::Notice::text, &app::Notice::text))
+        Fill(std::move(open));
+}
+
+void MessageStrip::Close() {
+    told_.clear();
+    for (const app::Notice& notice : standing_)
+        closed_.insert(TopicOf(notice));
+    Refresh();
+}
+
+void MessageStrip::Fill(std::vector<app::Notice> notices) {
     while (QLayoutItem* const line = lines_->takeAt(0)) {
         // The button of the line may be what is being clicked, so the line only goes from sight at once.
         line->widget()->hide();
@@ -39,11 +115,13 @@ void MessageStrip::Show(std::span<const app::Notice> notices) {
     }
     for (const app::Notice& notice : notices)
         Add(notice);
+    area_->updateGeometry();
     setVisible(!notices.empty());
+    shown_ = std::move(notices);
 }
 
 void MessageStrip::Add(const app::Notice& notice) {
-    auto* const line = new QWidget(this);
+    auto* const line = new QWidget(area_->widget());
     auto* const layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const text = new QLabel(ToQt(notice.text), line);

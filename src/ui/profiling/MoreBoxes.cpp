@@ -37,7 +37,7 @@ std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::LeftOutBox>& unlike
 
 MoreBoxes::MoreBoxes(const MoreBoxesContext& context, std::function<void(const std::function<void()>&)> take)
     : context_(context) {
-    context_.pane.SetListener({[this](int id) { context_.page.Emphasise(-id); },
+    context_.pane.SetListener({[this, take](int id) { take([this, id] { PointAt(id); }); },
                                [this, take](int id) { take([this, id] { Take(id); }); },
                                [this, take] { take([this] { TakeAll(); }); }, [this] { Close(); },
                                [this](bool shown) {
@@ -46,6 +46,12 @@ MoreBoxes::MoreBoxes(const MoreBoxesContext& context, std::function<void(const s
                                        AddShown(RectsOf(look_.Unlikely), true);
                                    Show();
                                }});
+}
+
+// While a candidate is the one that stands out on the page, no command means another box.
+void MoreBoxes::PointAt(int id) {
+    context_.editor.Select(0);
+    context_.page.Emphasise(-id);
 }
 
 std::string MoreBoxes::DeskKey() const {

@@ -55,6 +55,7 @@ class MoreBoxes {
         bool isUnlikely;
     };
 
+    void PointAt(int id);
     bool Look();
     void Show();
     void Take(int id);

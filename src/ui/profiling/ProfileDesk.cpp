@@ -14,6 +14,7 @@ using imaging::BoxTool;
 
 ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls)
     : state_(state),
+      person_(context.person),
       gate_(context.gate),
       controls_(controls),
       session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
@@ -41,7 +42,10 @@ void ProfileDesk::ConnectCommands() {
     connect(Command::New, [this] { session_.New(boxes::SizesOf(state_.settings), state_.reach); });
     connect(Command::Save, [this] { session_.Save(); });
     connect(Command::DeleteProfile, [this] { session_.Delete(); });
-    connect(Command::FindMoreBoxes, [this] { more_.Find(); });
+    connect(Command::FindMoreBoxes, [this] {
+        session_.DropNotes();
+        more_.Find();
+    });
 }
 
 void ProfileDesk::ConnectBoxCommands() {
@@ -116,6 +120,7 @@ void ProfileDesk::FinishEdits() {
 
 void ProfileDesk::Update() {
     more_.Update();
+    person_.ShowStandingNotices(session_.Notices());
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
     controls_.rows.SetEditable(CanEdit());

@@ -69,6 +69,7 @@ class ProfileDesk {
     bool HasBox() const { return session_.Profile().CurrentBox != 0; }
 
     commands::AppState& state_;
+    app::Operator& person_;
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::ProfileSession session_;

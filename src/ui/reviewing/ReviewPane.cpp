@@ -26,8 +26,13 @@ void ReviewChoice::ShowProfiles(std::span<const std::string> names) {
 }
 
 void ReviewChoice::SetChoice(std::string_view name) {
-    setCurrentIndex(name.empty() ? -1 : findText(ToQt(name), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    setEnabled(!name.empty());
+    setCurrentIndex(findText(ToQt(name), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEnabled(true);
+}
+
+void ReviewChoice::TakeAway() {
+    setCurrentIndex(-1);
+    setEnabled(false);
 }
 
 void ReviewChoice::wheelEvent(QWheelEvent* event) {

@@ -16,6 +16,7 @@ class ReviewChoice final : public QComboBox, public review::ProfileChoice {
 
     void ShowProfiles(std::span<const std::string> names) override;
     void SetChoice(std::string_view name) override;
+    void TakeAway() override;
 
   protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -18,9 +18,10 @@ QString KeyOf(std::string_view section, std::string_view name) {
 
 // The text of a value as it stands in the file: the library takes one with a comma, written by hand without
 // quotes, for a list, and the blanks around the comma are lost.
-QString TextByHand(const QString& path, std::string_view section, std::string_view name) {
+QString TextByHand(const QString& path, const QString& key) {
     QFile file(path);
-    const QString heading = '[' + ToQt(section) + ']';
+    const QString heading = '[' + key.section('/', 0, 0) + ']';
+    const QString name = key.section('/', 1);
     bool isInside = false;
     if (!file.open(QIODevice::ReadOnly))
         return {};
@@ -28,10 +29,22 @@ QString TextByHand(const QString& path, std::string_view section, std::string_vi
         const qsizetype equals = line.indexOf('=');
         if (line.startsWith('['))
             isInside = line.trimmed() == heading;
-        else if (isInside && equals >= 0 && line.left(equals).trimmed() == ToQt(name))
+        else if (isInside && equals >= 0 && line.left(equals).trimmed() == name)
             return line.mid(equals + 1).trimmed();
     }
     return {};
+}
+
+bool IsList(const QVariant& value) {
+    return value.typeId() == QMetaType::QStringList;
+}
+
+// The library writes all values back with each one that changes, and a list in a way of its own.
+void KeepTextsByHand(QSettings& file, const QString& path) {
+    for (const QString& key : file.allKeys()) {
+        if (IsList(file.value(key)))
+            file.setValue(key, TextByHand(path, key));
+    }
 }
 
 // A lock beside the file is a leftover: one instance of the program runs, and it is writing only now. The
@@ -56,8 +69,7 @@ std::string QtSettingsStore::ReadSettingValue(std::string_view application, std:
     if (unwritten != unwritten_.end())
         return FromQt(unwritten->second);
     const QVariant value = QSettings(path, QSettings::IniFormat).value(KeyOf(section, name));
-    const bool isList = value.typeId() == QMetaType::QStringList;
-    return FromQt(isList ? TextByHand(path, section, name) : value.toString());
+    return FromQt(IsList(value) ? TextByHand(path, KeyOf(section, name)) : value.toString());
 }
 
 bool QtSettingsStore::WriteSettingValue(std::string_view application, std::string_view section,
@@ -66,6 +78,7 @@ bool QtSettingsStore::WriteSettingValue(std::string_view application, std::strin
     const QString key = KeyOf(section, name);
     if (RemoveLeftoverLock(path)) {
         QSettings file(path, QSettings::IniFormat);
+        KeepTextsByHand(file, path);
         file.setValue(key, ToQt(text));
         file.sync();
         if (file.status() == QSettings::NoError) {

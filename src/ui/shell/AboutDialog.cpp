@@ -46,6 +46,7 @@ QString Text() {
                "<tr><td>Qt %3</td><td>GNU LGPL, version 3</td></tr>"
                "<tr><td>FreeImage</td><td>FreeImage Public License or GNU GPL</td></tr>"
                "<tr><td>libtiff</td><td>libtiff licence</td></tr>"
+               "<tr><td>libxlsxwriter</td><td>BSD licence</td></tr>"
                "<tr><td>pugixml</td><td>MIT licence</td></tr></table>")
         .arg(ToQt(app::kApplicationName), QApplication::applicationVersion(), qVersion());
 }

@@ -73,6 +73,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
               [this] { desk_.Close(); }),
       reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_},
                [this] { review_.Refill(); }),
+      export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
@@ -135,6 +136,7 @@ void MainWindow::ConnectCommands() {
     gate_.SetHandler(Command::Process, [this] { runs_.Process(); });
     gate_.SetHandler(Command::Stop, [this] { runs_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
+    gate_.SetHandler(Command::ExportResults, [this] { export_.Run(); });
     gate_.SetHandler(Command::OpenWorkingFolder,
                      [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
     gate_.SetHandler(Command::OpenLog,

@@ -13,6 +13,7 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/ReadingCommands.h"
 #include "ui/commands/RunSession.h"
+#include "ui/exporting/ResultsExport.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/profiling/ProfileDesk.h"
@@ -83,6 +84,7 @@ class MainWindow final : public QMainWindow {
     ProfileDesk desk_;
     ReviewMode review_;
     commands::ReadingCommands reading_;
+    ResultsExport export_;
     commands::RunSession runs_;
     Toolbars toolbars_;
 };

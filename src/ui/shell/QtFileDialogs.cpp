@@ -147,4 +147,13 @@ std::optional<std::string> QtFileDialogs::AskOpenFile(const app::FileQuestion& q
     return dialog.Ask();
 }
 
+std::optional<std::string> QtFileDialogs::AskFolder(const std::string& title,
+                                                    const std::string& startFolder) {
+    FileDialog dialog(window_, {title, startFolder, {}, "Folders|*"});
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    const std::optional<std::string> folder = dialog.Ask();
+    return folder && !folder->ends_with('/') ? *folder + '/' : folder;
+}
+
 }  // namespace tavrene::ui

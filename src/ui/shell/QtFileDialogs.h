@@ -14,6 +14,7 @@ class QtFileDialogs final : public app::FileDialogs {
 
     std::optional<std::string> AskSaveFile(const app::FileQuestion& question) override;
     std::optional<std::string> AskOpenFile(const app::FileQuestion& question) override;
+    std::optional<std::string> AskFolder(const std::string& title, const std::string& startFolder) override;
 
   private:
     QWidget& window_;

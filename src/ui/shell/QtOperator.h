@@ -21,6 +21,7 @@ class QtOperator final : public app::Operator {
     app::Answer AskYesNo(std::string_view text, app::Answer preset) override;
     app::Answer AskYesNoCancel(std::string_view text, app::Answer preset) override;
     void ShowNotices(std::span<const app::Notice> notices) override { strip_.Show(notices); }
+    void ShowStandingNotices(std::span<const app::Notice> notices) override { strip_.ShowStanding(notices); }
     void SetPanel(app::Panel panel, std::string_view text) override;
     void SetProgressRange(int last) override;
     void SetProgress(int value) override;

@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <exception>
 
+#include "app/Reason.h"
 #include "app/SettingsStore.h"
 #include "ui/base/QtText.h"
 #include "ui/shell/Composition.h"
@@ -14,7 +15,7 @@ int main(int argc, char** argv) {
         ui::Composition program;
         return program.Start() ? QApplication::exec() : 0;
     } catch (const std::exception& failure) {
-        QMessageBox::critical(nullptr, ui::ToQt(app::kApplicationName), ui::ToQt(failure.what()));
+        QMessageBox::critical(nullptr, ui::ToQt(app::kApplicationName), ui::ToQt(app::ReasonOf(failure)));
         return 1;
     }
 }

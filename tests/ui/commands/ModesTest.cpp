@@ -28,23 +28,15 @@ Commands All() {
     return all;
 }
 
-const Commands kAnywhere = {C::ZoomToOrig,
-                            C::ZoomIn,
-                            C::ZoomOut,
-                            C::FitPage,
-                            C::FitWidth,
-                            C::Process,
-                            C::Stop,
-                            C::Review,
-                            C::Exit,
-                            C::Settings,
-                            C::About,
-                            C::ToolbarLabels,
-                            C::OpenWorkingFolder,
-                            C::OpenLog,
-                            C::PreciseAlignment,
-                            C::SecondOpinion,
-                            C::ReadAgain};
+const Commands kAnywhere = {C::ZoomToOrig,    C::ZoomIn,
+                            C::ZoomOut,       C::FitPage,
+                            C::FitWidth,      C::Process,
+                            C::Stop,          C::Review,
+                            C::Exit,          C::Settings,
+                            C::About,         C::ToolbarLabels,
+                            C::ExportResults, C::OpenWorkingFolder,
+                            C::OpenLog,       C::PreciseAlignment,
+                            C::SecondOpinion, C::ReadAgain};
 const Commands kProfiling = kAnywhere + Commands{C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
 const Commands kBoxes = {C::SelectBox, C::AddBox,        C::DeleteBox, C::RenameBox, C::Undo,
@@ -73,6 +65,7 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Process, Prompts::ProfileThenForm},
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
+                                                {C::ExportResults, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
                                                 {C::PreviousForm, Prompts::Form},
