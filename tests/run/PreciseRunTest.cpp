@@ -110,7 +110,7 @@ TEST_F(PreciseRunTest, ASecondOpinionLeavesFoldersLogsAndScreenAsTheyAreWithoutI
         test::WriteText(folders_.ProcessIn + "broken.tif", "no image");
         RunWith(options);
         std::vector<std::string> left = transcript_.Lines();
-        for (const std::string& folder : {folders_.ProcessOut, folders_.Temp, folders_.Log}) {
+        for (const std::string& folder : {folders_.ProcessOut, folders_.Log}) {
             for (const std::string& name : In(folder)) {
                 left.push_back(name + ": " + test::ReadText(folder + name));
                 files_.Delete(folder + name);
