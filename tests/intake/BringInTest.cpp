@@ -29,12 +29,6 @@ class BringInTest : public test::IntakeWorld {
         files_.Write(From(name), imaging::EncodeTiffPages(made), app::Keep::AsScratch);
     }
 
-    static samples::Canvas Shaded(int number) {
-        samples::Canvas page = Page(number);
-        page.FillRect(50, 50, 80, 80, 128);
-        return page;
-    }
-
     void Save(const Bitmap& picture, FREE_IMAGE_FORMAT format, const std::string& name, int flags) const {
         ASSERT_TRUE(FreeImage_Save(format, picture.Get(), From(name).c_str(), flags)) << name;
     }

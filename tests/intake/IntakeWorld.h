@@ -43,6 +43,13 @@ class IntakeWorld : public ::testing::Test {
         return page;
     }
 
+    /// The same with a grey patch.
+    static samples::Canvas Shaded(int number) {
+        samples::Canvas page = Page(number);
+        page.FillRect(50, 50, 80, 80, 128);
+        return page;
+    }
+
     imaging::Bitmap Incoming(const std::string& name) const {
         const app::Bytes content = files_.Read(folders_.ProcessIn + name);
         return imaging::DecodeImage(content, imaging::FormatOfContent(content).value());

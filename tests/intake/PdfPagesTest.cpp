@@ -48,12 +48,6 @@ class PdfPagesTest : public test::IntakeWorld {
         return PageOf("/BitsPerComponent 8/ColorSpace/DeviceGray", Samples(Shaded(number)));
     }
 
-    static samples::Canvas Shaded(int number) {
-        samples::Canvas page = Page(number);
-        page.FillRect(50, 50, 80, 80, 128);
-        return page;
-    }
-
     Outcome BringInPages(const std::vector<PdfPage>& pages, const std::string& trailer = {}) {
         test::WriteText(From("a.pdf"), samples::PdfOf(pages, trailer));
         return BringInFile("a.pdf");

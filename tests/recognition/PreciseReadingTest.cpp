@@ -68,22 +68,13 @@ class PreciseReadingTest : public ::testing::Test {
 TEST_F(PreciseReadingTest, ReadsFormsThatLieAskewOrAreWorn) {
     Add({FormKind::Table, 4});
     const std::size_t form = Add({FormKind::Survey, 3});
-    ScanWear tilted;
-    tilted.TiltDegrees = 2;
-    tilted.ShiftX = -7;
-    ScanWear stretched;
-    stretched.StretchX = 0.03;
-    stretched.StretchY = -0.01;
-    ScanWear bent;
-    bent.Bend = 0.5;
-    ScanWear noisy;
-    noisy.Noise = 0.03;
-    noisy.ShiftY = 10;
-    ScanWear worn;
-    worn.Thin = 0.4;
-    worn.BlackEdges = 4;
-    worn.Holes = true;
-    for (const ScanWear& wear : {ScanWear{}, tilted, stretched, bent, noisy, worn}) {
+    const ScanWear wears[] = {{},
+                              {.TiltDegrees = 2, .ShiftX = -7},
+                              {.StretchX = 0.03, .StretchY = -0.01},
+                              {.Bend = 0.5},
+                              {.ShiftY = 10, .Noise = 0.03},
+                              {.Thin = 0.4, .BlackEdges = 4, .Holes = true}};
+    for (const ScanWear& wear : wears) {
         const PreciseReading reading = ReadForm(form, wear);
         ExpectRight(form, reading);
         EXPECT_FALSE(reading.turned);
@@ -93,10 +84,8 @@ TEST_F(PreciseReadingTest, ReadsFormsThatLieAskewOrAreWorn) {
 
 TEST_F(PreciseReadingTest, EachBoxIsPlacedToThePixel) {
     const std::size_t form = Add({FormKind::TwoColumns, 3});
-    ScanWear moved;
-    moved.ShiftX = 5 * 25.4 / kDpi;  // whole pixels
-    moved.ShiftY = -9 * 25.4 / kDpi;
-    const PreciseReading reading = ReadForm(form, moved);
+    constexpr double kPixel = 25.4 / kDpi;
+    const PreciseReading reading = ReadForm(form, {.ShiftX = 5 * kPixel, .ShiftY = -9 * kPixel});
     ExpectRight(form, reading);
     for (const MarkReading& mark : reading.marks) {
         EXPECT_NEAR(mark.Shift.dx, 5, 1) << mark.Name;
@@ -106,9 +95,7 @@ TEST_F(PreciseReadingTest, EachBoxIsPlacedToThePixel) {
 
 TEST_F(PreciseReadingTest, AnUpsideDownPageIsReadWhereItsBoxesAre) {
     const std::size_t form = Add({FormKind::Survey, 3});
-    ScanWear wear;
-    wear.UpsideDown = true;
-    wear.TiltDegrees = 1;
+    const ScanWear wear{.TiltDegrees = 1, .UpsideDown = true};
     const PreciseReading reading = ReadForm(form, wear);
     ExpectRight(form, reading);
     EXPECT_TRUE(reading.turned);
@@ -157,8 +144,7 @@ TEST_F(PreciseReadingTest, StrangersAndSistersAreToldApart) {
     const std::size_t sister = Add({FormKind::Survey, 3, 0, samples::SisterTrait::OneMoreRow});
     Add({FormKind::Few, 8, 1});
     Add({FormKind::OneColumn, 8});
-    ScanWear wear;
-    wear.TiltDegrees = 0.8;
+    const ScanWear wear{.TiltDegrees = 0.8};
     ExpectRight(form, ReadForm(form, wear));
     ExpectRight(sister, ReadForm(sister, wear));
     using samples::StrangerKind;
@@ -172,17 +158,13 @@ TEST_F(PreciseReadingTest, FewBoxesAndOneColumnAreTurnedIntoPlaceByThePrint) {
     const std::size_t one = Add({FormKind::Few, 21, 1});
     const std::size_t three = Add({FormKind::Few, 22, 3});
     const std::size_t column = Add({FormKind::OneColumn, 23});
-    ScanWear wear;
-    wear.TiltDegrees = 1.5;
-    wear.ShiftX = 3;
     for (const std::size_t form : {one, three, column})
-        ExpectRight(form, ReadForm(form, wear));
+        ExpectRight(form, ReadForm(form, {.TiltDegrees = 1.5, .ShiftX = 3}));
 }
 
 TEST_F(PreciseReadingTest, WithoutASpecimenOnlyWhatChanceCannotMakeIsTaken) {
     const std::size_t form = Add({FormKind::Survey, 3}, false);
-    ScanWear wear;
-    wear.TiltDegrees = 1;
+    const ScanWear wear{.TiltDegrees = 1};
     ExpectRight(form, ReadForm(form, wear));
     Add({FormKind::Few, 21, 2}, false);
     EXPECT_EQ(Read(Scan(PaintStranger(samples::StrangerKind::OtherForm, 78, kDpi), wear, dice_)).winner, -1);

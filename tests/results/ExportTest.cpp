@@ -189,8 +189,8 @@ TEST_F(ExportTest, DamagedDocumentsAreToldAndLeftOut) {
     const Results results = Read();
     ASSERT_EQ(results.Damaged.size(), 2U);
     EXPECT_EQ(results.Damaged[0].Document, "cut.xml");
-    EXPECT_TRUE(Has(results.Damaged[0].Reason, "not XML"));
-    EXPECT_TRUE(Has(results.Damaged[1].Reason, "not Tavrene"));
+    EXPECT_PRED2(Has, results.Damaged[0].Reason, "not XML");
+    EXPECT_PRED2(Has, results.Damaged[1].Reason, "not Tavrene");
     ASSERT_TRUE(SaveCsv());
     ASSERT_TRUE(SaveXlsx());
     const std::string broken = "\uFFFD";

@@ -29,35 +29,33 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_FALSE(review_.HasForm());
 
     Open(1);
-    EXPECT_EQ(transcript_.Joined(),
-              "select: b 100 | rects: clear | rows: clear | panel Message:  | panel ElapsedTime:  | "
-              "view: picture 600x500 | rects: clear | rows: clear Val Ink | row: 1 Q1|0 | ink: 1 0.0% | "
-              "rect: 1 62,71 24x24 unchecked | row: 2 Q2|1 | ink: 2 54.6% | rect: 2 116,71 24x24 checked | "
-              "row: 3 Q3|1 | ink: 3 54.6% | rect: 3 62,125 24x24 checked | row: 4 Q4|0 | ink: 4 0.0% | "
-              "rect: 4 116,125 24x24 unchecked | choice: Form | "
-              "panel Message: Image [b.tif], Profile [Form] | panel ElapsedTime: OMRs:4");
+    EXPECT_EQ(transcript_.LinesOf("view: "), Names{"picture 600x500"});
+    EXPECT_EQ(transcript_.LinesOf("rows: ").back(), "clear Val Ink");
+    EXPECT_EQ(transcript_.LinesOf("row: "), (Names{"1 Q1|0", "2 Q2|1", "3 Q3|1", "4 Q4|0"}));
+    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 0.0%", "2 54.6%", "3 54.6%", "4 0.0%"}));
+    EXPECT_EQ(transcript_.LinesOf("rect: "), (Names{"1 62,71 24x24 unchecked", "2 116,71 24x24 checked",
+                                                    "3 62,125 24x24 checked", "4 116,125 24x24 unchecked"}));
+    EXPECT_EQ(transcript_.LinesOf("choice: "), Names{"Form"});
+    EXPECT_EQ(person_.PanelText(Panel::Message), "Image [b.tif], Profile [Form]");
+    EXPECT_EQ(person_.PanelText(Panel::ElapsedTime), "OMRs:4");
 
+    const std::string before = Result("b.xml");
     Flip(2);
     Flip(4);
     EXPECT_EQ(transcript_.Lines(),
               (Names{"look at: 4", "row: 4 Q4|1", "ink: 4 0.0%", "rect: 4 116,125 24x24 checked",
                      "panel ElapsedTime: Checked:2 of 4"}));
-    Okay();
-    EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"});
+    for (int saves = 0; saves < 2; ++saves) {
+        Okay();
+        EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"}) << "a form counts once";
+    }
     EXPECT_EQ(list_.lines, (Names{"a 100", "+ b 100", "c 100"}));
-    const std::string saved =
-        "<?xml version=\"1.0\"?>\n"
-        "<Tavrene Profile=\"Form\" Image=\"b.tif\" Reviewed=\"1\" Confidence=\"100\">\n"
-        "\t<OMRs Count=\"4\">\n"
-        "\t\t<OMR Name=\"Q1\" Shift=\"2,-1\" Checked=\"0\" />\n"
-        "\t\t<OMR Name=\"Q2\" Shift=\"2,-1\" Checked=\"0\" />\n"
-        "\t\t<OMR Name=\"Q3\" Shift=\"2,-1\" Checked=\"1\" />\n"
-        "\t\t<OMR Name=\"Q4\" Shift=\"2,-1\" Checked=\"1\" />\n"
-        "\t</OMRs>\n"
-        "</Tavrene>\n";
+    std::string saved = before;
+    for (const auto& [was, is] : {std::pair("Reviewed=\"0\"", "Reviewed=\"1\""),
+                                  {"Q2\" Shift=\"2,-1\" Checked=\"1\"", "Q2\" Shift=\"2,-1\" Checked=\"0\""},
+                                  {"Q4\" Shift=\"2,-1\" Checked=\"0\"", "Q4\" Shift=\"2,-1\" Checked=\"1\""}})
+        saved.replace(saved.find(was), std::string(was).size(), is);
     EXPECT_EQ(Result("b.xml"), saved);
-    Okay();  // the second save does not count the form again
-    EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"});
 
     Accept();
     EXPECT_EQ(transcript_.Lines(), (Names{"view: clear", "rows: clear", "choice: none",
@@ -73,20 +71,18 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     EXPECT_EQ(person_.PanelText(Panel::File), "Reviewed: 0 of 1");
     EXPECT_EQ(transcript_.LinesOf("select: "), Names{"a 100"});
     EXPECT_EQ(In(folders_.ProcessReject), (Names{"c.tif", "c.xml"}));
-    EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.tif", "a.xml"}));
     Accept();  // no form is open
     Reject();
     Okay();
     EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.tif", "a.xml"}));
-    Names log = ProcessLog();
-    log.erase(log.begin(), log.end() - 4);
-    EXPECT_EQ(log, (Names{"Reviewed & Saved [b]", "Reviewed & Saved [b]", "Form [b] accepted.",
-                          "Form [c] rejected."}));
+    const Names log = ProcessLog();
+    EXPECT_EQ(Names(log.end() - 4, log.end()), (Names{"Reviewed & Saved [b]", "Reviewed & Saved [b]",
+                                                      "Form [b] accepted.", "Form [c] rejected."}));
 
     Toggle();
-    EXPECT_EQ(transcript_.Joined(),
-              "panel File: Profiles:1, Active:1 | panel Message:  | panel ElapsedTime:  | view: clear | "
-              "rows: clear | choice: none");
+    EXPECT_EQ(transcript_.Lines(), (Names{"panel File: Profiles:1, Active:1",
+                                          "panel Message: ", "panel ElapsedTime: ", "view: clear",
+                                          "rows: clear", "choice: none"}));
     EXPECT_FALSE(review_.IsOn());
 }
 
@@ -398,18 +394,13 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
     EXPECT_TRUE(ResultHas("b.xml", "Name=\"Only here\" Shift=\"2,-1\" Checked=\"1\""));
     Flip(3);
     Okay();
-    const std::string withoutShifts =
-        "<?xml version=\"1.0\"?>\n"
-        "<Tavrene Profile=\"Other\" Image=\"b.tif\" Reviewed=\"1\" Confidence=\"100\">\n"
-        "\t<OMRs Count=\"3\">\n"
-        "\t\t<OMR Name=\"Only here\" Checked=\"1\" />\n"
-        "\t\t<OMR Name=\"Q3\" Checked=\"1\" />\n"
-        "\t\t<OMR Name=\"Q4\" Checked=\"1\" />\n"
-        "\t</OMRs>\n"
-        "</Tavrene>\n";
-    EXPECT_EQ(Result("b.xml"), withoutShifts);
+    const std::string saved = Result("b.xml");
+    EXPECT_PRED2(test::Has, saved,
+                 "<OMR Name=\"Only here\" Checked=\"1\" />\n\t\t<OMR Name=\"Q3\" Checked=\"1\" />\n\t\t"
+                 "<OMR Name=\"Q4\" Checked=\"1\" />\n\t</OMRs>")
+        << "without shifts";
     Okay();  // now the profile is the saved one
-    EXPECT_EQ(Result("b.xml"), withoutShifts);
+    EXPECT_EQ(Result("b.xml"), saved);
     Open(1);
     EXPECT_EQ(transcript_.LinesOf("rect: ")[0], "1 116,71 24x24 checked")
         << "the saved shifts are searched anew";
@@ -431,7 +422,7 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     TestForm::Filling filling{.checked = {1}};
     samples::Canvas page = form_.Paint(filling);
     page.FillRect(form_.boxes[1].L + 6, form_.boxes[1].T + 6, 8, 6);  // 48 of 529 cells: 9.1 %
-    page.FillRect(form_.boxes[3].L + 6, form_.boxes[3].T + 6, 8, 4);  // 32 of 529 cells: 6.0 %
+    page.FillRect(form_.boxes[2].L + 6, form_.boxes[2].T + 6, 8, 4);  // 32 of 529 cells: 6.0 %
     samples::SaveImage(samples::ToBilevel(page), imaging::ImageFormat::Png, folders_.ProcessIn + "d.png");
     ProcessAndReview();
     Open(3);
@@ -439,8 +430,8 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     Refuse("write", "temp.tif");
     Open(3);
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"picture 600x500"});
-    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 9.1% ?", "3 0.0%", "4 6.0% ?"}));
-    for (const auto& [from, next] : {std::pair{0, "2"}, {2, "4"}, {4, "2"}}) {
+    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 9.1% ?", "3 6.0% ?", "4 0.0%"}));
+    for (const auto& [from, next] : {std::pair{0, "2"}, {1, "2"}, {2, "3"}, {3, "2"}, {4, "2"}}) {
         Do([this, from = from] { review_.NextDoubtful(from); });
         EXPECT_EQ(transcript_.Lines(),
                   (Names{std::string("select row: ") + next, std::string("look at: ") + next}));

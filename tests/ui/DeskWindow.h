@@ -12,6 +12,7 @@
 #include "support/RunWorld.h"
 #include "ui/Controls.h"
 #include "ui/DialogScript.h"
+#include "ui/page/ImageView.h"
 #include "ui/settings/QtSettingsStore.h"
 #include "ui/shell/MainWindow.h"
 
@@ -47,7 +48,7 @@ class DeskWindow : public RunWorld {
         QTest::keyClick(&widget, key, modifiers);
     }
 
-    QGraphicsView& View() { return Find<QGraphicsView>(*window_, "ImgEdit1"); }
+    ui::ImageView& View() { return dynamic_cast<ui::ImageView&>(Find<QGraphicsView>(*window_, "ImgEdit1")); }
     std::string Panel(const char* key) { return ui::FromQt(Find<QLabel>(*window_, key).text()); }
     /// What stands in the strip over the page, one notice a line; empty while it is not to be seen.
     std::string Notices() {

