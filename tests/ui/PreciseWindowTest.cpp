@@ -52,13 +52,12 @@ TEST_F(PreciseWindow, FormsThatOnlyPreciseAlignmentReadsAreOfferedAndReadAgain) 
     EXPECT_FALSE(Find<QAction>(*window_, "ReadAgain").isEnabled());
     Click("Process");
     EXPECT_NE(Seen<QLabel>("1 form looks turned or stretched: Precise Alignment reads it."), nullptr);
-    Click("Review");
-    EXPECT_EQ(Lines(), 1);
     auto* const again = Seen<QPushButton>("Read These Again");
     ASSERT_NE(again, nullptr);
     again->click();
     EXPECT_NE(Seen<QLabel>("1 form was read by Precise Alignment and can be reviewed."), nullptr);
     EXPECT_EQ(Seen<QPushButton>("Read These Again"), nullptr);
+    Click("Review");
     EXPECT_EQ(Lines(), 2);
     EXPECT_FALSE(Find<QAction>(*window_, "ReadAgain").isEnabled());
 }
