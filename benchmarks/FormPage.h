@@ -49,6 +49,7 @@ class Nobody final : public app::Operator,
     void RunPendingEvents() override {}
     void ShowFile(const std::string&) override {}
     void ShowPicture(const imaging::Bitmap&) override {}
+    void TurnPage(bool) override {}
     void Clear() override {}
     double Zoom() const override { return 100; }
     void SetZoom(double) override {}

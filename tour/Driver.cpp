@@ -31,8 +31,10 @@ constexpr int kCheckedInShot = 8;
 // The box that is selected for the picture of the profile desk, counted from 0.
 constexpr int kBoxInShot = 6;
 
-// The form that is looked at in review, with corrected marks; its line counted from 0.
-constexpr int kFormInShot = 11;
+// The forms that are looked at in review: one with corrected marks, and one that the described rules read
+// nothing of.
+constexpr const char* kFormInShot = "patient-12-corrected";
+constexpr const char* kUpsideDown = "patient-15-upside-down";
 
 // The row of its mark that was scribbled over, counted from the end.
 constexpr int kRowInShotFromEnd = 4;
@@ -71,13 +73,24 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
-    if (auto& reports = Find<QDialog>(window_, "FileReports"); reports.isVisible()) {
+    if (auto& reports = Find<QDialog>(window_, "FileReports"); reports.isVisible())
         Shoot(reports, "5-messages-about-files");
-        reports.close();
-    }
+    CloseReports();
     ShootProfileDesk();
     ShootReview();
     ShootSettingsDialog();
+}
+
+void Driver::ReadPrecisely() {
+    auto& precise = Find<QAction>(window_, "PreciseAlignment");
+    precise.trigger();
+    Press("Process");
+    CloseReports();
+    Press("Review");
+    OpenForm(kUpsideDown);
+    Press("FitPage");
+    ShootWindow("10-upside-down-form");
+    precise.trigger();
     window_.close();
 }
 
@@ -106,8 +119,7 @@ void Driver::ShootProfileDesk() {
 
 void Driver::ShootReview() {
     Press("Review");
-    auto& forms = Find<QTreeView>(window_, "lvwReview");
-    ClickOn(*forms.viewport(), forms.visualRect(forms.model()->index(kFormInShot, 0)).center());
+    OpenForm(kFormInShot);
     Press("FitWidth");
     auto& boxes = Find<QTreeWidget>(window_, "lvwSettings");
     boxes.setCurrentItem(boxes.topLevelItem(boxes.topLevelItemCount() - kRowInShotFromEnd));
@@ -118,6 +130,18 @@ void Driver::ShootReview() {
         dynamic_cast<QMessageBox&>(question).button(QMessageBox::No)->click();
     });
     Press("Review");
+}
+
+void Driver::CloseReports() {
+    Find<QDialog>(window_, "FileReports").close();
+}
+
+void Driver::OpenForm(const QString& name) {
+    auto& forms = Find<QTreeView>(window_, "lvwReview");
+    const QModelIndexList lines = forms.model()->match(forms.model()->index(0, 0), Qt::DisplayRole, name);
+    if (lines.isEmpty())
+        throw std::runtime_error("Review lists no form " + name.toStdString() + ".");
+    ClickOn(*forms.viewport(), forms.visualRect(lines.front()).center());
 }
 
 void Driver::ShootSettingsDialog() {

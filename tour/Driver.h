@@ -17,8 +17,12 @@ class Driver final : public QObject {
     /// Pictures go to `shotsFolder`, which is made when it is missing.
     Driver(ui::MainWindow& window, const QString& shotsFolder);
 
-    /// Runs all stages and closes the window; returns when that is done.
+    /// Runs all stages; returns when that is done.
     void Drive();
+
+    /// Reads what waits by Precise Alignment, opens a form that lies upside down, and closes the window. The
+    /// program then reads as it did at first.
+    void ReadPrecisely();
 
     /// Paths of the pictures taken.
     const QStringList& Shots() const { return shots_; }
@@ -32,6 +36,8 @@ class Driver final : public QObject {
     void Press(const char* key);
     void ShootProfileDesk();
     void ShootReview();
+    void CloseReports();
+    void OpenForm(const QString& name);
     void ShootSettingsDialog();
 
     /// Takes a picture of the dialog that the next command opens and gives it to `close`.

@@ -26,8 +26,9 @@ constexpr const char* kUsage =
     "--fill   makes FOLDER a working folder with the profiles and scans of SAMPLES, and points the\n"
     "         settings below XDG_CONFIG_HOME at it\n"
     "--drive  opens the program's window on FOLDER, presses Process, writes pictures of the window to\n"
-    "         SHOTS, and compares the results with the truth of SAMPLES; the exit code is 0 when all\n"
-    "         scans are right, but for those that the truth calls beyond the rules\n";
+    "         SHOTS, lets Precise Alignment read the same scans after that, and compares both with the\n"
+    "         truth of SAMPLES; the exit code is 0 when all scans are right, but for those that the\n"
+    "         truth calls beyond the rules\n";
 
 std::string FullPath(const std::string& path) {
     std::string full = app::FromPath(std::filesystem::absolute(app::ToPath(path)).lexically_normal());
@@ -43,10 +44,16 @@ int Fill(const std::string& samples, const std::string& folder) {
 }
 
 void PrintPlaces(const app::WorkingFolders& folders, const QStringList& shots) {
-    std::cout << "\nResult documents: " << folders.ProcessOut << "\nLogs:             " << folders.Log
-              << "\nScreenshots:\n";
+    std::cout << "\nResult documents: " << folders.ProcessOut << " (by Precise Alignment)"
+              << "\nLogs:             " << folders.Log << "\nScreenshots:\n";
     for (const QString& shot : shots)
         std::cout << "  " << ui::FromQt(shot) << '\n';
+}
+
+bool HasWrong(const std::vector<samples::Comparison>& readings) {
+    return std::any_of(readings.begin(), readings.end(), [](const samples::Comparison& reading) {
+        return reading.verdict == samples::Verdict::Wrong;
+    });
 }
 
 int Drive(const std::string& samplesFolder, const std::string& folder, const std::string& shotsFolder) {
@@ -59,13 +66,15 @@ int Drive(const std::string& samplesFolder, const std::string& folder, const std
     tour::Driver driver(program.Window(), ui::ToQt(shotsFolder));
     driver.Drive();
     const app::WorkingFolders folders = app::PathsUnder(folder);
-    const auto comparisons = samples::CompareWithTruth(app::DiskFiles(), folders, truth);
-    std::cout << samples::TableOf(comparisons);
+    app::DiskFiles files;
+    const auto described = samples::CompareWithTruth(files, folders, truth);
+    for (const samples::GroundTruthRecord& scan : truth)
+        files.Move(folders.ProcessOut + scan.Image, folders.ProcessIn + scan.Image);
+    driver.ReadPrecisely();
+    const auto precise = samples::CompareWithTruth(files, folders, truth);
+    std::cout << samples::TableOf(described, precise);
     PrintPlaces(folders, driver.Shots());
-    const bool good = std::all_of(
-        comparisons.begin(), comparisons.end(),
-        [](const samples::Comparison& comparison) { return comparison.verdict != samples::Verdict::Wrong; });
-    return good ? 0 : 1;
+    return HasWrong(described) || HasWrong(precise) ? 1 : 0;
 }
 
 int Run(const std::vector<std::string>& arguments) {

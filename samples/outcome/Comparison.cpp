@@ -100,6 +100,23 @@ const char* TextOf(Verdict verdict) {
     return "WRONG";
 }
 
+constexpr const char* kReadingTitle = "confidence checked  against the truth ";
+
+std::string ReadingText(const Comparison& reading) {
+    std::ostringstream text;
+    text << std::right << std::setw(10) << reading.Confidence << std::setw(8)
+         << (reading.Confidence.empty() ? "" : std::to_string(reading.CheckedBoxes.size())) << "  "
+         << std::left << std::setw(18) << TextOf(reading.verdict);
+    return text.str();
+}
+
+void TellDifferences(std::ostream& table, const char* how, const std::vector<Comparison>& readings) {
+    for (const Comparison& reading : readings)
+        if (!reading.Difference.empty())
+            table << '\n' << reading.Image << how << ' ' << reading.Difference;
+    table << '\n';
+}
+
 }  // namespace
 
 std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::WorkingFolders& folders,
@@ -112,22 +129,20 @@ std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::Wor
     return comparisons;
 }
 
-std::string TableOf(const std::vector<Comparison>& comparisons) {
+std::string TableOf(const std::vector<Comparison>& described, const std::vector<Comparison>& precise) {
     std::ostringstream table;
-    const auto line = [&table](const std::string& image, const std::string& profile,
-                               const std::string& confidence, const std::string& checked,
-                               const std::string& verdict) {
-        table << std::left << std::setw(28) << image << std::setw(24) << profile << std::right
-              << std::setw(10) << confidence << std::setw(9) << checked << "  " << verdict << '\n';
-    };
-    line("image", "profile", "confidence", "checked", "against the truth");
-    for (const Comparison& row : comparisons)
-        line(row.Image, row.Profile, row.Confidence,
-             row.Confidence.empty() ? "" : std::to_string(row.CheckedBoxes.size()), TextOf(row.verdict));
-    for (const Comparison& row : comparisons)
-        if (!row.Difference.empty())
-            table << '\n' << row.Image << ' ' << row.Difference;
-    table << '\n';
+    table << std::left << std::setw(52) << ""
+          << "described rules" << std::setw(23) << ""
+          << "precise alignment\n"
+          << std::setw(28) << "image" << std::setw(24) << "profile" << kReadingTitle << kReadingTitle << '\n';
+    for (std::size_t k = 0; k < described.size(); ++k) {
+        const bool isForm = !described[k].Confidence.empty();
+        table << std::left << std::setw(28) << described[k].Image << std::setw(24)
+              << (isForm ? described[k] : precise[k]).Profile << ReadingText(described[k])
+              << ReadingText(precise[k]) << '\n';
+    }
+    TellDifferences(table, "", described);
+    TellDifferences(table, ", by precise alignment,", precise);
     return table.str();
 }
 

@@ -26,7 +26,8 @@ struct Comparison {
 std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::WorkingFolders& folders,
                                          const std::vector<GroundTruthRecord>& truth);
 
-/// The comparisons as a table of text with one line a scan, and below it every difference in words.
-std::string TableOf(const std::vector<Comparison>& comparisons);
+/// What both ways of reading made of the same scans as a table of text with one line a scan, and below it
+/// every difference in words.
+std::string TableOf(const std::vector<Comparison>& described, const std::vector<Comparison>& precise);
 
 }  // namespace tavrene::samples

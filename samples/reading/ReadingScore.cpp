@@ -85,13 +85,13 @@ std::string Fault(const ReadingPage& page, const Answer& answer) {
 
 }  // namespace
 
-ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, Seeds seeds,
+ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, SeedRange seeds,
                       const std::function<void(const std::string&)>& tell) {
     ReadingRow row;
     row.Class = &kind;
     const auto number = static_cast<std::uint64_t>(&kind - ReadingClasses().data()) + 1;
     for (std::size_t k = 0; k < pages; ++k) {
-        const std::uint64_t seed = number * 1000000 + 2 * k + (seeds == Seeds::Odd ? 1 : 0);
+        const std::uint64_t seed = number * 1000000 + 2 * (seeds.First + k) + (seeds.Even ? 0 : 1);
         const ReadingPage page = PaintReadingPage(kind, seed);
         const Answer described = ReadAsDescribed(page);
         const Answer precise = ReadWithPrecision(page);

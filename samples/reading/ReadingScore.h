@@ -28,11 +28,16 @@ struct ReadingRow {
     std::size_t Flagged = 0;          ///< and of which the second opinion says otherwise.
 };
 
-enum class Seeds { Even, Odd };
+/// Which pages of a class are painted. Even seeds are those that the constants were chosen on; pages that
+/// somebody has looked at to mend something judge nothing any more, and `First` passes them over.
+struct SeedRange {
+    bool Even = false;
+    std::size_t First = 0;
+};
 
-/// Reads `pages` pages of a class both ways. Even seeds are those that the constants were chosen on. `tell`,
-/// if there is one, hears of every page that precise alignment has wrong.
-ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, Seeds seeds,
+/// Reads `pages` pages of a class both ways. `tell`, if there is one, hears of every page that precise
+/// alignment has wrong.
+ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, SeedRange seeds,
                       const std::function<void(const std::string&)>& tell = {});
 
 }  // namespace tavrene::samples

@@ -27,6 +27,10 @@ class PageScreen {
     /// Shows a page that is in memory already: one bit (1 is black), 8 bits of grey or 32 of colour.
     virtual void ShowPicture(const Bitmap& picture) = 0;
 
+    /// Shows the page, and what is over it, turned by half a turn or not. The page frame stays that of the
+    /// image; the next page is shown as it is again.
+    virtual void TurnPage(bool isTurned) = 0;
+
     /// Takes the page and all rectangles away.
     virtual void Clear() = 0;
 

@@ -28,6 +28,7 @@ struct ProcessRun::FileOutcome {
     std::optional<imaging::Page> page;
     int winner = -1;  // index of the profile it was read as
     std::vector<MarkReading> readings;
+    bool turned = false;            // the page lies upside down
     std::vector<ResultMark> marks;  // read back from the written document
 };
 
@@ -199,6 +200,7 @@ void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const Pro
     if (reading.winner < 0)
         return;
     outcome.readings = std::move(reading.marks);
+    outcome.turned = reading.turned;
     outcome.marks = delivery_.StageResult(
         {profiles[static_cast<std::size_t>(reading.winner)].Name, name, "0", reading.Confidence},
         outcome.readings);
@@ -208,10 +210,11 @@ void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const Pro
 // What it says is for the person alone: result and log are those of the described rules.
 void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const ProfileRecord> profiles,
                                   const FileOutcome& outcome) {
-    if (context_.precise == nullptr || !context_.precise->GivesSecondOpinion() || !outcome.page)
+    if (context_.precise == nullptr)
         return;
-    const PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
-    opinions_.Add(name, CompareReadings(outcome.winner, outcome.readings, reading));
+    if (context_.precise->GivesSecondOpinion() && outcome.page)
+        opinions_.Add(name, context_.precise->OpinionOn(*outcome.page, profiles, outcome.winner,
+                                                        outcome.readings, settings_.FillThreshold));
     for (std::string& profile : context_.precise->TakeReplaced())
         opinions_.replaced.push_back(std::move(profile));
 }
@@ -221,6 +224,7 @@ void ProcessRun::ShowPage(const FileOutcome& outcome) {
         context_.page.ShowPicture(outcome.page->bitmap);
     else
         context_.page.Clear();
+    context_.page.TurnPage(outcome.turned);
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];

@@ -5,6 +5,7 @@
 
 #include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
+#include "recognition/precise/ShiftFit.h"
 #include "review/BoxMatching.h"
 
 namespace tavrene::review {
@@ -15,10 +16,6 @@ using recognition::BoxShift;
 // In doubt within a third of the threshold: there a stroke more or less, or another scanner, turns the mark.
 FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink, double threshold) {
     return {rect, ink, ink && std::abs(*ink - threshold) * 3 <= threshold};
-}
-
-recognition::ProfileMatch SearchProfile(const imaging::Page& page, const profiles::ProfileRecord& profile) {
-    return recognition::ClassifyImage(page, {&profile, 1}).matches.front();
 }
 
 // Boxes of one column or row allow no spreading; those whose outline was found keep what was found.
@@ -40,7 +37,7 @@ bool HasShift(std::span<const recognition::ResultMark> marks) {
 std::vector<std::optional<BoxShift>> SearchShifts(const imaging::Page& page,
                                                   profiles::ProfileRecord profile) {
     profile.Active = true;
-    recognition::ProfileMatch match = SearchProfile(page, profile);
+    recognition::ProfileMatch match = recognition::ClassifyImage(page, {&profile, 1}).matches.front();
     const bool isSpread = match.found > 0 && TrySpread(profile, match.shifts);
     std::vector<std::optional<BoxShift>> shifts;
     for (const BoxShift& shift : match.shifts)
@@ -70,12 +67,18 @@ std::vector<std::optional<BoxShift>> KnownShifts(const profiles::ProfileRecord& 
     return known;
 }
 
+// The described rules read no page that lies upside down; who has one there has let precise alignment read
+// it, and its places mean nothing to them.
+bool IsReadPrecisely(const OpenForm& form, const recognition::PreciseReader* precise) {
+    return precise != nullptr && (precise->Reads() || form.IsUpsideDown);
+}
+
 std::vector<recognition::BoxMeasure> MeasureBoxes(const OpenForm& form, const imaging::Page& page,
+                                                  std::span<const std::optional<BoxShift>> known,
                                                   std::int16_t fillThreshold,
                                                   recognition::PreciseReader* precise) {
     std::vector<recognition::BoxMeasure> measures;
-    if (precise != nullptr && precise->Reads()) {
-        const auto known = KnownShifts(form.Profile, form.Marks);
+    if (IsReadPrecisely(form, precise)) {
         for (const recognition::MarkReading& reading :
              precise->ReadAt(page, form.Profile, known, fillThreshold))
             measures.push_back({reading.rect, reading.fill});
@@ -88,17 +91,29 @@ std::vector<recognition::BoxMeasure> MeasureBoxes(const OpenForm& form, const im
     return measures;
 }
 
-// Boxes that a second look reads otherwise than the measured ink does.
-std::vector<bool> ReadOtherwise(const OpenForm& form, const imaging::Page& page,
-                                std::span<const recognition::BoxMeasure> measures, std::int16_t fillThreshold,
-                                recognition::PreciseReader* precise) {
-    std::vector<bool> otherwise(measures.size(), false);
+// Boxes that a second look reads otherwise; all of them where it does not see the form at all.
+std::vector<bool> ReadOtherwise(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                                std::span<const recognition::MarkReading> readings,
+                                std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+    std::vector<bool> otherwise(readings.size(), false);
     if (precise == nullptr || !precise->GivesSecondOpinion())
         return otherwise;
-    const recognition::PreciseReading second = precise->ReadAs(page, form.Profile, fillThreshold);
-    for (std::size_t k = 0; k < second.marks.size(); ++k)
-        otherwise[k] = measures[k].fill && (*measures[k].fill >= fillThreshold) != second.marks[k].Checked;
+    const recognition::SecondOpinion opinion = precise->OpinionOn(page, profile, readings, fillThreshold);
+    otherwise.assign(readings.size(), opinion.otherProfile);
+    for (const std::size_t box : opinion.boxes)
+        otherwise[box] = true;
     return otherwise;
+}
+
+// What the measured ink of the boxes says.
+std::vector<recognition::MarkReading> ReadingsOf(std::span<const recognition::BoxMeasure> measures,
+                                                 std::int16_t fillThreshold) {
+    std::vector<recognition::MarkReading> readings;
+    for (const recognition::BoxMeasure& measure : measures) {
+        const double fill = measure.fill.value_or(0);
+        readings.push_back({{}, {}, measure.rect, fill, fill >= fillThreshold});
+    }
+    return readings;
 }
 
 // The precise reading of a form against a profile; nothing where it is not wanted or does not see the form.
@@ -106,7 +121,7 @@ std::vector<recognition::MarkReading> ReadFormPrecisely(const OpenForm& form, co
                                                         const profiles::ProfileRecord& profile,
                                                         std::int16_t fillThreshold,
                                                         recognition::PreciseReader* precise) {
-    if (precise == nullptr || !precise->Reads())
+    if (!IsReadPrecisely(form, precise))
         return {};
     if (profile.Name == form.SavedProfile) {
         auto readings = precise->ReadAt(page, profile, KnownShifts(profile, form.Opened), fillThreshold);
@@ -125,8 +140,12 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
     form.Skipped += static_cast<int>(std::ranges::count_if(marks, [](const auto& mark) { return !mark; }));
     if (page == nullptr)
         return;
-    const std::vector<recognition::BoxMeasure> measures = MeasureBoxes(form, *page, fillThreshold, precise);
-    const std::vector<bool> otherwise = ReadOtherwise(form, *page, measures, fillThreshold, precise);
+    const std::vector<std::optional<BoxShift>> known = KnownShifts(form.Profile, form.Marks);
+    form.IsUpsideDown = LiesUpsideDown(*page, form.Profile, known);
+    const std::vector<recognition::BoxMeasure> measures =
+        MeasureBoxes(form, *page, known, fillThreshold, precise);
+    const std::vector<bool> otherwise =
+        ReadOtherwise(*page, form.Profile, ReadingsOf(measures, fillThreshold), fillThreshold, precise);
     for (std::size_t k = 0; k < marks.size(); ++k) {
         if (!marks[k]) {
             form.SkippedRects.push_back(measures[k].rect);
@@ -138,10 +157,17 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
     }
 }
 
-void FindLostShifts(OpenForm& form, const imaging::Page& page) {
+void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fillThreshold,
+                    recognition::PreciseReader* precise) {
     if (HasShift(form.Opened) || form.Profile.Boxes.empty())
         return;
-    const std::vector<std::optional<BoxShift>> shifts = SearchShifts(page, form.Profile);
+    std::vector<std::optional<BoxShift>> shifts;
+    if (precise != nullptr && precise->Reads())
+        for (const recognition::MarkReading& reading :
+             precise->ReadAs(page, form.Profile, fillThreshold).marks)
+            shifts.emplace_back(reading.Shift);
+    if (shifts.empty())
+        shifts = SearchShifts(page, form.Profile);
     const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Opened);
     for (std::size_t k = 0; k < marks.size(); ++k)
         if (marks[k])
@@ -168,8 +194,12 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
     read.SavedProfile = form.SavedProfile;
     read.Marks = read.Result.Marks();
     read.Changed = form.Changed;
-    for (const recognition::MarkReading& reading : readings)
-        read.Boxes.push_back(Measured(reading.rect, reading.fill, fillThreshold));
+    read.IsUpsideDown = LiesUpsideDown(page, profile, KnownShifts(profile, read.Marks));
+    const std::vector<bool> otherwise = ReadOtherwise(page, profile, readings, fillThreshold, precise);
+    for (std::size_t k = 0; k < readings.size(); ++k) {
+        read.Boxes.push_back(Measured(readings[k].rect, readings[k].fill, fillThreshold));
+        read.Boxes.back().isDoubtful = read.Boxes.back().isDoubtful || otherwise[k];
+    }
     return read;
 }
 

@@ -15,8 +15,9 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
                  recognition::PreciseReader* precise);
 
 /// Searches the shifts of a form whose document has none, as a run would, but for its own profile alone. They
-/// are kept with the form; nothing is written.
-void FindLostShifts(OpenForm& form, const imaging::Page& page);
+/// are kept with the form; nothing is written. `precise`, which may be null, searches where it is to read.
+void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fillThreshold,
+                    recognition::PreciseReader* precise);
 
 /// The form as it reads against `profile`, at the shifts that its document had when it was opened: what was
 /// read against another profile in between may have lost them. Nothing is written. Throws

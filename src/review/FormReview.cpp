@@ -64,7 +64,7 @@ bool FormReview::Prepare(OpenForm& form) {
     form.Profile = *profile;
     form.OpenedProfile = *profile;
     if (page_)
-        FindLostShifts(form, *page_);
+        FindLostShifts(form, *page_, settings_.FillThreshold, context_.precise);
     MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);

@@ -53,6 +53,7 @@ void FormScreen::ClearBoxes() {
 void FormScreen::ShowBoxes(const OpenForm& form) {
     context_.page.ClearRects();
     context_.rows.ClearRows(profiles::BoxColumns::NameValInk);
+    context_.page.TurnPage(form.IsUpsideDown);
     for (int number = 1; static_cast<std::size_t>(number) <= form.Marks.size(); ++number)
         PutBox(form, number);
 }

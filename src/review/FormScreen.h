@@ -14,7 +14,7 @@ class FormScreen {
     void Clear();
     void ClearPanels();
 
-    /// Replaces the boxes by those of the form.
+    /// Replaces the boxes by those of the form, and shows its page the right way up.
     void ShowBoxes(const OpenForm& form);
 
     /// Draws the places of the boxes that its document lacks.

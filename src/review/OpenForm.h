@@ -40,6 +40,7 @@ struct OpenForm {
     /// The current marks and what is shown of them: one each for every box of the document, in its order.
     std::vector<recognition::ResultMark> Marks;
     std::vector<FormBox> Boxes;
+    bool IsUpsideDown = false;  ///< The image, as the places of the boxes tell.
 
     /// Places of the profile's boxes that the document lacks; empty without an image to draw them on.
     std::vector<imaging::PageRect> SkippedRects;

@@ -224,7 +224,7 @@ TEST(ReadingLedger, NoClassReadsLessThanBefore) {
         if (!floors.contains(kind.Name))
             continue;
         ++known;
-        const samples::ReadingRow row = ScoreClass(kind, 2, samples::Seeds::Even);
+        const samples::ReadingRow row = ScoreClass(kind, 2, {.Even = true});
         EXPECT_EQ(row.Precise.Recognised, 2U) << kind.Name;
         EXPECT_GE(100.0 * static_cast<double>(row.Precise.Right),
                   floors.at(kind.Name) * static_cast<double>(row.Boxes))

@@ -101,7 +101,7 @@ class ReviewWorld : public RunWorld {
 
     TestForm form_ = TestForm::Grid(2, 2);
     FakeReviewScreen list_{transcript_};
-    review::ReviewContext context_{files_, log_, person_, screen_, screen_, list_, list_};
+    review::ReviewContext context_{files_, log_, person_, screen_, screen_, list_, list_, &reader_};
     review::ReviewSession review_{context_, settings_, folders_, profiles_};
     commands::CommandGate gate_{
         {person_, log_,

@@ -12,11 +12,10 @@ using test::TestForm;
 class PreciseRunTest : public test::RunWorld {
   protected:
     void RunWith(const ReadingOptions& options) {
-        options_ = options;
-        profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
+        reading_ = options;
         form_.SaveScan(folders_.ProcessIn + "far.tif", {.checked = {2, 7}, .dx = 40, .dy = -30});
         form_.SaveScan(folders_.ProcessIn + "near.tif", {.checked = {1}});
-        preciseRun_.Run(profiles_);
+        Process();
     }
 
     bool HasResult(const std::string& name) const {
@@ -35,9 +34,6 @@ class PreciseRunTest : public test::RunWorld {
 
     TestForm form_ = TestForm::Grid(4, 3);
     std::string profile_ = AddSpecimenProfile("Form", form_);
-    ReadingOptions options_;
-    PreciseReader reader_{files_, options_};
-    ProcessRun preciseRun_{{files_, log_, person_, clock_, screen_, screen_, &reader_}, settings_, folders_};
 };
 
 TEST_F(PreciseRunTest, ReadsByOneMapWhenItIsOn) {
@@ -51,7 +47,7 @@ TEST_F(PreciseRunTest, ReadsByOneMapWhenItIsOn) {
         EXPECT_NEAR(marks[k].Shift->dy, -30, 1);
     }
     EXPECT_TRUE(Logged("Image [far.tif] classified as [Form] with confidence [100.00] "));
-    EXPECT_TRUE(preciseRun_.Opinions().unread.empty());
+    EXPECT_TRUE(run_.Opinions().unread.empty());
 }
 
 TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
@@ -59,10 +55,9 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
     EXPECT_FALSE(HasResult("far"));
     EXPECT_TRUE(HasResult("near"));
     EXPECT_TRUE(Logged("Image [far.tif] unclassified"));
-    EXPECT_EQ(preciseRun_.Opinions().unread, std::vector<std::string>{"far.tif"});
-    EXPECT_EQ(preciseRun_.Opinions().boxes, 0);
-    EXPECT_EQ(TextOf(preciseRun_.Opinions()),
-              "1 form looks turned or stretched: Precise Alignment reads it.");
+    EXPECT_EQ(run_.Opinions().unread, std::vector<std::string>{"far.tif"});
+    EXPECT_EQ(run_.Opinions().boxes, 0);
+    EXPECT_EQ(TextOf(run_.Opinions()), "1 form looks turned or stretched: Precise Alignment reads it.");
 
     const std::string before = test::ReadText(folders_.ProcessOut + "near.xml");
     const auto names = std::vector<std::string>{"far.tif", "near.tif", "gone.tif"};
@@ -75,16 +70,62 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
 TEST_F(PreciseRunTest, AReplacedSpecimenIsTold) {
     TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
     RunWith({.secondOpinion = true});
-    EXPECT_EQ(preciseRun_.Opinions().replaced, std::vector<std::string>{"Form"});
+    EXPECT_EQ(run_.Opinions().replaced, std::vector<std::string>{"Form"});
+    reading_ = {.preciseAlignment = true};
+    AddSpecimenProfile("Form", form_);
+    Process();
+    EXPECT_EQ(TextOf(run_.Opinions()), "");
+    TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
+    RunWith({.preciseAlignment = true});
+    EXPECT_EQ(TextOf(run_.Opinions()),
+              "The boxes of profile Form do not lie on its specimen image: it was replaced.");
 }
 
-TEST_F(PreciseRunTest, OffLeavesEverythingAsItIs) {
-    RunWith({});
-    EXPECT_EQ(TextOf(preciseRun_.Opinions()), "");
-    EXPECT_FALSE(HasResult("far"));
-    const std::string near = test::ReadText(folders_.ProcessOut + "near.xml");
-    RunWith({.secondOpinion = true});
-    EXPECT_EQ(test::ReadText(folders_.ProcessOut + "near.xml"), near);
+// Without its specimen a profile of few boxes is never certain; that is no reason to doubt every form of it.
+TEST_F(PreciseRunTest, WhatCannotBeJudgedIsNotDoubted) {
+    form_ = TestForm::Grid(2, 1);
+    AddProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1}});
+    reading_ = {.secondOpinion = true};
+    Process();
+    EXPECT_TRUE(Logged("Image [a.tif] classified as [Form] with confidence [100.00] "));
+    EXPECT_EQ(TextOf(run_.Opinions()), "");
+}
+
+// A run over forms of all sorts, the same whenever it is made: what it leaves in the folders, and what it
+// shows.
+TEST_F(PreciseRunTest, ASecondOpinionLeavesFoldersLogsAndScreenAsTheyAreWithoutIt) {
+    settings_.DisplayDuringProcess = true;
+    AddProfile("Few", TestForm::Grid(2, 1, 40, 300, 300));
+    AddProfile("Column", TestForm::Grid(1, 3, 30, 500, 100));
+    const auto run = [this](const ReadingOptions& options) {
+        TestForm::Grid(2, 1, 40, 300, 300).SaveScan(folders_.ProcessIn + "few.tif", {.checked = {1}});
+        TestForm::Grid(1, 3, 30, 500, 100).SaveScan(folders_.ProcessIn + "column.tif", {});
+        for (int k = 0; k < 12; ++k)
+            form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(k) + ".tif", {.checked = {k, k + 3},
+                                                                                      .dx = 5 * k - 30,
+                                                                                      .dy = 20 - 3 * k,
+                                                                                      .missing = {k % 5 + 1},
+                                                                                      .upsideDown = k == 9});
+        test::WriteText(folders_.ProcessIn + "broken.tif", "no image");
+        RunWith(options);
+        std::vector<std::string> left = transcript_.Lines();
+        for (const std::string& folder : {folders_.ProcessOut, folders_.Log}) {
+            for (const std::string& name : In(folder)) {
+                left.push_back(name + ": " + test::ReadText(folder + name));
+                files_.Delete(folder + name);
+            }
+        }
+        return left;
+    };
+    const std::vector<std::string> without = run({});
+    EXPECT_EQ(TextOf(run_.Opinions()), "");
+    const auto with = run({.secondOpinion = true});
+    ASSERT_EQ(with.size(), without.size());
+    for (std::size_t k = 0; k < with.size(); ++k)
+        EXPECT_EQ(with[k], without[k]);
+    EXPECT_GE(run_.Opinions().unread.size(), 2U);
+    EXPECT_NE(run({.preciseAlignment = true}), without);
 }
 
 }  // namespace

@@ -18,18 +18,23 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
 
     std::map<int, imaging::PageRect> rects;
     std::map<int, std::string> rows;  ///< Names.
+    bool isTurned = false;
     int emphasised = 0;
     int selectedRow = 0;
     int nextGroup = 0;
     imaging::ScrollOffset scroll;
 
     void ShowFile(const std::string& path) override {
+        isTurned = false;
         transcript_.Add("view: show " + path.substr(path.find_last_of("/\\") + 1));
     }
     void ShowPicture(const imaging::Bitmap& picture) override {
+        isTurned = false;
         transcript_.Add("view: picture " + Text(picture.Width()) + "x" + Text(picture.Height()));
     }
+    void TurnPage(bool turned) override { isTurned = turned; }
     void Clear() override {
+        isTurned = false;
         rects.clear();
         transcript_.Add("view: clear");
     }

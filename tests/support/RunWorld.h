@@ -77,7 +77,10 @@ class RunWorld : public ::testing::Test {
     app::Settings settings_;
     app::WorkingFolders folders_ = app::PathsUnder(work_.Path());
     app::ActivityLog log_{files_, clock_, person_, folders_.Log};
-    recognition::ProcessRun run_{{files_, log_, person_, clock_, screen_, screen_}, settings_, folders_};
+    recognition::ReadingOptions reading_;  // all off
+    recognition::PreciseReader reader_{files_, reading_};
+    recognition::ProcessRun run_{
+        {files_, log_, person_, clock_, screen_, screen_, &reader_}, settings_, folders_};
     std::vector<profiles::ProfileRecord> profiles_;
 };
 

@@ -35,11 +35,17 @@ samples::Canvas TestForm::Paint(const Filling& filling) const {
         if (filling.missing.contains(number))
             continue;
         // The ordinate T stands for scan line T - 1 counted from the top.
-        const int x = box.L + filling.dx;
-        const int y = box.T - 1 - filling.dy;
-        canvas.DrawRect(x, y, box.R - box.L + 1, box.B - box.T + 1, 1);
+        const int across = box.R - box.L + 1;
+        const int down = box.B - box.T + 1;
+        int x = box.L + filling.dx;
+        int y = box.T - 1 - filling.dy;
+        if (filling.upsideDown) {
+            x = width - x - across;
+            y = height - y - down;
+        }
+        canvas.DrawRect(x, y, across, down, 1);
         if (filling.checked.contains(number))
-            canvas.FillRect(x + 4, y + 4, box.R - box.L - 7, box.B - box.T - 7);
+            canvas.FillRect(x + 4, y + 4, across - 8, down - 8);
     }
     return canvas;
 }

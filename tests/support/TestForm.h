@@ -25,6 +25,7 @@ struct TestForm {
         int dx = 0;                  ///< How far the print lies off its place: right,
         int dy = 0;                  ///< and up.
         std::set<int> missing = {};  ///< Boxes that are not printed at all.
+        bool upsideDown = false;     ///< All of it is turned by half a turn at last.
     };
     samples::Canvas Paint(const Filling& filling) const;
 

@@ -14,7 +14,7 @@ using namespace tavrene::samples;
 
 constexpr const char* kUsage =
     "Scores both readings on painted scans whose marks are known.\n"
-    "  tavrene-score-reading [--pages N] [--strangers N] [--class TEXT] [--even] [--tell]\n"
+    "  tavrene-score-reading [--pages N] [--strangers N] [--class TEXT] [--from N] [--even] [--tell]\n"
     "                                     one line a class, fields parted by tabs: name, pages, boxes; "
     "described:\n"
     "                                     forms recognised, mistaken, boxes of these, right; the same "
@@ -22,12 +22,13 @@ constexpr const char* kUsage =
     "                                     errors of the described reading, and how many the other one flags\n"
     "  tavrene-score-reading --table FILE   the lines of FILE as a table\n"
     "  tavrene-score-reading --curves FILE  the same as a picture (SVG)\n"
-    "--even takes the seeds on which the constants were chosen; --tell names every page that goes wrong.\n";
+    "--from leaves out the first N pages of every class; --even takes the seeds on which the constants were\n"
+    "chosen; --tell names every page that goes wrong.\n";
 
 struct Options {
     std::size_t Pages = 16;
     std::size_t Strangers = 16;
-    Seeds Which = Seeds::Odd;
+    SeedRange Seeds;
     std::string Part;
     std::string Table;
     std::string Curves;
@@ -41,7 +42,7 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
         const std::string argument = arguments[index];
         const int left = count - index - 1;
         if (argument == "--even") {
-            options.Which = Seeds::Even;
+            options.Seeds.Even = true;
         } else if (argument == "--tell") {
             options.Tell = true;
         } else if (left < 1) {
@@ -50,6 +51,8 @@ std::optional<Options> ParseArguments(int count, char** arguments) {
             options.Pages = static_cast<std::size_t>(std::atoi(arguments[++index]));
         } else if (argument == "--strangers") {
             options.Strangers = static_cast<std::size_t>(std::atoi(arguments[++index]));
+        } else if (argument == "--from") {
+            options.Seeds.First = static_cast<std::size_t>(std::atoi(arguments[++index]));
         } else if (argument == "--class") {
             options.Part = arguments[++index];
         } else if (argument == "--table") {
@@ -77,7 +80,7 @@ void Score(const Options& options) {
             continue;
         const std::size_t pages = kind.Stranger ? options.Strangers : options.Pages;
         const ReadingRow row =
-            ScoreClass(kind, pages, options.Which,
+            ScoreClass(kind, pages, options.Seeds,
                        options.Tell ? std::function<void(const std::string&)>(tell) : nullptr);
         std::cout << LineOf(row) << std::endl;  // at once: the whole takes a while
     }

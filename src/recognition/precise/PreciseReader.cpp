@@ -5,6 +5,14 @@
 #include "recognition/precise/ShiftFit.h"
 
 namespace tavrene::recognition {
+namespace {
+
+profiles::ProfileRecord Activated(profiles::ProfileRecord profile) {
+    profile.Active = true;
+    return profile;
+}
+
+}  // namespace
 
 PreciseReading PreciseReader::Read(const imaging::Page& page,
                                    std::span<const profiles::ProfileRecord> profiles,
@@ -15,9 +23,26 @@ PreciseReading PreciseReader::Read(const imaging::Page& page,
 
 PreciseReading PreciseReader::ReadAs(const imaging::Page& page, const profiles::ProfileRecord& profile,
                                      std::int16_t fillThreshold) {
-    profiles::ProfileRecord active = profile;
-    active.Active = true;
+    const profiles::ProfileRecord active = Activated(profile);
     return Read(page, {&active, 1}, fillThreshold);
+}
+
+SecondOpinion PreciseReader::OpinionOn(const imaging::Page& page,
+                                       std::span<const profiles::ProfileRecord> profiles, int winner,
+                                       std::span<const MarkReading> marks, std::int16_t fillThreshold) {
+    const PreciseReading reading = Read(page, profiles, fillThreshold);
+    if (winner >= 0 && reading.winner < 0) {
+        const SpecimenPrint* const print = prints_.Of(profiles[static_cast<std::size_t>(winner)]);
+        if (print == nullptr || !print->belongs)
+            return {};
+    }
+    return CompareReadings(winner, marks, reading);
+}
+
+SecondOpinion PreciseReader::OpinionOn(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                                       std::span<const MarkReading> marks, std::int16_t fillThreshold) {
+    const profiles::ProfileRecord active = Activated(profile);
+    return OpinionOn(page, {&active, 1}, 0, marks, fillThreshold);
 }
 
 std::vector<MarkReading> PreciseReader::ReadAt(const imaging::Page& page,

@@ -30,6 +30,15 @@ class PreciseReader {
     PreciseReading ReadAs(const imaging::Page& page, const profiles::ProfileRecord& profile,
                           std::int16_t fillThreshold);
 
+    /// What it says to a reading of `page` by the described rules, as in `CompareReadings`. It does not
+    /// doubt a profile without a specimen to know it by.
+    SecondOpinion OpinionOn(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
+                            int winner, std::span<const MarkReading> marks, std::int16_t fillThreshold);
+
+    /// The same on a form that was taken for one profile, active or not.
+    SecondOpinion OpinionOn(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                            std::span<const MarkReading> marks, std::int16_t fillThreshold);
+
     /// The boxes of a profile at known shifts, one entry a box; the others take their place from these.
     /// Nothing when none is known.
     std::vector<MarkReading> ReadAt(const imaging::Page& page, const profiles::ProfileRecord& profile,

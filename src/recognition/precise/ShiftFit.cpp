@@ -42,19 +42,30 @@ Fit FitOneWay(const imaging::Page& page, const profiles::ProfileRecord& profile,
         const CellPoint mapped = fit.map(sighting.place);
         fit.cost += std::hypot(mapped.x - sighting.seen.x, mapped.y - sighting.seen.y);
     }
-    // With one or two boxes both ways fit: then the one that asks less of the page.
+    // With one or two boxes both ways fit: then the one that asks clearly less of the page.
     fit.cost += std::hypot(fit.map.shiftX, fit.map.shiftY) / kShiftReach + 100 * std::abs(fit.map.Turn());
     return fit;
 }
 
+Fit FitBetterWay(const imaging::Page& page, const profiles::ProfileRecord& profile, const FormScale& scale,
+                 std::span<const std::optional<BoxShift>> known) {
+    constexpr double upsideDownIsRare = 1;
+    const Fit upright = FitOneWay(page, profile, scale, known, false);
+    const Fit turned = FitOneWay(page, profile, scale, known, true);
+    return turned.cost + upsideDownIsRare < upright.cost ? turned : upright;
+}
+
 }  // namespace
+
+bool LiesUpsideDown(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                    std::span<const std::optional<BoxShift>> known) {
+    return FitBetterWay(page, profile, ScaleBetween(page, profile), known).turned;
+}
 
 FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
                           std::span<const std::optional<BoxShift>> known) {
     const FormScale scale = ScaleBetween(page, profile);
-    const Fit upright = FitOneWay(page, profile, scale, known, false);
-    const Fit turned = FitOneWay(page, profile, scale, known, true);
-    const Fit& fit = turned.cost < upright.cost ? turned : upright;
+    const Fit fit = FitBetterWay(page, profile, scale, known);
     FormPlaces places;
     places.turned = fit.turned;
     places.shifts.reserve(profile.Boxes.size());

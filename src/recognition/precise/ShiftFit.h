@@ -10,6 +10,11 @@
 
 namespace tavrene::recognition {
 
+/// Whether the known shifts of boxes (one entry a box) are those of a page that lies upside down. Not while
+/// none is known.
+bool LiesUpsideDown(const imaging::Page& page, const profiles::ProfileRecord& profile,
+                    std::span<const std::optional<BoxShift>> known);
+
 /// The places of all boxes of a profile when only some are known (one entry a box): a box without one takes
 /// its place from the map that fits the others, also on a page that lies upside down. 0,0 when none is known.
 FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,

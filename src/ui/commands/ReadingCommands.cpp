@@ -39,9 +39,10 @@ void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
 }
 
 void ReadingCommands::ReadAgain() {
-    const int count = recognition::ReadFormsAgain(
-        std::exchange(unread_, {}), state_.folders.ProcessOut, context_.files, context_.log, context_.person,
-        context_.reader, state_.profiles, state_.settings.FillThreshold);
+    const int count = recognition::ReadFormsAgain(unread_, state_.folders.ProcessOut, context_.files,
+                                                  context_.log, context_.person, context_.reader,
+                                                  state_.profiles, state_.settings.FillThreshold);
+    unread_.clear();
     context_.person.ShowNotices(
         std::array{app::Notice{std::to_string(count) + (count == 1 ? " form was" : " forms were") +
                                " read by Precise Alignment and can be reviewed."}});

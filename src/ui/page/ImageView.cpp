@@ -62,6 +62,8 @@ void ImageView::SetPage(const QImage& image) {
         lastScroll_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     }
     page_->SetImage(image);
+    isTurned_ = false;
+    Transform();
     // Without a rectangle of its own the scene would keep the room that earlier pages took.
     scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
     const bool sameSize = HasPage() && image.size() == lastSize_;
@@ -90,6 +92,24 @@ void ImageView::ShowPicture(const imaging::Bitmap& picture) {
     SetPage(ToImage(picture));
 }
 
+// What is scrolled to stays the same part of the picture that the person sees.
+void ImageView::TurnPage(bool isTurned) {
+    if (isTurned == isTurned_)
+        return;
+    const QPoint scroll{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    isTurned_ = isTurned;
+    Transform();
+    ScrollTo(scroll);
+}
+
+// A turned page takes the same room as an upright one, so that scrolling goes on as before.
+void ImageView::Transform() {
+    const double scale = zoom_ / 100;
+    const QSizeF size = page_->Size() * scale;
+    setTransform(isTurned_ ? QTransform(-scale, 0, 0, -scale, size.width(), size.height())
+                           : QTransform::fromScale(scale, scale));
+}
+
 void ImageView::Clear() {
     ClearRects();
     SetPage({});
@@ -97,7 +117,7 @@ void ImageView::Clear() {
 
 void ImageView::SetZoom(double percent) {
     zoom_ = percent;
-    setTransform(QTransform::fromScale(percent / 100, percent / 100));
+    Transform();
     if (!HasPage())
         lastSize_ = {};
     if (isUnseen_)

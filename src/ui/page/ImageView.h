@@ -26,6 +26,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// boxes are drawn before its page is shown.
     void ShowFile(const std::string& path) override;
     void ShowPicture(const imaging::Bitmap& picture) override;
+    void TurnPage(bool isTurned) override;
     void Clear() override;
     double Zoom() const override { return zoom_; }
 
@@ -83,6 +84,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
   private:
     bool HasPage() const { return !page_->Size().isEmpty(); }
     void SetPage(const QImage& image);
+    void Transform();
     void ScrollTo(const QPoint& offset);
     QPointF PagePoint(const QMouseEvent& event) const;
     void Pan(const QPoint& position);
@@ -97,6 +99,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     std::optional<QPoint> panFrom_;
     QString hint_;
     double zoom_ = 100;
+    bool isTurned_ = false;
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
     int pushedDown_ = 0;    ///< By what came to stand above the view, until the view has its new size.
