@@ -229,7 +229,6 @@ void ProfileSession::RebuildStrip() {
 }
 
 void ProfileSession::Close() {
-    context_.person.ShowNotices({});
     context_.person.ShowStandingNotices(notes_);
     lasting_.clear();
     editor_.Clear();

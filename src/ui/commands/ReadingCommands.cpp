@@ -26,6 +26,11 @@ void ReadingCommands::Switch(bool& option, std::string_view name) {
     context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
 }
 
+void ReadingCommands::RunBegins() {
+    unread_.clear();
+    context_.person.ShowNotices({});
+}
+
 void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
     unread_ = opinions.unread;
     app::Notice notice{recognition::TextOf(opinions)};

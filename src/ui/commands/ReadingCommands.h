@@ -34,6 +34,9 @@ class ReadingCommands {
     /// The references must outlive the object.
     ReadingCommands(AppState& state, const Context& context, std::function<void()> formsRead);
 
+    /// What was told of the run before is over.
+    void RunBegins();
+
     /// Tells what the second opinion on a run has come to; forms that it alone recognises are offered to
     /// `ReadAgain` until the next run.
     void RunEnded(const recognition::OpinionTally& opinions);

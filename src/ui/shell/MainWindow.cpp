@@ -165,6 +165,7 @@ commands::Mode MainWindow::CurrentMode() const {
 // What it says and shows belongs to the run from here on, before its first file.
 void MainWindow::RunBegins() {
     desk_.Close();
+    reading_.RunBegins();
     review_.RunBegins();
     UpdateCommands();
 }
