@@ -289,6 +289,10 @@ TEST_F(ReviewWalkTest, ShiftsAreTakenByNameThenPlaceThenOrderThenFromTheNearest)
         return text;
     };
     EXPECT_EQ(shifts(old, {}), "1234");
+    profiles::ProfileRecord twins = old;
+    twins.Boxes[1].Name = marks[1].Name = marks[0].Name;
+    EXPECT_EQ(shifts(twins, {}), "1234") << "of equal names each its own";
+    marks = MarksOf(form_);
     profiles::ProfileRecord other = old;
     std::swap(other.Boxes[0], other.Boxes[3]);
     EXPECT_EQ(shifts(other, old), "4231") << "by name, wherever it stands";
