@@ -89,11 +89,15 @@ std::optional<Extent> ExtentOf(std::span<const std::byte> content, ImageFormat f
             return Extent{first.width, first.height, first.decodedBytes};
         return std::nullopt;
     }
+    if (format == ImageFormat::Jpeg) {
+        // The library unpacks all scans of a progressive file before it tells its size.
+        const JpegOutline jpeg = OutlineOfJpeg(content);
+        return Extent{jpeg.width, jpeg.height, jpeg.width * jpeg.height * jpeg.components + jpeg.heldBytes};
+    }
     const Bitmap header = DecodeImage(content, format, Decode::HeaderOnly);
     if (!header)
         return std::nullopt;
-    const std::int64_t held = format == ImageFormat::Jpeg ? OutlineOfJpeg(content).heldBytes : 0;
-    return Extent{header.Width(), header.Height(), std::int64_t{header.Pitch()} * header.Height() + held};
+    return Extent{header.Width(), header.Height(), std::int64_t{header.Pitch()} * header.Height()};
 }
 
 bool IsWithinLimits(const Extent& extent) {

@@ -48,9 +48,9 @@ bool WalkSegments(std::span<const std::byte> content, See see) {
 // Which bits of the picture have come: of each component's 64 coefficients the lowest bit sent so far.
 class Scans {
   public:
-    void StartPicture(const ByteReader& reader, std::uint64_t segment) {
+    void StartPicture(const ByteReader& reader, std::uint64_t segment, JpegOutline& outline) {
         isProgressive_ = reader.Number(segment + 1, 1) == kProgressive;
-        hasManyScans_ = isProgressive_;
+        hasManyScans_ = hasManyScans_ || isProgressive_;
         lowest_.clear();
         std::int64_t blocks = 0;
         std::int64_t across = 1;  // blocks of the finest component in one unit
@@ -62,9 +62,13 @@ class Scans {
             across = std::max(across, sampling >> 4);
             down = std::max(down, sampling & 15);
         }
-        const auto height = static_cast<std::int64_t>(reader.Number(segment + 5, 2));
-        const auto width = static_cast<std::int64_t>(reader.Number(segment + 7, 2));
-        coefficientBytes_ = Units(width, across) * Units(height, down) * blocks * kBlockSide * kBlockSide * 2;
+        // Of several pictures, which no sound file has, the largest counts: the library may take any.
+        outline.width = std::max(outline.width, static_cast<std::int64_t>(reader.Number(segment + 7, 2)));
+        outline.height = std::max(outline.height, static_cast<std::int64_t>(reader.Number(segment + 5, 2)));
+        outline.components = std::max(outline.components, static_cast<std::int64_t>(lowest_.size()));
+        coefficientBytes_ =
+            std::max(coefficientBytes_, Units(outline.width, across) * Units(outline.height, down) * blocks *
+                                            kBlockSide * kBlockSide * 2);
     }
 
     void Add(const ByteReader& reader, std::uint64_t segment) {
@@ -126,7 +130,7 @@ JpegOutline OutlineOfJpeg(std::span<const std::byte> content) {
         if (marker == kJfif)
             outline.isMeasured = outline.isMeasured || IsMeasured(reader, segment);
         else if (StartsPicture(marker))
-            scans.StartPicture(reader, segment);
+            scans.StartPicture(reader, segment, outline);
         else if (marker == kStartOfScan)
             scans.Add(reader, segment);
     });

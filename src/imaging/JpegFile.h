@@ -11,6 +11,9 @@ struct JpegOutline {
     bool isMeasured = false;   ///< A resolution: its JFIF segment measures dots an inch or a centimetre.
     bool hasAllScans = false;  ///< Every component has its scans, in a progressive file down to the last bit.
     bool hasEndMarker = false;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    std::int64_t components = 0;
 
     /// What the decoder holds beside the picture until the last scan has come: all coefficients of a picture
     /// that is sent in several scans.
