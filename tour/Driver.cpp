@@ -10,6 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <stdexcept>
@@ -71,10 +72,7 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
-    if (auto& reports = Find<QDialog>(window_, "FileReports"); reports.isVisible()) {
-        Shoot(reports, "5-messages-about-files");
-        reports.close();
-    }
+    Find<QToolButton>(window_, "cmdCloseSummary").click();
     ShootProfileDesk();
     ShootReview();
     ShootSettingsDialog();

@@ -47,7 +47,9 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
                      "panel ElapsedTime: Checked:2 of 4"}));
     for (int saves = 0; saves < 2; ++saves) {
         Okay();
-        EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"}) << "a form counts once";
+        EXPECT_EQ(transcript_.Lines(),
+                  (Names{"panel Message: Saved Form: b", "panel File: Reviewed: 1 of 3"}))
+            << "a form counts once";
     }
     EXPECT_EQ(list_.lines, (Names{"a 100", "+ b 100", "c 100"}));
     std::string saved = before;
