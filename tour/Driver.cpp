@@ -10,6 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <stdexcept>
@@ -73,9 +74,7 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
-    if (auto& reports = Find<QDialog>(window_, "FileReports"); reports.isVisible())
-        Shoot(reports, "5-messages-about-files");
-    CloseReports();
+    CloseSummary();
     ShootProfileDesk();
     ShootReview();
     ShootSettingsDialog();
@@ -85,7 +84,7 @@ void Driver::ReadPrecisely() {
     auto& precise = Find<QAction>(window_, "PreciseAlignment");
     precise.trigger();
     Press("Process");
-    CloseReports();
+    CloseSummary();
     Press("Review");
     OpenForm(kUpsideDown);
     Press("FitPage");
@@ -132,8 +131,8 @@ void Driver::ShootReview() {
     Press("Review");
 }
 
-void Driver::CloseReports() {
-    Find<QDialog>(window_, "FileReports").close();
+void Driver::CloseSummary() {
+    Find<QToolButton>(window_, "cmdCloseSummary").click();
 }
 
 void Driver::OpenForm(const QString& name) {

@@ -36,7 +36,7 @@ class Driver final : public QObject {
     void Press(const char* key);
     void ShootProfileDesk();
     void ShootReview();
-    void CloseReports();
+    void CloseSummary();
     void OpenForm(const QString& name);
     void ShootSettingsDialog();
 

@@ -8,8 +8,7 @@
 
 #include "app/Files.h"
 #include "app/Settings.h"
-#include "app/WorkingFolders.h"
-#include "profiles/XmlFile.h"
+#include "profiles/SampleForms.h"
 #include "ui/base/QtText.h"
 #include "ui/settings/QtSettingsStore.h"
 
@@ -31,36 +30,12 @@ void RemoveEarlierFilling(const fs::path& folder) {
     std::ofstream(mark) << "This folder is emptied whenever it is filled from the samples again.\n";
 }
 
-void CopyAll(const fs::path& from, const std::string& to) {
-    for (const fs::directory_entry& entry : fs::directory_iterator(from))
-        if (entry.is_regular_file())
-            fs::copy_file(entry.path(), app::ToPath(to) / entry.path().filename());
-}
-
-// A profile of the samples names its specimen without a folder.
-void PointAtSpecimens(app::Files& files, const app::WorkingFolders& folders) {
-    for (const std::string& name : files.List(folders.Profiles, "*.Tvp")) {
-        pugi::xml_document document =
-            profiles::ReadXml(files, folders.Profiles + name, profiles::Declaration::Refused);
-        pugi::xml_attribute image = document.document_element().attribute("Image");
-        image.set_value((folders.ProfileImages + image.value()).c_str());
-        profiles::WriteXml(files, folders.Profiles + name, document, profiles::XmlLayout::Raw);
-    }
-}
-
 }  // namespace
 
 void FillWorkingFolder(const std::string& samplesFolder, const std::string& workingFolder) {
-    const fs::path samples = app::ToPath(samplesFolder);
     RemoveEarlierFilling(app::ToPath(workingFolder));
     app::DiskFiles files;
-    if (!app::CreateWorkingFolders(files, workingFolder))
-        throw std::runtime_error("The sub-folders of " + workingFolder + " cannot be made.");
-    const app::WorkingFolders folders = app::PathsUnder(workingFolder);
-    CopyAll(samples / "blanks", folders.ProfileImages);
-    CopyAll(samples / "profiles", folders.Profiles);
-    CopyAll(samples / "scans", folders.ProcessIn);
-    PointAtSpecimens(files, folders);
+    profiles::CopySampleForms(files, samplesFolder, workingFolder);
 }
 
 void WriteSettings(const std::string& workingFolder) {

@@ -18,4 +18,7 @@ void AppendCharacter(std::string& utf8, char32_t character);
 /// programs can hold any bytes, and a spreadsheet refuses a whole file for one of them.
 std::string ValidUtf8(std::string_view text);
 
+/// The text of bytes in Windows-1252, as the logs hold it.
+std::string FromWindows1252(std::string_view bytes);
+
 }  // namespace tavrene::app

@@ -34,4 +34,15 @@ std::string ToWindows1252(std::string_view utf8) {
     return bytes;
 }
 
+std::string FromWindows1252(std::string_view bytes) {
+    std::string text;
+    for (const char byte : bytes) {
+        const auto number = static_cast<unsigned char>(byte);
+        const char32_t character =
+            number >= 0x80 && number < 0xA0 ? kHighControls.at(number - 0x80U) : number;
+        AppendCharacter(text, character == 0 && number != 0 ? kBrokenCharacter : character);
+    }
+    return text;
+}
+
 }  // namespace tavrene::app

@@ -5,9 +5,9 @@
 #include <utility>
 #include <variant>
 
+#include "app/ImageNames.h"
 #include "app/Reason.h"
 #include "imaging/ScanPicture.h"
-#include "intake/ImageNames.h"
 #include "intake/PageSource.h"
 #include "intake/StagedPages.h"
 
@@ -109,14 +109,14 @@ class Intake {
         }
         const imaging::ScanFile image = imaging::EncodeScan(std::get<imaging::Bitmap>(std::move(read)));
         staged.Add(image.content);
-        endings.push_back(PageSuffix(page, progress_.pages) + image.extension);
+        endings.push_back(app::PageSuffix(page, progress_.pages) + image.extension);
         return true;
     }
 
     app::Files& files_;
     const app::WorkingFolders& folders_;
     const Watch& watch_;
-    ImageNames names_;
+    app::ImageNames names_;
     std::vector<Source> found_;
     Progress progress_;
     Report report_;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <exception>
 #include <optional>
+#include <variant>
 #include <vector>
 
 #include "app/Reason.h"
@@ -25,6 +26,7 @@ using profiles::ProfileRecord;
 
 // What came of one file, as far as it is shown.
 struct ProcessRun::FileOutcome {
+    FileReport report;
     std::optional<imaging::Page> page;
     int winner = -1;  // index of the profile it was read as
     std::vector<MarkReading> readings;
@@ -69,6 +71,7 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     filesDone_ = 0;
     currentName_.clear();
     opinions_ = {};
+    summary_ = {};
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
     context_.log.LogProcessEvent("Processing started", ShowInStatusBar::Yes);
@@ -152,35 +155,49 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
         context_.page.SetZoom(100);
     }
     FileOutcome outcome;
-    LogFailureOf(name, [&] { Recognise(name, profiles, outcome); });
+    outcome.report.name = name;
+    if (std::string failure = LogFailureOf(name, [&] { Recognise(name, profiles, outcome); });
+        !failure.empty()) {
+        // What was read and failed all the same could not be written.
+        outcome.report.end = outcome.readings.empty() ? FileEnd::Refused : FileEnd::NotWritten;
+        outcome.report.reason = std::move(failure);
+    }
     // Also of a form that the described rules failed on.
     LogFailureOf(name, [&] { AskSecondOpinion(name, profiles, outcome); });
     if (display)
         LogFailureOf(name, [&] { ShowPage(outcome); });
-    return MoveToProcessOut(name);
+    const bool moved = MoveToProcessOut(outcome.report);
+    summary_.files.push_back(std::move(outcome.report));
+    return moved;
 }
 
 // Whatever goes wrong with one file, it moves on, and so does the run.
-void ProcessRun::LogFailureOf(const std::string& name, const std::function<void()>& step) {
+std::string ProcessRun::LogFailureOf(const std::string& name, const std::function<void()>& step) {
     try {
         step();
     } catch (const std::exception& error) {
         LogAbout(name, app::ReasonOf(error));
+        return app::ReasonOf(error);
     }
+    return {};
 }
 
 void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
                            FileOutcome& outcome) {
-    outcome.page = LoadPage(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
-    if (!outcome.page)
+    auto read = LoadPageOrReason(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
+    if (const auto* const error = std::get_if<imaging::PageError>(&read)) {
+        outcome.report.reason = imaging::ReasonOf(*error);
         return;
+    }
+    outcome.page = std::get<imaging::Page>(std::move(read));
     const imaging::Page& page = *outcome.page;
     if (const std::string failure = scratch_.WritePage(page); !failure.empty())
         LogAbout(name, failure);
     if (context_.precise != nullptr && context_.precise->Reads())
         return RecognisePrecisely(name, profiles, outcome);
     Classification classification = ClassifyImage(page, profiles);
-    context_.log.LogProcessEvent(ClassificationLine(name, classification, profiles));
+    NoteClassification(outcome.report, ClassificationLine(name, classification, profiles),
+                       classification.winner >= 0);
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
@@ -192,11 +209,18 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     outcome.winner = classification.winner;
 }
 
+void ProcessRun::NoteClassification(FileReport& report, const std::string& line, bool isRecognised) {
+    context_.log.LogProcessEvent(line);
+    report.end = isRecognised ? FileEnd::Read : FileEnd::NotRecognised;
+    report.reason = WhatItSaysOf(report.name, line);
+}
+
 void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const ProfileRecord> profiles,
                                     FileOutcome& outcome) {
     PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
-    context_.log.LogProcessEvent(
-        ClassificationLine(name, AsClassification(reading, profiles.size()), profiles));
+    NoteClassification(outcome.report,
+                       ClassificationLine(name, AsClassification(reading, profiles.size()), profiles),
+                       reading.winner >= 0);
     if (reading.winner < 0)
         return;
     outcome.readings = std::move(reading.marks);
@@ -236,7 +260,8 @@ void ProcessRun::ShowPage(const FileOutcome& outcome) {
     formStays_ = !outcome.marks.empty();
 }
 
-bool ProcessRun::MoveToProcessOut(const std::string& name) {
+bool ProcessRun::MoveToProcessOut(FileReport& report) {
+    const std::string& name = report.name;
     const std::string result = app::FileName(ResultPath(folders_.ProcessOut, name));
     try {
         switch (delivery_.Deliver(name)) {
@@ -251,12 +276,15 @@ bool ProcessRun::MoveToProcessOut(const std::string& name) {
         }
         return true;
     } catch (const std::exception& error) {
-        StayBehind(name, app::ReasonOf(error));
+        StayBehind(report, app::ReasonOf(error));
     }
     return false;
 }
 
-void ProcessRun::StayBehind(const std::string& name, const std::string& reason) {
+void ProcessRun::StayBehind(FileReport& report, const std::string& reason) {
+    const std::string& name = report.name;
+    report.end = FileEnd::NotWritten;
+    report.reason = reason;
     LogAbout(name, reason);
     if (!context_.files.FileExists(folders_.ProcessIn + name))
         return;
@@ -284,11 +312,13 @@ void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
 void ProcessRun::Finish(double start) {
     context_.person.SetProgress(0);
     const long seconds = std::lround(context_.clock.Seconds() - start);
+    summary_.seconds = seconds;
     if (stop_) {
         context_.log.LogProcessEvent("Processing interrupted by user", ShowInStatusBar::Yes);
         context_.person.ShowMessage("Stop Tavrene Process", "Process interrupted by user");
     } else {
         LogAbout(currentName_, "Processing complete");
+        context_.person.SetPanel(Panel::Message, "Processing complete");
     }
     RestoreRows();
     const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";

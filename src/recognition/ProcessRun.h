@@ -19,6 +19,7 @@
 #include "profiles/ProfileRecord.h"
 #include "recognition/FormDelivery.h"
 #include "recognition/MarkReading.h"
+#include "recognition/RunSummary.h"
 #include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::recognition {
@@ -55,6 +56,9 @@ class ProcessRun {
 
     bool IsRunning() const { return running_; }
 
+    /// What became of the files of the last run.
+    const RunSummary& Summary() const { return summary_; }
+
     /// What the second opinion on the forms of the last run has come to.
     const OpinionTally& Opinions() const { return opinions_; }
 
@@ -73,14 +77,15 @@ class ProcessRun {
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FileOutcome& outcome);
+    void NoteClassification(FileReport& report, const std::string& line, bool isRecognised);
     void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                             FileOutcome& outcome);
-    void LogFailureOf(const std::string& name, const std::function<void()>& step);
+    std::string LogFailureOf(const std::string& name, const std::function<void()>& step);
     void AskSecondOpinion(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                           const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
-    bool MoveToProcessOut(const std::string& name);
-    void StayBehind(const std::string& name, const std::string& reason);
+    bool MoveToProcessOut(FileReport& report);
+    void StayBehind(FileReport& report, const std::string& reason);
     std::string StateOf(const std::string& name) const;
     void RestoreRows();
     void LogAbout(const std::string& name, const std::string& what);
@@ -97,6 +102,7 @@ class ProcessRun {
     bool formStays_ = false;  // the last form is on the screen
     std::string currentName_;
     OpinionTally opinions_;
+    RunSummary summary_;
     std::map<std::string, std::string> stuck_;  // files that could not be moved: name, and state at that time
 };
 

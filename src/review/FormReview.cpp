@@ -29,6 +29,7 @@ const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
 
 void FormReview::Open(const std::string& document) {
     form_.reset();
+    context_.person.ShowNotices({});
     screen_.ClearBoxes();
     screen_.ClearPanels();
     try {

@@ -112,6 +112,14 @@ void ReviewList::ShowDifference(const std::vector<ReviewLine>& wanted) {
         RemoveAt(k);
 }
 
+std::set<std::string> ReviewList::Images() const {
+    std::set<std::string> images;
+    for (const Entry& entry : entries_)
+        if (entry.line)
+            images.insert(app::FileName(entry.image));
+    return images;
+}
+
 std::optional<std::size_t> ReviewList::IndexOf(const std::string& document) const {
     const auto found = std::find_if(lines_.begin(), lines_.end(), [&document](const ReviewLine& line) {
         return line.Document == document;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -29,6 +30,9 @@ class ReviewList {
     void Follow();
 
     const std::vector<ReviewLine>& Lines() const { return lines_; }
+
+    /// The images of the forms in the list.
+    std::set<std::string> Images() const;
 
     /// The line of a document; none when it is not listed.
     std::optional<std::size_t> IndexOf(const std::string& document) const;

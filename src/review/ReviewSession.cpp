@@ -18,7 +18,8 @@ ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& 
       profiles_(profiles),
       list_(context, folders),
       form_(context, settings, folders, profiles, list_),
-      mover_(context.files, folders) {}
+      mover_(context.files, folders),
+      unread_(context.files, context.log, folders) {}
 
 void ReviewSession::Begin() {
     stage_ = Stage::On;
@@ -49,6 +50,35 @@ void ReviewSession::ShowList() {
     TrySettle();
     tried_.clear();
     list_.Fill(profiles_);
+    unreadIn_.clear();
+    FollowUnread();
+}
+
+void ReviewSession::FollowUnread() {
+    const std::string folder = context_.files.Fingerprint(folders_.ProcessOut);
+    if (std::exchange(unreadIn_, folder) != folder)
+        unread_.Follow(list_.Images());
+}
+
+void ReviewSession::SendBack(std::span<const std::string> names) {
+    const int moved = unread_.SendBack(names);
+    const int stayed = static_cast<int>(names.size()) - moved;
+    context_.person.SetPanel(
+        Panel::Message,
+        std::to_string(moved) + (moved == 1 ? " page is" : " pages are") + " back in ProcessIn." +
+            (stayed == 0
+                 ? ""
+                 : " " + std::to_string(stayed) + " stayed: a file of that name waits there already."));
+    FollowFolder();
+}
+
+void ReviewSession::SendAllBack() {
+    if (!IsOn())
+        unread_.Follow();
+    std::vector<std::string> names;
+    for (const UnreadPage& page : unread_.Pages())
+        names.push_back(page.Name);
+    SendBack(names);
 }
 
 std::optional<std::size_t> ReviewSession::OpenLine() const {
@@ -140,13 +170,16 @@ bool ReviewSession::Save() {
     const OpenForm& form = *form_.Form();
     list_.Change(form.Document, true, form.Result.Confidence());
     context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
+    context_.person.SetPanel(Panel::Message, "Saved Form: " + form.Name);
     list_.ShowCounts();
     return true;
 }
 
 void ReviewSession::FollowFolder() {
-    if (IsOn())
-        list_.Follow();
+    if (!IsOn())
+        return;
+    list_.Follow();
+    FollowUnread();
 }
 
 // What an earlier decision left half done is settled first, since there is one note for all moves.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "review/FormReview.h"
 #include "review/ReviewList.h"
 #include "review/ReviewScreen.h"
+#include "review/UnreadPages.h"
 
 namespace tavrene::review {
 
@@ -48,8 +50,19 @@ class ReviewSession {
     /// Takes over what has come and gone in the folder, while the person is in review.
     void FollowFolder();
 
+    /// The images that lie beside the forms unread; kept up to date while the person is in review.
+    const std::vector<UnreadPage>& Unread() const { return unread_.Pages(); }
+
+    /// Moves unread images back to `ProcessIn`, those named or all that there are now, also outside review.
+    /// Says in the `Message` panel how many stayed, since their name waits there.
+    void SendBack(std::span<const std::string> names);
+    void SendAllBack();
+
     /// Whether `Okay`, `AcceptForm`, `RejectForm` and `cboProfiles` have a form to act on.
     bool HasForm() const { return form_.Form() != nullptr; }
+
+    /// The open form, with what the person has changed; null without one.
+    const OpenForm* Form() const { return form_.Form(); }
 
     /// The line of the open form.
     std::optional<std::size_t> OpenLine() const;
@@ -92,6 +105,7 @@ class ReviewSession {
     void ShowList();
     bool Leave(app::Answer answer);
     void SelectOpenLine();
+    void FollowUnread();
     void SelectLineNear(std::size_t line);
     void Decide(Decision decision);
     void LogDecision(const FormMove& move);
@@ -102,6 +116,8 @@ class ReviewSession {
     ReviewList list_;
     FormReview form_;
     FormMover mover_;
+    UnreadPages unread_;
+    std::string unreadIn_;  ///< Fingerprint of the folder when the unread images were looked for.
     Stage stage_ = Stage::NotYet;
     std::string tried_;  ///< The document that was opened last, or could not be opened.
 };

@@ -47,7 +47,9 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
                      "panel ElapsedTime: Checked:2 of 4"}));
     for (int saves = 0; saves < 2; ++saves) {
         Okay();
-        EXPECT_EQ(transcript_.Lines(), Names{"panel File: Reviewed: 1 of 3"}) << "a form counts once";
+        EXPECT_EQ(transcript_.Lines(),
+                  (Names{"panel Message: Saved Form: b", "panel File: Reviewed: 1 of 3"}))
+            << "a form counts once";
     }
     EXPECT_EQ(list_.lines, (Names{"a 100", "+ b 100", "c 100"}));
     std::string saved = before;
@@ -289,6 +291,10 @@ TEST_F(ReviewWalkTest, ShiftsAreTakenByNameThenPlaceThenOrderThenFromTheNearest)
         return text;
     };
     EXPECT_EQ(shifts(old, {}), "1234");
+    profiles::ProfileRecord twins = old;
+    twins.Boxes[1].Name = marks[1].Name = marks[0].Name;
+    EXPECT_EQ(shifts(twins, {}), "1234") << "of equal names each its own";
+    marks = MarksOf(form_);
     profiles::ProfileRecord other = old;
     std::swap(other.Boxes[0], other.Boxes[3]);
     EXPECT_EQ(shifts(other, old), "4231") << "by name, wherever it stands";

@@ -66,7 +66,8 @@ TEST_F(ProcessRunTest, TakesAFolderOfScansToResultsAndLog) {
               "rows: clear Val | range: 4 | panel File: A form & Co.TIF | progress: 1 | "
               "events | panel File: b.tif | progress: 2 | events | panel File: form.tiff | progress: 3 | "
               "events | panel File: other.tif | progress: 4 | events | panel File: Profiles:1, Active:1 | "
-              "progress: 0 | rows: clear | panel ElapsedTime: 4 Files, 7 Sec.");
+              "progress: 0 | panel Message: Processing complete | rows: clear | panel ElapsedTime: 4 Files, "
+              "7 Sec.");
 }
 
 TEST_F(ProcessRunTest, ShowsEachPageWithItsBoxes) {

@@ -25,6 +25,13 @@ class MainWindowTest : public test::DeskWindow {
             form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
     }
     int Progress() { return Find<QProgressBar>(*window_, "ProgressBar1").value(); }
+    Names SummaryLines() {
+        auto& list = Find<QTreeWidget>(*window_, "SummaryFiles");
+        Names lines;
+        for (int row = 0; list.isVisible() && row < list.topLevelItemCount(); ++row)
+            lines.push_back(FromQt(list.topLevelItem(row)->text(0) + "|" + list.topLevelItem(row)->text(1)));
+        return lines;
+    }
     double Zoom() { return View().Zoom() / 100; }
 
     test::TestForm form_ = test::TestForm::Grid(2, 2);
@@ -210,24 +217,67 @@ TEST_F(MainWindowTest, OpensTheFolderInUseAndTheNewestLogOnTheDesktop) {
     QDesktopServices::unsetUrlHandler("file");
 }
 
-TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxThatStopsNothing) {
+TEST_F(MainWindowTest, MessagesAboutFilesStandInOneBoxOnThePageUntilTheSummaryListsThem) {
     for (const char* name : {"a.tif", "b & <c>.tif", "d.png"})
         test::WriteText(folders_.ProcessIn + name, "no image");
     Open();
-    Click("Process");
-    EXPECT_EQ(In(folders_.ProcessIn), Names());
     auto& box = Find<QDialog>(*window_, "FileReports");
-    EXPECT_TRUE(box.isVisible());
-    EXPECT_FALSE(box.isModal());
     auto& lines = Find<QPlainTextEdit>(box, "Lines");
-    EXPECT_EQ(lines.toPlainText(),
-              "a.tif: Image not in bitmap format\nb & <c>.tif: Image not in bitmap format\n"
-              "d.png: Image not in bitmap format");
-    box.close();
-    test::WriteText(folders_.ProcessIn + "e.tif", "no image");
+    QString told;
+    {
+        test::WhileRunning look([&] {
+            if (Progress() == 0)
+                return;
+            EXPECT_TRUE(box.isVisible() && !box.isModal());
+            EXPECT_TRUE(QRect(View().mapToGlobal(QPoint()), View().size()).contains(box.geometry()));
+            EXPECT_EQ(Panel("Progress"), std::to_string(Progress()) + " of 3");
+            told = lines.toPlainText();
+            if (Progress() == 2)
+                box.close();
+        });
+        Click("Process");
+    }
+    EXPECT_EQ(told, "d.png: Image not in bitmap format") << "the closed box opens anew";
+    EXPECT_EQ(In(folders_.ProcessIn), Names());
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(Panel("Message"), "Processing complete");
+    EXPECT_EQ(Panel("Progress"), "");
+    EXPECT_EQ(SummaryLines(),
+              (Names{"a.tif|Image not in bitmap format", "b & <c>.tif|Image not in bitmap format",
+                     "d.png|Image not in bitmap format"}));
+}
+
+TEST_F(MainWindowTest, TheSummaryOfARunLeadsToEachOfItsFiles) {
+    AddScans(2);
+    test::TestForm::Grid(3, 1, 30).SaveScan(folders_.ProcessIn + "strange.tif", {});
+    form_.SaveScan(folders_.ProcessIn + "stuck.tif", {});
+    test::WriteText(folders_.ProcessIn + "torn.png", "no image");
+    files_.CreateFolder(folders_.ProcessOut + "stuck.tif");
+    Open();
     Click("Process");
-    EXPECT_TRUE(box.isVisible());
-    EXPECT_EQ(lines.toPlainText(), "e.tif: Image not in bitmap format");
+    auto& text = Find<QLabel>(*window_, "lblSummary");
+    auto& list = Find<QTreeWidget>(*window_, "SummaryFiles");
+    EXPECT_TRUE(text.text().contains("5 files")) << FromQt(text.text());
+    EXPECT_TRUE(SummaryLines().at(0).ends_with("is a folder")) << "what was not written comes first";
+    const auto behind = [&](recognition::FileEnd end) {
+        Q_EMIT text.linkActivated(QString::number(static_cast<int>(end)));
+        return SummaryLines();
+    };
+    EXPECT_EQ(behind(recognition::FileEnd::Read),
+              (Names{"scan1.tif|classified as [Form] with confidence [100.00]",
+                     "scan2.tif|classified as [Form] with confidence [100.00]"}));
+    EXPECT_EQ(behind(recognition::FileEnd::Refused), Names{"torn.png|Image not in bitmap format"});
+    EXPECT_EQ(behind(recognition::FileEnd::NotRecognised), Names{"strange.tif|unclassified"});
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(list.topLevelItem(0)).center());
+    EXPECT_EQ(Notices(), "strange.tif: unclassified");
+    EXPECT_TRUE(RowTexts().empty()) << "the boxes of the last form are not its boxes";
+    EXPECT_GT(View().sceneRect().width(), 100);
+    Press(list, Qt::Key_Escape);
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_FALSE(list.isVisible());
+    Find<QAction>(*window_, "RunSummary").trigger();
+    EXPECT_TRUE(list.isVisible());
 }
 
 TEST_F(MainWindowTest, ARunThatCannotStartSaysWhyAndLeavesTheWindowUsable) {

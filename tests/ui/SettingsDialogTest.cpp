@@ -1,16 +1,22 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QTest>
+#include <QTimer>
 
+#include "app/WorkingFolders.h"
+#include "support/Faults.h"
 #include "support/FaultyFiles.h"
 #include "support/MemoryStore.h"
 #include "support/TempFolder.h"
 #include "ui/Controls.h"
+#include "ui/DialogScript.h"
 #include "ui/settings/SettingsDialog.h"
 
 namespace tavrene::ui {
@@ -36,6 +42,7 @@ class SettingsDialogTest : public testing::Test {
     void Move(const char* bar, int position) { Find<QScrollBar>(*dialog_, bar).setValue(position); }
     int Position(const char* bar) { return Find<QScrollBar>(*dialog_, bar).value(); }
     QString Text(const char* label) { return Find<QLabel>(*dialog_, label).text(); }
+    QLineEdit& Path() { return Find<QLineEdit>(*dialog_, "txtFolder"); }
     void Click(const char* button) { Find<QPushButton>(*dialog_, button).click(); }
 
     // Makes a row of the folder list the current folder by the Enter key, which must not press Save as well.
@@ -191,7 +198,8 @@ TEST_F(SettingsDialogTest, AFolderThatIsGoneStaysUntilAnotherIsChosen) {
     const std::string gone = work_.Path() + "/gone/for good";
     settings_.WorkDir = gone;
     Open();
-    EXPECT_TRUE(Text("lblFolder").startsWith(ToQt(gone)) && Text("lblFolder").contains("not there"));
+    EXPECT_EQ(Path().text(), ToQt(gone));
+    EXPECT_TRUE(Find<QLabel>(*dialog_, "lblFolder").isVisible());
     Click("cmdOK");
     EXPECT_EQ(settings_.WorkDir, gone);
     EXPECT_EQ(store_.values["WorkDir"], gone);
@@ -199,9 +207,58 @@ TEST_F(SettingsDialogTest, AFolderThatIsGoneStaysUntilAnotherIsChosen) {
 
     Open();
     Enter(ToQt(work_.Path()));
-    EXPECT_EQ(Text("lblFolder"), ToQt(work_.Path()));
+    EXPECT_EQ(Path().text(), ToQt(work_.Path()));
+    EXPECT_FALSE(Find<QLabel>(*dialog_, "lblFolder").isVisible());
     Click("cmdOK");
     EXPECT_EQ(settings_.WorkDir, work_.Path());
+}
+
+TEST_F(SettingsDialogTest, TheFolderIsTypedClickedOrMade) {
+    QDir(ToQt(work_.Path())).mkpath("clicked");
+    Open();
+    auto& list = Find<QListWidget>(*dialog_, "Dir1");
+    QListWidgetItem* const row = list.item(list.count() - 1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(row).center());
+    EXPECT_EQ(Path().text(), ToQt(work_.Path() + "/clicked"));
+    QTimer::singleShot(0, dialog_.get(), [] {
+        auto* const question = dynamic_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(question, nullptr);
+        question->setTextValue("made");
+        question->accept();
+    });
+    Click("cmdNewFolder");
+    EXPECT_EQ(Path().text(), ToQt(work_.Path() + "/clicked/made"));
+    Path().clear();
+    QTest::keyClicks(&Path(), ToQt(work_.Path()) + "/clicked/");
+    QTest::keyClick(&Path(), Qt::Key_Return);
+    EXPECT_TRUE(dialog_->isVisible()) << "Enter ends the typing only";
+    Click("cmdOK");
+    EXPECT_EQ(settings_.WorkDir, work_.Path() + "/clicked");
+}
+
+TEST_F(SettingsDialogTest, TheFirstStartWelcomesAndFillsAFolderWithTheSamples) {
+    Open();
+    EXPECT_EQ(dialog_->findChild<QLabel*>("lblWelcome"), nullptr);
+    settings_.WorkDir.clear();
+    store_.values.erase("WorkDir");
+    Open();
+    EXPECT_TRUE(Text("lblCancel").contains(QDir::currentPath()));
+    QDir(ToQt(work_.Path())).mkpath("mine");
+    for (const char* place : {"/mine", ""}) {
+        test::DialogScript dialogs;
+        dialogs.Type(work_.Path() + place);
+        Click("cmdSamples");
+    }
+    Click("cmdOK");
+    const app::WorkingFolders empty = app::PathsUnder(work_.Path() + "/mine");
+    const app::WorkingFolders own = app::PathsUnder(work_.Path() + "/Tavrene Samples");
+    EXPECT_EQ(settings_.WorkDir, work_.Path() + "/Tavrene Samples") << "the folder was not empty";
+    for (const app::WorkingFolders& folders : {empty, own}) {
+        EXPECT_GT(files_.List(folders.ProcessIn, "*.tif").size(), 10U);
+        EXPECT_TRUE(test::Has(test::ReadText(folders.Profiles + "StaffSurvey.Tvp"),
+                              "Image=\"" + folders.ProfileImages + "StaffSurvey.tif\""));
+        EXPECT_TRUE(files_.FileExists(folders.ProfileImages + "StaffSurvey.tif"));
+    }
 }
 
 TEST_F(SettingsDialogTest, TheThresholdThatIsShownIsInForce) {
@@ -247,10 +304,16 @@ TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStop
         }
         stop = stop->nextInFocusChain();
     } while (stop != first);
-    EXPECT_EQ(stops,
-              (Names{"Drive1", "Dir1", "VScroll1", "HScroll1", "numHScroll1", "numVScroll1", "VScroll2",
-                     "HScroll2", "numHScroll2", "numVScroll2", "cmdReset", "chkDisplayDuringProcess",
-                     "chkProcessSingle", "HScroll3", "numHScroll3", "cmdOK", "cmdCancel"}));
+    EXPECT_EQ(stops, (Names{"Drive1",           "Dir1",
+                            "cmdBrowse",        "cmdNewFolder",
+                            "VScroll1",         "HScroll1",
+                            "numHScroll1",      "numVScroll1",
+                            "VScroll2",         "HScroll2",
+                            "numHScroll2",      "numVScroll2",
+                            "cmdReset",         "chkDisplayDuringProcess",
+                            "chkProcessSingle", "HScroll3",
+                            "numHScroll3",      "cmdOK",
+                            "cmdCancel",        "txtFolder"}));
 }
 
 }  // namespace

@@ -39,6 +39,12 @@ enum class Command {
     PreciseAlignment,
     SecondOpinion,
     ReadAgain,
+    RunSummary,
+    BackToProcessIn,
+    AllBackToProcessIn,
+    ProcessUnread,
+    PasteScans,
+    Manual,
     Settings,
     Exit,
     About,
@@ -48,6 +54,7 @@ enum class Command {
     SetActive,
     EditBoxes,
     PickForm,
+    PickFile,     // of a run, to see its picture
     PickProfile,  // to read the open form against
     PickMark
 };

@@ -43,7 +43,9 @@ const Rule kRules[] = {
     {{C::FlipBox, C::NextDoubtful}, "F"},
     {{C::ExportResults}, kIdle, Prompts::Form},
     {{C::ToolbarLabels, C::OpenWorkingFolder, C::OpenLog, C::Settings, C::About}, kIdle},
-    {{C::PreciseAlignment, C::SecondOpinion, C::ReadAgain}, kIdle},
+    {{C::PreciseAlignment, C::SecondOpinion, C::ReadAgain, C::RunSummary, C::PasteScans, C::Manual}, kIdle},
+    {{C::PickFile, C::ProcessUnread}, kIdle, Prompts::ProfileThenForm},
+    {{C::BackToProcessIn, C::AllBackToProcessIn}, "RF"},
     {{C::Exit}, kLetters, Prompts::FormThenProfile},
 
     {{C::PickThumbnail}, "SDUP", Prompts::Profile},

@@ -15,4 +15,12 @@ std::string LogToShow(const app::Files& files, const app::WorkingFolders& folder
     return folders.Log;
 }
 
+std::string ImageInUse(const app::Files& files, const app::WorkingFolders& folders, const std::string& name) {
+    for (const std::string* const folder :
+         {&folders.ProcessOut, &folders.ProcessIn, &folders.ProcessFinal, &folders.ProcessReject})
+        if (files.FileExists(*folder + name))
+            return *folder + name;
+    return {};
+}
+
 }  // namespace tavrene::commands

@@ -15,4 +15,8 @@ std::string WorkingFolderInUse(const app::WorkingFolders& folders);
 /// processed yet the newest of profiles, and the folder of the logs where there is none.
 std::string LogToShow(const app::Files& files, const app::WorkingFolders& folders);
 
+/// The path of an image that a run has taken, wherever it has got to since; empty when it has left the
+/// working folder.
+std::string ImageInUse(const app::Files& files, const app::WorkingFolders& folders, const std::string& name);
+
 }  // namespace tavrene::commands

@@ -52,6 +52,8 @@ ImageView::ImageView(const app::Files& files, QWidget* parent)
     setTransformationAnchor(QGraphicsView::AnchorViewCenter);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     viewport()->setMouseTracking(true);
+    // What is dropped here is meant for the window.
+    setAcceptDrops(false);
     boxes_ = std::make_unique<BoxLayer>(*this);
     SetPage({});
 }
@@ -122,6 +124,8 @@ void ImageView::SetZoom(double percent) {
         lastSize_ = {};
     if (isUnseen_)
         ScrollTo(kTopLeft);
+    if (zoomed_)
+        zoomed_(zoom_);
 }
 
 imaging::ScrollOffset ImageView::Scroll() const {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "app/Files.h"
 #include "imaging/PageScreen.h"
@@ -32,6 +33,10 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
 
     /// Set while there is no page, the next page starts at its top left corner.
     void SetZoom(double percent) override;
+
+    /// Told of every zoom that is set.
+    void SetZoomListener(std::function<void(double percent)> zoomed) { zoomed_ = std::move(zoomed); }
+
     imaging::ScrollOffset Scroll() const override;
     void Refresh() override;
     void PutRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
@@ -95,6 +100,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
     std::function<bool(int, int)> takeArrow_;
+    std::function<void(double)> zoomed_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;
     QString hint_;

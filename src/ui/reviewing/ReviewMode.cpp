@@ -58,6 +58,13 @@ void ReviewMode::ConnectCommands() {
                 session_.Open(*line);
         },
         [this] { return controls_.pane.List().SelectedLine().has_value(); });
+    gate_.SetHandler(
+        Command::BackToProcessIn,
+        [this] { session_.SendBack(controls_.pane.Unread().List().SelectedNames()); },
+        [this] { return !controls_.pane.Unread().List().SelectedNames().empty(); });
+    gate_.SetHandler(
+        Command::AllBackToProcessIn, [this] { session_.SendAllBack(); },
+        [this] { return !session_.Unread().empty(); });
     ConnectNeighbour(Command::NextForm, 1);
     ConnectNeighbour(Command::PreviousForm, -1);
 }
@@ -113,6 +120,7 @@ void ReviewMode::Toggle() {
 // So that the first form is one Enter away. Only a list in sight can have the focus.
 void ReviewMode::TakeFirstLine() {
     controls_.side.setCurrentWidget(&controls_.pane);
+    controls_.pane.ShowForms();
     controls_.pane.List().setFocus();
     if (controls_.pane.List().model()->rowCount() > 0)
         controls_.pane.List().SelectLine(0);
@@ -166,6 +174,8 @@ void ReviewMode::Update() {
         session_.FollowFolder();
     const bool inReview = session_.IsOn();
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
+    controls_.pane.ShowUnread(session_.Unread());
+    controls_.pane.Unread().Update([this](Command command) { return gate_.Offers(command); });
     marks_.SetActive(session_.HasForm());
     controls_.view.SetHint(inReview
                                ? "Choose a form on the left: a click or Enter opens it."

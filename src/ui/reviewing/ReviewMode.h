@@ -50,6 +50,9 @@ class ReviewMode final : public QObject {
     void RunBegins() { session_.RunBegins(); }
     void RunEnded();
 
+    /// Moves all pages that were not read back to `ProcessIn`.
+    void SendAllBack() { session_.SendAllBack(); }
+
     /// Fills the list anew in review: results have been added.
     void Refill();
 

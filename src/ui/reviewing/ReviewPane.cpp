@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -55,9 +56,17 @@ void ReviewChoice::keyPressEvent(QKeyEvent* event) {
 }
 
 ReviewPane::ReviewPane(QWidget* parent)
-    : QFrame(parent), list_(new ReviewListView(this)), choice_(new ReviewChoice(this)) {
+    : QFrame(parent),
+      list_(new ReviewListView(this)),
+      choice_(new ReviewChoice(this)),
+      unread_(new UnreadPane(this)),
+      tabs_(new QTabWidget(this)) {
     setObjectName("ReviewPane");
-    auto* const layout = new QVBoxLayout(this);
+    tabs_->setObjectName("tabReview");
+    tabs_->setAccessibleName("Processed pages");
+    tabs_->setDocumentMode(true);
+    auto* const forms = new QWidget;
+    auto* const layout = new QVBoxLayout(forms);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(list_, 1);
@@ -68,6 +77,20 @@ ReviewPane::ReviewPane(QWidget* parent)
     below->addWidget(title);
     below->addWidget(choice_);
     layout->addLayout(below);
+    tabs_->addTab(forms, "Forms");
+    tabs_->addTab(unread_, "Not read");
+    auto* const all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(tabs_);
+}
+
+void ReviewPane::ShowUnread(const std::vector<review::UnreadPage>& pages) {
+    unread_->Show(pages);
+    tabs_->setTabText(1, pages.empty() ? "Not read" : QString("Not read (%1)").arg(pages.size()));
+}
+
+void ReviewPane::ShowForms() {
+    tabs_->setCurrentIndex(0);
 }
 
 }  // namespace tavrene::ui

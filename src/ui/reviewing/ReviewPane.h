@@ -5,6 +5,9 @@
 
 #include "review/ReviewScreen.h"
 #include "ui/reviewing/ReviewListView.h"
+#include "ui/reviewing/UnreadPane.h"
+
+class QTabWidget;
 
 namespace tavrene::ui {
 
@@ -23,17 +26,26 @@ class ReviewChoice final : public QComboBox, public review::ProfileChoice {
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// The review side of the window: the list of forms and the choice of the profile to read one against.
+/// The review side of the window: the list of forms with the choice of the profile to read one against, and
+/// on a second tab the pages that were not read.
 class ReviewPane final : public QFrame {
   public:
     explicit ReviewPane(QWidget* parent);
 
     ReviewListView& List() { return *list_; }
     ReviewChoice& Choice() { return *choice_; }
+    UnreadPane& Unread() { return *unread_; }
+
+    void ShowUnread(const std::vector<review::UnreadPage>& pages);
+
+    /// Brings the tab of the forms to the front.
+    void ShowForms();
 
   private:
     ReviewListView* list_;
     ReviewChoice* choice_;
+    UnreadPane* unread_;
+    QTabWidget* tabs_;
 };
 
 }  // namespace tavrene::ui

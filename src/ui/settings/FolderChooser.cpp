@@ -1,8 +1,13 @@
 #include "ui/settings/FolderChooser.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QHBoxLayout>
+#include <QInputDialog>
 #include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStorageInfo>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -46,53 +51,103 @@ bool LiesOn(const QString& folder, const QString& drive) {
 
 }  // namespace
 
-FolderChooser::FolderChooser() : drives_(new QComboBox), folders_(new QListWidget), path_(new QLabel) {
+FolderChooser::FolderChooser()
+    : drives_(new QComboBox), folders_(new QListWidget), path_(new QLineEdit), missing_(new QLabel) {
     drives_->setObjectName("Drive1");
     drives_->setAccessibleName("Drive");
     folders_->setObjectName("Dir1");
     folders_->setAccessibleName("Working folder");
     folders_->setIconSize({16, 16});
-    path_->setObjectName("lblFolder");
-    path_->setTextFormat(Qt::PlainText);
-    path_->setWordWrap(true);
-    QFont bold = path_->font();
-    bold.setBold(true);
-    path_->setFont(bold);
-    path_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    path_->setObjectName("txtFolder");
+    path_->setAccessibleName("Path of the working folder");
+    missing_->setObjectName("lblFolder");
+    missing_->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(path_);
+    layout->addWidget(missing_);
     layout->addWidget(drives_);
     layout->addWidget(folders_, 1);
-    layout->addWidget(path_);
+    layout->addLayout(Buttons());
     FillDrives();
     GoTo(QDir::currentPath());
     connect(drives_, &QComboBox::activated, this, [this] { GoTo(drives_->currentData().toString()); });
     connect(folders_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* row) { GoTo(row->data(Qt::UserRole).toString()); });
+    connect(folders_, &QListWidget::itemClicked, this,
+            [this](const QListWidgetItem* row) { Choose(row->data(Qt::UserRole).toString()); });
+    connect(path_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { current_ = QDir::cleanPath(QDir::fromNativeSeparators(text)); });
+    connect(path_, &QLineEdit::editingFinished, this, [this] { GoTo(current_); });
     folders_->installEventFilter(this);
+    path_->installEventFilter(this);
 }
 
-// The list opens a folder on Enter but passes the key on, which would press the dialog's default button as
-// well.
-bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == folders_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            if (const QListWidgetItem* const row = folders_->currentItem())
-                GoTo(row->data(Qt::UserRole).toString());
-            return true;
-        }
+QLayout* FolderChooser::Buttons() {
+    auto* const browse = new QPushButton("&Browse...");
+    browse->setObjectName("cmdBrowse");
+    auto* const make = new QPushButton("&New Folder...");
+    make->setObjectName("cmdNewFolder");
+    auto* const row = new QHBoxLayout;
+    for (QPushButton* const button : {browse, make}) {
+        button->setAutoDefault(false);
+        row->addWidget(button);
     }
-    return QWidget::eventFilter(watched, event);
+    row->addStretch();
+    connect(browse, &QPushButton::clicked, this, &FolderChooser::Browse);
+    connect(make, &QPushButton::clicked, this, &FolderChooser::MakeFolder);
+    return row;
+}
+
+void FolderChooser::Browse() {
+    const QString chosen = QFileDialog::getExistingDirectory(
+        this, "Working Folder", current_, QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    if (!chosen.isEmpty())
+        GoTo(chosen);
+}
+
+void FolderChooser::MakeFolder() {
+    const QString name =
+        QInputDialog::getText(this, "New Folder", "Name of the new folder in\n" + current_ + ":").trimmed();
+    if (name.isEmpty())
+        return;
+    if (QDir(current_).mkdir(name))
+        GoTo(QDir(current_).filePath(name));
+    else
+        QMessageBox::warning(this, "New Folder",
+                             "The folder " + name + " cannot be made in " + current_ +
+                                 ". Choose another name or another place.");
+}
+
+// The list opens a folder on Enter but passes the key on, as the line does, which would press the dialog's
+// default button as well.
+bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    if (watched == path_)
+        GoTo(current_);
+    else if (const QListWidgetItem* const row = folders_->currentItem())
+        GoTo(row->data(Qt::UserRole).toString());
+    return true;
+}
+
+// The rows stay where they are, or a double click would hit another one.
+void FolderChooser::Choose(const QString& folder) {
+    current_ = folder;
+    path_->setText(QDir::toNativeSeparators(current_));
+    missing_->setVisible(false);
 }
 
 void FolderChooser::GoTo(const QString& folder) {
-    current_ = QDir::cleanPath(QDir(folder).absolutePath());
-    const QString shown = NearestExisting(current_);
+    const QString whole = QDir::cleanPath(QDir(folder).absolutePath());
+    const QString shown = NearestExisting(whole);
+    Choose(whole);
     FillFolders(shown);
-    path_->setText(
-        QDir::toNativeSeparators(current_) +
-        (shown == current_ ? QString() : "\nis not there. Choose another folder or bring it back."));
+    missing_->setText("This folder is not there. Choose another one, or make it with New Folder.");
+    missing_->setVisible(shown != current_);
     int best = 0;
     for (int i = 1; i < drives_->count(); ++i) {
         const QString drive = drives_->itemData(i).toString();

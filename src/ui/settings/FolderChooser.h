@@ -2,13 +2,15 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QWidget>
 
 namespace tavrene::ui {
 
-/// Drive list (`Drive1`) and folder list (`Dir1`). The folder list shows the current folder with the folders
-/// above it and in it; a double click or Enter makes a row the current folder.
+/// Drive list (`Drive1`) and folder list (`Dir1`), and the current folder as a text that can be typed. The
+/// folder list shows the folder that it was moved to with the folders above it and in it. A click makes a row
+/// the current folder; a double click or Enter moves there as well.
 class FolderChooser final : public QWidget {
   public:
     FolderChooser();
@@ -25,13 +27,18 @@ class FolderChooser final : public QWidget {
 
   private:
     void FillDrives();
+    QLayout* Buttons();
+    void Choose(const QString& folder);
+    void Browse();
+    void MakeFolder();
     void FillFolders(const QString& shown);
     void AddRow(const QString& text, const QString& path, int depth);
 
     QString current_;
     QComboBox* drives_;
     QListWidget* folders_;
-    QLabel* path_;
+    QLineEdit* path_;
+    QLabel* missing_;  ///< Says that the current folder is not there.
 };
 
 }  // namespace tavrene::ui

@@ -5,6 +5,7 @@
 
 #include "app/WorkingFolders.h"
 #include "ui/base/QtText.h"
+#include "ui/settings/TrySamples.h"
 
 namespace tavrene::ui {
 
@@ -12,7 +13,11 @@ using commands::Bar;
 
 SettingsDialog::SettingsDialog(app::Settings& settings, app::SettingsStore& store, app::Files& files,
                                QWidget* parent)
-    : QDialog(parent), settings_(settings), store_(store), files_(files) {
+    : QDialog(parent),
+      settings_(settings),
+      store_(store),
+      files_(files),
+      isFirstStart_(settings.WorkDir.empty()) {
     setObjectName("frmSettings");
     setWindowTitle("Configuration Settings");
     Build();
@@ -28,6 +33,16 @@ void SettingsDialog::LoadFolder() {
         app::WriteCommon(store_, "WorkDir", settings_.WorkDir);
     }
     folder_->GoTo(ToQt(settings_.WorkDir));
+}
+
+void SettingsDialog::TakeSamples() {
+    const QString folder = TrySamples(this, files_);
+    if (folder.isEmpty())
+        return;
+    folder_->GoTo(folder);
+    welcome_->setText(
+        "The samples are in the folder below. Press Save, and then Process in the window: it "
+        "reads the scans. Review shows what was read.");
 }
 
 void SettingsDialog::LoadSizes() {

@@ -33,6 +33,8 @@ class SettingsDialog final : public QDialog {
     QWidget* Frames();
     QLayout* SizeNumbers(commands::Bar width, commands::Bar height);
     QWidget* PathFrame();
+    QWidget* Welcome();
+    void TakeSamples();
     QWidget* SizeFrame();
     QWidget* ProcessingFrame();
     QWidget* Buttons();
@@ -54,8 +56,10 @@ class SettingsDialog final : public QDialog {
     app::SettingsStore& store_;
     app::Files& files_;
     commands::BoxSizeBars sizes_;
+    bool isFirstStart_;
 
     FolderChooser* folder_ = nullptr;
+    QLabel* welcome_ = nullptr;
     std::array<QScrollBar*, 4> bars_{};
     std::array<QSpinBox*, 4> numbers_{};
     BoxPreview* smallest_ = nullptr;

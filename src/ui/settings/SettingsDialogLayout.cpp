@@ -1,10 +1,13 @@
+#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QScrollArea>
 
 #include "ui/base/FitToScreen.h"
+#include "ui/base/QtText.h"
 #include "ui/settings/SettingsDialog.h"
+#include "ui/settings/TrySamples.h"
 
 namespace tavrene::ui {
 
@@ -14,7 +17,7 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kSpacing = 10;
-constexpr QSize kFirstSize(760, 640);
+constexpr QSize kFirstSize(760, 710);
 
 QLabel* HelpLabel(const QString& text) {
     auto* const label = new QLabel(text);
@@ -77,7 +80,7 @@ void SettingsDialog::Build() {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, kMargin, kMargin);
     layout->addWidget(frames, 1);
-    layout->addWidget(Buttons(), 0, Qt::AlignRight);
+    layout->addWidget(Buttons());
     ResizeWithinScreen(*this, kFirstSize);
 }
 
@@ -163,12 +166,36 @@ QWidget* SettingsDialog::PathFrame() {
     auto* const frame = new QGroupBox("Working Path");
     auto* const layout = new QVBoxLayout(frame);
     layout->setSpacing(kSpacing);
+    if (isFirstStart_)
+        layout->addWidget(Welcome());
     layout->addWidget(
         HelpLabel("Please select a suitable working folder for your application. "
                   "The required sub-folders will be automatically created within the selected "
                   "working folder."));
     layout->addWidget(folder_, 1);
     return frame;
+}
+
+// There is no working folder yet, and the person has perhaps never seen the program.
+QWidget* SettingsDialog::Welcome() {
+    welcome_ = HelpLabel(
+        "<b>Welcome.</b> The profiles of your forms, the scans and the results lie in one working folder. "
+        "Type its "
+        "path, click it in the list, or make a new one.");
+    welcome_->setObjectName("lblWelcome");
+    auto* const samples = new QPushButton("&Try with Samples...");
+    samples->setObjectName("cmdSamples");
+    samples->setToolTip(
+        "Copies sample forms and scans to a folder of your choice, to try the program on them");
+    samples->setAutoDefault(false);
+    samples->setVisible(!SamplesFolder().isEmpty());
+    connect(samples, &QPushButton::clicked, this, [this] { TakeSamples(); });
+    auto* const pane = new QWidget;
+    auto* const layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(welcome_);
+    layout->addWidget(samples, 0, Qt::AlignLeft);
+    return pane;
 }
 
 QWidget* SettingsDialog::SizeFrame() {
@@ -225,11 +252,24 @@ QWidget* SettingsDialog::Buttons() {
     auto* const cancel = new QPushButton("&Cancel");
     cancel->setObjectName("cmdCancel");
     cancel->setAutoDefault(false);
+    // Some folder has to be the working folder, so the first start takes the one that the program runs in.
+    const QString cancelDoes =
+        isFirstStart_
+            ? "Cancel keeps " + QDir::toNativeSeparators(folder_->CurrentFolder()) + " as the working folder."
+            : "Closes the dialog; nothing is changed.";
+    cancel->setToolTip(ToolTipOf(cancelDoes));
+    auto* const note = new QLabel(isFirstStart_ ? cancelDoes : QString());
+    note->setObjectName("lblCancel");
+    note->setTextFormat(Qt::PlainText);
+    note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // The path may be longer than the dialog is wide; the button's tool tip has it whole.
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     connect(save, &QPushButton::clicked, this, [this] { Save(); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* const buttons = new QWidget;
     auto* const layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(note, 1);
     layout->addWidget(save);
     layout->addWidget(cancel);
     return buttons;

@@ -2,16 +2,15 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QScreen>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "app/SettingsStore.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 
-FileReports::FileReports(QWidget* window) : QDialog(window), lines_(new QPlainTextEdit) {
+FileReports::FileReports(QWidget* window, const QWidget& page)
+    : QDialog(window), page_(page), lines_(new QPlainTextEdit) {
     setObjectName("FileReports");
     setWindowTitle(ToQt(app::kApplicationName));
     // It must not take the keyboard from the window, or Escape and Stop would go astray in the middle of a
@@ -26,23 +25,24 @@ FileReports::FileReports(QWidget* window) : QDialog(window), lines_(new QPlainTe
     layout->addWidget(new QLabel("These files could not be used:"));
     layout->addWidget(lines_);
     layout->addWidget(buttons);
-    resize(560, 240);
 }
 
 void FileReports::Add(const QString& fileName, const QString& text) {
     if (!isVisible()) {
         lines_->clear();
-        OpenBesideWindow();
+        OpenOverPage();
     }
     lines_->appendPlainText(fileName + ": " + text);
 }
 
-void FileReports::OpenBesideWindow() {
-    const QRect screen = parentWidget()->screen()->availableGeometry();
-    const QRect window = parentWidget()->frameGeometry();
-    const int x = std::min(window.right() + 8, screen.right() - width());
-    const int y = std::min(window.bottom() - height() - 48, screen.bottom() - height());
-    move(std::max(x, screen.left()), std::max(y, screen.top()));
+void FileReports::OpenOverPage() {
+    constexpr QSize kWanted(520, 190);
+    // A desktop draws a frame and a title around the box.
+    constexpr int kFrame = 40;
+    const QSize room = page_.size() - QSize(kFrame, kFrame);
+    resize(kWanted.boundedTo(room).expandedTo(minimumSizeHint()));
+    const QPoint corner = page_.mapToGlobal(QPoint(0, 0));
+    move(corner + QPoint((page_.width() - width()) / 2, page_.height() - height() - kFrame));
     show();
 }
 

@@ -5,17 +5,19 @@
 
 namespace tavrene::ui {
 
-/// The one box beside the window that tells of files that could not be used. It does not stop the work: while
-/// it is open further messages are added to it as lines; once closed, the next message opens it anew.
+/// The one box over the page that tells of files that could not be used. It does not stop the work: while it
+/// is open further messages are added to it as lines; once closed, the next message opens it anew.
 class FileReports final : public QDialog {
   public:
-    explicit FileReports(QWidget* window);
+    /// The box opens within `page`, so that it covers neither a list nor a bar.
+    FileReports(QWidget* window, const QWidget& page);
 
     void Add(const QString& fileName, const QString& text);
 
   private:
-    void OpenBesideWindow();
+    void OpenOverPage();
 
+    const QWidget& page_;
     QPlainTextEdit* lines_;
 };
 

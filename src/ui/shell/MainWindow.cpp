@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QKeyEvent>
 #include <QSplitter>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -15,6 +16,7 @@
 #include "ui/commands/WindowLoad.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
+#include "ui/shell/ScanIntake.h"
 
 namespace tavrene::ui {
 namespace {
@@ -51,6 +53,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     : context_(context),
       state_(commands::InitialState(settings)),
       panels_(new StatusPanels(this)),
+      summary_(new SummaryPanel(this)),
+      help_(new HelpWindow(this)),
       splitter_(new QSplitter(this)),
       strip_(new MessageStrip(this)),
       view_(new ImageView(context.files, this)),
@@ -59,8 +63,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       side_(new QStackedWidget(this)),
       profiles_(new ProfilePane(this)),
       forms_(new ReviewPane(this)),
-      operator_(*this, *panels_, *strip_),
-      dialogs_(*this),
+      operator_(*this, *panels_, *strip_, *view_),
+      dialogs_(*this, context.files),
       log_(context.files, context.clock, operator_, state_.folders.Log),
       precise_(context.files, state_.reading),
       run_({context.files, log_, operator_, context.clock, *view_, *boxes_, &precise_}, state_.settings,
@@ -77,10 +81,11 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }) {
     setObjectName("frmTavrene");
-    setWindowTitle(ToQt(app::kApplicationName));
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
+    ConnectSummary();
+    new ScanIntake(*this, {context.files, operator_, state_, gate_});
     RestoreShape();
     UpdateCommands();
 }
@@ -106,10 +111,23 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
-    setCentralWidget(splitter_);
-    const std::initializer_list<QWidget*> order = {
-        &profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_, view_, boxes_,
-        &candidates_->List()};
+    auto* const middle = new QWidget(this);
+    auto* const column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(splitter_, 1);
+    column->addWidget(summary_);
+    setCentralWidget(middle);
+    const std::initializer_list<QWidget*> order = {&profiles_->Strip(),
+                                                   &profiles_->Active(),
+                                                   &forms_->List(),
+                                                   &forms_->Choice(),
+                                                   strip_,
+                                                   view_,
+                                                   boxes_,
+                                                   &candidates_->List(),
+                                                   summary_,
+                                                   &panels_->Zoom()};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
     setStatusBar(panels_);
@@ -124,6 +142,7 @@ void MainWindow::ConnectViewCommands() {
     gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
     gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
     gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+    panels_->Zoom().Connect(*view_);
     gate_.SetHandler(Command::ToolbarLabels, [this] {
         const bool shown = !toolbars_.LabelsShown();
         toolbars_.ShowLabels(shown);
@@ -141,6 +160,7 @@ void MainWindow::ConnectCommands() {
                      [this] { OpenOnDesktop(commands::WorkingFolderInUse(state_.folders)); });
     gate_.SetHandler(Command::OpenLog,
                      [this] { OpenOnDesktop(commands::LogToShow(context_.files, state_.folders)); });
+    gate_.SetHandler(Command::Manual, [this] { help_->ShowFor(CurrentMode()); });
     gate_.SetHandler(Command::About, [this] { AboutDialog(this).exec(); });
     strip_->SetRunner([this](const std::function<void()>& act) {
         desk_.FinishEdits();
@@ -167,12 +187,50 @@ void MainWindow::RunBegins() {
     desk_.Close();
     reading_.RunBegins();
     review_.RunBegins();
+    summary_->Close();
+    operator_.CloseReports();
+    panels_->CountFiles(true);
     UpdateCommands();
 }
 
 void MainWindow::RunEnded() {
+    panels_->CountFiles(false);
+    // It lists what the box has told meanwhile.
+    operator_.CloseReports();
+    if (!run_.Summary().files.empty())
+        summary_->Show(run_.Summary());
     reading_.RunEnded(run_.Opinions());
     review_.RunEnded();
+}
+
+void MainWindow::ConnectSummary() {
+    gate_.SetHandler(
+        Command::RunSummary, [this] { summary_->Show(run_.Summary()); },
+        [this] { return !run_.Summary().files.empty(); });
+    for (ReasonList* const list : {&summary_->List(), &forms_->Unread().List()})
+        list->SetListener(
+            [this](const ReasonRow& file) { gate_.Take(Command::PickFile, [&] { ShowFile(file); }); });
+    forms_->Unread().SetListener([this](Command command) { RunCommand(command); });
+    gate_.SetHandler(Command::ProcessUnread, [this] { ProcessUnread(); });
+}
+
+// What cannot be processed stays where the list of unread pages shows it.
+void MainWindow::ProcessUnread() {
+    if (!run_.MayStart(state_.profiles))
+        return;
+    review_.SendAllBack();
+    runs_.Process();
+}
+
+// A file is looked at by itself: what was open before would be taken for its boxes.
+void MainWindow::ShowFile(const ReasonRow& file) {
+    desk_.Close();
+    review_.RunBegins();
+    view_->ShowFile(commands::ImageInUse(context_.files, state_.folders, file.name));
+    const app::Notice notice{file.name + ": " + file.reason};
+    operator_.ShowNotices({&notice, 1});
+    // What the notice leaves of the room is known only once the window is laid out.
+    QTimer::singleShot(0, view_, [view = view_] { view->FitPage(); });
 }
 
 void MainWindow::RunCommand(Command command) {
@@ -191,12 +249,23 @@ void MainWindow::UpdateCommands() {
     });
     desk_.Update();
     review_.Update();
+    ShowTitle();
     for (const Command command : {Command::SelectBox, Command::AddBox})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
     toolbars_.SetPressed(Command::PreciseAlignment, state_.reading.preciseAlignment);
     toolbars_.SetPressed(Command::SecondOpinion, state_.reading.secondOpinion);
+}
+
+// The toolkit puts a star in the place of "[*]" while there are unsaved changes.
+void MainWindow::ShowTitle() {
+    const review::OpenForm* const form = review_.Session().Form();
+    const profiles::OpenProfile& profile = desk_.Session().Profile();
+    const QString name = ToQt(form != nullptr ? form->Name : profile.Name);
+    const QString program = ToQt(app::kApplicationName);
+    setWindowTitle(name.isEmpty() ? program : QString(name).replace("[*]", "[*][*]") + "[*] - " + program);
+    setWindowModified(form != nullptr ? form->Changed : profile.ProfileChanged);
 }
 
 void MainWindow::Load() {
@@ -235,8 +304,13 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
-    else if (!desk_.CloseCandidates())
+    else if (!CloseWhatIsOver())
         close();
+}
+
+// One thing with each Escape, that which came last first.
+bool MainWindow::CloseWhatIsOver() {
+    return help_->Close() || operator_.CloseReports() || summary_->Close() || desk_.CloseCandidates();
 }
 
 void MainWindow::RestoreShape() {

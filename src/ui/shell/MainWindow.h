@@ -20,9 +20,11 @@
 #include "ui/profiling/ProfilePane.h"
 #include "ui/reviewing/ReviewMode.h"
 #include "ui/reviewing/ReviewPane.h"
+#include "ui/shell/HelpWindow.h"
 #include "ui/shell/QtFileDialogs.h"
 #include "ui/shell/QtOperator.h"
 #include "ui/shell/StatusPanels.h"
+#include "ui/shell/SummaryPanel.h"
 #include "ui/shell/Toolbars.h"
 
 class QSplitter;
@@ -59,6 +61,11 @@ class MainWindow final : public QMainWindow {
     void RunEnded();
     void RunCommand(commands::Command command);
     void UpdateCommands();
+    void ShowTitle();
+    void ConnectSummary();
+    void ProcessUnread();
+    void ShowFile(const ReasonRow& file);
+    bool CloseWhatIsOver();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
     void RestoreShape();
@@ -67,6 +74,8 @@ class MainWindow final : public QMainWindow {
     WindowContext context_;
     commands::AppState state_;
     StatusPanels* panels_;
+    SummaryPanel* summary_;
+    HelpWindow* help_;
     QSplitter* splitter_;
     MessageStrip* strip_;
     ImageView* view_;

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <algorithm>
@@ -9,6 +11,7 @@
 
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
+#include "ui/page/PageImage.h"
 
 namespace tavrene::ui {
 namespace {
@@ -44,6 +47,7 @@ QString WithoutQuotesAround(const QString& typed) {
 
 constexpr int kWidth = 760;
 constexpr int kHeight = 460;
+constexpr int kPictureWidth = 260;
 
 class FileDialog final : public QFileDialog {
   public:
@@ -60,6 +64,32 @@ class FileDialog final : public QFileDialog {
     /// Files to be written get this extension, and the spelling of one that is there. That comes before the
     /// dialog looks whether the file is there already.
     void SetExtension(const QString& extension) { extension_ = extension; }
+
+    /// Shows the picture of the file that is highlighted beside the list.
+    void ShowPictures(const app::Files& files) {
+        auto* const picture = new QLabel("No picture", this);
+        picture->setObjectName("Picture");
+        picture->setAccessibleName("Picture of the highlighted file");
+        picture->setAlignment(Qt::AlignCenter);
+        picture->setFrameShape(QFrame::StyledPanel);
+        picture->setFixedWidth(kPictureWidth);
+        auto* const grid = dynamic_cast<QGridLayout*>(layout());
+        grid->addWidget(picture, 1, grid->columnCount(), grid->rowCount() - 1, 1);
+        resize(kWidth + kPictureWidth, kHeight);
+        connect(this, &QFileDialog::currentChanged, picture, [picture, &files](const QString& path) {
+            const QImage image = QFileInfo(path).isFile() ? ReadPageImage(files, FromQt(path)) : QImage();
+            if (image.isNull()) {
+                picture->setText("No picture");
+                return;
+            }
+            const qreal scale = picture->devicePixelRatioF();
+            const QSize room = (picture->contentsRect().size() - QSize(8, 8)) * scale;
+            QPixmap page =
+                QPixmap::fromImage(image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+            page.setDevicePixelRatio(scale);
+            picture->setPixmap(page);
+        });
+    }
 
     std::optional<std::string> Ask() {
         const UsualCursor usual;
@@ -144,6 +174,7 @@ std::optional<std::string> QtFileDialogs::AskSaveFile(const app::FileQuestion& q
 std::optional<std::string> QtFileDialogs::AskOpenFile(const app::FileQuestion& question) {
     FileDialog dialog(window_, question);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.ShowPictures(files_);
     return dialog.Ask();
 }
 

@@ -3,14 +3,15 @@
 #include <QWidget>
 
 #include "app/FileDialogs.h"
+#include "app/Files.h"
 
 namespace tavrene::ui {
 
 /// The file dialogs of the window. They are the toolkit's own on every desktop.
 class QtFileDialogs final : public app::FileDialogs {
   public:
-    /// The window must outlive the object.
-    explicit QtFileDialogs(QWidget& window) : window_(window) {}
+    /// Both must outlive the object.
+    QtFileDialogs(QWidget& window, const app::Files& files) : window_(window), files_(files) {}
 
     std::optional<std::string> AskSaveFile(const app::FileQuestion& question) override;
     std::optional<std::string> AskOpenFile(const app::FileQuestion& question) override;
@@ -18,6 +19,7 @@ class QtFileDialogs final : public app::FileDialogs {
 
   private:
     QWidget& window_;
+    const app::Files& files_;
 };
 
 }  // namespace tavrene::ui

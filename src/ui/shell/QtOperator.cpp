@@ -32,11 +32,13 @@ QMessageBox::StandardButton ButtonOf(app::Answer answer) {
 
 }  // namespace
 
-QtOperator::QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip)
-    : window_(window), panels_(panels), strip_(strip), reports_(new FileReports(&window)) {}
+QtOperator::QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip, const QWidget& page)
+    : window_(window), panels_(panels), strip_(strip), reports_(new FileReports(&window, page)) {}
 
 void QtOperator::ShowMessage(std::string_view title, std::string_view text) {
-    ShowBox(window_, QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);
+    // What has a title of its own tells of something that the person wanted.
+    const QMessageBox::Icon icon = title.empty() ? QMessageBox::Warning : QMessageBox::Information;
+    ShowBox(window_, icon, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void QtOperator::ReportFile(std::string_view fileName, std::string_view text) {

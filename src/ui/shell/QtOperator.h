@@ -10,11 +10,11 @@
 namespace tavrene::ui {
 
 /// The person at the window: message boxes over it, its status bar, the strip over the page, and the box of
-/// file messages beside it.
+/// file messages on it.
 class QtOperator final : public app::Operator {
   public:
     /// All belong to the window and must outlive the object.
-    QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip);
+    QtOperator(QWidget& window, StatusPanels& panels, MessageStrip& strip, const QWidget& page);
 
     void ShowMessage(std::string_view title, std::string_view text) override;
     void ReportFile(std::string_view fileName, std::string_view text) override;
@@ -26,6 +26,9 @@ class QtOperator final : public app::Operator {
     void SetProgressRange(int last) override;
     void SetProgress(int value) override;
     void RunPendingEvents() override;
+
+    /// Takes the box of file messages off the screen; false when it was not there.
+    bool CloseReports() { return reports_->isVisible() && reports_->close(); }
 
   private:
     app::Answer Ask(std::string_view text, QMessageBox::StandardButtons buttons, app::Answer preset);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ui/base/QtText.h"
+#include "ui/commands/RunTexts.h"
 
 namespace tavrene::ui {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 // The longest texts that the panels are to show whole.
 constexpr const char* kFileText = "Profiles:1000, Active:1000";
 constexpr const char* kTimeText = "Checked:100 of 1000 Skip:100";
-constexpr const char* kProgressText = "1000/1000";
+constexpr const char* kProgressText = "1000 of 1000, 100 min left";
 constexpr int kPanelMargin = 6;
 
 constexpr int kProgressBarWidth = 120;
@@ -42,7 +43,7 @@ void PanelLabel::paintEvent(QPaintEvent*) {
 }
 
 StatusPanels::StatusPanels(QWidget* parent)
-    : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar) {
+    : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar), zoom_(new ZoomBox) {
     setObjectName("StatusBar1");
     setSizeGripEnabled(false);
     AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileText);
@@ -55,10 +56,12 @@ StatusPanels::StatusPanels(QWidget* parent)
     progress_->setFixedSize(kProgressBarWidth, kProgressBarHeight);
     progress_->setRange(0, 1);
     row_->addWidget(progress_);
+    row_->addWidget(zoom_);
     row_->setContentsMargins(4, 2, 10, 2);
     row_->setSpacing(4);
     auto* const panels = new QWidget;
     panels->setLayout(row_);
+    CountFiles(false);
     // Permanent, or the hints that the menus show would hide the panels for a while.
     addPermanentWidget(panels, 1);
 }
@@ -74,9 +77,10 @@ void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* acce
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     panels_[static_cast<std::size_t>(panel)] = label;
     row_->addWidget(label, longest != nullptr ? 0 : 1);
-    auto* const line = new QFrame;
-    line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Sunken));
-    row_->addWidget(line);
+    lines_[static_cast<std::size_t>(panel)] = new QFrame;
+    lines_[static_cast<std::size_t>(panel)]->setFrameStyle(static_cast<int>(QFrame::VLine) |
+                                                           static_cast<int>(QFrame::Sunken));
+    row_->addWidget(lines_[static_cast<std::size_t>(panel)]);
 }
 
 void StatusPanels::SetPanel(app::Panel panel, const QString& text) {
@@ -86,12 +90,33 @@ void StatusPanels::SetPanel(app::Panel panel, const QString& text) {
 void StatusPanels::SetProgressRange(int last) {
     // A bar without a range would run to and fro for ever.
     progress_->setRange(0, std::max(last, 1));
+    since_.start();
     SetProgress(0);
 }
 
 void StatusPanels::SetProgress(int value) {
     // The bar paints itself at once, but only where the step can be seen.
     progress_->setValue(value);
+    constexpr double kMilliseconds = 1000;
+    if (countsFiles_)
+        SetPanel(app::Panel::Progress,
+                 ToQt(commands::ProgressText(value, progress_->maximum(),
+                                             static_cast<double>(since_.elapsed()) / kMilliseconds)));
+}
+
+void StatusPanels::Show(app::Panel panel, bool shown) {
+    panels_[static_cast<std::size_t>(panel)]->setVisible(shown);
+    lines_[static_cast<std::size_t>(panel)]->setVisible(shown);
+}
+
+void StatusPanels::CountFiles(bool counts) {
+    countsFiles_ = counts;
+    // A run sets the zoom itself.
+    zoom_->setEnabled(!counts);
+    // Neither has anything to say while the other one does, and a small screen has no room for both.
+    Show(app::Panel::Progress, counts);
+    Show(app::Panel::ElapsedTime, !counts);
+    SetPanel(app::Panel::Progress, "");
 }
 
 }  // namespace tavrene::ui

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <array>
 
 #include "app/Operator.h"
+#include "ui/shell/ZoomBox.h"
 
 class QHBoxLayout;
 
@@ -22,8 +24,8 @@ class PanelLabel final : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The status bar: four panels, named by their keys, and the progress bar. What is set can be read at once,
-/// also while a long operation keeps the window busy.
+/// The status bar: four panels, named by their keys, the progress bar, and the zoom. What is set can be read
+/// at once, also while a long operation keeps the window busy.
 class StatusPanels final : public QStatusBar {
   public:
     explicit StatusPanels(QWidget* parent);
@@ -32,12 +34,23 @@ class StatusPanels final : public QStatusBar {
     void SetProgressRange(int last);
     void SetProgress(int value);
 
+    /// While a run goes on the panel `Progress` counts its files and says how long the rest will take.
+    void CountFiles(bool counts);
+
+    ZoomBox& Zoom() { return *zoom_; }
+
   private:
     void AddPanel(app::Panel panel, const char* name, const char* accessibleName, const char* longest);
 
+    void Show(app::Panel panel, bool shown);
+
     std::array<PanelLabel*, 4> panels_{};
+    std::array<QFrame*, 4> lines_{};  ///< Behind each panel.
     QHBoxLayout* row_;
     QProgressBar* progress_;
+    ZoomBox* zoom_;
+    bool countsFiles_ = false;
+    QElapsedTimer since_;  ///< The range was set.
 };
 
 }  // namespace tavrene::ui

@@ -39,7 +39,8 @@ const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
 const Commands kBoxes = {C::SelectBox, C::AddBox,        C::DeleteBox, C::RenameBox, C::Undo,
                          C::Redo,      C::FindMoreBoxes, C::EditBoxes, C::SetActive};
-const Commands kForms = {C::OpenForm, C::NextForm, C::PreviousForm, C::PickForm};
+const Commands kForms = {C::OpenForm, C::NextForm,        C::PreviousForm,
+                         C::PickForm, C::BackToProcessIn, C::AllBackToProcessIn};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
 const Commands kForm = {C::FlipBox, C::NextDoubtful, C::PickProfile, C::PickMark};
 const Commands kReview = AllBut(kNew + kFile + kBoxes + kDecisions + kForm);
@@ -70,6 +71,8 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::NextForm, Prompts::Form},
                                                 {C::PreviousForm, Prompts::Form},
                                                 {C::PickForm, Prompts::Form},
+                                                {C::PickFile, Prompts::ProfileThenForm},
+                                                {C::ProcessUnread, Prompts::ProfileThenForm},
                                                 {C::PickThumbnail, Prompts::Profile},
                                                 {C::Exit, Prompts::FormThenProfile}};
     const auto has = [](const std::map<Mode, Commands>& table, Mode mode, Command command) {

@@ -1,22 +1,22 @@
-#include "intake/ImageNames.h"
+#include "app/ImageNames.h"
 
 #include <algorithm>
 #include <string_view>
 
 #include "app/Utf8.h"
 
-namespace tavrene::intake {
+namespace tavrene::app {
 namespace {
 
 // The base name of a file as the beginning of a name: not hidden, and with room for what comes behind it.
 std::string StemOf(const std::string& path) {
     constexpr std::size_t kRoom = 200;
-    std::string base = app::ValidUtf8(app::BaseName(path));
+    std::string base = ValidUtf8(BaseName(path));
     base.erase(0, std::min(base.find_first_not_of('.'), base.size()));
     std::string_view rest = base;
     while (!rest.empty()) {
         const std::size_t before = base.size() - rest.size();
-        app::TakeCharacter(rest);
+        TakeCharacter(rest);
         if (base.size() - rest.size() > kRoom)
             return base.substr(0, before);
     }
@@ -34,14 +34,14 @@ std::string PageSuffix(int page, int pages) {
     return "-p" + std::string(digits - number.size(), '0') + number;
 }
 
-ImageNames::ImageNames(const app::Files& files, const app::WorkingFolders& folders)
+ImageNames::ImageNames(const Files& files, const WorkingFolders& folders)
     : files_(files), incoming_(folders.ProcessIn) {
     // A result is found by the base name of its image, so an image in any of these folders keeps all names
     // that differ from its own by the extension alone.
     for (const std::string* const folder :
          {&folders.ProcessIn, &folders.ProcessOut, &folders.ProcessFinal, &folders.ProcessReject}) {
         for (const std::string& name : files.List(*folder, "*"))
-            taken_.insert(app::LowerCase(app::BaseName(name)));
+            taken_.insert(LowerCase(BaseName(name)));
     }
 }
 
@@ -58,12 +58,12 @@ std::vector<std::string> ImageNames::Take(const std::string& path, std::span<con
         }
     }
     for (const std::string& name : names)
-        taken_.insert(app::LowerCase(app::BaseName(name)));
+        taken_.insert(LowerCase(BaseName(name)));
     return names;
 }
 
 bool ImageNames::IsFree(const std::string& name) const {
-    return taken_.count(app::LowerCase(app::BaseName(name))) == 0 && !files_.FileExists(incoming_ + name);
+    return taken_.count(LowerCase(BaseName(name))) == 0 && !files_.FileExists(incoming_ + name);
 }
 
-}  // namespace tavrene::intake
+}  // namespace tavrene::app

@@ -8,7 +8,7 @@
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
 
-namespace tavrene::intake {
+namespace tavrene::app {
 
 /// What the name of a page's image has behind its stem, without an extension: "-p007", nothing for the only
 /// page of a file.
@@ -18,7 +18,7 @@ std::string PageSuffix(int page, int pages);
 class ImageNames {
   public:
     /// The folders as they are now.
-    ImageNames(const app::Files& files, const app::WorkingFolders& folders);
+    ImageNames(const Files& files, const WorkingFolders& folders);
 
     /// The stem of the file at `path` with each of `endings`; where one of them is taken already, with a
     /// number behind the stem ("scan-2-p001.tif"). The names count as taken from here on.
@@ -27,9 +27,9 @@ class ImageNames {
   private:
     bool IsFree(const std::string& name) const;
 
-    const app::Files& files_;
+    const Files& files_;
     std::string incoming_;
     std::set<std::string> taken_;  // base names in lower case
 };
 
-}  // namespace tavrene::intake
+}  // namespace tavrene::app

@@ -1,0 +1,77 @@
+#include "review/UnreadPages.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "recognition/ResultDocument.h"
+#include "review/LogReasons.h"
+
+namespace tavrene::review {
+namespace {
+
+bool IsDocument(const std::string& name) {
+    return app::UpperCase(app::Extension(name)) == "XML";
+}
+
+// What an image that was read says: there was a document.
+std::string ReasonFrom(const std::string& said) {
+    if (said.empty())
+        return "The logs of the last weeks say nothing of it.";
+    return said.starts_with("classified") ? "Its result document has gone or cannot be read." : said;
+}
+
+}  // namespace
+
+void UnreadPages::Follow(const std::set<std::string>& listed) {
+    std::vector<std::string> names;
+    try {
+        names = files_.List(folders_.ProcessOut, "*");
+    } catch (const app::FileError&) {
+        return;
+    }
+    std::erase_if(names, [&](const std::string& name) { return IsDocument(name) || listed.contains(name); });
+    std::map<std::string, std::string> seen;
+    std::set<std::string> asked;
+    for (const std::string& name : names) {
+        seen[name] = files_.Fingerprint(folders_.ProcessOut + name);
+        const auto before = seen_.find(name);
+        if (before == seen_.end() || before->second != seen[name])
+            asked.insert(name);
+    }
+    std::map<std::string, std::string> reasons;
+    if (!asked.empty())
+        reasons = ReasonsInLogs(files_, folders_.Log, asked);
+    std::map<std::string, std::string> known;
+    for (UnreadPage& page : pages_)
+        known[page.Name] = std::move(page.Reason);
+    pages_.clear();
+    for (const std::string& name : names)
+        pages_.push_back({name, asked.contains(name) ? ReasonFrom(reasons[name]) : known[name]});
+    seen_ = std::move(seen);
+}
+
+void UnreadPages::Follow() {
+    std::set<std::string> listed;
+    try {
+        for (const std::string& document : files_.List(folders_.ProcessOut, "*.xml"))
+            listed.insert(recognition::ImageOfResult(files_, folders_.ProcessOut + document));
+    } catch (const app::FileError&) {
+        return;
+    }
+    Follow(listed);
+}
+
+int UnreadPages::SendBack(std::span<const std::string> names) {
+    int moved = 0;
+    for (const std::string& name : names) {
+        if (files_.FileExists(folders_.ProcessIn + name) || !files_.FileExists(folders_.ProcessOut + name))
+            continue;
+        files_.Move(folders_.ProcessOut + name, folders_.ProcessIn + name, app::Keep::WithNext);
+        log_.LogProcessEvent("Image [" + name + "] sent back to " + folders_.ProcessIn);
+        ++moved;
+    }
+    return moved;
+}
+
+}  // namespace tavrene::review

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "recognition/RunSummary.h"
+
+namespace tavrene::commands {
+
+/// How far a run is: "138 of 675, 4 min left", by the seconds that the files so far have taken. The time is
+/// left out while too little is known of it.
+std::string ProgressText(int done, int total, double seconds);
+
+/// The line that tells of a run that has ended, as rich text. A number of files is a link whose address is
+/// the number of their `FileEnd`, or "all"; none is a link where there are no such files.
+std::string SummaryText(const recognition::RunSummary& summary);
+
+/// The files of a link of that line, in the run's order.
+std::vector<recognition::FileReport> FilesBehind(const recognition::RunSummary& summary,
+                                                 const std::string& link);
+
+/// The link whose files the person should see first; none where all were read.
+std::optional<std::string> WorstLink(const recognition::RunSummary& summary);
+
+}  // namespace tavrene::commands

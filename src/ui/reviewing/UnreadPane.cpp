@@ -1,0 +1,63 @@
+#include "ui/reviewing/UnreadPane.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tavrene::ui {
+namespace {
+
+using commands::Command;
+
+// The reasons are longer than the side is wide.
+constexpr int kNameWidth = 150;
+constexpr int kReasonWidth = 360;
+
+ReasonList* MakeList(QWidget* parent) {
+    auto* const list = new ReasonList({"Page", "Reason"}, "Every page of ProcessOut has been read.", parent);
+    list->setObjectName("lvwUnread");
+    list->setAccessibleName("Pages that were not read");
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->header()->resizeSection(0, kNameWidth);
+    list->header()->resizeSection(1, kReasonWidth);
+    return list;
+}
+
+}  // namespace
+
+UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this)) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(list_, 1);
+    auto* const below = new QVBoxLayout;
+    below->setContentsMargins(10, 8, 10, 10);
+    below->setSpacing(6);
+    const std::pair<Command, const char*> buttons[] = {
+        {Command::BackToProcessIn, "&Back to ProcessIn"},
+        {Command::AllBackToProcessIn, "&All Back to ProcessIn"},
+        {Command::ProcessUnread, "Process A&ll Again"}};
+    for (const auto& [command, text] : buttons) {
+        auto* const button = new QPushButton(text, this);
+        connect(button, &QPushButton::clicked, this, [this, pressed = command] { pressed_(pressed); });
+        below->addWidget(button);
+        buttons_.emplace_back(command, button);
+    }
+    layout->addLayout(below);
+    connect(list_, &QTreeWidget::itemSelectionChanged, this,
+            [this] { buttons_.front().second->setEnabled(!list_->selectedItems().isEmpty()); });
+}
+
+void UnreadPane::Show(const std::vector<review::UnreadPage>& pages) {
+    std::vector<ReasonRow> rows;
+    for (const review::UnreadPage& page : pages)
+        rows.push_back({page.Name, page.Reason});
+    list_->Show(std::move(rows));
+}
+
+void UnreadPane::Update(const std::function<bool(Command)>& offers) {
+    for (const auto& [command, button] : buttons_)
+        button->setEnabled(offers(command));
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,59 @@
+#include "ui/shell/ScanIntake.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
+#include <utility>
+
+#include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
+#include "ui/commands/ScansIn.h"
+
+namespace tavrene::ui {
+namespace {
+
+using commands::Command;
+
+std::vector<std::string> PathsIn(const QMimeData* data) {
+    std::vector<std::string> paths;
+    if (data != nullptr)
+        for (const QUrl& url : data->urls())
+            if (url.isLocalFile())
+                paths.push_back(FromQt(url.toLocalFile()));
+    return paths;
+}
+
+}  // namespace
+
+ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context) : QObject(&window), context_(context) {
+    window.setAcceptDrops(true);
+    window.installEventFilter(this);
+    context_.gate.SetHandler(Command::PasteScans,
+                             [this] { CopyIn(PathsIn(QGuiApplication::clipboard()->mimeData())); });
+}
+
+bool ScanIntake::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
+        return QObject::eventFilter(watched, event);
+    auto& drag = static_cast<QDropEvent&>(*event);
+    std::vector<std::string> paths = PathsIn(drag.mimeData());
+    // The files stay where they are, whatever the other program would like best.
+    drag.setDropAction(Qt::CopyAction);
+    drag.setAccepted(!paths.empty() && commands::ActsIn(Command::PasteScans, context_.gate.CurrentMode()));
+    // A question that opened at once would hold up the program from which they are dragged.
+    if (event->type() == QEvent::Drop && drag.isAccepted())
+        QTimer::singleShot(0, this, [this, dropped = std::move(paths)] {
+            context_.gate.Take(Command::PasteScans, [&] { CopyIn(dropped); });
+        });
+    return true;
+}
+
+void ScanIntake::CopyIn(const std::vector<std::string>& paths) {
+    const BusyCursor busy;
+    commands::CopyScansIn(paths, context_.files, context_.person, context_.state.folders);
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,86 @@
+#include "ui/shell/SummaryPanel.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "ui/base/QtText.h"
+#include "ui/commands/RunTexts.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kNameWidth = 260;
+constexpr std::size_t kMostLines = 6;
+
+ReasonList* MakeList(QWidget* parent) {
+    auto* const list = new ReasonList({"File", "What became of it"}, {}, parent);
+    list->setObjectName("SummaryFiles");
+    list->setAccessibleName("Files of the last run");
+    list->header()->resizeSection(0, kNameWidth);
+    return list;
+}
+
+}  // namespace
+
+SummaryPanel::SummaryPanel(QWidget* parent)
+    : QFrame(parent), text_(new QLabel(this)), files_(MakeList(this)) {
+    setObjectName("SummaryPanel");
+    setAccessibleName("What became of the files of the last run");
+    setFrameShape(QFrame::StyledPanel);
+    text_->setObjectName("lblSummary");
+    text_->setTextFormat(Qt::RichText);
+    text_->setWordWrap(true);
+    text_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    auto* const close = new QToolButton(this);
+    close->setObjectName("cmdCloseSummary");
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setAutoRaise(true);
+    close->setToolTip("Close the summary");
+    close->setAccessibleName(close->toolTip());
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(10, 3, 6, 3);
+    row->addWidget(text_, 1);
+    row->addWidget(close, 0, Qt::AlignTop);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(row);
+    layout->addWidget(files_);
+    connect(text_, &QLabel::linkActivated, this,
+            [this](const QString& link) { ShowList(link == link_ ? QString() : link); });
+    connect(close, &QToolButton::clicked, this, &QWidget::hide);
+    hide();
+}
+
+void SummaryPanel::Show(const recognition::RunSummary& summary) {
+    summary_ = summary;
+    text_->setText(ToQt(commands::SummaryText(summary_)));
+    ShowList(ToQt(commands::WorstLink(summary_).value_or("")));
+    show();
+}
+
+bool SummaryPanel::Close() {
+    const bool wasOpen = isVisible();
+    hide();
+    return wasOpen;
+}
+
+void SummaryPanel::ShowList(const QString& link) {
+    link_ = link;
+    std::vector<ReasonRow> rows;
+    for (const recognition::FileReport& file : commands::FilesBehind(summary_, FromQt(link)))
+        rows.push_back({file.name, file.reason});
+    const int lines = static_cast<int>(std::min(rows.size(), kMostLines));
+    // On a small screen the page keeps the greater part.
+    files_->setFixedHeight(std::min(files_->HeightOf(lines), window()->height() / 4));
+    files_->setVisible(lines > 0);
+    files_->Show(std::move(rows));
+}
+
+}  // namespace tavrene::ui

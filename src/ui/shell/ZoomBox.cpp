@@ -1,0 +1,46 @@
+#include "ui/shell/ZoomBox.h"
+
+#include <QSignalBlocker>
+#include <cmath>
+
+namespace tavrene::ui {
+namespace {
+
+// Where the zoom commands end, and before them where fitting may.
+constexpr int kLeast = 1;
+constexpr int kMost = 6500;
+
+}  // namespace
+
+ZoomBox::ZoomBox() {
+    setObjectName("ZoomPercent");
+    setAccessibleName("Zoom in percent");
+    setToolTip("Zoom in percent; type another one");
+    setRange(kLeast, kMost);
+    setSuffix(" %");
+    setAlignment(Qt::AlignRight);
+    setFrame(false);
+    // A number is taken when it is whole, not digit by digit, and a wheel over the status bar is none.
+    setKeyboardTracking(false);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ZoomBox::Connect(ImageView& view) {
+    view_ = &view;
+    const auto show = [this](double percent) {
+        const QSignalBlocker shown(this);
+        setValue(static_cast<int>(std::lround(percent)));
+    };
+    view.SetZoomListener(show);
+    show(view.Zoom());
+    connect(this, &QSpinBox::valueChanged, &view, [&view](int percent) { view.SetZoom(percent); });
+}
+
+void ZoomBox::stepBy(int steps) {
+    if (view_ == nullptr)
+        return;
+    for (int step = 0; step < std::abs(steps); ++step)
+        steps > 0 ? view_->ZoomIn() : view_->ZoomOut();
+}
+
+}  // namespace tavrene::ui

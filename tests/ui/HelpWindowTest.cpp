@@ -1,0 +1,98 @@
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTextBrowser>
+#include <algorithm>
+
+#include "support/SourceFolder.h"
+#include "ui/DeskWindow.h"
+#include "ui/commands/ManualText.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::Find;
+
+class HelpWindowTest : public test::DeskWindow {
+  protected:
+    std::string OpenHelp() {
+        Press(*window_, Qt::Key_F1);
+        return FromQt(Find<QListWidget>(*window_, "Contents").currentItem()->text());
+    }
+};
+
+TEST_F(HelpWindowTest, OpensAtThePageOfTheModeAndIsClosedFirst) {
+    const auto form = test::TestForm::Grid(2, 2);
+    AddSpecimenProfile("Form", form);
+    Open();
+    EXPECT_EQ(window_->windowTitle(), "Tavrene CheckBoxes");
+    EXPECT_EQ(OpenHelp(), "First steps");
+    auto& page = Find<QTextBrowser>(*window_, "Page");
+    EXPECT_TRUE(page.toPlainText().startsWith("First steps"));
+    Q_EMIT page.anchorClicked(QUrl("#files-and-folders"));
+    EXPECT_TRUE(page.toPlainText().contains("ProcessReject"));
+    Press(View(), Qt::Key_Escape);
+    EXPECT_FALSE(page.isVisible());
+    EXPECT_TRUE(window_->isVisible());
+    ClickThumbnail(1);
+    EXPECT_EQ(OpenHelp(), "Making a profile");
+    Click("Review");
+    EXPECT_EQ(OpenHelp(), "Reviewing");
+}
+
+TEST_F(HelpWindowTest, TheManualKnowsEveryKeyAndItsLinksLeadSomewhere) {
+    const std::string manual = test::ReadText(test::SourceFolder() + "/docs/manual.md");
+    const auto pages = commands::PagesOf(manual);
+    const auto page = [&](std::string_view title) {
+        const auto found = std::ranges::find(pages, title, &commands::ManualPage::title);
+        return found == pages.end() ? std::string() : found->text;
+    };
+    const std::string keys = page("Keyboard");
+    for (const commands::CommandInfo& info : commands::CommandTable())
+        for (const QString& key : ToQt(info.shortcut).split("; ", Qt::SkipEmptyParts))
+            EXPECT_PRED2(test::Has, keys, FromQt(key)) << info.key;
+    for (const auto mode :
+         {commands::Mode::Start, commands::Mode::Profile, commands::Mode::Form, commands::Mode::Run})
+        EXPECT_FALSE(page(commands::PageFor(mode)).empty());
+    for (std::size_t at = manual.find("](#"); at != std::string::npos; at = manual.find("](#", at + 1)) {
+        const std::string anchor = manual.substr(at + 3, manual.find(')', at) - at - 3);
+        EXPECT_TRUE(std::ranges::count(pages, anchor, &commands::ManualPage::anchor) == 1) << anchor;
+    }
+}
+
+TEST_F(HelpWindowTest, TitleAndZoomTellWhatIsOnTheScreen) {
+    const auto form = test::TestForm::Grid(2, 2);
+    AddSpecimenProfile("Form [*]", form);
+    form.SaveScan(folders_.ProcessIn + "scan.tif", {});
+    Open();
+    ClickThumbnail(1);
+    EXPECT_EQ(window_->windowTitle(), "Form [*][*][*] - Tavrene CheckBoxes");
+    EXPECT_FALSE(window_->isWindowModified());
+    ClickRow(0);
+    Press(View(), Qt::Key_Right);
+    EXPECT_TRUE(window_->isWindowModified());
+    Click("Save");
+    EXPECT_FALSE(window_->isWindowModified());
+    EXPECT_EQ(Panel("Message"), "Saved Profile: Form [*]");
+
+    auto& zoom = Find<QSpinBox>(*window_, "ZoomPercent");
+    Click("ZoomToOrig");
+    EXPECT_EQ(zoom.value(), 100);
+    Click("ZoomIn");
+    EXPECT_EQ(zoom.value(), 125);
+    zoom.selectAll();
+    QTest::keyClicks(&zoom, "60");
+    QTest::keyClick(&zoom, Qt::Key_Return);
+    EXPECT_DOUBLE_EQ(View().transform().m11(), 0.6);
+    EXPECT_TRUE(window_->isVisible());
+
+    Click("Process");
+    EXPECT_EQ(window_->windowTitle(), "Tavrene CheckBoxes");
+    Click("Review");
+    Find<QAction>(*window_, "OpenForm").trigger();
+    EXPECT_EQ(window_->windowTitle(), "scan[*] - Tavrene CheckBoxes");
+    Click("Okay");
+    EXPECT_EQ(Panel("Message"), "Saved Form: scan");
+}
+
+}  // namespace
+}  // namespace tavrene::ui
