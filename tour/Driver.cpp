@@ -72,10 +72,16 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
+    auto& files = Find<QTreeWidget>(window_, "SummaryFiles");
+    ClickOn(*files.viewport(), files.visualItemRect(files.topLevelItem(0)).center());
+    ShootWindow("5-file-of-the-summary");
     Find<QToolButton>(window_, "cmdCloseSummary").click();
     ShootProfileDesk();
     ShootReview();
     ShootSettingsDialog();
+    Find<QAction>(window_, "Manual").trigger();
+    QApplication::processEvents();
+    Shoot(Find<QDialog>(window_, "frmManual"), "10-manual");
     window_.close();
 }
 
