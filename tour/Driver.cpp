@@ -74,6 +74,9 @@ void Driver::Drive() {
     ShootWindow("3-after-the-run");
     Press("FitPage");
     ShootWindow("4-whole-page");
+    auto& files = Find<QTreeWidget>(window_, "SummaryFiles");
+    ClickOn(*files.viewport(), files.visualItemRect(files.topLevelItem(0)).center());
+    ShootWindow("5-file-of-the-summary");
     CloseSummary();
     ShootProfileDesk();
     ShootReview();
@@ -90,6 +93,10 @@ void Driver::ReadPrecisely() {
     Press("FitPage");
     ShootWindow("10-upside-down-form");
     precise.trigger();
+    Press("Review");
+    Find<QAction>(window_, "Manual").trigger();
+    QApplication::processEvents();
+    Shoot(Find<QDialog>(window_, "frmManual"), "11-manual");
     window_.close();
 }
 

@@ -55,8 +55,7 @@ TEST_F(IntakeTest, ScansAndFoldersAreDroppedOrPastedIntoProcessIn) {
     EXPECT_TRUE(Drop({outside_.File("one.tif"), outside_.File("batch")}));
     EXPECT_EQ(In(folders_.ProcessIn), (Names{"one.tif", "three.jpg", "two.tif"}));
     EXPECT_EQ(test::ReadText(folders_.ProcessIn + "one.tif"), test::ReadText(outside_.File("one.tif")));
-    EXPECT_EQ(Panel("Message"),
-              "3 scans were copied to ProcessIn. 1 other files were left out: they are no images.");
+    EXPECT_EQ(Panel("Message"), "3 scans were copied to ProcessIn. 1 other file was left out: no image.");
     EXPECT_TRUE(files_.FileExists(outside_.File("one.tif")));
 
     // The name waits in ProcessIn, and another one belongs to a form that was read.

@@ -228,10 +228,15 @@ TEST_F(SettingsDialogTest, TheFolderIsTypedClickedOrMade) {
     });
     Click("cmdNewFolder");
     EXPECT_EQ(Path().text(), ToQt(work_.Path() + "/clicked/made"));
-    Path().clear();
-    QTest::keyClicks(&Path(), ToQt(work_.Path()) + "/clicked/");
-    QTest::keyClick(&Path(), Qt::Key_Return);
-    EXPECT_TRUE(dialog_->isVisible()) << "Enter ends the typing only";
+    for (const auto& [typed, folder] :
+         {std::pair(QString("~/"), QDir::homePath()),
+          {ToQt(work_.Path()) + "/clicked/", ToQt(work_.Path()) + "/clicked"}}) {
+        Path().clear();
+        QTest::keyClicks(&Path(), typed);
+        QTest::keyClick(&Path(), Qt::Key_Return);
+        EXPECT_EQ(Path().text(), folder);
+        EXPECT_TRUE(dialog_->isVisible()) << "Enter ends the typing only";
+    }
     Click("cmdOK");
     EXPECT_EQ(settings_.WorkDir, work_.Path() + "/clicked");
 }

@@ -101,12 +101,14 @@ class Intake {
     }
 
     void Tell(int copied) {
-        std::string text =
-            std::to_string(copied) + (copied == 1 ? " scan was" : " scans were") + " copied to ProcessIn.";
+        const auto counted = [](int count, const char* one, const char* many) {
+            return std::to_string(count) + " " + (count == 1 ? one : many);
+        };
+        std::string text = counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
         if (others_ > 0)
-            text += " " + std::to_string(others_) + " other files were left out: they are no images.";
+            text += " " + counted(others_, "other file was", "other files were") + " left out: no image.";
         if (waiting_ > 0)
-            text += " " + std::to_string(waiting_) + " are in ProcessIn already.";
+            text += " " + counted(waiting_, "is", "are") + " in ProcessIn already.";
         person_.SetPanel(app::Panel::Message, text);
     }
 

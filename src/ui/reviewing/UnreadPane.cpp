@@ -50,6 +50,7 @@ UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this))
 
 void UnreadPane::Show(const std::vector<review::UnreadPage>& pages) {
     std::vector<ReasonRow> rows;
+    rows.reserve(pages.size());
     for (const review::UnreadPage& page : pages)
         rows.push_back({page.Name, page.Reason});
     list_->Show(std::move(rows));

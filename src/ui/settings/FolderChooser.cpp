@@ -76,8 +76,10 @@ FolderChooser::FolderChooser()
             [this](const QListWidgetItem* row) { GoTo(row->data(Qt::UserRole).toString()); });
     connect(folders_, &QListWidget::itemClicked, this,
             [this](const QListWidgetItem* row) { Choose(row->data(Qt::UserRole).toString()); });
-    connect(path_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { current_ = QDir::cleanPath(QDir::fromNativeSeparators(text)); });
+    connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        const QString path = QDir::fromNativeSeparators(text);
+        current_ = QDir::cleanPath(path.startsWith("~/") ? QDir::homePath() + path.mid(1) : path);
+    });
     connect(path_, &QLineEdit::editingFinished, this, [this] { GoTo(current_); });
     folders_->installEventFilter(this);
     path_->installEventFilter(this);

@@ -41,7 +41,7 @@ QString TrySamples(QWidget* parent, app::Files& files) {
     if (picked.isEmpty())
         return {};
     const BusyCursor busy;
-    const QString folder = QDir(picked).isEmpty() ? picked : QDir(picked).filePath(kOwnFolder);
+    QString folder = QDir(picked).isEmpty() ? picked : QDir(picked).filePath(kOwnFolder);
     try {
         if (!files.FolderExists(FromQt(folder)))
             files.CreateFolder(FromQt(folder));

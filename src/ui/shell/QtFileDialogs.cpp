@@ -84,8 +84,10 @@ class FileDialog final : public QFileDialog {
             }
             const qreal scale = picture->devicePixelRatioF();
             const QSize room = (picture->contentsRect().size() - QSize(8, 8)) * scale;
+            // A picture of two colours would be scaled to two colours.
             QPixmap page =
-                QPixmap::fromImage(image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+                QPixmap::fromImage(image.convertToFormat(QImage::Format_RGB32)
+                                       .scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
             page.setDevicePixelRatio(scale);
             picture->setPixmap(page);
         });

@@ -53,7 +53,12 @@ bool ScanIntake::eventFilter(QObject* watched, QEvent* event) {
 
 void ScanIntake::CopyIn(const std::vector<std::string>& paths) {
     const BusyCursor busy;
-    commands::CopyScansIn(paths, context_.files, context_.person, context_.state.folders);
+    if (paths.empty())
+        context_.person.SetPanel(
+            app::Panel::Message,
+            "The clipboard holds no files. Copy scans or folders in a file manager first.");
+    else
+        commands::CopyScansIn(paths, context_.files, context_.person, context_.state.folders);
 }
 
 }  // namespace tavrene::ui

@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include "ui/commands/RunTexts.h"
+
+namespace tavrene::commands {
+namespace {
+
+TEST(RunTextsTest, TheProgressSaysWhatIsLeftOnceItIsKnown) {
+    EXPECT_EQ(ProgressText(138, 675, 60), "138 of 675, 4 min left");
+    EXPECT_EQ(ProgressText(600, 675, 60), "600 of 675, 8 s left");
+    EXPECT_EQ(ProgressText(3, 675, 0.4), "3 of 675") << "too early to tell";
+    EXPECT_EQ(ProgressText(0, 675, 60), "0 of 675");
+    EXPECT_EQ(ProgressText(675, 675, 60), "675 of 675");
+}
+
+TEST(RunTextsTest, TheSummaryLinksOnlyWhatHasFiles) {
+    using recognition::FileEnd;
+    const recognition::RunSummary summary = {
+        {{"a.tif", FileEnd::Read, ""}, {"b.tif", FileEnd::Refused, "torn"}}, 1};
+    EXPECT_EQ(SummaryText(summary),
+              "Last run: <a href=\"all\">2 files</a> &nbsp;|&nbsp; <a href=\"0\">1 read</a> &nbsp;|&nbsp; "
+              "0 not recognised &nbsp;|&nbsp; <a href=\"2\">1 refused</a> &nbsp;|&nbsp; 0 not written "
+              "&nbsp;|&nbsp; 1 second");
+    EXPECT_EQ(WorstLink(summary), "2");
+    EXPECT_EQ(FilesBehind(summary, "all").size(), 2U);
+    EXPECT_EQ(FilesBehind(summary, "2").at(0).reason, "torn");
+}
+
+}  // namespace
+}  // namespace tavrene::commands
