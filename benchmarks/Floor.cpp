@@ -2,33 +2,11 @@
 
 #include <FreeImage.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <stdexcept>
 
+#include "app/TemporaryFolder.h"
+
 namespace tavrene::bench {
-namespace {
-
-class Scratch {
-  public:
-    Scratch() : path_((std::filesystem::temp_directory_path() / "tavrene-benchmark-XXXXXX").string()) {
-        if (::mkdtemp(path_.data()) == nullptr)
-            throw std::runtime_error("there is no temporary folder");
-    }
-    ~Scratch() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
-
-    const std::string& Path() const { return path_; }
-
-  private:
-    std::string path_;
-};
-
-}  // namespace
 
 void LoadAndSave(const std::string& page, const std::string& copy) {
     FIBITMAP* const bitmap = FreeImage_Load(FIF_TIFF, page.c_str(), 0);
@@ -39,7 +17,7 @@ void LoadAndSave(const std::string& page, const std::string& copy) {
 }
 
 const std::string& ScratchFolder() {
-    static const Scratch scratch;
+    static const app::TemporaryFolder scratch("tavrene-benchmark");
     return scratch.Path();
 }
 

@@ -5,14 +5,15 @@ BEGIN {
     may["app"] = " "
     may["imaging"] = " app "
     may["boxes"] = " imaging app "
+    may["boxes/second"] = " boxes imaging app "
     may["profiles"] = " boxes imaging app "
     may["recognition"] = " profiles imaging app "
     may["review"] = " recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
-    may["ui/commands"] = " review results intake recognition profiles boxes imaging app "
+    may["ui/commands"] = " review results intake recognition profiles boxes boxes/second imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.
-    engine = " ui/commands review results intake recognition profiles boxes imaging app "
+    engine = " ui/commands review results intake recognition profiles boxes boxes/second imaging app "
     may["ui/base"] = engine
     may["ui/page"] = " ui/base" engine
     may["ui/lists"] = " ui/base" engine
@@ -54,6 +55,8 @@ function fault(text) {
 function room(path) {
     if (path ~ /^ui\/[^\/]+\//)
         return "ui/" substr(path, 4, index(substr(path, 4), "/") - 1)
+    if (path ~ /^boxes\/second\//)
+        return "boxes/second"
     return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : ""
 }
 

@@ -7,6 +7,8 @@ namespace {
 
 constexpr std::size_t kSidesPerBox = 4;
 
+// The line that is kept of a thick edge may be its inner or its outer one, and its end may stop short at a
+// worn corner: together two pixels.
 bool Near(int a, int b) {
     return std::abs(a - b) <= 2;
 }

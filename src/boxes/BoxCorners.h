@@ -20,7 +20,9 @@ struct ExpectedSide {
     GridPoint FarB;
 };
 
-/// Ends of a fourth side may lie this many pixels from the expected ones, in column and in row.
+/// Ends of a fourth side may lie this many pixels from the expected ones, in column and in row: one more than
+/// at a corner, for its place is carried over from the far ends of two other sides, each with an error of its
+/// own.
 inline constexpr int kEndReach = 3;
 
 /// Whether two perpendicular segments have an end in common, within two pixels.

@@ -10,6 +10,8 @@
 namespace tavrene::boxes {
 namespace {
 
+// One pixel more than boxes of the same size differ by: both edges of a box may be thicker or thinner on one
+// copy. What is known to be a mark (`Mark` set) gets no such benefit of the doubt.
 constexpr int kKeepReach = 3;
 
 // A closed outline says more about the sizes of a form than one with an open corner, which may be a worn

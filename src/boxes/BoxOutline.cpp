@@ -11,7 +11,8 @@ namespace {
 
 using imaging::WorkGrid;
 
-// Far enough for the curve of a letter to leave the edge, near enough that a worn print mostly holds.
+// Far enough for the curve of a letter to leave the edge, near enough that a worn print mostly holds: longer
+// arms lose boxes with a break beside a corner, shorter ones take in an O.
 int ArmLength(int side) {
     return std::max(3, side / 6);
 }

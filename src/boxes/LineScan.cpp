@@ -14,9 +14,12 @@ using Word = WorkGrid::Word;
 constexpr int kWordBits = WorkGrid::kWordBits;
 
 // Runs this much shorter than the smallest side still keep a row from being skipped, and are still collected.
+// A side loses its ends where corners are rounded or worn; the skip comes before gaps are closed across,
+// which may bridge some more, so it forgives twice as much as the collecting.
 constexpr int kMarkSlack = 6;
 constexpr int kShortSlack = 3;
-// Runs this much longer than the largest side are not yet long lines.
+// Runs this much longer than the largest side are not yet long lines: a side that runs over its corners is no
+// ruled line, which would be wiped off the page.
 constexpr int kLongSlack = 3;
 
 // Ones at the columns from `first` to `last`, both inclusive, of the word that starts at column `base`.

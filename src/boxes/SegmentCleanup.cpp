@@ -30,7 +30,8 @@ bool Cross(const LineSeg& a, const LineSeg& b) {
            first.Line <= second.End;
 }
 
-// Whether one of two values lies within two pixels of `value`.
+// Whether one of two values lies within two pixels of `value`: as far as an overshoot may reach that is cut
+// back afterwards.
 bool EitherNear(int value, int first, int second) {
     return std::min(std::abs(value - first), std::abs(value - second)) <= 2;
 }

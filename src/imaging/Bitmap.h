@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -20,6 +21,11 @@ enum class ImageFormat {
     Jpeg2000 = 31,
     Webp = 35
 };
+
+/// Every one of them.
+inline constexpr std::array kImageFormats = {
+    ImageFormat::Bmp, ImageFormat::Jpeg,           ImageFormat::Pcx,      ImageFormat::Png, ImageFormat::Tiff,
+    ImageFormat::Gif, ImageFormat::Jpeg2000Stream, ImageFormat::Jpeg2000, ImageFormat::Webp};
 
 /// The image library's version text; empty when there is no library.
 std::string ImageLibraryVersion();

@@ -56,14 +56,11 @@ Bitmap DecodeImage(std::span<const std::byte> content, ImageFormat format, Decod
 }
 
 std::optional<ImageFormat> FormatOfContent(std::span<const std::byte> content) {
-    constexpr std::array kKnown = {ImageFormat::Bmp,  ImageFormat::Jpeg,           ImageFormat::Pcx,
-                                   ImageFormat::Png,  ImageFormat::Tiff,           ImageFormat::Gif,
-                                   ImageFormat::Webp, ImageFormat::Jpeg2000Stream, ImageFormat::Jpeg2000};
     if (!HasImageLibrary())
         return std::nullopt;
     const MemoryHandle memory = MemoryOver(content);
     const auto format = static_cast<ImageFormat>(Library().GetFileTypeFromMemory(memory.get(), 0));
-    return std::find(kKnown.begin(), kKnown.end(), format) == kKnown.end() ? std::nullopt
+    return std::ranges::find(kImageFormats, format) == kImageFormats.end() ? std::nullopt
                                                                            : std::optional(format);
 }
 

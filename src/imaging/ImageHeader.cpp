@@ -121,12 +121,9 @@ ResolutionPresence FindResolution(std::span<const std::byte> content, ImageForma
         case ImageFormat::Gif:
         case ImageFormat::Webp:
             return {};
-        case ImageFormat::Pcx:
-        case ImageFormat::Jpeg2000:
-        case ImageFormat::Jpeg2000Stream:
-            break;
+        default:
+            return {true, true};
     }
-    return {true, true};
 }
 
 bool IsTooLarge(std::int64_t width, std::int64_t height) {

@@ -174,11 +174,11 @@ std::string BoxEditor::FreeName(int& number) const {
     return UnnamedBox(number++);
 }
 
-void BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
+bool BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
     const std::size_t room =
         static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max() - profile_.Count);
     if (!MayStore() || boxes.empty() || boxes.size() > room)
-        return;
+        return false;
     BoxEdit edit{0, {}, {}, profile_.Count, {}, profile_.BoxList, profile_.BoxList};
     int number = static_cast<int>(profile_.BoxList.size()) + 1;
     for (OmrBox box : boxes) {
@@ -194,6 +194,7 @@ void BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
         return box.Checked && IsSamePlace(box, boxes.front());
     });
     Select(static_cast<int>(first - profile_.BoxList.begin()) + 1);
+    return true;
 }
 
 // The numbers of all boxes may be others then.

@@ -33,8 +33,9 @@ class BoxEditor {
     void RectMoved(int group);
 
     /// Puts boxes among the others, each where sorting from the top of the page down and from left to right
-    /// puts it, as one edit. They get names that no other box has; the first one becomes current.
-    void AddBoxes(const std::vector<OmrBox>& boxes);
+    /// puts it, as one edit. They get names that no other box has; the first one becomes current. False when
+    /// there is no room for all, or none to add; nothing is changed then.
+    bool AddBoxes(const std::vector<OmrBox>& boxes);
 
     /// Deletes the current box; the next one that is left becomes current.
     void DeleteBox();

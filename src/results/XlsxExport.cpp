@@ -2,38 +2,14 @@
 
 #include <xlsxwriter.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <utility>
 
+#include "app/TemporaryFolder.h"
 #include "results/TableNames.h"
 
 namespace tavrene::results {
 namespace {
-
-namespace fs = std::filesystem;
-
-// The library writes to a file only, so the workbook is made in a folder of its own and taken from there.
-class ScratchFolder {
-  public:
-    ScratchFolder() : path_(app::FromPath(fs::temp_directory_path() / "tavrene-export-XXXXXX")) {
-        if (::mkdtemp(path_.data()) == nullptr)
-            throw app::FileError("Cannot create the folder " + path_);
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        fs::remove_all(app::ToPath(path_), ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    std::string File(const std::string& name) const { return path_ + "/" + name; }
-    std::string& Path() { return path_; }
-
-  private:
-    std::string path_;
-};
 
 constexpr lxw_col_t kMostColumns = 16'384;
 
@@ -87,9 +63,9 @@ struct FreeWorkbook {
 };
 using Workbook = std::unique_ptr<lxw_workbook, FreeWorkbook>;
 
-Workbook NewWorkbook(const std::string& path, ScratchFolder& scratch) {
+Workbook NewWorkbook(const std::string& path, std::string folder) {
     // Lines go to a file of the scratch folder one by one, so that memory does not grow with the forms.
-    lxw_workbook_options options{LXW_TRUE, scratch.Path().data(), LXW_TRUE};
+    lxw_workbook_options options{LXW_TRUE, folder.data(), LXW_TRUE};
     Workbook workbook(workbook_new_opt(path.c_str(), &options));
     if (!workbook)
         throw WorkbookError("There is not enough memory for a workbook.");
@@ -100,9 +76,10 @@ Workbook NewWorkbook(const std::string& path, ScratchFolder& scratch) {
 
 bool ExportXlsx(app::Files& files, std::span<const ResultTable> tables, const GroupsOfProfiles& groups,
                 const std::string& path, const Progress& progress) {
-    ScratchFolder scratch;
+    // The library writes to a file only, so the workbook is made in a folder of its own and taken from there.
+    const app::TemporaryFolder scratch("tavrene-export");
     const std::string made = scratch.File("book.xlsx");
-    Workbook workbook = NewWorkbook(made, scratch);
+    Workbook workbook = NewWorkbook(made, scratch.Path());
     const std::vector<std::string> names = SheetNamesOf(tables);
     FormCounter counter(tables, progress);
     for (std::size_t k = 0; k < tables.size(); ++k) {

@@ -67,7 +67,7 @@ int UnreadPages::SendBack(std::span<const std::string> names) {
     for (const std::string& name : names) {
         if (files_.FileExists(folders_.ProcessIn + name) || !files_.FileExists(folders_.ProcessOut + name))
             continue;
-        files_.Move(folders_.ProcessOut + name, folders_.ProcessIn + name, app::Keep::WithNext);
+        files_.Move(folders_.ProcessOut + name, folders_.ProcessIn + name);
         log_.LogProcessEvent("Image [" + name + "] sent back to " + folders_.ProcessIn);
         ++moved;
     }

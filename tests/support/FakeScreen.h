@@ -47,7 +47,7 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
     void Refresh() override { transcript_.Add("view: refresh"); }
 
     void PutRect(int group, const imaging::PageRect& rect, imaging::RectStyle style) override {
-        static constexpr const char* kNames[] = {"editable", "checked", "unchecked", "skipped"};
+        static constexpr const char* kNames[] = {"editable", "checked", "unchecked", "skipped", "candidate"};
         rects[group] = rect;
         transcript_.Add("rect: " + Text(group) + " " + Text(rect.left) + "," + Text(rect.top) + " " +
                         Text(rect.width) + "x" + Text(rect.height) + " " + kNames[static_cast<int>(style)]);

@@ -2,22 +2,14 @@
 
 #include <string>
 
+#include "app/TemporaryFolder.h"
+
 namespace tavrene::test {
 
-/// A new empty folder for one test, removed with all its content at the end.
-class TempFolder {
+/// A new empty folder for one test.
+class TempFolder : public app::TemporaryFolder {
   public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    /// Without a trailing separator.
-    const std::string& Path() const { return path_; }
-    std::string File(const std::string& name) const { return path_ + "/" + name; }
-
-  private:
-    std::string path_;
+    TempFolder() : TemporaryFolder("tavrene-test") {}
 };
 
 /// Whole-file access for tests; a missing file reads as empty text.

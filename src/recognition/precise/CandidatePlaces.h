@@ -24,7 +24,9 @@ class CandidatePlaces {
 
     /// Whether the middle of a candidate lies within `kNear` cells, in constant time.
     bool IsNear(double x, double y) const {
-        return near_.Has(static_cast<int>(x + 0.5), static_cast<int>(y + 0.5));
+        constexpr double half =
+            0.5;  // places on the page are not negative, and this is asked millions of times
+        return near_.Has(static_cast<int>(x + half), static_cast<int>(y + half));
     }
 
     /// The candidate nearest to a place, no farther than `reach`.

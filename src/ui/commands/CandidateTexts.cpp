@@ -22,6 +22,10 @@ std::string OtherSizeText(const boxes::SecondLook& look) {
                            : " px: smaller than the settings allow.");
 }
 
+std::string MoreMayBe(std::size_t candidates) {
+    return std::to_string(candidates) + (candidates == 1 ? " more may be a box" : " more may be boxes");
+}
+
 }  // namespace
 
 std::string OfferOf(int found, const boxes::SecondLook& look) {
@@ -29,16 +33,22 @@ std::string OfferOf(int found, const boxes::SecondLook& look) {
         return {};
     const std::string other = OtherSizeText(look);
     return Counted(static_cast<std::size_t>(found), "box", "boxes") + " found. " +
-           (other.empty() ? "" : other + " ") + std::to_string(look.Candidates.size()) +
-           " more may be boxes: look at them with Find More Boxes (Ctrl+M).";
+           (other.empty() ? "" : other + " ") + MoreMayBe(look.Candidates.size()) + ": look at " +
+           (look.Candidates.size() == 1 ? "it" : "them") + " with Find More Boxes (Ctrl+M).";
 }
 
 std::string HeadingOf(std::size_t candidates, const boxes::SecondLook& look) {
     const std::string other = OtherSizeText(look);
     const std::string keys = "Enter takes one, Ctrl+A all, Esc closes.";
     if (candidates == 0)
-        return "No more boxes were found. Esc closes.";
-    return (other.empty() ? "" : other + " ") + std::to_string(candidates) + " more may be boxes. " + keys;
+        return OutcomeOf(0, look) + " Esc closes.";
+    return (other.empty() ? "" : other + " ") + MoreMayBe(candidates) + ". " + keys;
+}
+
+std::string OutcomeOf(std::size_t candidates, const boxes::SecondLook& look) {
+    if (look.WasStopped)
+        return "Looking for more boxes was stopped.";
+    return candidates == 0 ? "No more boxes were found." : MoreMayBe(candidates) + ".";
 }
 
 std::string RowOf(const profiles::OmrBox& box) {

@@ -29,7 +29,7 @@ class CandidatePane final : public QFrame {
 
     void SetListener(Listener listener) { listener_ = std::move(listener); }
 
-    /// Shows rows in place of those before and makes the first one current; none of them hides the pane.
+    /// Shows rows in place of those before; the place in the list stays. None of them hides the pane.
     void ShowRows(const QString& heading, const std::vector<Row>& rows);
 
     /// How many shapes look like print; the check box that shows them too is there only for some.

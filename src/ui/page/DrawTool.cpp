@@ -6,13 +6,6 @@
 #include "ui/page/BoxLayer.h"
 
 namespace tavrene::ui {
-namespace {
-
-// What is smaller both ways was meant as a click, in pixels of the screen.
-constexpr double kTremble = 3;
-
-}  // namespace
-
 void DrawTool::Press(const QPointF& point) {
     from_ = point;
     isDrawing_ = true;

@@ -5,6 +5,9 @@
 
 namespace tavrene::ui {
 
+/// A hand trembles by so much during a click, in pixels of the screen: what is less is no drag.
+inline constexpr double kTremble = 3;
+
 /// What the left mouse button does on the page. Points are in the page frame, image pixels and parts of them.
 class PageTool {
   public:

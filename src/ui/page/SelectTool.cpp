@@ -7,13 +7,6 @@
 #include "ui/page/HandleFrame.h"
 
 namespace tavrene::ui {
-namespace {
-
-// A hand that trembles during a click moves nothing, in pixels of the screen.
-constexpr double kTremble = 3;
-
-}  // namespace
-
 // Handles stand out of their box, on dense forms over its neighbours, and give way to them.
 unsigned SelectTool::EdgesUnder(const QPointF& point) const {
     const QRectF selected = layer_.PlaceOf(layer_.SelectedBox());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <variant>
 
+#include "boxes/second/CandidateChoice.h"
 #include "imaging/PageReader.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "ui/base/EscapeWatch.h"
@@ -55,7 +56,7 @@ void MoreBoxes::PointAt(int id) {
 }
 
 std::string MoreBoxes::DeskKey() const {
-    return context_.profile.IsOpen ? context_.profile.Path : "";
+    return context_.profile.IsOpen ? context_.profile.Path + '\n' + context_.profile.Image : "";
 }
 
 // False when the specimen cannot be read.
@@ -92,12 +93,13 @@ void MoreBoxes::Find() {
     }
     desk_ = DeskKey();
     AddShown(RectsOf(look_.Candidates), false);
-    context_.pane.SetUnlikely(static_cast<int>(look_.Unlikely.size()));
-    const std::string text = look_.WasStopped ? "Looking for more boxes was stopped."
-                                              : std::to_string(shown_.size()) + " more may be boxes.";
-    context_.person.SetPanel(app::Panel::Message,
-                             shown_.empty() && !look_.WasStopped ? "No more boxes were found." : text);
-    if (shown_.empty() && look_.Unlikely.empty()) {
+    const std::size_t likely = shown_.size();
+    AddShown(RectsOf(look_.Unlikely), true);
+    const std::size_t unlikely = shown_.size() - likely;
+    shown_.resize(likely);
+    context_.pane.SetUnlikely(static_cast<int>(unlikely));
+    context_.person.SetPanel(app::Panel::Message, commands::OutcomeOf(likely, look_));
+    if (likely + unlikely == 0) {
         desk_.clear();
         return;
     }
@@ -105,12 +107,21 @@ void MoreBoxes::Find() {
     context_.pane.TakeFocus();
 }
 
+// What lies over a box of the profile or over another one that is shown is left out: one of the two is taken.
 void MoreBoxes::AddShown(const std::vector<boxes::BoxRect>& boxes, bool unlikely) {
     int id = 0;
-    for (const Shown& one : shown_)
+    std::vector<profiles::OmrBox> known = context_.profile.BoxList;
+    for (const Shown& one : shown_) {
         id = std::max(id, one.id);
-    for (const profiles::OmrBox& box : profiles::OmrsOfBoxes(boxes, pageHeight_))
-        shown_.push_back({++id, box, unlikely});
+        known.push_back(one.box);
+    }
+    std::vector<boxes::BoxRect> there = profiles::BoxesOfOmrs(known, pageHeight_);
+    for (const boxes::BoxRect& box : boxes) {
+        if (std::ranges::any_of(there, [&box](const auto& other) { return boxes::Overlap(box, other); }))
+            continue;
+        there.push_back(box);
+        shown_.push_back({++id, profiles::OmrsOfBoxes({&box, 1}, pageHeight_).front(), unlikely});
+    }
 }
 
 void MoreBoxes::HideRects() {
@@ -125,7 +136,8 @@ void MoreBoxes::Show() {
         context_.page.PutRect(-one.id, PlaceOf(one.box), imaging::RectStyle::Candidate);
         rows.push_back({one.id, ToQt(commands::RowOf(one.box) + (one.isUnlikely ? " (print?)" : ""))});
     }
-    context_.pane.ShowRows(ToQt(commands::HeadingOf(shown_.size(), look_)), rows);
+    const auto likely = std::ranges::count(shown_, false, &Shown::isUnlikely);
+    context_.pane.ShowRows(ToQt(commands::HeadingOf(static_cast<std::size_t>(likely), look_)), rows);
 }
 
 bool MoreBoxes::Clicked(int group) {
@@ -154,9 +166,10 @@ void MoreBoxes::TakeAll() {
     for (const Shown& one : shown_)
         boxes.push_back(one.box);
     Close();
-    context_.editor.AddBoxes(boxes);
-    context_.person.SetPanel(app::Panel::Message, std::to_string(boxes.size()) +
-                                                      (boxes.size() == 1 ? " box" : " boxes") + " added.");
+    if (context_.editor.AddBoxes(boxes))
+        context_.person.SetPanel(
+            app::Panel::Message,
+            std::to_string(boxes.size()) + (boxes.size() == 1 ? " box" : " boxes") + " added.");
 }
 
 bool MoreBoxes::Close() {

@@ -39,7 +39,10 @@ void ProfileDesk::ConnectCommands() {
             run();
         });
     };
-    connect(Command::New, [this] { session_.New(boxes::SizesOf(state_.settings), state_.reach); });
+    connect(Command::New, [this] {
+        more_.Close();
+        session_.New(boxes::SizesOf(state_.settings), state_.reach);
+    });
     connect(Command::Save, [this] { session_.Save(); });
     connect(Command::DeleteProfile, [this] { session_.Delete(); });
     connect(Command::FindMoreBoxes, [this] {

@@ -132,7 +132,8 @@ class FileDialog final : public QFileDialog {
         if (!extension_.isEmpty() && (IsHidden(named) || (isThere && !MayReplace(name))))
             return;
         named_ = named;
-        QDialog::accept();
+        // The file dialog's own would take the name apart again.
+        QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
     }
 
     bool MayReplace(const QString& name) {
