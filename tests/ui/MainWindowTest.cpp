@@ -1,4 +1,5 @@
 #include <QDesktopServices>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -178,6 +179,54 @@ TEST_F(MainWindowTest, EscapeStopsARunAndClosesTheIdleWindowWhichRemembersItsSha
     EXPECT_FALSE(window_->isVisible());
 }
 
+TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
+    AddScans(1);
+    AddSpecimenProfile("Seen", form_);
+    const auto fits = [this] {
+        QApplication::processEvents();
+        const QSize room = View().maximumViewportSize();
+        EXPECT_NEAR(Zoom(), std::min(room.width() / 600.0, room.height() / 500.0), 0.001);
+        EXPECT_NE(Zoom(), 1);
+    };
+    Open();
+    ClickThumbnail(2);
+    Click("FitPage");
+    window_->resize(900, 500);
+    fits();
+    Click("Process");
+    fits();
+    Find<QTreeWidget>(*window_, "SummaryFiles").header()->resizeSection(0, 123);
+    window_->close();
+    Open();
+    EXPECT_EQ(Find<QTreeWidget>(*window_, "SummaryFiles").header()->sectionSize(0), 123);
+    ClickThumbnail(2);
+    fits();
+    Click("ZoomToOrig");
+    window_->resize(800, 600);
+    QApplication::processEvents();
+    EXPECT_EQ(Zoom(), 1);
+}
+
+TEST_F(MainWindowTest, TheMenuOfALineActsOnThatLine) {
+    AddSpecimenProfile("Seen", form_);
+    Open();
+    const auto rightClick = [this](QAbstractItemView& list, int row) {
+        const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
+        QTest::mousePress(list.viewport(), Qt::RightButton, Qt::NoModifier, place);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list.viewport(), &asked);
+    };
+    rightClick(Strip(), 1);
+    EXPECT_EQ(SelectedThumbnail(), 2);
+    Find<QMenu>(Strip(), "ContextMenu").close();
+    rightClick(Rows(), 1);
+    auto& menu = Find<QMenu>(Rows(), "ContextMenu");
+    EXPECT_EQ(menu.actions().size(), 2) << "rename and delete, nothing of review";
+    menu.actions().back()->trigger();
+    menu.close();
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4"}));
+}
+
 TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
     Open();
     auto& toggle = Find<QAction>(*window_, "ToolbarLabels");
@@ -278,26 +327,6 @@ TEST_F(MainWindowTest, TheSummaryOfARunLeadsToEachOfItsFiles) {
     EXPECT_FALSE(list.isVisible());
     Find<QAction>(*window_, "RunSummary").trigger();
     EXPECT_TRUE(list.isVisible());
-}
-
-TEST_F(MainWindowTest, ARunThatCannotStartSaysWhyAndLeavesTheWindowUsable) {
-    AddScans(1);
-    const std::string profile = folders_.Profiles + "Form.Tvp";
-    test::WriteText(profile, form_.ProfileText("Form", false));
-    for (const std::string text :
-         {"None of your Profiles are active!", "No Profiles to match images against!"}) {
-        Open();
-        DialogScript dialogs;
-        dialogs.Press(QMessageBox::Ok);
-        Click("Process");
-        EXPECT_EQ(dialogs.titles, Names{"Tavrene CheckBoxes"});
-        EXPECT_TRUE(dialogs.shown.at(0).starts_with(text)) << dialogs.shown.at(0);
-        EXPECT_EQ(In(folders_.ProcessIn), Names{"scan1.tif"});
-        EXPECT_TRUE(Button(*window_, "MainToolbar", "ZoomIn").isEnabled());
-        if (files_.FileExists(profile))
-            files_.Delete(profile);
-    }
-    EXPECT_TRUE(ProcessLog().empty());
 }
 
 }  // namespace

@@ -26,6 +26,7 @@
 #include "ui/shell/StatusPanels.h"
 #include "ui/shell/SummaryPanel.h"
 #include "ui/shell/Toolbars.h"
+#include "ui/shell/WindowShape.h"
 
 class QSplitter;
 
@@ -63,13 +64,12 @@ class MainWindow final : public QMainWindow {
     void UpdateCommands();
     void ShowTitle();
     void ConnectSummary();
+    void AddContextMenus();
     void ProcessUnread();
     void ShowFile(const ReasonRow& file);
     bool CloseWhatIsOver();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
-    void RestoreShape();
-    void RememberShape();
 
     WindowContext context_;
     commands::AppState state_;
@@ -96,6 +96,7 @@ class MainWindow final : public QMainWindow {
     ResultsExport export_;
     commands::RunSession runs_;
     Toolbars toolbars_;
+    WindowShape shape_;
 };
 
 }  // namespace tavrene::ui
