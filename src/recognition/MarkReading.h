@@ -28,7 +28,9 @@ struct MarkReading {
     std::string Name;
     BoxShift Shift;
     imaging::PageRect rect;  ///< Where the box lies on the image: page frame, image pixels.
-    double fill = 0;         ///< Ink of the inner part in percent of the whole interior.
+    /// Ink of the inner part in percent: of the whole interior; of the inner part itself where Precise
+    /// Alignment reads.
+    double fill = 0;
     bool Checked = false;
 };
 
