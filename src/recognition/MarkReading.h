@@ -28,9 +28,7 @@ struct MarkReading {
     std::string Name;
     BoxShift Shift;
     imaging::PageRect rect;  ///< Where the box lies on the image: page frame, image pixels.
-    /// Ink of the inner part in percent: of the whole interior; of the inner part itself where Precise
-    /// Alignment reads.
-    double fill = 0;
+    double fill = 0;         ///< Percent inked inside: of all the interior; of what is counted if precise.
     bool Checked = false;
 };
 

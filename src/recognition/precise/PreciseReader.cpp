@@ -12,15 +12,6 @@ profiles::ProfileRecord Activated(profiles::ProfileRecord profile) {
     return profile;
 }
 
-// As many as a line of the window has room for.
-std::string FirstOf(std::span<const std::string> names) {
-    constexpr std::size_t room = 3;
-    std::string text;
-    for (const std::string& name : names.first(std::min(room, names.size())))
-        text += (text.empty() ? "" : ", ") + name;
-    return names.size() > room ? text + " and others" : text;
-}
-
 }  // namespace
 
 PreciseReading PreciseReader::Read(const imaging::Page& page,
@@ -68,7 +59,7 @@ void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinio
     if (opinion.onlyPrecise)
         unread.push_back(imageName);
     if (opinion.otherProfile)
-        otherProfiles.push_back(imageName);
+        ++otherProfiles;
     if (!opinion.boxes.empty())
         ++forms;
     boxes += static_cast<int>(opinion.boxes.size());
@@ -86,10 +77,9 @@ std::string TextOf(const OpinionTally& tally) {
     if (tally.boxes > 0)
         add(count(tally.boxes, "box", "boxes") + " in " + count(tally.forms, "form", "forms") +
             " read otherwise by Precise Alignment; review shows them as doubtful.");
-    if (const int others = static_cast<int>(tally.otherProfiles.size()); others > 0)
-        add(count(others, "form", "forms") +
-            " may belong to another profile than the one found, or to none: " + FirstOf(tally.otherProfiles) +
-            ".");
+    if (tally.otherProfiles > 0)
+        add(count(tally.otherProfiles, "form", "forms") +
+            " may belong to another profile than the one found, or to none.");
     for (const std::string& profile : tally.replaced)
         add("The boxes of profile " + profile + " do not lie on its specimen image: it was replaced.");
     return text;

@@ -55,10 +55,9 @@ class PreciseReader {
 
 /// What the second opinion has come to in a run.
 struct OpinionTally {
-    int boxes = 0;  ///< Boxes whose state differs,
-    int forms = 0;  ///< in so many forms.
-    /// Image names of the forms that look like another one than they were taken for, or like none.
-    std::vector<std::string> otherProfiles;
+    int boxes = 0;          ///< Boxes whose state differs,
+    int forms = 0;          ///< in so many forms.
+    int otherProfiles = 0;  ///< Forms that look like another one than they were taken for, or like none.
     std::vector<std::string> unread;    ///< Image names of the forms that only precise alignment recognises.
     std::vector<std::string> replaced;  ///< Profiles whose specimen was replaced.
 
