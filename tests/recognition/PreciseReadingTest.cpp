@@ -135,7 +135,8 @@ TEST_F(PreciseReadingTest, ABentPageIsNotTakenForUpright) {
     std::vector<BoxShift> upsideDown;
     for (const int column : {300, 1100, 1900}) {
         for (int row = 400; row < 3200; row += 100) {
-            profile.Boxes.push_back({.L = static_cast<std::int16_t>(column),
+            profile.Boxes.push_back({.Name = {},
+                                     .L = static_cast<std::int16_t>(column),
                                      .R = static_cast<std::int16_t>(column + 40),
                                      .lower = static_cast<std::int16_t>(row + 40),
                                      .upper = static_cast<std::int16_t>(row)});
