@@ -67,26 +67,6 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
     EXPECT_EQ(test::ReadText(folders_.ProcessOut + "near.xml"), before);
 }
 
-TEST_F(PreciseRunTest, AResultThatCannotBeWrittenIsNeitherMisjudgedNorHoldsUpOthers) {
-    form_.SaveScan(folders_.ProcessIn + "away.tif", {.checked = {1}, .dx = -40});
-    files_.refuse = [](const std::string& operation, const std::string& path) {
-        return operation == "write" && path.find("near") != std::string::npos;
-    };
-    RunWith({.secondOpinion = true});
-    EXPECT_FALSE(HasResult("near"));
-    EXPECT_EQ(run_.Opinions().unread, (std::vector<std::string>{"away.tif", "far.tif"}));
-
-    files_.refuse = [](const std::string& operation, const std::string& path) {
-        return operation == "write" && path.find("away") != std::string::npos;
-    };
-    EXPECT_EQ(ReadFormsAgain(run_.Opinions().unread, folders_.ProcessOut, files_, log_, person_, reader_,
-                             profiles_, 8),
-              1);
-    EXPECT_FALSE(HasResult("away"));
-    EXPECT_TRUE(HasResult("far"));
-    EXPECT_TRUE(Logged("away.tif: Cannot write "));
-}
-
 TEST_F(PreciseRunTest, AReplacedSpecimenIsTold) {
     TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
     RunWith({.secondOpinion = true});
