@@ -97,9 +97,8 @@ KnownForm Know(const FormDesign& design, int dpi, const char* name) {
     return known;
 }
 
-// Profiles that are loaded beside the right one.
-// Profiles of few boxes, or of one column, are loaded for strangers alone: the described rules take any page
-// for them.
+// Profiles that are loaded beside the right one. Those of one column and of one box are loaded for strangers
+// alone: the described rules fail on any page that they take for the one, and take any page for the other.
 std::span<const KnownForm> Bystanders(bool alsoSmall) {
     static const std::vector<KnownForm> known = {Know({FormKind::Survey, 900001}, 200, "Another survey"),
                                                  Know({FormKind::Few, 900002, 3}, 200, "Three boxes"),

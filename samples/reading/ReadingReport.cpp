@@ -1,6 +1,7 @@
 #include "reading/ReadingReport.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <istream>
 #include <sstream>
@@ -65,7 +66,7 @@ class Figure {
         out_ << "<rect x='" << left_ << "' y='" << top_ << "' width='" << kWidth << "' height='" << kHeight
              << "' fill='none' stroke='#999'/>\n<text x='" << left_ << "' y='" << top_ - 6 << "'>" << title
              << "</text>\n<text x='" << left_ + kWidth << "' y='" << top_ + kHeight + 14
-             << "' text-anchor='end'>" << Number(last_, last_ < 2 ? 1 : 0) << "</text>\n";
+             << "' text-anchor='end'>" << Number(last_, last_ == std::floor(last_) ? 0 : 1) << "</text>\n";
     }
 
     void Line(std::span<const ReadingRow* const> rows, bool precise) {

@@ -28,7 +28,7 @@ struct MarkReading {
     std::string Name;
     BoxShift Shift;
     imaging::PageRect rect;  ///< Where the box lies on the image: page frame, image pixels.
-    double fill = 0;         ///< Ink of the inner part in percent of the whole interior.
+    double fill = 0;         ///< Percent inked inside: of all the interior; of what is counted if precise.
     bool Checked = false;
 };
 

@@ -204,9 +204,9 @@ void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecor
     ProfileMatch& match = classification.matches[winner];
     SpreadShifts(profiles[winner], match.shifts);
     outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
+    outcome.winner = classification.winner;
     outcome.marks =
         delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
-    outcome.winner = classification.winner;
 }
 
 void ProcessRun::NoteClassification(FileReport& report, const std::string& line, bool isRecognised) {

@@ -65,7 +65,7 @@ std::string NoSlope(const std::string& line, std::size_t sampled, std::size_t al
         .append(line)
         .append(". Add a box in another ")
         .append(line)
-        .append(".");
+        .append(", or switch on Precise Alignment.");
 }
 
 std::string SteepSlope(const std::string& line) {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <map>
 
+#include "app/Numeric.h"
 #include "reading/ReadingPage.h"
 #include "reading/ReadingScore.h"
 #include "recognition/precise/MapSearch.h"
@@ -124,6 +125,37 @@ TEST_F(PreciseReadingTest, AnUpsideDownPageIsReadWhereItsBoxesAre) {
     ASSERT_EQ(again.size(), reading.marks.size());
     for (std::size_t k = 0; k < again.size(); ++k)
         EXPECT_EQ(again[k].Checked, reading.marks[k].Checked) << again[k].Name;
+}
+
+// A fit that stretched a page through itself would explain a bent one as upright to a fraction of a pixel.
+TEST_F(PreciseReadingTest, ABentPageIsNotTakenForUpright) {
+    const imaging::Page page = CleanScan(samples::Canvas(2480, 3508, 300));
+    profiles::ProfileRecord profile;
+    profile.DPI_X = profile.DPI_Y = 300;
+    std::vector<BoxShift> upsideDown;
+    for (const int column : {300, 1100, 1900}) {
+        for (int row = 400; row < 3200; row += 100) {
+            profile.Boxes.push_back({.Name = {},
+                                     .L = static_cast<std::int16_t>(column),
+                                     .R = static_cast<std::int16_t>(column + 40),
+                                     .lower = static_cast<std::int16_t>(row + 40),
+                                     .upper = static_cast<std::int16_t>(row)});
+            upsideDown.push_back(
+                {app::RoundToInt16(2480 - 40 - 2 * column), app::RoundToInt16(-(3508 - 40 - 2 * row))});
+        }
+    }
+    for (const double bend : {3, 6, 12}) {  // pixels
+        for (int phase = 0; phase < 8; ++phase) {
+            std::vector<std::optional<BoxShift>> known;
+            for (std::size_t k = 0; k < upsideDown.size(); ++k) {
+                const double right = bend * std::sin(profile.Boxes[k].upper / 600.0 + phase);
+                const double up = bend * std::sin(profile.Boxes[k].L / 600.0 + 2 * phase);
+                known.push_back({{app::RoundToInt16(upsideDown[k].dx + right),
+                                  app::RoundToInt16(upsideDown[k].dy + up)}});
+            }
+            EXPECT_TRUE(LiesUpsideDown(page, profile, known)) << bend << " " << phase;
+        }
+    }
 }
 
 TEST_F(PreciseReadingTest, ASecondOpinionSaysWhereReadingsDiffer) {

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "recognition/precise/FormMatch.h"
+
 namespace tavrene::recognition::precise {
 namespace {
 
@@ -68,8 +70,9 @@ std::optional<double> FillBeside(const BitPlane& pixels, const GridRect& place, 
     return 100.0 * ink / area;
 }
 
-int BorderOf(const imaging::Page& page) {
-    return std::max(kBorder, static_cast<int>(std::lround(kBorder * page.DPI_X / kFineDpi)));
+int BorderOf(const imaging::Page& page, const profiles::ProfileRecord& profile) {
+    const double dpi = PixelsPerMm(page, profile) * 25.4;
+    return std::max(kBorder, static_cast<int>(std::lround(kBorder * dpi / kFineDpi)));
 }
 
 double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale) {

@@ -20,8 +20,9 @@ std::optional<double> FillBeside(const BitPlane& pixels, const GridRect& place, 
                                  const BitPlane& letter, bool turned);
 
 /// How much of a box is left out on every side: four pixels, and on pages finer than 300 dpi, where the
-/// printed line is broader than that, as much of the box as there.
-int BorderOf(const imaging::Page& page);
+/// printed line is broader than that, as much of the box as there. A page that tells no resolution has that
+/// of the profile.
+int BorderOf(const imaging::Page& page, const profiles::ProfileRecord& profile);
 
 /// The smaller side of the profile's middling box, in pixels of the page.
 double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale);

@@ -77,7 +77,7 @@ std::vector<MarkReading> ReadMarksAt(const imaging::Page& page, const BitPlane& 
                                      const ProfileRecord& profile, const FormPlaces& places,
                                      const SpecimenPrint* print, std::int16_t fillThreshold) {
     const FormScale scale = ScaleBetween(page, profile);
-    const int border = precise::BorderOf(page);
+    const int border = precise::BorderOf(page, profile);
     std::vector<MarkReading> marks;
     marks.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {

@@ -44,6 +44,8 @@ Fit FitOneWay(const imaging::Page& page, const profiles::ProfileRecord& profile,
     }
     // With one or two boxes both ways fit: then the one that asks clearly less of the page.
     fit.cost += std::hypot(fit.map.shiftX, fit.map.shiftY) / kShiftReach + 100 * std::abs(fit.map.Turn());
+    // With many boxes the fit may as well pull the page through itself, which looks like half a turn.
+    fit.cost += 100 * std::hypot(fit.map.xByX, fit.map.yByY);
     return fit;
 }
 

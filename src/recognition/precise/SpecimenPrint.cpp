@@ -79,7 +79,9 @@ std::size_t FairPart(const std::vector<std::vector<CellPoint>>& tiles) {
     return part;
 }
 
-std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlane& leftOut, int height) {
+// In the frame and pixels of the profile, also when the specimen was scanned anew at another resolution.
+std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlane& leftOut, int height,
+                                    const FormScale& scale) {
     const std::vector<std::vector<CellPoint>> tiles = InkByTile(page.Cells(), leftOut);
     const std::size_t part = FairPart(tiles);
     std::vector<CellPoint> points;
@@ -87,8 +89,8 @@ std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlan
         const std::size_t taken = std::min(tile.size(), part);
         for (std::size_t k = 0; k < taken; ++k) {
             const CellPoint& cell = tile[k * tile.size() / taken];
-            points.push_back(
-                {page.ToPixels(cell.x), imaging::FlipVertically(double(height), page.ToPixels(cell.y))});
+            const double y = imaging::FlipVertically(double(height), page.ToPixels(cell.y));
+            points.push_back({page.ToPixels(cell.x) / scale.sx, y / scale.sy});
         }
     }
     return points;
@@ -118,9 +120,10 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
     const precise::CellPage& page = pages.ForBoxesOf(precise::TypicalBox(profile, scale));
     // The boxes have been matched before the print is asked: two forms with the same boxes differ elsewhere.
     const int height = specimen.grid.Rows();
-    print.points = SpreadPoints(page, BoxesOf(page, specimen, profile, scale), height);
+    print.points = SpreadPoints(page, BoxesOf(page, specimen, profile, scale), height, scale);
     if (print.points.size() < kLeastPoints)
-        print.points = SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height);
+        print.points =
+            SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height, scale);
     precise::OutlineFinder finder(pixels, 1);
     std::size_t lying = 0;
     for (const profiles::PrintedBox& box : profile.Boxes) {

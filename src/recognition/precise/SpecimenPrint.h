@@ -11,7 +11,7 @@ namespace tavrene::recognition {
 
 /// What is printed on the specimen of a profile, as far as it tells forms apart.
 struct SpecimenPrint {
-    /// Points of the print, spread over the page: pixels of the specimen, page frame as in the profile.
+    /// Points of the print, spread over the page: pixels and page frame of the profile.
     std::vector<precise::CellPoint> points;
     /// For each box what is printed in it, a letter say, and a little around that: the pixels of the box,
     /// from its lower left corner. Empty where nothing is printed.

@@ -50,7 +50,7 @@ void ReadingCommands::ReadAgain() {
     unread_.clear();
     context_.person.ShowNotices(
         std::array{app::Notice{std::to_string(count) + (count == 1 ? " form was" : " forms were") +
-                               " read by Precise Alignment and can be reviewed."}});
+                               " read by Precise Alignment" + (count > 0 ? " and can be reviewed." : ".")}});
     formsRead_();
 }
 
