@@ -257,6 +257,7 @@ TEST_F(ProfileSessionTest, MindsWhatOthersDoToTheFile) {
     files_.Delete(path);
     person_.answers = {Answer::Yes};
     session_.Delete();
+    EXPECT_EQ(person_.lastPreset, Answer::No);
     EXPECT_TRUE(strip_.captions.empty() && screen_.rows.empty() && In(folders_.Profiles).empty());
     EXPECT_FALSE(Profile().IsOpen);
 }
