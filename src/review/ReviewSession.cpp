@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "profiles/ProfileLoader.h"
+#include "review/FormReading.h"
 
 namespace tavrene::review {
 
@@ -165,8 +166,11 @@ void ReviewSession::SelectOpenLine() {
 }
 
 bool ReviewSession::Save() {
+    const std::vector<std::string> corrections = CorrectionsOf(*form_.Form());
     if (!form_.Save())
         return false;
+    for (const std::string& correction : corrections)
+        context_.log.LogProcessEvent(correction);
     const OpenForm& form = *form_.Form();
     list_.Change(form.Document, true, form.Result.Confidence());
     context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
