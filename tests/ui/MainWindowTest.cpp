@@ -1,4 +1,5 @@
 #include <QDesktopServices>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -176,6 +177,34 @@ TEST_F(MainWindowTest, EscapeStopsARunAndClosesTheIdleWindowWhichRemembersItsSha
     EXPECT_EQ(window_->size(), QSize(1111, 777));
     Press(View(), Qt::Key_Escape);
     EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
+    AddScans(1);
+    AddSpecimenProfile("Seen", form_);
+    const auto fits = [this] {
+        QApplication::processEvents();
+        const QSize room = View().maximumViewportSize();
+        EXPECT_NEAR(Zoom(), std::min(room.width() / 600.0, room.height() / 500.0), 0.001);
+        EXPECT_NE(Zoom(), 1);
+    };
+    Open();
+    ClickThumbnail(2);
+    Click("FitPage");
+    window_->resize(900, 500);
+    fits();
+    Click("Process");
+    fits();
+    Find<QTreeWidget>(*window_, "SummaryFiles").header()->resizeSection(0, 123);
+    window_->close();
+    Open();
+    EXPECT_EQ(Find<QTreeWidget>(*window_, "SummaryFiles").header()->sectionSize(0), 123);
+    ClickThumbnail(2);
+    fits();
+    Click("ZoomToOrig");
+    window_->resize(800, 600);
+    QApplication::processEvents();
+    EXPECT_EQ(Zoom(), 1);
 }
 
 TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {

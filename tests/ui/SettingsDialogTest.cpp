@@ -117,6 +117,8 @@ TEST_F(SettingsDialogTest, CanBeSavedOnASmallScreen) {
     bar.setFocus(Qt::TabFocusReason);
     Find<QScrollArea>(*dialog_, "Frames").ensureWidgetVisible(&bar);
     EXPECT_EQ(bar.visibleRegion().boundingRect().height(), bar.height());
+    const auto& frames = Find<QScrollArea>(*dialog_, "Frames");
+    EXPECT_GT(frames.viewport()->width() - frames.widget()->childrenRect().right(), 5) << "free of the bar";
 }
 
 TEST_F(SettingsDialogTest, OpeningWithZerosStoresTheFirstPositions) {

@@ -71,6 +71,7 @@ void ImageView::SetPage(const QImage& image) {
     const bool sameSize = HasPage() && image.size() == lastSize_;
     ScrollTo(sameSize ? lastScroll_ : kTopLeft);
     isUnseen_ = !sameSize;
+    RefitBeforePainting();
     viewport()->update();
 }
 
@@ -118,6 +119,11 @@ void ImageView::Clear() {
 }
 
 void ImageView::SetZoom(double percent) {
+    ApplyZoom(percent);
+    RefitBeforePainting();
+}
+
+void ImageView::ApplyZoom(double percent) {
     zoom_ = percent;
     Transform();
     if (!HasPage())
@@ -134,6 +140,7 @@ imaging::ScrollOffset ImageView::Scroll() const {
 }
 
 void ImageView::Refresh() {
+    Refit();
     viewport()->repaint();
 }
 
@@ -154,29 +161,54 @@ void ImageView::UseTool(PageTool* tool) {
     ShowCursorAt(mapToScene(viewport()->mapFromGlobal(QCursor::pos())));
 }
 
+void ImageView::ZoomTo(double percent) {
+    fit_ = ZoomFit::None;
+    ApplyZoom(percent);
+}
+
 void ImageView::ZoomIn() {
     if (HasPage())
-        SetZoom(commands::ZoomedIn(zoom_));
+        ZoomTo(commands::ZoomedIn(zoom_));
 }
 
 void ImageView::ZoomOut() {
     if (HasPage())
-        SetZoom(commands::ZoomedOut(zoom_));
+        ZoomTo(commands::ZoomedOut(zoom_));
 }
 
 void ImageView::ZoomToOriginal() {
-    SetZoom(100);
+    ZoomTo(100);
+}
+
+void ImageView::KeepFit(ZoomFit fit) {
+    fit_ = fit;
+    Refit();
+}
+
+void ImageView::Refit() {
+    if (fit_ == ZoomFit::Page)
+        FitPage();
+    else if (fit_ == ZoomFit::Width)
+        FitWidth();
+}
+
+// Whoever shows a page sets its zoom and draws its boxes in several steps; events that are posted come before
+// the painting, so nothing is seen of them.
+void ImageView::RefitBeforePainting() {
+    if (fit_ != ZoomFit::None)
+        QMetaObject::invokeMethod(
+            this, [this] { Refit(); }, Qt::QueuedConnection);
 }
 
 void ImageView::FitPage() {
     if (HasPage())
-        SetZoom(commands::ZoomToFitPage(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize())));
+        ApplyZoom(commands::ZoomToFitPage(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize())));
 }
 
 void ImageView::FitWidth() {
     const double bar = verticalScrollBar()->sizeHint().width();
     if (HasPage())
-        SetZoom(commands::ZoomToFitWidth(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize()), bar));
+        ApplyZoom(commands::ZoomToFitWidth(ExtentOf(page_->Size()), ExtentOf(maximumViewportSize()), bar));
 }
 
 void ImageView::paintEvent(QPaintEvent* event) {
@@ -200,6 +232,7 @@ void ImageView::resizeEvent(QResizeEvent* event) {
     const int by = std::exchange(pushedDown_, 0);
     if (bar.value() > bar.minimum())
         bar.setValue(bar.value() + by);
+    Refit();
 }
 
 QPointF ImageView::PagePoint(const QMouseEvent& event) const {

@@ -14,6 +14,9 @@
 
 namespace tavrene::ui {
 
+/// What the zoom follows by itself, whatever page is shown and however large the view is.
+enum class ZoomFit { None, Page, Width };
+
 /// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
 /// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
 /// pointer, and the page can be dragged by the middle button.
@@ -31,7 +34,8 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void Clear() override;
     double Zoom() const override { return zoom_; }
 
-    /// Set while there is no page, the next page starts at its top left corner.
+    /// Set while there is no page, the next page starts at its top left corner. While the zoom follows the
+    /// size of the view, this one holds until the page is painted.
     void SetZoom(double percent) override;
 
     /// Told of every zoom that is set.
@@ -68,12 +72,19 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// not take one, the view scrolls.
     void SetArrowHandler(std::function<bool(int dx, int dy)> handler) { takeArrow_ = std::move(handler); }
 
-    /// Zooms in and out by the steps of the zoom commands, and to what fits; nothing without a page.
+    /// A zoom of the person's own, which ends following; in and out by the steps of the zoom commands,
+    /// nothing without a page.
+    void ZoomTo(double percent);
     void ZoomIn();
     void ZoomOut();
     void ZoomToOriginal();
+
+    /// Follows the size of the view and the page from here on.
+    void KeepFit(ZoomFit fit);
+    ZoomFit Fit() const { return fit_; }
+
+    /// Shows the whole page this once.
     void FitPage();
-    void FitWidth();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -90,6 +101,10 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     bool HasPage() const { return !page_->Size().isEmpty(); }
     void SetPage(const QImage& image);
     void Transform();
+    void ApplyZoom(double percent);
+    void FitWidth();
+    void Refit();
+    void RefitBeforePainting();
     void ScrollTo(const QPoint& offset);
     QPointF PagePoint(const QMouseEvent& event) const;
     void Pan(const QPoint& position);
@@ -105,6 +120,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     std::optional<QPoint> panFrom_;
     QString hint_;
     double zoom_ = 100;
+    ZoomFit fit_ = ZoomFit::None;
     bool isTurned_ = false;
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.

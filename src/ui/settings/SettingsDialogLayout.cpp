@@ -78,7 +78,7 @@ void SettingsDialog::Build() {
     frames->setWidgetResizable(true);
     frames->setWidget(Frames());
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, kMargin, kMargin);
+    layout->setContentsMargins(0, 0, 0, kMargin);
     layout->addWidget(frames, 1);
     layout->addWidget(Buttons());
     ResizeWithinScreen(*this, kFirstSize);
@@ -87,7 +87,8 @@ void SettingsDialog::Build() {
 QWidget* SettingsDialog::Frames() {
     auto* const frames = new QWidget;
     auto* const layout = new QGridLayout(frames);
-    layout->setContentsMargins(kMargin, kMargin, 0, 0);
+    // Also on the right, between the frames and their scroll bar.
+    layout->setContentsMargins(kMargin, kMargin, kMargin, 0);
     layout->setSpacing(kSpacing);
     layout->addWidget(PathFrame(), 0, 0);
     layout->addWidget(SizeFrame(), 0, 1);
@@ -268,7 +269,7 @@ QWidget* SettingsDialog::Buttons() {
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* const buttons = new QWidget;
     auto* const layout = new QHBoxLayout(buttons);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(kMargin, 0, kMargin, 0);
     layout->addWidget(note, 1);
     layout->addWidget(save);
     layout->addWidget(cancel);

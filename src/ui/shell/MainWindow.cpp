@@ -22,19 +22,6 @@ namespace tavrene::ui {
 namespace {
 
 using commands::Command;
-using commands::kWindowSection;
-
-// What the window remembers about itself lies beside the settings, in a group of its own.
-constexpr std::string_view kLabelsShown = "ToolbarLabels";
-
-QByteArray ReadShape(const app::SettingsStore& store, std::string_view name) {
-    return QByteArray::fromBase64(
-        ToQt(store.ReadSettingValue(app::kApplicationName, kWindowSection, name)).toLatin1());
-}
-
-void WriteShape(app::SettingsStore& store, std::string_view name, const QByteArray& shape) {
-    store.WriteSettingValue(app::kApplicationName, kWindowSection, name, shape.toBase64().toStdString());
-}
 
 // The strip takes room of its own, so that it hides no box.
 QWidget* WithStripAbove(QWidget& strip, QWidget& view) {
@@ -79,14 +66,15 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
                [this] { review_.Refill(); }),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
-      toolbars_(*this, [this](Command command) { RunCommand(command); }) {
+      toolbars_(*this, [this](Command command) { RunCommand(command); }),
+      shape_(*this, {context.store, *view_, toolbars_}) {
     setObjectName("frmTavrene");
     BuildLayout();
     ConnectViewCommands();
     ConnectCommands();
     ConnectSummary();
     new ScanIntake(*this, {context.files, operator_, state_, gate_});
-    RestoreShape();
+    shape_.Restore();
     UpdateCommands();
 }
 
@@ -140,14 +128,12 @@ void MainWindow::ConnectViewCommands() {
     gate_.SetHandler(Command::ZoomToOrig, [this] { view_->ZoomToOriginal(); });
     gate_.SetHandler(Command::ZoomIn, [this] { view_->ZoomIn(); });
     gate_.SetHandler(Command::ZoomOut, [this] { view_->ZoomOut(); });
-    gate_.SetHandler(Command::FitPage, [this] { view_->FitPage(); });
-    gate_.SetHandler(Command::FitWidth, [this] { view_->FitWidth(); });
+    gate_.SetHandler(Command::FitPage, [this] { view_->KeepFit(ZoomFit::Page); });
+    gate_.SetHandler(Command::FitWidth, [this] { view_->KeepFit(ZoomFit::Width); });
     panels_->Zoom().Connect(*view_);
     gate_.SetHandler(Command::ToolbarLabels, [this] {
-        const bool shown = !toolbars_.LabelsShown();
-        toolbars_.ShowLabels(shown);
-        context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, kLabelsShown,
-                                         shown ? "1" : "0");
+        toolbars_.ShowLabels(!toolbars_.LabelsShown());
+        shape_.Remember();
     });
 }
 
@@ -297,7 +283,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     gate_.Take(Command::Exit, [this, event] {
         if (!runs_.MayClose())
             return;
-        RememberShape();
+        shape_.Remember();
         event->accept();
     });
 }
@@ -312,18 +298,6 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 // One thing with each Escape, that which came last first.
 bool MainWindow::CloseWhatIsOver() {
     return help_->Close() || operator_.CloseReports() || summary_->Close() || desk_.CloseCandidates();
-}
-
-void MainWindow::RestoreShape() {
-    restoreGeometry(ReadShape(context_.store, "Geometry"));
-    splitter_->restoreState(ReadShape(context_.store, "Splitter"));
-    toolbars_.ShowLabels(
-        context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, kLabelsShown) == "1");
-}
-
-void MainWindow::RememberShape() {
-    WriteShape(context_.store, "Geometry", saveGeometry());
-    WriteShape(context_.store, "Splitter", splitter_->saveState());
 }
 
 }  // namespace tavrene::ui

@@ -26,6 +26,7 @@
 #include "ui/shell/StatusPanels.h"
 #include "ui/shell/SummaryPanel.h"
 #include "ui/shell/Toolbars.h"
+#include "ui/shell/WindowShape.h"
 
 class QSplitter;
 
@@ -68,8 +69,6 @@ class MainWindow final : public QMainWindow {
     bool CloseWhatIsOver();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
-    void RestoreShape();
-    void RememberShape();
 
     WindowContext context_;
     commands::AppState state_;
@@ -96,6 +95,7 @@ class MainWindow final : public QMainWindow {
     ResultsExport export_;
     commands::RunSession runs_;
     Toolbars toolbars_;
+    WindowShape shape_;
 };
 
 }  // namespace tavrene::ui

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "ui/base/BusyCursor.h"
+#include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/page/PageImage.h"
 
@@ -58,7 +59,7 @@ class FileDialog final : public QFileDialog {
         setOption(QFileDialog::HideNameFilterDetails);
         setNameFilter(NameFilter(question.filter));
         selectFile(ToQt(question.fileName));
-        resize(kWidth, kHeight);
+        ResizeWithinScreen(*this, {kWidth, kHeight});
     }
 
     /// Files to be written get this extension, and the spelling of one that is there. That comes before the
@@ -75,7 +76,7 @@ class FileDialog final : public QFileDialog {
         picture->setFixedWidth(kPictureWidth);
         auto* const grid = dynamic_cast<QGridLayout*>(layout());
         grid->addWidget(picture, 1, grid->columnCount(), grid->rowCount() - 1, 1);
-        resize(kWidth + kPictureWidth, kHeight);
+        ResizeWithinScreen(*this, {kWidth + kPictureWidth, kHeight});
         connect(this, &QFileDialog::currentChanged, picture, [picture, &files](const QString& path) {
             const QImage image = QFileInfo(path).isFile() ? ReadPageImage(files, FromQt(path)) : QImage();
             if (image.isNull()) {

@@ -33,7 +33,7 @@ void ZoomBox::Connect(ImageView& view) {
     };
     view.SetZoomListener(show);
     show(view.Zoom());
-    connect(this, &QSpinBox::valueChanged, &view, [&view](int percent) { view.SetZoom(percent); });
+    connect(this, &QSpinBox::valueChanged, &view, [&view](int percent) { view.ZoomTo(percent); });
 }
 
 void ZoomBox::stepBy(int steps) {
