@@ -221,11 +221,5 @@ TEST_F(PageReaderTest, ScratchImagesAreOfTheCurrentPageOnly) {
     EXPECT_NE(failure.find("gone/temp.tif"), std::string::npos) << failure;
 }
 
-TEST_F(PageReaderTest, FourLettersAreNoFileType) {
-    const auto read = ReadPage(files_, work_.File("form.tiff"));
-    ASSERT_EQ(std::get<PageError>(read), PageError::UnknownType);
-    EXPECT_EQ(ReasonOf(PageError::UnknownType), "Unrecognized File type");
-}
-
 }  // namespace
 }  // namespace tavrene::imaging

@@ -438,8 +438,9 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
 TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     TestForm::Filling filling{.checked = {1}};
     samples::Canvas page = form_.Paint(filling);
-    page.FillRect(form_.boxes[1].L + 6, form_.boxes[1].T + 6, 8, 6);  // 48 of 529 cells: 9.1 %
-    page.FillRect(form_.boxes[2].L + 6, form_.boxes[2].T + 6, 8, 4);  // 32 of 529 cells: 6.0 %
+    page.FillRect(form_.boxes[1].L + 6, form_.boxes[1].T + 6, 8, 7);   // 56 of 529 cells: 10.6 %
+    page.FillRect(form_.boxes[2].L + 6, form_.boxes[2].T + 6, 8, 4);   // 32 of 529 cells: 6.0 %
+    page.FillRect(form_.boxes[3].L + 6, form_.boxes[3].T + 6, 10, 6);  // 11.3 %: a third off is no doubt
     samples::SaveImage(samples::ToBilevel(page), imaging::ImageFormat::Png, folders_.ProcessIn + "d.png");
     ProcessAndReview();
     Open(3);
@@ -447,7 +448,7 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     Refuse("write", "temp.tif");
     Open(3);
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"picture 600x500"});
-    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 9.1% ?", "3 6.0% ?", "4 0.0%"}));
+    EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 10.6% ?", "3 6.0% ?", "4 11.3%"}));
     for (const auto& [from, next] : {std::pair{0, "2"}, {1, "2"}, {2, "3"}, {3, "2"}, {4, "2"}}) {
         Do([this, from = from] { review_.NextDoubtful(from); });
         EXPECT_EQ(transcript_.Lines(),

@@ -122,6 +122,19 @@ TEST_F(ProcessRunTest, ASingleRunPassesOverWhatCannotBeMoved) {
     EXPECT_EQ(In(folders_.ProcessIn), Names{"4.tif"});
 }
 
+TEST_F(ProcessRunTest, WithoutAnActiveProfileNothingStarts) {
+    AddScan("a.tif");
+    const std::string profile = folders_.Profiles + "Form.Tvp";
+    WriteText(profile, form_.ProfileText("Form", false));
+    Process();
+    EXPECT_PRED2(test::Has, transcript_.Joined(), "message: [] None of your Profiles are active!");
+    files_.Delete(profile);
+    Process();
+    EXPECT_EQ(transcript_.LinesOf("message: "), Names{"[] No Profiles to match images against!"});
+    EXPECT_EQ(In(folders_.ProcessIn), Names{"a.tif"});
+    EXPECT_TRUE(ProcessLog().empty());
+}
+
 TEST_F(ProcessRunTest, WithoutTheImageLibraryNothingMoves) {
     AddScan("a.tif");
     recognition::ProcessRun blind({files_, log_, person_, clock_, screen_, screen_, nullptr, false},

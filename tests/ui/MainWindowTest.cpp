@@ -309,25 +309,5 @@ TEST_F(MainWindowTest, TheSummaryOfARunLeadsToEachOfItsFiles) {
     EXPECT_TRUE(list.isVisible());
 }
 
-TEST_F(MainWindowTest, ARunThatCannotStartSaysWhyAndLeavesTheWindowUsable) {
-    AddScans(1);
-    const std::string profile = folders_.Profiles + "Form.Tvp";
-    test::WriteText(profile, form_.ProfileText("Form", false));
-    for (const std::string text :
-         {"None of your Profiles are active!", "No Profiles to match images against!"}) {
-        Open();
-        DialogScript dialogs;
-        dialogs.Press(QMessageBox::Ok);
-        Click("Process");
-        EXPECT_EQ(dialogs.titles, Names{"Tavrene CheckBoxes"});
-        EXPECT_TRUE(dialogs.shown.at(0).starts_with(text)) << dialogs.shown.at(0);
-        EXPECT_EQ(In(folders_.ProcessIn), Names{"scan1.tif"});
-        EXPECT_TRUE(Button(*window_, "MainToolbar", "ZoomIn").isEnabled());
-        if (files_.FileExists(profile))
-            files_.Delete(profile);
-    }
-    EXPECT_TRUE(ProcessLog().empty());
-}
-
 }  // namespace
 }  // namespace tavrene::ui
