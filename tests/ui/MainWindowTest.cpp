@@ -207,6 +207,26 @@ TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
     EXPECT_EQ(Zoom(), 1);
 }
 
+TEST_F(MainWindowTest, TheMenuOfALineActsOnThatLine) {
+    AddSpecimenProfile("Seen", form_);
+    Open();
+    const auto rightClick = [this](QAbstractItemView& list, int row) {
+        const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
+        QTest::mousePress(list.viewport(), Qt::RightButton, Qt::NoModifier, place);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list.viewport(), &asked);
+    };
+    rightClick(Strip(), 1);
+    EXPECT_EQ(SelectedThumbnail(), 2);
+    Find<QMenu>(Strip(), "ContextMenu").close();
+    rightClick(Rows(), 1);
+    auto& menu = Find<QMenu>(Rows(), "ContextMenu");
+    EXPECT_EQ(menu.actions().size(), 2) << "rename and delete, nothing of review";
+    menu.actions().back()->trigger();
+    menu.close();
+    EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4"}));
+}
+
 TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
     Open();
     auto& toggle = Find<QAction>(*window_, "ToolbarLabels");

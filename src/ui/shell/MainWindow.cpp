@@ -16,6 +16,7 @@
 #include "ui/commands/WindowLoad.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
+#include "ui/shell/ContextMenu.h"
 #include "ui/shell/ScanIntake.h"
 
 namespace tavrene::ui {
@@ -73,6 +74,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectViewCommands();
     ConnectCommands();
     ConnectSummary();
+    AddContextMenus();
     new ScanIntake(*this, {context.files, operator_, state_, gate_});
     shape_.Restore();
     UpdateCommands();
@@ -198,6 +200,18 @@ void MainWindow::ConnectSummary() {
             [this](const ReasonRow& file) { gate_.Take(Command::PickFile, [&] { ShowFile(file); }); });
     forms_->Unread().SetListener([this](Command command) { RunCommand(command); });
     gate_.SetHandler(Command::ProcessUnread, [this] { ProcessUnread(); });
+}
+
+void MainWindow::AddContextMenus() {
+    const auto add = [this](QAbstractItemView& list, std::initializer_list<Command> offered) {
+        QList<QAction*> actions;
+        for (const Command command : offered)
+            actions += toolbars_.ActionOf(command);
+        new ContextMenu(list, actions);
+    };
+    add(profiles_->Strip(), {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
+    add(forms_->List(), {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
+    add(*boxes_, {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful});
 }
 
 // What cannot be processed stays where the list of unread pages shows it.

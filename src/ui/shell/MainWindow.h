@@ -64,6 +64,7 @@ class MainWindow final : public QMainWindow {
     void UpdateCommands();
     void ShowTitle();
     void ConnectSummary();
+    void AddContextMenus();
     void ProcessUnread();
     void ShowFile(const ReasonRow& file);
     bool CloseWhatIsOver();

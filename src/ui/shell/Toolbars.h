@@ -28,6 +28,8 @@ class Toolbars {
     /// Shows a toggle button pressed or released; nothing is run.
     void SetPressed(commands::Command command, bool pressed) { actions_.at(command)->setChecked(pressed); }
 
+    QAction* ActionOf(commands::Command command) const { return actions_.at(command); }
+
     /// Words under the pictures of the buttons, or none.
     void ShowLabels(bool shown);
     bool LabelsShown() const;
