@@ -19,8 +19,16 @@ bool IsPlainName(const std::string& name) {
 FormMover::FormMover(app::Files& files, const app::WorkingFolders& folders)
     : files_(files), folders_(folders) {}
 
+const std::string& FormMover::FolderOf(Decision decision) const {
+    return decision == Decision::Accept ? folders_.ProcessFinal : folders_.ProcessReject;
+}
+
+const std::string& FormMover::Source(const FormMove& move) const {
+    return move.isBack ? FolderOf(move.decision) : folders_.ProcessOut;
+}
+
 const std::string& FormMover::Destination(const FormMove& move) const {
-    return move.decision == Decision::Accept ? folders_.ProcessFinal : folders_.ProcessReject;
+    return move.isBack ? folders_.ProcessOut : FolderOf(move.decision);
 }
 
 // The leading dot keeps the note out of every listing.
@@ -29,13 +37,14 @@ std::string FormMover::NotePath() const {
 }
 
 void FormMover::Move(const FormMove& move) {
+    const std::string& source = Source(move);
     const std::string& destination = Destination(move);
-    CheckFile(move.Image, destination);
-    CheckFile(move.Document, destination);
+    CheckFile(move.Image, move);
+    CheckFile(move.Document, move);
     WriteNote(move);
     try {
-        files_.Move(folders_.ProcessOut + move.Image, destination + move.Image);
-        files_.Move(folders_.ProcessOut + move.Document, destination + move.Document);
+        files_.Move(source + move.Image, destination + move.Image);
+        files_.Move(source + move.Document, destination + move.Document);
     } catch (const app::FileError& error) {
         if (!CanTakeBack(move))
             throw app::FileError(std::string(error.what()) + ". What was moved before lies in " +
@@ -45,12 +54,13 @@ void FormMover::Move(const FormMove& move) {
     }
 }
 
-void FormMover::CheckFile(const std::string& name, const std::string& destination) const {
-    if (!files_.FileExists(folders_.ProcessOut + name))
-        throw app::FileError("Cannot move " + folders_.ProcessOut + name + ": the file is gone");
-    if (files_.FileExists(destination + name))
-        throw app::FileError("Cannot move " + folders_.ProcessOut + name + ": there is already a file " +
-                             destination + name);
+void FormMover::CheckFile(const std::string& name, const FormMove& move) const {
+    const std::string source = Source(move) + name;
+    const std::string target = Destination(move) + name;
+    if (!files_.FileExists(source))
+        throw app::FileError("Cannot move " + source + ": the file is gone");
+    if (files_.FileExists(target))
+        throw app::FileError("Cannot move " + source + ": there is already a file " + target);
 }
 
 bool FormMover::CanTakeBack(const FormMove& move) {
@@ -65,22 +75,21 @@ bool FormMover::CanTakeBack(const FormMove& move) {
 // A note may be older than what lies there now: a scan of the same name can have been processed since. Only
 // the places that a cut move leaves are touched; the image goes first.
 void FormMover::TakeBack(const FormMove& move) {
-    const std::string& destination = Destination(move);
-    const Place image = PlaceOf(move.Image, destination);
-    const Place document = PlaceOf(move.Document, destination);
+    const Place image = PlaceOf(move.Image, move);
+    const Place document = PlaceOf(move.Document, move);
     const bool isAmidImage = image == Place::Copied && document == Place::Here;
     const bool isAmidDocument =
         image == Place::There && (document == Place::Here || document == Place::Copied);
     if (!isAmidImage && !isAmidDocument)
         return;
-    TakeBackFile(move.Document, destination);
-    TakeBackFile(move.Image, destination);
+    TakeBackFile(move.Document, move);
+    TakeBackFile(move.Image, move);
 }
 
 // Two files of the same content are one whose move between file systems was cut.
-FormMover::Place FormMover::PlaceOf(const std::string& name, const std::string& destination) const {
-    const std::string source = folders_.ProcessOut + name;
-    const std::string target = destination + name;
+FormMover::Place FormMover::PlaceOf(const std::string& name, const FormMove& move) const {
+    const std::string source = Source(move) + name;
+    const std::string target = Destination(move) + name;
     const bool isHere = files_.FileExists(source);
     const bool isThere = files_.FileExists(target);
     if (isHere && isThere)
@@ -90,13 +99,15 @@ FormMover::Place FormMover::PlaceOf(const std::string& name, const std::string& 
     return isThere ? Place::There : Place::Nowhere;
 }
 
-void FormMover::TakeBackFile(const std::string& name, const std::string& destination) {
-    if (!files_.FileExists(destination + name))
+void FormMover::TakeBackFile(const std::string& name, const FormMove& move) {
+    const std::string source = Source(move) + name;
+    const std::string target = Destination(move) + name;
+    if (!files_.FileExists(target))
         return;
-    if (files_.FileExists(folders_.ProcessOut + name))
-        files_.Delete(destination + name);
+    if (files_.FileExists(source))
+        files_.Delete(target);
     else
-        files_.Move(destination + name, folders_.ProcessOut + name);
+        files_.Move(target, source);
 }
 
 std::optional<FormMove> FormMover::Settle() {
@@ -111,18 +122,15 @@ std::optional<FormMove> FormMover::Settle() {
 }
 
 bool FormMover::IsDone(const FormMove& move) const {
-    const std::string& destination = Destination(move);
-    return PlaceOf(move.Image, destination) == Place::There &&
-           PlaceOf(move.Document, destination) == Place::There;
+    return PlaceOf(move.Image, move) == Place::There && PlaceOf(move.Document, move) == Place::There;
 }
 
 // False when the image is in neither place: a folder that is a share may be away for a while, and its mount
 // point stays.
 bool FormMover::TakeBackFromNote(const FormMove& move) {
-    const std::string& destination = Destination(move);
-    const std::string form = "Form [" + app::BaseName(move.Document) + "] lies half in " + destination;
-    if (PlaceOf(move.Image, destination) == Place::Nowhere) {
-        if (PlaceOf(move.Document, destination) == Place::Here)
+    const std::string form = "Form [" + app::BaseName(move.Document) + "] lies half in " + Destination(move);
+    if (PlaceOf(move.Image, move) == Place::Nowhere) {
+        if (PlaceOf(move.Document, move) == Place::Here)
             throw app::FileError(form + ", but is not there. It has to be taken back first.");
         return true;
     }
@@ -147,6 +155,8 @@ void FormMover::WriteNote(const FormMove& move) {
     pugi::xml_document note;
     pugi::xml_node root = note.append_child("Decision");
     root.append_attribute("Kind") = move.decision == Decision::Accept ? kAccept : kReject;
+    if (move.isBack)
+        root.append_attribute("Back") = "1";
     root.append_attribute("Image") = move.Image.c_str();
     root.append_attribute("Document") = move.Document.c_str();
     profiles::WriteXml(files_, NotePath(), note, profiles::XmlLayout::Raw);
@@ -159,6 +169,7 @@ std::optional<FormMove> FormMover::ReadNote() const {
         FormMove move;
         if (root.attribute("Kind").value() == std::string_view(kReject))
             move.decision = Decision::Reject;
+        move.isBack = root.attribute("Back").as_bool();
         move.Image = root.attribute("Image").value();
         move.Document = root.attribute("Document").value();
         if (IsPlainName(move.Image) && IsPlainName(move.Document))

@@ -203,6 +203,20 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
     return read;
 }
 
+std::vector<std::string> CorrectionsOf(const OpenForm& form) {
+    const std::string start = "Form [" + form.Name + "] ";
+    std::vector<std::string> lines;
+    if (form.Profile.Name != form.SavedProfile)
+        lines.push_back(start + "profile from [" + form.SavedProfile + "] to [" + form.Profile.Name + "]");
+    const std::vector<recognition::ResultMark> before = form.Result.Marks();
+    // A document that was put back when the form was not left may have other boxes.
+    for (std::size_t k = 0; k < std::min(before.size(), form.Marks.size()); ++k)
+        if (before[k].Checked != form.Marks[k].Checked)
+            lines.push_back(start + "box [" + before[k].Name +
+                            (before[k].Checked ? "] from 1 to 0" : "] from 0 to 1"));
+    return lines;
+}
+
 int CountChecked(const OpenForm& form) {
     return static_cast<int>(std::count_if(form.Marks.begin(), form.Marks.end(),
                                           [](const recognition::ResultMark& mark) { return mark.Checked; }));

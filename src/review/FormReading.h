@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "imaging/PageReader.h"
 #include "recognition/precise/PreciseReader.h"
@@ -24,6 +26,10 @@ void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fill
 /// `recognition::ReadingError`.
 OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
                   std::int16_t fillThreshold, recognition::PreciseReader* precise);
+
+/// What a person has changed since the document was last read or written: a line for another profile, then
+/// one for every box that was turned round, with what it was and what it is now.
+std::vector<std::string> CorrectionsOf(const OpenForm& form);
 
 /// The number of checked marks.
 int CountChecked(const OpenForm& form);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "recognition/PageLoading.h"
+#include "review/BoxMatching.h"
 #include "review/FormReading.h"
 
 namespace tavrene::review {
@@ -69,6 +70,15 @@ bool FormReview::Prepare(OpenForm& form) {
     MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
     screen_.ShowBoxes(form);
     return form.Skipped == 0 || SettleDifferences(form);
+}
+
+bool FormReview::OpensUnasked(const std::string& document) const {
+    const auto result = recognition::ResultDocument::Load(context_.files, folders_.ProcessOut + document);
+    const ProfileRecord* const profile = FindProfile(result.Profile());
+    if (profile == nullptr || !context_.files.FileExists(folders_.ProcessOut + result.Image()))
+        return false;
+    return std::ranges::all_of(MarksOfBoxes(*profile, result.Marks()),
+                               [](const auto& mark) { return mark.has_value(); });
 }
 
 // Its marks can be listed and decided about; where its boxes lie nobody knows any more.

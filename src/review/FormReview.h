@@ -33,6 +33,9 @@ class FormReview {
     /// `recognition::ReadingError`.
     void Open(const std::string& document);
 
+    /// Whether `Open` would open it without a question. Throws as `Open` does.
+    bool OpensUnasked(const std::string& document) const;
+
     /// Takes the open form from the screen.
     void Close();
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "profiles/ProfileLoader.h"
+#include "review/FormReading.h"
 
 namespace tavrene::review {
 
@@ -165,8 +166,11 @@ void ReviewSession::SelectOpenLine() {
 }
 
 bool ReviewSession::Save() {
+    const std::vector<std::string> corrections = CorrectionsOf(*form_.Form());
     if (!form_.Save())
         return false;
+    for (const std::string& correction : corrections)
+        context_.log.LogProcessEvent(correction);
     const OpenForm& form = *form_.Form();
     list_.Change(form.Document, true, form.Result.Confidence());
     context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
@@ -187,6 +191,7 @@ void ReviewSession::Decide(Decision decision) {
     SettleInterrupted();
     const FormMove move{decision, form_.Form()->Result.Image(), form_.Form()->Document};
     mover_.Move(move);
+    decided_.push_back(Remembered(move));
     const std::size_t line = OpenLine().value_or(0);
     list_.Remove(move.Document);
     form_.Close();
@@ -195,9 +200,43 @@ void ReviewSession::Decide(Decision decision) {
     list_.ShowCounts();
 }
 
+ReviewSession::Decided ReviewSession::Remembered(const FormMove& move) const {
+    const std::string& folder = mover_.FolderOf(move.decision);
+    return {move, context_.files.Fingerprint(folder + move.Image),
+            context_.files.Fingerprint(folder + move.Document)};
+}
+
+void ReviewSession::UndoDecision() {
+    SettleInterrupted();
+    const Decided last = decided_.back();
+    const Decided now = Remembered(last.move);
+    FormMove back = last.move;
+    back.isBack = true;
+    if (now.image != last.image || now.document != last.document) {
+        decided_.pop_back();
+        throw app::FileError("Form [" + app::BaseName(back.Document) + "] stays in " +
+                             mover_.FolderOf(back.decision) + ": it was changed there or is gone");
+    }
+    mover_.Move(back);
+    decided_.pop_back();
+    form_.Close();
+    LogDecision(back);
+    list_.Follow();
+    if (const std::optional<std::size_t> line = list_.IndexOf(back.Document)) {
+        SelectLineNear(*line);
+        GoOnTo(*line);
+    }
+}
+
+void ReviewSession::GoOnTo(std::size_t line) {
+    if (line < list_.Lines().size() && form_.OpensUnasked(list_.Lines()[line].Document))
+        Open(line);
+}
+
 void ReviewSession::LogDecision(const FormMove& move) {
     const char* const word = move.decision == Decision::Accept ? "accepted." : "rejected.";
-    context_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) + "] " + word);
+    context_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) +
+                                 (move.isBack ? "] brought back, no longer " : "] ") + word);
     mover_.Forget();
 }
 

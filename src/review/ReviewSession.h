@@ -98,7 +98,24 @@ class ReviewSession {
     void Accept() { Decide(Decision::Accept); }
     void Reject() { Decide(Decision::Reject); }
 
+    /// Opens the form of a line, where there is one and opening it asks nothing.
+    void GoOnTo(std::size_t line);
+
+    /// Whether there is a decision to take back: they are kept while the program runs.
+    bool HasDecided() const { return !decided_.empty(); }
+
+    /// Takes the last decision back: image and document lie in `ProcessOut` again, and the form is opened
+    /// unless that would ask something. Unsaved changes of the open form are lost: the prompt comes before.
+    /// Throws `app::FileError` when one of the files has changed since, which gives that decision up, or
+    /// cannot be moved.
+    void UndoDecision();
+
   private:
+    struct Decided {
+        FormMove move;
+        std::string image, document;  // fingerprints after the move
+    };
+
     enum class Stage { NotYet, On, Over };
 
     void TrySettle();
@@ -109,6 +126,7 @@ class ReviewSession {
     void SelectLineNear(std::size_t line);
     void Decide(Decision decision);
     void LogDecision(const FormMove& move);
+    Decided Remembered(const FormMove& move) const;
 
     ReviewContext context_;
     const app::WorkingFolders& folders_;
@@ -119,6 +137,7 @@ class ReviewSession {
     UnreadPages unread_;
     std::string unreadIn_;  ///< Fingerprint of the folder when the unread images were looked for.
     Stage stage_ = Stage::NotYet;
+    std::vector<Decided> decided_;
     std::string tried_;  ///< The document that was opened last, or could not be opened.
 };
 

@@ -121,9 +121,49 @@ TEST_F(DecisionsTest, AKillBetweenAnyTwoFileOperationsPartsNoForm) {
             log_.LogProcessEvent("next");
         }
         // The note, both moves, the log line and the end of the note; before accepting, the save and its
-        // line.
-        EXPECT_EQ(kills, accept ? 7 : 5);
+        // two lines.
+        EXPECT_EQ(kills, accept ? 8 : 5);
     }
+}
+
+TEST_F(DecisionsTest, ADecisionIsTakenBackWholeOrNotAtAll) {
+    OpenA();
+    Okay();
+    const std::string document = Result("a.xml");
+    const auto undo = [this] { Take(test::Command::UndoDecision, [this] { review_.UndoDecision(); }); };
+    Accept();
+    undo();
+    EXPECT_EQ(LastLogLine(), "Form [a] brought back, no longer accepted.");
+    EXPECT_EQ(Result("a.xml"), document);
+    EXPECT_EQ(list_.lines, (Names{"+ a 100", "b 100"}));
+    EXPECT_EQ(review_.OpenLine(), 0U);
+    EXPECT_FALSE(review_.HasDecided());
+
+    for (bool killed = true; const int kills : {0, 1, 2, 3, 4, 5, 6}) {
+        SCOPED_TRACE(kills);
+        EXPECT_TRUE(killed || kills > 5);
+        Reject();
+        killed = DiesBefore(kills, [this] { review_.UndoDecision(); });
+        review::ReviewSession next(context_, settings_, folders_, profiles_);
+        Do([&next] { next.SettleInterrupted(); });
+        const bool isBack = files_.FileExists(folders_.ProcessOut + "a.tif");
+        EXPECT_EQ(In(folders_.ProcessReject), isBack ? Names() : kPair);
+        EXPECT_EQ(files_.FileExists(folders_.ProcessOut + "a.xml"), isBack);
+        EXPECT_FALSE(files_.FileExists(Note()));
+        for (const std::string& name : In(folders_.ProcessReject))
+            files_.Move(folders_.ProcessReject + name, folders_.ProcessOut + name);
+        Do([this] { review_.Refill(); });
+        Open(0);
+    }
+    Reject();
+    WriteText(folders_.ProcessOut + "a.tif", "a newer scan");
+    undo();
+    EXPECT_PRED2(test::Has, Messages().at(0), "there is already a file " + folders_.ProcessOut + "a.tif");
+    WriteText(folders_.ProcessReject + "a.xml", "changed");
+    undo();
+    EXPECT_EQ(Messages(),
+              Names{"Form [a] stays in " + folders_.ProcessReject + ": it was changed there or is gone"});
+    EXPECT_EQ(In(folders_.ProcessReject), kPair);
 }
 
 // What a cut move leaves is taken back. A note that could not be deleted tells of an older move: a scan of

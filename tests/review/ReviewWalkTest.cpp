@@ -78,8 +78,9 @@ TEST_F(ReviewWalkTest, CorrectsAndDecidesFormByForm) {
     Okay();
     EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.tif", "a.xml"}));
     const Names log = ProcessLog();
-    EXPECT_EQ(Names(log.end() - 4, log.end()), (Names{"Reviewed & Saved [b]", "Reviewed & Saved [b]",
-                                                      "Form [b] accepted.", "Form [c] rejected."}));
+    EXPECT_EQ(Names(log.end() - 6, log.end()),
+              (Names{"Form [b] box [Q2] from 1 to 0", "Form [b] box [Q4] from 0 to 1", "Reviewed & Saved [b]",
+                     "Reviewed & Saved [b]", "Form [b] accepted.", "Form [c] rejected."}));
 
     Toggle();
     EXPECT_EQ(transcript_.Lines(), (Names{"panel File: Profiles:1, Active:1",
@@ -407,6 +408,9 @@ TEST_F(ReviewWalkTest, AFormCanBeReadAgainstAnotherProfile) {
     EXPECT_TRUE(ResultHas("b.xml", "Name=\"Only here\" Shift=\"2,-1\" Checked=\"1\""));
     Flip(3);
     Okay();
+    const Names log = ProcessLog();
+    EXPECT_EQ(Names(log.end() - 3, log.end() - 1),
+              (Names{"Form [b] profile from [Form] to [Other]", "Form [b] box [Q4] from 0 to 1"}));
     const std::string saved = Result("b.xml");
     EXPECT_PRED2(test::Has, saved,
                  "<OMR Name=\"Only here\" Checked=\"1\" />\n\t\t<OMR Name=\"Q3\" Checked=\"1\" />\n\t\t"

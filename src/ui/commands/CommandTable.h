@@ -32,6 +32,8 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubtful,
+    GoOn,
+    UndoDecision,
     ExportResults,
     OpenWorkingFolder,
     OpenLog,

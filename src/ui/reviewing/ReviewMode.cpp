@@ -6,12 +6,15 @@
 
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
+#include "ui/commands/ReadingCommands.h"
 
 namespace tavrene::ui {
 
 using commands::Command;
 
 namespace {
+
+constexpr std::string_view kGoOn = "GoOn";
 
 // What a key in one of the lists means; `canFlip` in a list of boxes that can be flipped.
 std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
@@ -42,7 +45,12 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       marks_(controls.view),
       session_({context.files, context.log, context.person, controls.view, controls.boxes,
                 controls.pane.List(), controls.pane.Choice(), &context.precise},
-               state.settings, state.folders, state.profiles) {
+               state.settings, state.folders, state.profiles),
+      goesOn_(context.store.ReadSettingValue(app::kApplicationName, commands::kWindowSection, kGoOn) != "0") {
+    gate_.SetHandler(Command::GoOn, [this, &store = context.store] {
+        goesOn_ = !goesOn_;
+        store.WriteSettingValue(app::kApplicationName, commands::kWindowSection, kGoOn, goesOn_ ? "1" : "0");
+    });
     ConnectCommands();
     ConnectFormCommands();
     ConnectControls();
@@ -77,8 +85,10 @@ void ReviewMode::ConnectNeighbour(Command command, int step) {
 
 void ReviewMode::ConnectFormCommands() {
     gate_.SetHandler(Command::Okay, [this] { session_.Save(); });
-    gate_.SetHandler(Command::AcceptForm, [this] { session_.Accept(); });
-    gate_.SetHandler(Command::RejectForm, [this] { session_.Reject(); });
+    gate_.SetHandler(Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); });
+    gate_.SetHandler(Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); });
+    gate_.SetHandler(
+        Command::UndoDecision, [this] { session_.UndoDecision(); }, [this] { return session_.HasDecided(); });
     gate_.SetHandler(Command::FlipBox, [this] { session_.FlipBox(controls_.boxes.CurrentNumber()); });
     gate_.SetHandler(Command::NextDoubtful, [this] { NextDoubtful(); });
 }
@@ -143,6 +153,14 @@ void ReviewMode::WatchFolder() {
         if (!gate_.IsBusy())
             gate_.Guard([this] { session_.FollowFolder(); });
     });
+}
+
+// The line below has moved up into the place of the form that left.
+void ReviewMode::Decide(const std::function<void()>& decide) {
+    const std::optional<std::size_t> line = session_.OpenLine();
+    decide();
+    if (goesOn_ && line)
+        session_.GoOnTo(*line);
 }
 
 void ReviewMode::NextDoubtful() {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/SettingsStore.h"
 #include "review/ReviewSession.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
@@ -21,6 +22,7 @@ struct ReviewModeContext {
     app::Files& files;
     app::Operator& person;
     app::ActivityLog& log;
+    app::SettingsStore& store;
     commands::CommandGate& gate;
     recognition::PreciseReader& precise;
 };
@@ -58,6 +60,9 @@ class ReviewMode final : public QObject {
 
     const review::ReviewSession& Session() const { return session_; }
 
+    /// Whether the next form opens after a decision.
+    bool GoesOn() const { return goesOn_; }
+
     /// Makes the controls show what can be done now.
     void Update();
 
@@ -72,6 +77,7 @@ class ReviewMode final : public QObject {
     void ConnectControls();
     void Toggle();
     void TakeFirstLine();
+    void Decide(const std::function<void()>& decide);
     void NextDoubtful();
     void RectClicked(int group);
     void RowBecameCurrent(QTreeWidgetItem* row);
@@ -85,6 +91,7 @@ class ReviewMode final : public QObject {
     review::ReviewSession session_;
     QFileSystemWatcher watcher_;
     QTimer folderChanged_;  ///< Waits until a burst of changes is over.
+    bool goesOn_;
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
 

@@ -61,8 +61,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
              [this] { return review_.MayLeave(); }}),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
             {*view_, *boxes_, *profiles_, *candidates_}),
-      review_(state_, {context.files, operator_, log_, gate_, precise_}, {*view_, *boxes_, *side_, *forms_},
-              [this] { desk_.Close(); }),
+      review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
+              {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),
       reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_},
                [this] { review_.Refill(); }),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
@@ -255,6 +255,7 @@ void MainWindow::UpdateCommands() {
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());
     toolbars_.SetPressed(Command::PreciseAlignment, state_.reading.preciseAlignment);
+    toolbars_.SetPressed(Command::GoOn, review_.GoesOn());
     toolbars_.SetPressed(Command::SecondOpinion, state_.reading.secondOpinion);
 }
 

@@ -39,8 +39,8 @@ const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
 const Commands kBoxes = {C::SelectBox, C::AddBox,        C::DeleteBox, C::RenameBox, C::Undo,
                          C::Redo,      C::FindMoreBoxes, C::EditBoxes, C::SetActive};
-const Commands kForms = {C::OpenForm, C::NextForm,        C::PreviousForm,
-                         C::PickForm, C::BackToProcessIn, C::AllBackToProcessIn};
+const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm, C::PickForm,
+                         C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
 const Commands kForm = {C::FlipBox, C::NextDoubtful, C::PickProfile, C::PickMark};
 const Commands kReview = AllBut(kNew + kFile + kBoxes + kDecisions + kForm);
@@ -67,6 +67,7 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
                                                 {C::ExportResults, Prompts::Form},
+                                                {C::UndoDecision, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
                                                 {C::PreviousForm, Prompts::Form},
