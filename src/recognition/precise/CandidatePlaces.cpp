@@ -194,7 +194,8 @@ void CandidatePlaces::FillTiles() {
     const auto tileOf = [this](const CellPoint& place) {
         const int across = std::clamp(static_cast<int>(place.x) / kTile, 0, tilesAcross_ - 1);
         const int down = std::clamp(static_cast<int>(place.y) / kTile, 0, tilesDown_ - 1);
-        return static_cast<std::size_t>(down * tilesAcross_ + across);
+        return static_cast<std::size_t>(down) * static_cast<std::size_t>(tilesAcross_) +
+               static_cast<std::size_t>(across);
     };
     std::stable_sort(middles_.begin(), middles_.end(),
                      [&](const CellPoint& a, const CellPoint& b) { return tileOf(a) < tileOf(b); });
@@ -212,9 +213,9 @@ void CandidatePlaces::VisitTiles(const CellPoint& place, double reach, Visit vis
     const int lastAcross = tile(place.x + reach, tilesAcross_);
     const int lastDown = tile(place.y + reach, tilesDown_);
     for (int down = tile(place.y - reach, tilesDown_); down <= lastDown; ++down) {
-        const int row = down * tilesAcross_;
-        const int first = tileStart_[static_cast<std::size_t>(row + tile(place.x - reach, tilesAcross_))];
-        const int last = tileStart_[static_cast<std::size_t>(row + lastAcross) + 1];
+        const std::size_t row = static_cast<std::size_t>(down) * static_cast<std::size_t>(tilesAcross_);
+        const int first = tileStart_[row + static_cast<std::size_t>(tile(place.x - reach, tilesAcross_))];
+        const int last = tileStart_[row + static_cast<std::size_t>(lastAcross) + 1];
         for (int k = first; k < last; ++k)
             visit(middles_[static_cast<std::size_t>(k)]);
     }

@@ -34,8 +34,8 @@ int CountInRow(const BitPlane& pixels, int row, int first, int last) {
 }  // namespace
 
 double FillInside(const BitPlane& pixels, const GridRect& place, int border) {
-    const std::int64_t width = std::int64_t{place.col1} - place.col0 + 1 - 2 * border;
-    const std::int64_t height = std::int64_t{place.row1} - place.row0 + 1 - 2 * border;
+    const std::int64_t width = std::int64_t{place.col1} - place.col0 + 1 - std::int64_t{2} * border;
+    const std::int64_t height = std::int64_t{place.row1} - place.row0 + 1 - std::int64_t{2} * border;
     if (width <= 0 || height <= 0)
         return 0;
     const int first = std::max(0, place.col0 + border);
