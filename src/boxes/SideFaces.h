@@ -77,7 +77,10 @@ class SideFaces {
         return places * 100 >= neededPercent * all;
     }
 
-    static std::size_t Slot(int distance) { return static_cast<std::size_t>(distance + kFarthest); }
+    static std::size_t Slot(int distance) {
+        const int slot = distance + kFarthest;
+        return static_cast<std::size_t>(slot);
+    }
 
     // The most places on so many lines side by side.
     static int MostOnLines(const Histogram& faces, int lines) {

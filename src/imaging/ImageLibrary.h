@@ -64,6 +64,7 @@ namespace tavrene::imaging {
 
 /// The library's functions without their prefix.
 struct ImageLibrary {
+// The name of a member cannot stand in parentheses. NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define TAVRENE_MEMBER(name) decltype(&FreeImage_##name) name = nullptr;
     TAVRENE_IMAGE_LIBRARY(TAVRENE_MEMBER)
 #undef TAVRENE_MEMBER

@@ -51,7 +51,8 @@ PageSize SizeOf(const Page& page) {
 Bitmap BitmapOf(SplashBitmap& drawn) {
     Bitmap picture = imaging::NewPicture(drawn.getWidth(), drawn.getHeight(), 24);
     for (int y = 0; y < drawn.getHeight(); ++y) {
-        const SplashColorPtr from = drawn.getDataPtr() + static_cast<std::ptrdiff_t>(y) * drawn.getRowSize();
+        const unsigned char* const from =
+            drawn.getDataPtr() + static_cast<std::ptrdiff_t>(y) * drawn.getRowSize();
         std::copy_n(from, 3 * drawn.getWidth(), picture.ScanLine(picture.Height() - 1 - y).begin());
     }
     return picture;

@@ -48,9 +48,9 @@ std::vector<Place> UpperEnds(const WorkGrid& page) {
 double Crowding(const std::vector<Place>& places, int width, int height, Slant slant) {
     const int margin = static_cast<int>(std::abs(slant) * width) + 2;
     std::vector<int> rows(static_cast<std::size_t>(height + 2 * margin));
+    const int middle = width / 2;
     for (const Place& place : places)
-        ++rows[static_cast<std::size_t>(margin + place.Row +
-                                        std::lround(-slant * (place.Column - width / 2)))];
+        ++rows[static_cast<std::size_t>(margin + place.Row + std::lround(-slant * (place.Column - middle)))];
     double sum = 0;
     for (const int count : rows)
         sum += static_cast<double>(count) * count;

@@ -14,9 +14,12 @@ class BendField {
     BendField(const CellPage& page, const Alignment& alignment, std::span<const SoughtBox> boxes)
         : stepX_(std::max(1.0, page.Cells().Width() / double{kAcross - 1})),
           stepY_(std::max(1.0, page.Cells().Height() / double{kDown - 1})) {
-        for (int node = 0; node < kAcross * kDown; ++node)
+        for (int node = 0; node < kAcross * kDown; ++node) {
+            const int column = node % kAcross;
+            const int row = node / kAcross;
             offsets_[static_cast<std::size_t>(node)] =
-                OffsetAt({node % kAcross * stepX_, node / kAcross * stepY_}, alignment, boxes);
+                OffsetAt({column * stepX_, row * stepY_}, alignment, boxes);
+        }
     }
 
     CellPoint operator()(const CellPoint& place) const {
@@ -27,7 +30,8 @@ class BendField {
         const double right = x - column;
         const double up = y - row;
         const auto node = [&](int dx, int dy) {
-            return offsets_[static_cast<std::size_t>((row + dy) * kAcross + column + dx)];
+            const int number = (row + dy) * kAcross + column + dx;
+            return offsets_[static_cast<std::size_t>(number)];
         };
         const auto blend = [&](auto ordinate) {
             return (1 - up) * ((1 - right) * ordinate(node(0, 0)) + right * ordinate(node(1, 0))) +
@@ -70,7 +74,8 @@ bool Covers(const BitPlane& plane, const CellPoint& place) {
 }
 
 bool HasAt(const BitPlane& plane, const CellPoint& place) {
-    return plane.Has(static_cast<int>(place.x + 0.5), static_cast<int>(place.y + 0.5));
+    constexpr double half = 0.5;
+    return plane.Has(static_cast<int>(place.x + half), static_cast<int>(place.y + half));
 }
 
 // A piece of the print whose place is looked for by itself.
@@ -91,7 +96,8 @@ std::vector<Tile> CutIntoTiles(std::span<const CellPoint> points, const BitPlane
     for (const CellPoint& point : points) {
         const int across = part(point.x, cells.Width(), kTilesAcross);
         const int down = part(point.y, cells.Height(), kTilesDown);
-        Tile& tile = tiles[static_cast<std::size_t>(down * kTilesAcross + across)];
+        const int number = down * kTilesAcross + across;
+        Tile& tile = tiles[static_cast<std::size_t>(number)];
         tile.points.push_back(point);
         tile.middle = {tile.middle.x + point.x, tile.middle.y + point.y};
     }
@@ -115,8 +121,8 @@ std::optional<CellPoint> Sight(const BitPlane& ink, const Tile& tile, const Page
     int best = 0;
     double sum = 0;
     for (int k = 0; k < side * side; ++k) {
-        const double dx = k % side - reach;
-        const double dy = k / side - reach;
+        const int dx = k % side - reach;
+        const int dy = k / side - reach;
         int count = 0;
         for (const CellPoint& point : mapped)
             count += HasAt(ink, {point.x + dx, point.y + dy}) ? 1 : 0;
@@ -133,8 +139,10 @@ std::optional<CellPoint> Sight(const BitPlane& ink, const Tile& tile, const Page
     for (int k = 0; k < side * side; ++k) {
         if (hits[static_cast<std::size_t>(k)] * 50 < best * 49)
             continue;
-        sumX += k % side - reach;
-        sumY += k / side - reach;
+        const int dx = k % side - reach;
+        const int dy = k / side - reach;
+        sumX += dx;
+        sumY += dy;
         ++equals;
     }
     const CellPoint middle = map(tile.middle);

@@ -57,8 +57,9 @@ std::vector<std::vector<CellPoint>> InkByTile(const BitPlane& cells, const BitPl
             BitPlane::Word word = cells.Row(row)[index] & ~solid.Row(row)[index] & ~leftOut.Row(row)[index];
             for (; word != 0; word &= word - 1) {
                 const int column = index * BitPlane::kWordBits + std::countr_zero(word);
+                const int tile = row / kTile * across + column / kTile;
                 if (column >= marginX && column < cells.Width() - marginX)
-                    tiles[static_cast<std::size_t>(row / kTile * across + column / kTile)].push_back(
+                    tiles[static_cast<std::size_t>(tile)].push_back(
                         {static_cast<double>(column), static_cast<double>(row)});
             }
         }
