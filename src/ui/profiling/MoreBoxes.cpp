@@ -22,6 +22,7 @@ imaging::PageRect PlaceOf(const profiles::OmrBox& box) {
 
 std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::Candidate>& candidates) {
     std::vector<boxes::BoxRect> rects;
+    rects.reserve(candidates.size());
     for (const boxes::Candidate& candidate : candidates)
         rects.push_back(candidate.Box);
     return rects;
@@ -29,6 +30,7 @@ std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::Candidate>& candida
 
 std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::LeftOutBox>& unlikely) {
     std::vector<boxes::BoxRect> rects;
+    rects.reserve(unlikely.size());
     for (const boxes::LeftOutBox& leftOut : unlikely)
         rects.push_back(leftOut.Box);
     return rects;
@@ -36,7 +38,8 @@ std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::LeftOutBox>& unlike
 
 }  // namespace
 
-MoreBoxes::MoreBoxes(const MoreBoxesContext& context, std::function<void(const std::function<void()>&)> take)
+MoreBoxes::MoreBoxes(const MoreBoxesContext& context,
+                     const std::function<void(const std::function<void()>&)>& take)
     : context_(context) {
     context_.pane.SetListener({[this, take](int id) { take([this, id] { PointAt(id); }); },
                                [this, take](int id) { take([this, id] { Take(id); }); },

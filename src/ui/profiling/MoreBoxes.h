@@ -32,7 +32,7 @@ struct MoreBoxesContext {
 class MoreBoxes {
   public:
     /// `take` is handed what the person does in the list.
-    MoreBoxes(const MoreBoxesContext& context, std::function<void(const std::function<void()>&)> take);
+    MoreBoxes(const MoreBoxesContext& context, const std::function<void(const std::function<void()>&)>& take);
 
     void Find();
 
