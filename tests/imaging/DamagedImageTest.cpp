@@ -1,29 +1,20 @@
 #include <FreeImage.h>
-#include <gtest/gtest.h>
 #include <tiffio.h>
 
 #include <algorithm>
 #include <functional>
 
 #include "imaging/ImageHeader.h"
-#include "imaging/PageReader.h"
+#include "imaging/PaintedPicture.h"
 #include "imaging/TiffPages.h"
-#include "painter/ImageFiles.h"
 #include "support/TempFolder.h"
 
 namespace tavrene::imaging {
 namespace {
 
 // Pages of real files, cut and bent byte by byte.
-class DamagedImageTest : public testing::Test {
+class DamagedImageTest : public testing::Test, protected test::PaintedPicture {
   protected:
-    DamagedImageTest() {
-        picture_.FillRect(3, 5, 20, 2);
-        picture_.FillRect(90, 40, 10, 20);
-        picture_.FillRect(40, 20, 9, 9);
-        picture_.FillRect(0, 59, 100, 1);
-    }
-
     std::string Saved(const Bitmap& picture, ImageFormat format, int flags) const {
         FIMEMORY* const memory = FreeImage_OpenMemory();
         BYTE* data = nullptr;
@@ -42,16 +33,6 @@ class DamagedImageTest : public testing::Test {
 
     static bool IsAccepted(const std::string& content, ImageFormat format) {
         return std::holds_alternative<Page>(Read(content, format));
-    }
-
-    bool ShowsThePicture(const Page& page) const {
-        for (int y = 0; y < 60; ++y) {
-            for (int x = 0; x < 100; ++x) {
-                if (page.grid.IsInk(x, 59 - y) != (picture_.At(x, y) < 128))
-                    return false;
-            }
-        }
-        return page.grid.Width() == 100 && page.grid.Rows() == 60;
     }
 
     // How many of all the ways to cut a file off are taken for a page; each of them must be the whole one.
@@ -119,7 +100,6 @@ class DamagedImageTest : public testing::Test {
     }
 
     test::TempFolder work_;
-    samples::Canvas picture_{100, 60, 200};
 };
 
 // The place of the entry of `tag` in the directory of a little-endian TIFF.

@@ -15,6 +15,7 @@ using test::Has;
 using test::Lines;
 using test::ReadText;
 using test::WriteText;
+using Line = std::vector<std::string>;
 
 bool GoOn(std::size_t, std::size_t) {
     return true;
@@ -79,12 +80,11 @@ TEST_F(ExportTest, EveryProfileHasAFileWithALineAForm) {
     const std::string before = ReadText(In("form10.xml"));
 
     ASSERT_TRUE(SaveCsv());
-    EXPECT_EQ(files_.List(out_.Path(), "*"),
-              (std::vector<std::string>{"Order.csv", "Summary.csv", "Survey.csv"}));
+    EXPECT_EQ(files_.List(out_.Path(), "*"), (Line{"Order.csv", "Summary.csv", "Survey.csv"}));
     EXPECT_EQ(Csv("Survey.csv"), (Lines{{"Image", "Profile", "Reviewed", "Confidence", "Q1", "Q2"},
                                         {"form1.tif", "Survey", "0", "87", "1", "0"},
                                         {"form10.tif", "Survey", "1", "87", "0", "1"}}));
-    EXPECT_EQ(Csv("Order.csv")[1], (std::vector<std::string>{"form2.tif", "Order", "0", "87", "0"}));
+    EXPECT_EQ(Csv("Order.csv")[1], (Line{"form2.tif", "Order", "0", "87", "0"}));
     EXPECT_EQ(Csv("Summary.csv"), (Lines{{"Profile", "Group", "Box", "Checked", "Empty"},
                                          {"Survey", "", "Q1", "1", "1"},
                                          {"Survey", "", "Q2", "1", "1"},
@@ -104,8 +104,8 @@ TEST_F(ExportTest, FormsOfAnOlderProfileKeepTheirBoxesApart) {
                {"b.tif", "P", "0", "87", "0", "", "1", "1", "1"},
                {"c.tif", "P", "0", "87", "", "", "", "", ""}}));
     const Lines summary = Csv("Summary.csv");
-    EXPECT_EQ(summary[1], (std::vector<std::string>{"P", "", "same", "1", "1"}));
-    EXPECT_EQ(summary[2], (std::vector<std::string>{"P", "", "gone", "0", "1"}));
+    EXPECT_EQ(summary[1], (Line{"P", "", "same", "1", "1"}));
+    EXPECT_EQ(summary[2], (Line{"P", "", "gone", "0", "1"}));
 }
 
 TEST_F(ExportTest, AGroupIsOneColumnOfTheMarksNames) {
@@ -118,13 +118,13 @@ TEST_F(ExportTest, AGroupIsOneColumnOfTheMarksNames) {
                                    {"a.tif", "P", "0", "87", "1", "yes", "0"},
                                    {"b.tif", "P", "0", "87", "0", "yes|no", "1"},
                                    {"c.tif", "P", "0", "87", "0", "", "0"}}));
-    EXPECT_EQ(Csv("Summary.csv")[2], (std::vector<std::string>{"P", "Agreed", "yes", "2", "1"}));
+    EXPECT_EQ(Csv("Summary.csv")[2], (Line{"P", "Agreed", "yes", "2", "1"}));
 }
 
 TEST_F(ExportTest, CellsAreQuotedAndFormulasMadeHarmless) {
     const std::vector<Box> boxes = {{"=1+2"}, {"a,b;c"}, {"say \"x\""}, {"two\nlines"}, {"größe"}, {"-\"\t"}};
     AddForm("a", "@home", boxes);
-    const std::vector<std::string> wanted = {"'=1+2", "a,b;c", "say \"x\"", "two\nlines", "größe", "'-\"\t"};
+    const Line wanted = {"'=1+2", "a,b;c", "say \"x\"", "two\nlines", "größe", "'-\"\t"};
     for (const char separator : {',', ';', '\t'}) {
         ASSERT_TRUE(SaveCsv({static_cast<Separator>(separator), separator == ';'}));
         EXPECT_EQ(ReadText(Out("@home.csv")).starts_with("\xEF\xBB\xBF"), separator == ';');
@@ -146,27 +146,26 @@ TEST_F(ExportTest, AWorkbookHoldsTheSameTables) {
     const std::map<std::string, Lines> sheets = test::ReadXlsx(Out("book.xlsx"));
     ASSERT_EQ(sheets.size(), 3U);
     Lines survey = sheets.at("Survey");
-    EXPECT_EQ(survey[0], (std::vector<std::string>{"t:Image", "t:Profile", "t:Reviewed", "t:Confidence",
-                                                   "t:Date", "t:Q1", "t:Q2"}));
+    EXPECT_EQ(survey[0],
+              (Line{"t:Image", "t:Profile", "t:Reviewed", "t:Confidence", "t:Date", "t:Q1", "t:Q2"}));
     EXPECT_TRUE(survey[1][4].starts_with("t:20"));
     survey[1].erase(survey[1].begin() + 4);
-    EXPECT_EQ(survey[1], (std::vector<std::string>{"t:a.tif", "t:Survey", "0", "87", "1", "0"}));
+    EXPECT_EQ(survey[1], (Line{"t:a.tif", "t:Survey", "0", "87", "1", "0"}));
     EXPECT_EQ(survey[2].size(), 6U);
     EXPECT_EQ(sheets.at("Order")[0][5], "t:A & <B>");
-    EXPECT_EQ(sheets.at("Summary")[3], (std::vector<std::string>{"t:Order", "", "t:A & <B>", "1", "0"}));
+    EXPECT_EQ(sheets.at("Summary")[3], (Line{"t:Order", "", "t:A & <B>", "1", "0"}));
 }
 
 TEST_F(ExportTest, NamesOfProfilesBecomeNamesOfFilesAndSheets) {
     const std::string longName(60, 'x');
-    const std::vector<std::string> profiles = {"Form", "form",     "summary",      "a/b:c",
-                                               "",     "'quoted'", longName + "1", longName + "2"};
+    const Line profiles = {"Form", "form",     "summary",      "a/b:c",
+                           "",     "'quoted'", longName + "1", longName + "2"};
     for (const std::string& profile : profiles)
         AddForm("form" + std::to_string(&profile - profiles.data()), profile, {{"Q", true}});
     const std::vector<ResultTable> tables = Read().Tables;
     EXPECT_EQ(CsvNames(tables),
-              (std::vector<std::string>{"Form.csv", "form (2).csv", "summary (2).csv", "a_b_c.csv",
-                                        "No profile.csv", "_quoted_.csv", longName + "1.csv",
-                                        longName + "2.csv", "Summary.csv"}));
+              (Line{"Form.csv", "form (2).csv", "summary (2).csv", "a_b_c.csv", "No profile.csv",
+                    "_quoted_.csv", longName + "1.csv", longName + "2.csv", "Summary.csv"}));
     ASSERT_TRUE(SaveCsv());
     ASSERT_TRUE(SaveXlsx());
     const std::map<std::string, Lines> sheets = test::ReadXlsx(Out("book.xlsx"));
@@ -192,8 +191,8 @@ TEST_F(ExportTest, DamagedDocumentsAreToldAndLeftOut) {
     ASSERT_TRUE(SaveCsv());
     ASSERT_TRUE(SaveXlsx());
     const std::string broken = "\uFFFD";
-    EXPECT_EQ(Csv("P.csv")[2], (std::vector<std::string>{"o" + broken + broken + broken + broken + ".tif",
-                                                         "P", "0", "much", "0"}));
+    EXPECT_EQ(Csv("P.csv")[2],
+              (Line{"o" + broken + broken + broken + broken + ".tif", "P", "0", "much", "0"}));
     EXPECT_EQ(test::ReadXlsx(Out("book.xlsx")).at("P").size(), 3U);
 }
 
@@ -215,7 +214,7 @@ TEST_F(ExportTest, WhatIsEndedOrFailsLeavesTheOldFiles) {
     files_.refuse = [](const std::string& operation, const std::string&) { return operation == "write"; };
     EXPECT_TRUE(Has(test::FaultOf([this] { SaveXlsx(); }), "book.xlsx"));
     EXPECT_TRUE(Has(test::FaultOf([this] { SaveCsv(); }), "a.csv"));
-    EXPECT_EQ(files_.List(out_.Path(), "*"), (std::vector<std::string>{"a.csv", "book.xlsx"}));
+    EXPECT_EQ(files_.List(out_.Path(), "*"), (Line{"a.csv", "book.xlsx"}));
     EXPECT_EQ(ReadText(Out("a.csv")) + ReadText(Out("book.xlsx")), "oldold");
 }
 

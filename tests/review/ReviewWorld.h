@@ -18,6 +18,8 @@ using Names = std::vector<std::string>;
 /// as the window's do.
 class ReviewWorld : public RunWorld {
   protected:
+    using Session = review::ReviewSession;
+
     ReviewWorld() { AddProfile("Form", form_); }
 
     void AddScan(const std::string& name, const TestForm::Filling& filling = {}) {
@@ -54,9 +56,18 @@ class ReviewWorld : public RunWorld {
         transcript_.Clear();
         gate_.Guard(command);
     }
-    void Open(std::size_t line) {
-        Take(Command::PickForm, [this, line] { review_.Open(line); });
+    /// A command that is one call of the session.
+    template <typename Act, typename... Values>
+    void Call(Command command, Act act, const Values&... values) {
+        Take(command, [&] { std::invoke(act, review_, values...); });
     }
+    void Open(std::size_t line) { Call(Command::PickForm, &Session::Open, line); }
+    void Flip(int row) { Call(Command::PickMark, &Session::FlipBox, row); }
+    void Okay() { Call(Command::Okay, &Session::Save); }
+    void Accept() { Call(Command::AcceptForm, &Session::Accept); }
+    void Reject() { Call(Command::RejectForm, &Session::Reject); }
+    void Choose(const std::string& profile) { Call(Command::PickProfile, &Session::ReadAgainst, profile); }
+
     /// The form below (1) or above (-1), while that line is selected.
     void OpenNeighbour(std::optional<std::size_t> selected, int step) {
         Take(Command::NextForm, [this, selected, step] {
@@ -64,22 +75,6 @@ class ReviewWorld : public RunWorld {
                 review_.Open(*line);
         });
     }
-    void Flip(int row) {
-        Take(Command::PickMark, [this, row] { review_.FlipBox(row); });
-    }
-    void Okay() {
-        Take(Command::Okay, [this] { review_.Save(); });
-    }
-    void Accept() {
-        Take(Command::AcceptForm, [this] { review_.Accept(); });
-    }
-    void Reject() {
-        Take(Command::RejectForm, [this] { review_.Reject(); });
-    }
-    void Choose(const std::string& profile) {
-        Take(Command::PickProfile, [this, &profile] { review_.ReadAgainst(profile); });
-    }
-
     std::string Result(const std::string& name) const { return ReadText(folders_.ProcessOut + name); }
 
     bool ResultHas(const std::string& name, const std::string& piece) const {
@@ -101,12 +96,22 @@ class ReviewWorld : public RunWorld {
 
     TestForm form_ = TestForm::Grid(2, 2);
     FakeReviewScreen list_{transcript_};
-    review::ReviewContext context_{files_, log_, person_, screen_, screen_, list_, list_, &reader_};
+    review::ReviewContext context_{files_, log_, person_, screen_, screen_, {list_, list_}, &reader_};
     review::ReviewSession review_{context_, settings_, folders_, profiles_};
     commands::CommandGate gate_{
         {person_, log_,
          [this] { return commands::ModeOf({.isInReview = review_.IsOn(), .hasForm = review_.HasForm()}); },
          [] { return true; }, [this] { return review_.MayLeave(); }}};
+};
+
+/// Three scans of the profile wait.
+class ThreeForms : public ReviewWorld {
+  protected:
+    ThreeForms() {
+        AddScan("a.tif", {.checked = {1}});
+        AddScan("b.tif", {.checked = {2, 3}, .dx = 2, .dy = -1});
+        AddScan("c.tif");
+    }
 };
 
 }  // namespace tavrene::test

@@ -99,10 +99,13 @@ TEST_F(ReviewModeTest, FormsAreCorrectedAcceptedAndRejectedByMouse) {
     EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 4");
     EXPECT_EQ(Rows().currentItem()->text(0), "Q2");
     EXPECT_TRUE(Rows().hasFocus()) << "a key means the box that was clicked";
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
-        QTest::mouseDClick(Rows().viewport(), button, Qt::NoModifier,
-                           Rows().visualItemRect(Rows().currentItem()).center());
-    EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 4");
+    const QPoint row = Rows().visualItemRect(Rows().currentItem()).center();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QTest::mouseClick(Rows().viewport(), button, {}, row);
+        QTest::mouseDClick(Rows().viewport(), button, {}, row);
+        QTest::mouseRelease(Rows().viewport(), button, {}, row);
+        EXPECT_EQ(Panel("ElapsedTime"), "Checked:2 of 4") << "there and back, or not at all";
+    }
     Click("Okay");
     EXPECT_EQ(Lines()[1], "+ b 100 *");
     const std::string saved = ReadText(folders_.ProcessOut + "b.xml");
@@ -168,6 +171,9 @@ TEST_F(ReviewModeTest, GoesThroughTheFormsByKeys) {
     EXPECT_FALSE(Offers("UndoDecision"));
     EXPECT_EQ(Lines(), (Names{"a 100", "+ b 100 *", "c 100"}));
     EXPECT_EQ(Panel("File"), "Reviewed: 1 of 3");
+    for (int presses = 0; presses < 2; ++presses)
+        Press(List(), Qt::Key_PageDown);
+    EXPECT_EQ(Lines()[2], "c 100 *") << "the last one stays";
 }
 
 TEST_F(ReviewModeTest, CancelAtAPromptKeepsTheFormAndYesGoesOn) {

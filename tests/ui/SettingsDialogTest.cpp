@@ -23,7 +23,6 @@ namespace tavrene::ui {
 namespace {
 
 using test::Find;
-using Names = std::vector<std::string>;
 using Values = std::map<std::string, std::string>;
 
 class SettingsDialogTest : public testing::Test {
@@ -299,28 +298,23 @@ TEST_F(SettingsDialogTest, ArrowKeysMoveTheThumbTheirWay) {
 
 TEST_F(SettingsDialogTest, TheTabKeyGoesThroughTheFramesInTheirOrderAndEveryStopHasAName) {
     Open();
-    Names stops;
+    std::string stops;
     const QWidget* const first = &Find<QWidget>(*dialog_, "Drive1");
     const QWidget* stop = first;
     do {
         const bool box = qobject_cast<const QAbstractButton*>(stop) != nullptr;
         const bool own = stop->focusProxy() == nullptr;
         if (own && (stop->focusPolicy() & Qt::TabFocus) != 0 && stop->isVisible()) {
-            stops.push_back(FromQt(stop->objectName()));
-            EXPECT_TRUE(box || !stop->accessibleName().isEmpty()) << stops.back();
+            stops += " " + FromQt(stop->objectName());
+            EXPECT_TRUE(box || !stop->accessibleName().isEmpty()) << stops;
         }
         stop = stop->nextInFocusChain();
     } while (stop != first);
-    EXPECT_EQ(stops, (Names{"Drive1",           "Dir1",
-                            "cmdBrowse",        "cmdNewFolder",
-                            "VScroll1",         "HScroll1",
-                            "numHScroll1",      "numVScroll1",
-                            "VScroll2",         "HScroll2",
-                            "numHScroll2",      "numVScroll2",
-                            "cmdReset",         "chkDisplayDuringProcess",
-                            "chkProcessSingle", "HScroll3",
-                            "numHScroll3",      "cmdOK",
-                            "cmdCancel",        "txtFolder"}));
+    EXPECT_EQ(
+        stops,
+        " Drive1 Dir1 cmdBrowse cmdNewFolder VScroll1 HScroll1 numHScroll1 numVScroll1 VScroll2 HScroll2"
+        " numHScroll2 numVScroll2 cmdReset chkDisplayDuringProcess chkProcessSingle HScroll3"
+        " numHScroll3 cmdOK cmdCancel txtFolder");
 }
 
 }  // namespace
