@@ -41,7 +41,7 @@ void FormReview::Open(const std::string& document) {
         form.Result = recognition::ResultDocument::Load(context_.files, PathOf(form));
         if (Prepare(form)) {
             form_ = std::move(form);
-            context_.choice.SetChoice(form_->Profile.Name);
+            context_.side.choice.SetChoice(form_->Profile.Name);
             screen_.ShowState(*form_);
         } else {
             TakeOffScreen();
@@ -252,10 +252,10 @@ void FormReview::ReadAgainst(const std::string& profileName) {
             }
         }
     } catch (...) {
-        context_.choice.SetChoice(form_->Profile.Name);
+        context_.side.choice.SetChoice(form_->Profile.Name);
         throw;
     }
-    context_.choice.SetChoice(form_->Profile.Name);
+    context_.side.choice.SetChoice(form_->Profile.Name);
 }
 
 // The document as it was before it was read against another profile for the first time.

@@ -37,7 +37,7 @@ std::string CheckedText(const OpenForm& form, std::size_t count) {
 void FormScreen::Clear() {
     context_.page.Clear();
     context_.rows.ClearRows(profiles::BoxColumns::Name);
-    context_.choice.TakeAway();
+    context_.side.choice.TakeAway();
 }
 
 void FormScreen::ClearPanels() {

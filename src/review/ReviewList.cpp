@@ -19,10 +19,10 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     std::vector<std::string> names;
     for (const profiles::ProfileRecord& profile : profiles)
         names.push_back(profile.Name);
-    context_.choice.ShowProfiles(names);
+    context_.side.choice.ShowProfiles(names);
     entries_.clear();
     lines_.clear();
-    context_.lines.ShowLines({});
+    context_.side.lines.ShowLines({});
     ShowCounts();
     folder_ = context_.files.Fingerprint(folders_.ProcessOut);
     for (const std::string& document : context_.files.List(folders_.ProcessOut, "*.xml")) {
@@ -30,7 +30,7 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
         if (entries_.back().line)
             lines_.push_back(*entries_.back().line);
     }
-    context_.lines.ShowLines(lines_);
+    context_.side.lines.ShowLines(lines_);
     const auto missing = std::count_if(entries_.begin(), entries_.end(), [](const Entry& entry) {
         return !entry.line && !entry.image.empty();
     });
@@ -102,10 +102,10 @@ void ReviewList::ShowDifference(const std::vector<ReviewLine>& wanted) {
             RemoveAt(k);
         if (k == lines_.size() || lines_[k].Document != wanted[k].Document) {
             lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(k), wanted[k]);
-            context_.lines.InsertLine(k, wanted[k]);
+            context_.side.lines.InsertLine(k, wanted[k]);
         } else if (lines_[k] != wanted[k]) {
             lines_[k] = wanted[k];
-            context_.lines.ChangeLine(k, wanted[k]);
+            context_.side.lines.ChangeLine(k, wanted[k]);
         }
     }
     while (lines_.size() > k)
@@ -135,7 +135,7 @@ void ReviewList::Change(const std::string& document, bool reviewed, const std::s
         return;
     lines_[*index].Reviewed = reviewed;
     lines_[*index].Confidence = confidence;
-    context_.lines.ChangeLine(*index, lines_[*index]);
+    context_.side.lines.ChangeLine(*index, lines_[*index]);
 }
 
 void ReviewList::Remove(const std::string& document) {
@@ -145,7 +145,7 @@ void ReviewList::Remove(const std::string& document) {
 
 void ReviewList::RemoveAt(std::size_t index) {
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(index));
-    context_.lines.RemoveLine(index);
+    context_.side.lines.RemoveLine(index);
 }
 
 void ReviewList::ShowCounts() const {

@@ -53,6 +53,12 @@ class ProfileChoice {
     virtual void TakeAway() = 0;
 };
 
+/// What the side of the window shows of review.
+struct ReviewSide {
+    ReviewLines& lines;
+    ProfileChoice& choice;
+};
+
 /// What review needs of the world; everything must outlive it.
 struct ReviewContext {
     app::Files& files;
@@ -60,8 +66,7 @@ struct ReviewContext {
     app::Operator& person;
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
-    ReviewLines& lines;
-    ProfileChoice& choice;
+    ReviewSide side;
     recognition::PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
 };
 

@@ -88,7 +88,7 @@ std::optional<std::size_t> ReviewSession::OpenLine() const {
 
 void ReviewSession::Open(std::size_t line) {
     const std::string document = list_.Lines().at(line).Document;
-    context_.lines.SelectLine(line);
+    context_.side.lines.SelectLine(line);
     tried_ = document;
     form_.Open(document);
     if (!list_.IndexOf(document))
@@ -99,7 +99,7 @@ void ReviewSession::Open(std::size_t line) {
 void ReviewSession::SelectLineNear(std::size_t line) {
     tried_.clear();
     if (!list_.Lines().empty())
-        context_.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+        context_.side.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
 }
 
 std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
@@ -162,7 +162,7 @@ bool ReviewSession::Leave(app::Answer answer) {
 // The form that is not left is the one that counts, wherever the person has clicked.
 void ReviewSession::SelectOpenLine() {
     if (const std::optional<std::size_t> line = OpenLine())
-        context_.lines.SelectLine(*line);
+        context_.side.lines.SelectLine(*line);
 }
 
 bool ReviewSession::Save() {

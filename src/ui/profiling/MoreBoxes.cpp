@@ -20,19 +20,13 @@ imaging::PageRect PlaceOf(const profiles::OmrBox& box) {
             static_cast<double>(box.B - box.T)};
 }
 
-std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::Candidate>& candidates) {
+// Of candidates, or of what is no likely box.
+template <typename Found>
+std::vector<boxes::BoxRect> RectsOf(const std::vector<Found>& found) {
     std::vector<boxes::BoxRect> rects;
-    rects.reserve(candidates.size());
-    for (const boxes::Candidate& candidate : candidates)
-        rects.push_back(candidate.Box);
-    return rects;
-}
-
-std::vector<boxes::BoxRect> RectsOf(const std::vector<boxes::LeftOutBox>& unlikely) {
-    std::vector<boxes::BoxRect> rects;
-    rects.reserve(unlikely.size());
-    for (const boxes::LeftOutBox& leftOut : unlikely)
-        rects.push_back(leftOut.Box);
+    rects.reserve(found.size());
+    for (const Found& one : found)
+        rects.push_back(one.Box);
     return rects;
 }
 

@@ -36,7 +36,6 @@ class ReviewListView::Lines final : public QAbstractTableModel {
     void Insert(std::size_t row, const review::ReviewLine& line) {
         const int place = static_cast<int>(row);
         beginInsertRows({}, place, place);
-        open_ += open_ >= place ? 1 : 0;
         lines_.insert(lines_.begin() + place, line);
         endInsertRows();
     }
@@ -49,11 +48,11 @@ class ReviewListView::Lines final : public QAbstractTableModel {
     void Remove(std::size_t row) {
         const int removed = static_cast<int>(row);
         beginRemoveRows({}, removed, removed);
-        open_ = open_ == removed ? -1 : open_ - (open_ > removed ? 1 : 0);
         lines_.erase(lines_.begin() + removed);
         endRemoveRows();
     }
 
+    // Asked for after every command, so that lines that come and go need not keep it.
     void MarkOpen(int row) {
         if (row == open_)
             return;

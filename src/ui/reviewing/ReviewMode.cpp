@@ -43,8 +43,13 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       closeProfile_(std::move(closeProfile)),
       controls_(controls),
       marks_(controls.view),
-      session_({context.files, context.log, context.person, controls.view, controls.boxes,
-                controls.pane.List(), controls.pane.Choice(), &context.precise},
+      session_({context.files,
+                context.log,
+                context.person,
+                controls.view,
+                controls.boxes,
+                {controls.pane.List(), controls.pane.Choice()},
+                &context.precise},
                state.settings, state.folders, state.profiles),
       goesOn_(context.store.ReadSettingValue(app::kApplicationName, commands::kWindowSection, kGoOn) != "0") {
     gate_.SetHandler(Command::GoOn, [this, &store = context.store] {
@@ -108,7 +113,7 @@ void ReviewMode::ConnectControls() {
     connect(&controls_.boxes, &QTreeWidget::itemDoubleClicked, this, flip);
     connect(&controls_.boxes, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr)
-            gate_.Take(Command::PickMark, [&] { RowBecameCurrent(row); });
+            gate_.Take(Command::PickMark, [&] { session_.BoxSelected(controls_.boxes.NumberOf(row)); });
     });
     controls_.boxes.installEventFilter(this);
     controls_.pane.List().installEventFilter(this);
@@ -134,12 +139,6 @@ void ReviewMode::TakeFirstLine() {
     controls_.pane.List().setFocus();
     if (controls_.pane.List().model()->rowCount() > 0)
         controls_.pane.List().SelectLine(0);
-}
-
-// A list that gets the focus makes its first row the current one, but leaves it unselected.
-void ReviewMode::RowBecameCurrent(QTreeWidgetItem* row) {
-    row->setSelected(true);
-    session_.BoxSelected(controls_.boxes.NumberOf(row));
 }
 
 // While a command is under way, with a question of it open perhaps, the list stays as the command found it;

@@ -80,7 +80,6 @@ class ReviewMode final : public QObject {
     void Decide(const std::function<void()>& decide);
     void NextDoubtful();
     void RectClicked(int group);
-    void RowBecameCurrent(QTreeWidgetItem* row);
     void WatchFolder();
 
     const commands::AppState& state_;
