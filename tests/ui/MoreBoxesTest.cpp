@@ -49,11 +49,17 @@ TEST_F(MoreBoxesTest, EachTakenBoxComesWhereSortingPutsItAndGoesWithOneUndo) {
     after.insert(after.begin() + 3, "Un-named-7");
     EXPECT_EQ(RowTexts(), after);
 
-    // A click on the dotted outline of the next one takes it as well.
+    // A click on the dotted outline of the next one takes it as well, also where a box has its handles.
     const profiles::OmrBox& next = form_.boxes[4];
-    ClickPage({next.L + 12.0, next.T + 12.0});
+    Click("ZoomToOrig");
+    Click("ZoomIn");
+    Click("ZoomIn");
+    ClickPage({next.L + 0.0, next.T + 0.0});
     EXPECT_EQ(Candidates().count(), 1);
     EXPECT_EQ(Rows().topLevelItemCount(), 8);
+    const QPoint row = Candidates().visualItemRect(Candidates().item(0)).center();
+    QTest::mouseDClick(Candidates().viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(Candidates().count(), 1) << "the second click of a double click takes no other";
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(RowTexts(), after);
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
