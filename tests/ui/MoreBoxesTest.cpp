@@ -57,9 +57,6 @@ TEST_F(MoreBoxesTest, EachTakenBoxComesWhereSortingPutsItAndGoesWithOneUndo) {
     ClickPage({next.L + 0.0, next.T + 0.0});
     EXPECT_EQ(Candidates().count(), 1);
     EXPECT_EQ(Rows().topLevelItemCount(), 8);
-    const QPoint row = Candidates().visualItemRect(Candidates().item(0)).center();
-    QTest::mouseDClick(Candidates().viewport(), Qt::LeftButton, {}, row);
-    EXPECT_EQ(Candidates().count(), 1) << "the second click of a double click takes no other";
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(RowTexts(), after);
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
@@ -89,10 +86,15 @@ TEST_F(MoreBoxesTest, AllAtOnceAreOneEditAndEscapeClosesTheListBeforeTheWindow) 
 
     Press(*window_, Qt::Key_M, Qt::ControlModifier);
     ASSERT_TRUE(AreShown());
+    const QPoint row = Candidates().visualItemRect(Candidates().item(0)).center();
+    QTest::mouseClick(Candidates().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(Candidates().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseRelease(Candidates().viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(Candidates().count(), 2) << "the second click of a double click takes no other";
     Press(*window_, Qt::Key_Escape);
     EXPECT_FALSE(AreShown());
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_EQ(Rows().topLevelItemCount(), 6);
+    EXPECT_EQ(Rows().topLevelItemCount(), 7);
 }
 
 TEST_F(MoreBoxesTest, EscapeStopsTheLookAndNothingElseActsMeanwhile) {
