@@ -5,11 +5,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QStyle>
-#include <QToolButton>
 #include <algorithm>
 #include <utility>
 
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
@@ -58,12 +57,7 @@ MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), area_(new NoticeAr
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
-    auto* const close = new QToolButton(this);
-    close->setObjectName("cmdCloseNotices");
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setAutoRaise(true);
-    close->setToolTip("Close these notices");
-    close->setAccessibleName(close->toolTip());
+    QToolButton* const close = CloseButton(this, "cmdCloseNotices", "Close these notices");
     connect(close, &QToolButton::clicked, this, [this] { Close(); });
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 6, 6);

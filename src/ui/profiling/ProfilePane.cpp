@@ -1,6 +1,6 @@
 #include "ui/profiling/ProfilePane.h"
 
-#include <QVBoxLayout>
+#include "ui/base/PaneParts.h"
 
 namespace tavrene::ui {
 
@@ -13,14 +13,7 @@ ProfilePane::ProfilePane(QWidget* parent)
     active_->setAccessibleName("Profile active");
     active_->setEnabled(false);
     active_->setContentsMargins(0, 0, 0, 0);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(strip_, 1);
-    auto* const below = new QVBoxLayout;
-    below->setContentsMargins(10, 8, 10, 10);
-    below->addWidget(active_);
-    layout->addLayout(below);
+    ControlsBelow(this, strip_)->addWidget(active_);
 }
 
 }  // namespace tavrene::ui

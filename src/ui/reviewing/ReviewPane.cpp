@@ -3,9 +3,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTabWidget>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
@@ -66,22 +66,14 @@ ReviewPane::ReviewPane(QWidget* parent)
     tabs_->setAccessibleName("Processed pages");
     tabs_->setDocumentMode(true);
     auto* const forms = new QWidget;
-    auto* const layout = new QVBoxLayout(forms);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(list_, 1);
-    auto* const below = new QVBoxLayout;
-    below->setContentsMargins(10, 8, 10, 10);
+    QVBoxLayout* const below = ControlsBelow(forms, list_);
     auto* const title = new QLabel("Read a&gainst profile:", this);
     title->setBuddy(choice_);
     below->addWidget(title);
     below->addWidget(choice_);
-    layout->addLayout(below);
     tabs_->addTab(forms, "Forms");
     tabs_->addTab(unread_, "Not read");
-    auto* const all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->addWidget(tabs_);
+    FillingColumn(this)->addWidget(tabs_);
 }
 
 void ReviewPane::ShowUnread(const std::vector<review::UnreadPage>& pages) {

@@ -2,7 +2,8 @@
 
 #include <QHeaderView>
 #include <QPushButton>
-#include <QVBoxLayout>
+
+#include "ui/base/PaneParts.h"
 
 namespace tavrene::ui {
 namespace {
@@ -26,12 +27,7 @@ ReasonList* MakeList(QWidget* parent) {
 }  // namespace
 
 UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this)) {
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(list_, 1);
-    auto* const below = new QVBoxLayout;
-    below->setContentsMargins(10, 8, 10, 10);
+    QVBoxLayout* const below = ControlsBelow(this, list_);
     below->setSpacing(6);
     const std::pair<Command, const char*> buttons[] = {
         {Command::BackToProcessIn, "&Back to ProcessIn"},
@@ -43,7 +39,6 @@ UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this))
         below->addWidget(button);
         buttons_.emplace_back(command, button);
     }
-    layout->addLayout(below);
     connect(list_, &QTreeWidget::itemSelectionChanged, this,
             [this] { buttons_.front().second->setEnabled(!list_->selectedItems().isEmpty()); });
 }

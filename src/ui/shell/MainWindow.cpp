@@ -6,10 +6,10 @@
 #include <QSplitter>
 #include <QTimer>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include "imaging/Bitmap.h"
 #include "ui/base/FitToScreen.h"
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
@@ -27,9 +27,7 @@ using commands::Command;
 // The strip takes room of its own, so that it hides no box.
 QWidget* WithStripAbove(QWidget& strip, QWidget& view) {
     auto* const pane = new QWidget;
-    auto* const layout = new QVBoxLayout(pane);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    QVBoxLayout* const layout = FillingColumn(pane);
     layout->addWidget(&strip);
     layout->addWidget(&view, 1);
     return pane;
@@ -101,12 +99,18 @@ void MainWindow::BuildLayout() {
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
     auto* const middle = new QWidget(this);
-    auto* const column = new QVBoxLayout(middle);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout* const column = FillingColumn(middle);
     column->addWidget(splitter_, 1);
     column->addWidget(summary_);
     setCentralWidget(middle);
+    OrderTabStops();
+    setStatusBar(panels_);
+    // A laptop at twice the scale has no more room than this.
+    setMinimumSize(640, 320);
+    ResizeWithinScreen(*this, {1280, 800});
+}
+
+void MainWindow::OrderTabStops() {
     const std::initializer_list<QWidget*> order = {&profiles_->Strip(),
                                                    &profiles_->Active(),
                                                    &forms_->List(),
@@ -119,10 +123,6 @@ void MainWindow::BuildLayout() {
                                                    &panels_->Zoom()};
     for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
         setTabOrder(next[0], next[1]);
-    setStatusBar(panels_);
-    // A laptop at twice the scale has no more room than this.
-    setMinimumSize(640, 320);
-    ResizeWithinScreen(*this, {1280, 800});
 }
 
 void MainWindow::ConnectViewCommands() {

@@ -3,12 +3,10 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QStyle>
-#include <QToolButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/RunTexts.h"
 
@@ -37,19 +35,12 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     text_->setTextFormat(Qt::RichText);
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    auto* const close = new QToolButton(this);
-    close->setObjectName("cmdCloseSummary");
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setAutoRaise(true);
-    close->setToolTip("Close the summary");
-    close->setAccessibleName(close->toolTip());
+    QToolButton* const close = CloseButton(this, "cmdCloseSummary", "Close the summary");
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(10, 3, 6, 3);
     row->addWidget(text_, 1);
     row->addWidget(close, 0, Qt::AlignTop);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    QVBoxLayout* const layout = FillingColumn(this);
     layout->addLayout(row);
     layout->addWidget(files_);
     connect(text_, &QLabel::linkActivated, this,

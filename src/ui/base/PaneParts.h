@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tavrene::ui {
+
+/// The column that fills `pane` to its edges.
+inline QVBoxLayout* FillingColumn(QWidget* pane) {
+    auto* const column = new QVBoxLayout(pane);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    return column;
+}
+
+/// A list that takes all the room of `pane`, and the column of controls below it.
+inline QVBoxLayout* ControlsBelow(QWidget* pane, QWidget* list) {
+    QVBoxLayout* const column = FillingColumn(pane);
+    column->addWidget(list, 1);
+    auto* const below = new QVBoxLayout;
+    below->setContentsMargins(10, 8, 10, 10);
+    column->addLayout(below);
+    return below;
+}
+
+/// The cross that closes a part of the window.
+inline QToolButton* CloseButton(QWidget* parent, const char* name, const QString& toolTip) {
+    auto* const close = new QToolButton(parent);
+    close->setObjectName(name);
+    close->setIcon(parent->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setAutoRaise(true);
+    close->setToolTip(toolTip);
+    close->setAccessibleName(toolTip);
+    return close;
+}
+
+}  // namespace tavrene::ui
