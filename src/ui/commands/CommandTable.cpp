@@ -48,6 +48,8 @@ constexpr std::array kCommands = {
                 M::Boxes, "&Select Box", "F7", "Select", true, false},
     CommandInfo{C::AddBox, T::Cfg, "Add", "Create New OMR CheckBox",
                 M::Boxes, "&Add Box", "F8", "Add", true, false},
+    CommandInfo{C::PutBox, T::None, "PutBox", "Put a box in the middle of the view; the arrow keys move it, with Ctrl they resize it",
+                M::Boxes, "&Put Box", "Ins", "", false, false},
     CommandInfo{C::DeleteBox, T::Cfg, "Delete", "Delete OMR CheckBox",
                 M::Boxes, "&Delete Box\tDel", "", "DeleteBox", false, false},
     CommandInfo{C::RenameBox, T::None, "Rename", "Give the selected box another name",

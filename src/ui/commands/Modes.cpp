@@ -37,7 +37,7 @@ const Rule kRules[] = {
     {{C::Review}, kIdle, Prompts::ProfileThenForm},
     {{C::Okay, C::RejectForm}, "F", Prompts::None, "", "RF"},
     {{C::AcceptForm}, "F", Prompts::Form, "", "RF"},
-    {{C::SelectBox, C::AddBox, C::DeleteBox}, "P"},
+    {{C::SelectBox, C::AddBox, C::PutBox, C::DeleteBox}, "P"},
     {{C::RenameBox, C::Undo, C::Redo, C::FindMoreBoxes}, "P"},
     {{C::OpenForm, C::NextForm, C::PreviousForm}, "RF", Prompts::Form},
     {{C::FlipBox, C::NextDoubtful}, "F"},
