@@ -7,7 +7,6 @@
 namespace tavrene::ui {
 namespace {
 
-using test::DialogScript;
 using test::Find;
 using Names = std::vector<std::string>;
 

@@ -69,11 +69,11 @@ void ProfileDesk::ConnectBoxCommands() {
 void ProfileDesk::PutBox() {
     const BoxLayer& boxes = controls_.view.Boxes();
     const app::Settings& sizes = state_.settings;
-    const QSizeF usual((sizes.BoxMinWidth + sizes.BoxMaxWidth) / 2,
-                       (sizes.BoxMinHeight + sizes.BoxMaxHeight) / 2);
+    const QSize usual =
+        (QSize(sizes.BoxMinWidth, sizes.BoxMinHeight) + QSize(sizes.BoxMaxWidth, sizes.BoxMaxHeight)) / 2;
     const QRectF selected = boxes.PlaceOf(session_.Profile().CurrentBox);
     const QRectF place =
-        boxes.FreePlace(controls_.view.Centre(), selected.isEmpty() ? usual : selected.size());
+        boxes.FreePlace(controls_.view.Centre(), selected.isEmpty() ? QSizeF(usual) : selected.size());
     session_.Editor().DrawBox({place.left(), place.top(), place.width(), place.height()});
     controls_.view.setFocus();
 }
