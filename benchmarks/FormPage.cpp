@@ -38,6 +38,7 @@ profiles::ProfileRecord ProfileOf(const std::string& name, const std::vector<pro
     profiles::ProfileRecord profile;
     profile.Name = name;
     profile.Active = true;
+    profile.Image = ScratchFolder() + "/" + name + "-blank.tif";
     profile.DPI_X = profile.DPI_Y = kDpi;
     for (const profiles::OmrBox& box : boxes)
         profile.Boxes.push_back(profiles::PrintedBoxOf(box));
@@ -59,6 +60,10 @@ void PaintText(samples::Canvas& canvas) {
     }
 }
 
+void Save(const samples::Canvas& canvas, const std::string& file) {
+    samples::SaveImage(samples::ToBilevel(canvas), imaging::ImageFormat::Tiff, file);
+}
+
 FormPage Painted() {
     FormPage page;
     page.boxes = BoxesOf(kBoxSize);
@@ -66,14 +71,15 @@ FormPage Painted() {
     page.stranger = ProfileOf("Stranger", BoxesOf(2 * kBoxSize));
     samples::Canvas canvas(2480, 3508, kDpi);
     PaintText(canvas);
-    for (std::size_t k = 0; k < page.boxes.size(); ++k) {
-        const profiles::OmrBox& box = page.boxes[k];
+    for (const profiles::OmrBox& box : page.boxes)
         canvas.DrawRect(box.L - 1, box.T - 2, kBoxSize + 3, kBoxSize + 3, 3);
-        if (k % 3 == 0)
-            canvas.DrawLine({box.L + 8.0, box.T + 8.0}, {box.R - 8.0, box.B - 8.0}, 4);
+    Save(canvas, page.profile.Image);
+    for (std::size_t k = 0; k < page.boxes.size(); k += 3) {
+        const profiles::OmrBox& box = page.boxes[k];
+        canvas.DrawLine({box.L + 8.0, box.T + 8.0}, {box.R - 8.0, box.B - 8.0}, 4);
     }
     page.file = ScratchFolder() + "/page.tif";
-    samples::SaveImage(samples::ToBilevel(canvas), imaging::ImageFormat::Tiff, page.file);
+    Save(canvas, page.file);
     return page;
 }
 
@@ -84,10 +90,12 @@ const FormPage& TheFormPage() {
     return page;
 }
 
-Workplace::Workplace()
+Workplace::Workplace(recognition::ReadingOptions options)
     : folders(app::PathsUnder(ScratchFolder())),
       log(files, clock, nobody, folders.Log),
-      run({files, log, nobody, clock, nobody, nobody}, settings, folders) {
+      reading(options),
+      reader(files, reading),
+      run({files, log, nobody, clock, nobody, nobody, &reader}, settings, folders) {
     settings.FillThreshold = app::kDefaultFillThreshold;
     app::CreateWorkingFolders(files, ScratchFolder());
 }

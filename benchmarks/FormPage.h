@@ -69,7 +69,8 @@ class Nobody final : public app::Operator,
 
 /// A working folder in the scratch folder and everything that a run on it needs.
 struct Workplace {
-    Workplace();
+    /// All off: the described rules alone.
+    explicit Workplace(recognition::ReadingOptions options = {});
 
     app::DiskFiles files;
     app::SystemClock clock;
@@ -77,6 +78,8 @@ struct Workplace {
     app::Settings settings;
     app::WorkingFolders folders;
     app::ActivityLog log;
+    recognition::ReadingOptions reading;
+    recognition::PreciseReader reader;
     recognition::ProcessRun run;
 };
 

@@ -5,8 +5,11 @@
 #include <variant>
 #include <vector>
 
+#include "Floor.h"
 #include "FormPage.h"
 #include "app/Files.h"
+#include "painter/Canvas.h"
+#include "painter/ImageFiles.h"
 #include "recognition/Classification.h"
 
 namespace tavrene::bench {
@@ -65,6 +68,28 @@ void BM_ReadPrecisely(benchmark::State& state) {
     }
 }
 
+// A page ruled like graph paper, with squares of the boxes' size and with as small ones as can be taken for
+// their corners: every square is a candidate, and none is the form.
+void BM_RefuseRuledPaper(benchmark::State& state) {
+    samples::Canvas canvas(2480, 3508, 300);
+    for (int row = 60; row < 3450; row += static_cast<int>(state.range(0)))
+        canvas.FillRect(60, row, 2360, 3);
+    for (int column = 60; column < 2430; column += static_cast<int>(state.range(0)))
+        canvas.FillRect(column, 60, 3, 3390);
+    const std::string file = ScratchFolder() + "/ruled.tif";
+    samples::SaveImage(samples::ToBilevel(canvas), imaging::ImageFormat::Tiff, file);
+    const auto read = imaging::ReadPage(app::DiskFiles(), file, imaging::ImageFormat::Tiff);
+    const auto& page = std::get<imaging::Page>(read);
+    const auto profiles = AmongStrangers(0);
+    const recognition::SpecimenPrint print = recognition::TakePrint(ThePage(), profiles.back());
+    for (auto _ : state) {
+        if (recognition::ReadPrecisely(
+                page, profiles, [&print](std::size_t) { return &print; }, kThreshold)
+                .winner >= 0)
+            state.SkipWithError("ruled paper was taken for a form");
+    }
+}
+
 // Once a specimen and run, besides loading it.
 void BM_TakePrint(benchmark::State& state) {
     for (auto _ : state)
@@ -73,6 +98,7 @@ void BM_TakePrint(benchmark::State& state) {
 
 BENCHMARK(BM_ReadAsDescribed)->Arg(0)->Arg(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ReadPrecisely)->Arg(0)->Arg(9)->Arg(99)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RefuseRuledPaper)->Arg(39)->Arg(18)->Arg(13)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_TakePrint)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <string_view>
 
 #include "FormPage.h"
 
@@ -15,17 +16,20 @@ long PeakResidentKilobytes() {
 
 }  // namespace
 
-// Runs the same page again and again and prints how much memory the program has ever held.
-int main() {
+// Runs the same page again and again and prints how much memory the program has ever held: by the described
+// rules, or with the second opinion or by precise alignment as the argument says.
+int main(int count, char** arguments) {
     using namespace tavrene::bench;
-    Workplace work;
+    const std::string_view way = count > 1 ? arguments[1] : "described";
+    Workplace work({.preciseAlignment = way == "precise", .secondOpinion = way == "opinion"});
     const std::vector<tavrene::profiles::ProfileRecord> profiles = {TheFormPage().profile,
                                                                     TheFormPage().stranger};
     for (int page = 1; page <= 1000; ++page) {
         std::filesystem::copy_file(TheFormPage().file, work.folders.ProcessIn + "page.tif");
         work.run.Run(profiles);
         if (page == 10 || page == 1000)
-            std::printf("peak resident size after %4d pages: %ld kB\n", page, PeakResidentKilobytes());
+            std::printf("peak resident size, %s, after %4d pages: %ld kB\n", way.data(), page,
+                        PeakResidentKilobytes());
     }
     return work.files.FileExists(work.folders.ProcessOut + "page.xml") ? 0 : 1;
 }

@@ -239,8 +239,11 @@ void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const Profi
     if (context_.precise->GivesSecondOpinion() && outcome.page)
         opinions_.Add(name, context_.precise->OpinionOn(*outcome.page, profiles, outcome.winner,
                                                         outcome.readings, settings_.FillThreshold));
-    for (std::string& profile : context_.precise->TakeReplaced())
-        opinions_.replaced.push_back(std::move(profile));
+    SpecimenFaults faults = context_.precise->TakeFaults();
+    opinions_.specimens.replaced.merge(faults.replaced);
+    // The described rules need no specimen.
+    if (context_.precise->Reads())
+        opinions_.specimens.unreadable.merge(faults.unreadable);
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {

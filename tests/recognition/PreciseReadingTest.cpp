@@ -25,8 +25,8 @@ constexpr std::int16_t kThreshold = 8;
 // Profiles with their prints, and a blank sheet of each that can be marked and scanned.
 class PreciseReadingTest : public ::testing::Test {
   protected:
-    std::size_t Add(const FormDesign& design, bool withSpecimen = true) {
-        forms_.push_back(PaintBlank(design, kDpi));
+    std::size_t Add(const FormDesign& design, bool withSpecimen = true, int dpi = kDpi) {
+        forms_.push_back(PaintBlank(design, dpi));
         profiles_.push_back(forms_.back().Profile);
         prints_.push_back(withSpecimen ? TakePrint(CleanScan(forms_.back().Page), profiles_.back())
                                        : SpecimenPrint{});
@@ -183,7 +183,14 @@ TEST_F(PreciseReadingTest, StrangersAndSistersAreToldApart) {
     for (const StrangerKind kind :
          {StrangerKind::Text, StrangerKind::RuledTable, StrangerKind::Ovals, StrangerKind::OtherForm})
         EXPECT_EQ(Read(Scan(PaintStranger(kind, 77, kDpi), wear, dice_)).winner, -1);
-    EXPECT_EQ(Read(Scan(samples::Canvas(1240, 1754, kDpi), {}, dice_)).winner, -1) << "an empty sheet";
+    for (const int pitch : {0, 7}) {
+        samples::Canvas graph(1240, 1754, kDpi);
+        for (int line = 30; pitch > 0 && line < 1720; line += pitch) {
+            graph.FillRect(30, line, 1180, 1);
+            graph.FillRect(std::min(line, 1210), 30, 1, 1690);
+        }
+        EXPECT_EQ(Read(Scan(graph, {}, dice_)).winner, -1) << "graph paper of so many pixels: " << pitch;
+    }
 }
 
 TEST_F(PreciseReadingTest, FewBoxesAndOneColumnAreTurnedIntoPlaceByThePrint) {
@@ -200,6 +207,25 @@ TEST_F(PreciseReadingTest, WithoutASpecimenOnlyWhatChanceCannotMakeIsTaken) {
     ExpectRight(form, ReadForm(form, wear));
     Add({FormKind::Few, 21, 2}, false);
     EXPECT_EQ(Read(Scan(PaintStranger(samples::StrangerKind::OtherForm, 78, kDpi), wear, dice_)).winner, -1);
+}
+
+TEST_F(PreciseReadingTest, AThinPrintIsBetterThanNone) {
+    Add({FormKind::Survey, 3}, false);
+    const std::size_t form = Add({FormKind::Survey, 3});
+    // A fifth of the print is not on the page.
+    std::vector<precise::CellPoint>& points = prints_[form].points;
+    points.resize(points.size() * 5 / 4, {20, 20});
+    ExpectRight(form, ReadForm(form, {}));
+}
+
+TEST_F(PreciseReadingTest, LettersAreKnownFromASpecimenOfAnotherResolution) {
+    const FormDesign design{FormKind::Letters, 3};
+    const std::size_t form = Add(design, true, 200);
+    prints_[form] = TakePrint(CleanScan(PaintBlank(design, 400).Page), profiles_[form]);
+    const PreciseReading reading = ReadForm(form, {.TiltDegrees = 1});
+    ExpectRight(form, reading);
+    for (const MarkReading& mark : reading.marks)
+        EXPECT_TRUE(mark.Checked || mark.fill < 2) << mark.Name << " " << mark.fill;
 }
 
 TEST_F(PreciseReadingTest, OnlyActiveProfilesWithBoxesCount) {

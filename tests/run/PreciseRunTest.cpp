@@ -67,10 +67,29 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
     EXPECT_EQ(test::ReadText(folders_.ProcessOut + "near.xml"), before);
 }
 
-TEST_F(PreciseRunTest, AReplacedSpecimenIsTold) {
+TEST_F(PreciseRunTest, AResultThatCannotBeWrittenIsNeitherMisjudgedNorHoldsUpOthers) {
+    form_.SaveScan(folders_.ProcessIn + "away.tif", {.checked = {1}, .dx = 40, .dy = -30});
+    const auto refuseWriting = [this](const std::string& part) {
+        files_.refuse = [part](const std::string& operation, const std::string& path) {
+            return operation == "write" && path.find(part) != std::string::npos;
+        };
+    };
+    refuseWriting(".delivery-new");  // only near.tif is recognised and has a result
+    RunWith({.secondOpinion = true});
+    EXPECT_FALSE(HasResult("near"));
+    const std::vector<std::string> unread = {"away.tif", "far.tif"};
+    EXPECT_EQ(run_.Opinions().unread, unread);
+    refuseWriting("away");
+    EXPECT_EQ(ReadFormsAgain(unread, folders_.ProcessOut, files_, log_, person_, reader_, profiles_, 8), 1);
+    EXPECT_FALSE(HasResult("away"));
+    EXPECT_TRUE(HasResult("far"));
+    EXPECT_TRUE(Logged("away.tif: Cannot write "));
+}
+
+TEST_F(PreciseRunTest, ASpecimenThatCannotHelpIsToldInEveryRun) {
     TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
     RunWith({.secondOpinion = true});
-    EXPECT_EQ(run_.Opinions().replaced, std::vector<std::string>{"Form"});
+    EXPECT_EQ(run_.Opinions().specimens.replaced, std::set<std::string>{"Form"});
     reading_ = {.preciseAlignment = true};
     AddSpecimenProfile("Form", form_);
     Process();
@@ -79,6 +98,23 @@ TEST_F(PreciseRunTest, AReplacedSpecimenIsTold) {
     RunWith({.preciseAlignment = true});
     EXPECT_EQ(TextOf(run_.Opinions()),
               "The boxes of profile Form do not lie on its specimen image: it was replaced.");
+    files_.Delete(folders_.ProfileImages + "Form.tif");
+    for (int run = 0; run < 2; ++run) {
+        RunWith({.preciseAlignment = true});
+        EXPECT_EQ(
+            TextOf(run_.Opinions()),
+            "The specimen image of profile Form is missing or cannot be read: Precise Alignment knows its "
+            "forms by their boxes alone.");
+    }
+}
+
+TEST(OpinionTallyTest, FormsThatMayBelongElsewhereAreNamed) {
+    OpinionTally tally;
+    for (const char* const name : {"a.tif", "b.tif", "c.tif", "d.tif", "e.tif"})
+        tally.Add(name, {false, true, {}});
+    EXPECT_EQ(TextOf(tally),
+              "5 forms may belong to another profile than the one found, or to none: a.tif, b.tif, c.tif and "
+              "2 more.");
 }
 
 // Without its specimen a profile of few boxes is never certain; that is no reason to doubt every form of it.

@@ -57,11 +57,16 @@ std::vector<CellPoint> OnPage(const FormMatch& match, const imaging::Page& page,
     return places;
 }
 
+// A form that is known by its boxes alone gives way to one whose print is nearly whole, not to a thin one.
+bool IsAsPrinted(const FormMatch& match, double bestPrint) {
+    return (match.print > 0 ? match.print : kSurePrint) > bestPrint - kSamePrint;
+}
+
 bool IsBetter(const FormMatch& a, const FormMatch& b, double bestPrint) {
     if (a.accepted != b.accepted)
         return a.accepted;
-    const bool printA = a.print > bestPrint - kSamePrint;
-    const bool printB = b.print > bestPrint - kSamePrint;
+    const bool printA = IsAsPrinted(a, bestPrint);
+    const bool printB = IsAsPrinted(b, bestPrint);
     if (a.accepted && printA != printB)
         return printA;
     if (a.alignment.bound != b.alignment.bound)
@@ -138,7 +143,6 @@ void FormMatcher::Judge(FormMatch& match, double bestPrint) {
         return;
     }
     match.accepted = ExpectedByChance(match.alignment, match.boxes) < kMostChance;
-    match.print = match.accepted ? kSurePrint : 0;
 }
 
 FormMatch FormMatcher::MatchOneWay(bool turned) {

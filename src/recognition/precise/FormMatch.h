@@ -16,7 +16,7 @@ struct FormMatch {
     int profile = -1;
     bool turned = false;
     bool accepted = false;
-    double print = 0;
+    double print = 0;  ///< How far the print of its specimen agrees, 1 is wholly; 0 without one.
     Alignment alignment;
     std::vector<SoughtBox> boxes;
     CellPage* page = nullptr;

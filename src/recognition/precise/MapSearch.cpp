@@ -12,6 +12,7 @@ constexpr std::size_t kSampled = 16;
 constexpr std::size_t kPairs = 24;
 constexpr std::size_t kMostMaps = 3000;
 constexpr std::size_t kMostPerPair = kMostMaps / kPairs;
+constexpr std::size_t kMostCandidates = 64;  // of a box
 constexpr std::size_t kKept = 8;
 constexpr std::size_t kFitted = 96;
 constexpr double kLeastShare = 0.3;  // of the sample: less is not worth a fit
@@ -64,9 +65,18 @@ class Search {
     std::size_t Tried() const { return tried_; }
 
   private:
+    // The nearest ones: on ruled paper every square of the grid may be a box.
     std::vector<CellPoint> CandidatesOf(const SoughtBox& box) const {
         const double turned = (reach_.turn + reach_.stretch) * Distance(box.place, middle_);
-        return box.candidates->Around(box.place, reach_.shift + turned);
+        std::vector<CellPoint> places = box.candidates->Around(box.place, reach_.shift + turned);
+        if (places.size() > kMostCandidates) {
+            std::nth_element(places.begin(), places.begin() + kMostCandidates, places.end(),
+                             [&box](const CellPoint& a, const CellPoint& b) {
+                                 return Distance(a, box.place) < Distance(b, box.place);
+                             });
+            places.resize(kMostCandidates);
+        }
+        return places;
     }
 
     void TryShifts(const SoughtBox& box) {

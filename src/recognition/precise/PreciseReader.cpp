@@ -12,6 +12,15 @@ profiles::ProfileRecord Activated(profiles::ProfileRecord profile) {
     return profile;
 }
 
+// The first few of many names: the sentence stands in one line above the page.
+std::string FirstOf(const std::vector<std::string>& names) {
+    constexpr std::size_t few = 3;
+    std::string text;
+    for (std::size_t k = 0; k < std::min(few, names.size()); ++k)
+        text += (k == 0 ? "" : ", ") + names[k];
+    return names.size() <= few ? text : text + " and " + std::to_string(names.size() - few) + " more";
+}
+
 }  // namespace
 
 PreciseReading PreciseReader::Read(const imaging::Page& page,
@@ -59,7 +68,7 @@ void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinio
     if (opinion.onlyPrecise)
         unread.push_back(imageName);
     if (opinion.otherProfile)
-        ++otherProfiles;
+        otherProfile.push_back(imageName);
     if (!opinion.boxes.empty())
         ++forms;
     boxes += static_cast<int>(opinion.boxes.size());
@@ -77,10 +86,14 @@ std::string TextOf(const OpinionTally& tally) {
     if (tally.boxes > 0)
         add(count(tally.boxes, "box", "boxes") + " in " + count(tally.forms, "form", "forms") +
             " read otherwise by Precise Alignment; review shows them as doubtful.");
-    if (tally.otherProfiles > 0)
-        add(count(tally.otherProfiles, "form", "forms") +
-            " may belong to another profile than the one found, or to none.");
-    for (const std::string& profile : tally.replaced)
+    if (!tally.otherProfile.empty())
+        add(count(static_cast<int>(tally.otherProfile.size()), "form", "forms") +
+            " may belong to another profile than the one found, or to none: " + FirstOf(tally.otherProfile) +
+            ".");
+    for (const std::string& profile : tally.specimens.unreadable)
+        add("The specimen image of profile " + profile +
+            " is missing or cannot be read: Precise Alignment knows its forms by their boxes alone.");
+    for (const std::string& profile : tally.specimens.replaced)
         add("The boxes of profile " + profile + " do not lie on its specimen image: it was replaced.");
     return text;
 }

@@ -45,8 +45,8 @@ class PreciseReader {
                                     std::span<const std::optional<BoxShift>> known,
                                     std::int16_t fillThreshold);
 
-    /// Profiles whose specimen was found to be another picture than the one they were made from.
-    std::vector<std::string> TakeReplaced() { return prints_.TakeReplaced(); }
+    /// What was wrong with the specimens that were needed since the last call.
+    SpecimenFaults TakeFaults() { return prints_.TakeFaults(); }
 
   private:
     const ReadingOptions& options_;
@@ -55,11 +55,12 @@ class PreciseReader {
 
 /// What the second opinion has come to in a run.
 struct OpinionTally {
-    int boxes = 0;          ///< Boxes whose state differs,
-    int forms = 0;          ///< in so many forms.
-    int otherProfiles = 0;  ///< Forms that look like another one than they were taken for, or like none.
-    std::vector<std::string> unread;    ///< Image names of the forms that only precise alignment recognises.
-    std::vector<std::string> replaced;  ///< Profiles whose specimen was replaced.
+    int boxes = 0;  ///< Boxes whose state differs,
+    int forms = 0;  ///< in so many forms.
+    /// Image names of the forms that look like another one than they were taken for, or like none.
+    std::vector<std::string> otherProfile;
+    std::vector<std::string> unread;  ///< Image names of the forms that only precise alignment recognises.
+    SpecimenFaults specimens;         ///< What was wrong with the specimens that were needed.
 
     void Add(const std::string& imageName, const SecondOpinion& opinion);
 };

@@ -102,7 +102,6 @@ PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const ProfileR
     if (!match.accepted)
         return reading;
     reading.Confidence = app::RoundToInt16(match.alignment.share * 100);
-    reading.print = match.print;
     reading.winner = match.profile;
     reading.turned = match.turned;
     const auto index = static_cast<std::size_t>(match.profile);

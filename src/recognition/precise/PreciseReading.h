@@ -26,7 +26,6 @@ struct FormPlaces {
 struct PreciseReading {
     int winner = -1;              ///< Index of the profile, or -1 when the page is none of them.
     std::int16_t Confidence = 0;  ///< Percent of the winner's boxes that lie where they should.
-    double print = 0;             ///< How far the print of its specimen agrees, 0 to 1; 0 without one.
     bool turned = false;          ///< The page lies upside down. `Shift` and `rect` tell where the boxes are.
     std::vector<MarkReading> marks;  ///< The winner's boxes, in its order.
 };

@@ -78,6 +78,26 @@ bool HasAt(const BitPlane& plane, const CellPoint& place) {
     return plane.Has(static_cast<int>(place.x + half), static_cast<int>(place.y + half));
 }
 
+// How many of the points have ink when all are moved by `offset`.
+double ShareOnInk(const BitPlane& near, std::span<const CellPoint> points, const CellPoint& offset) {
+    const auto hits = std::ranges::count_if(points, [&](const CellPoint& point) {
+        const CellPoint place{point.x + offset.x, point.y + offset.y};
+        return Covers(near, place) && HasAt(near, place);
+    });
+    return static_cast<double>(hits) / static_cast<double>(points.size());
+}
+
+constexpr double kLeastGain = 0.1;
+
+// The same for the neighbourhood, where the points do not belong.
+double ShareAround(const BitPlane& near, std::span<const CellPoint> points, int reach) {
+    double sum = 0;
+    constexpr CellPoint offsets[] = {{5, 2}, {-2, 5}, {-5, -2}, {2, -5}};
+    for (const CellPoint& offset : offsets)
+        sum += ShareOnInk(near, points, {offset.x * reach, offset.y * reach});
+    return sum / std::size(offsets);
+}
+
 // A piece of the print whose place is looked for by itself.
 struct Tile {
     CellPoint middle;
@@ -162,20 +182,20 @@ double PrintShare(CellPage& page, std::span<const CellPoint> points, const Align
                   std::span<const SoughtBox> boxes, int reach) {
     const BitPlane& near = page.NearInk(reach);
     const BendField bend(page, alignment, boxes);
-    std::size_t inside = 0;
-    std::size_t hits = 0;
+    std::vector<CellPoint> places;
     for (const CellPoint& point : points) {
         const CellPoint place = bend(alignment.map(point));
-        if (!Covers(near, place))
-            continue;
-        ++inside;
-        if (HasAt(near, place))
-            ++hits;
+        if (Covers(near, place))
+            places.push_back(place);
     }
     const double chance = page.NearInkShare(reach);
-    if (2 * inside < points.size() || inside == 0 || chance >= 1)
+    if (2 * places.size() < points.size() || places.empty() || chance >= 1)
         return 0;
-    return (static_cast<double>(hits) / static_cast<double>(inside) - chance) / (1 - chance);
+    const double hits = ShareOnInk(near, places, {});
+    // On graph paper or a grey ground the print lies on ink wherever it is laid.
+    if (hits - ShareAround(near, places, reach) < kLeastGain)
+        return 0;
+    return (hits - chance) / (1 - chance);
 }
 
 PageMap TurnedByPrint(CellPage& page, std::span<const CellPoint> points, const Alignment& alignment,

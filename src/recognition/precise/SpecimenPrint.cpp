@@ -22,8 +22,9 @@ constexpr std::size_t kLeastPoints = 200;
 constexpr int kTile = 32;               // cells
 constexpr double kMargin = 0.02;        // of the page on each side: there lie the scanner's shadows
 constexpr double kOutlineShare = 0.72;  // of an outline that must be there for a box to lie on the print
+// Pixels of the profile.
 constexpr int kReach = 4;
-constexpr std::size_t kBorder = 4;  // pixels of a box that are its printed line and the play around it
+constexpr std::size_t kBorder = 4;  // what of a box is its printed line and the play around it
 constexpr int kLine = 3;
 constexpr double kPrintedInside = 2;  // percent: less is dirt of the specimen
 
@@ -98,12 +99,12 @@ std::vector<CellPoint> SpreadPoints(const precise::CellPage& page, const BitPlan
 }
 
 // Print is spread a little by a fat scan, and a box is found to the pixel, not better.
-BitPlane LetterIn(const BitPlane& pixels, const GridRect& place, const imaging::Page& specimen) {
+BitPlane LetterIn(const BitPlane& pixels, const GridRect& place, const imaging::Page& specimen, int line) {
     constexpr int around = 2;  // pixels of 200 dpi
     const int reach = specimen.DPI_X > 0 ? std::clamp(around * specimen.DPI_X / 200, 1, 8) : around;
     BitPlane box(place.col1 - place.col0 + 1, place.row1 - place.row0 + 1);
-    for (int row = kLine; row < box.Height() - kLine; ++row) {
-        for (int column = kLine; column < box.Width() - kLine; ++column) {
+    for (int row = line; row < box.Height() - line; ++row) {
+        for (int column = line; column < box.Width() - line; ++column) {
             if (pixels.Has(place.col0 + column, place.row0 + row))
                 box.Set(column, row);
         }
@@ -125,17 +126,22 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
     if (print.points.size() < kLeastPoints)
         print.points =
             SpreadPoints(page, BitPlane(page.Cells().Width(), page.Cells().Height()), height, scale);
-    precise::OutlineFinder finder(pixels, 1);
+    // A specimen that was scanned anew, and finer, has the profile's pixel several times.
+    const auto onSpecimen = [&scale](double pixelsOfProfile) {
+        return std::max(1, static_cast<int>(std::lround(pixelsOfProfile * scale.sx)));
+    };
+    precise::OutlineFinder finder(pixels, onSpecimen(1));
     std::size_t lying = 0;
     for (const profiles::PrintedBox& box : profile.Boxes) {
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
-        if (finder.Find(place, kReach).ratio >= kOutlineShare)
+        if (finder.Find(place, onSpecimen(kReach)).ratio >= kOutlineShare)
             ++lying;
         auto& inside = print.inside.emplace_back();
         for (std::size_t k = 0; k < inside.size(); ++k)
-            inside[k] = precise::FillInside(pixels, place, static_cast<int>(k) + 1);
-        print.letters.push_back(inside[kBorder - 1] >= kPrintedInside ? LetterIn(pixels, place, specimen)
-                                                                      : BitPlane());
+            inside[k] = precise::FillInside(pixels, place, onSpecimen(static_cast<double>(k + 1)));
+        print.letters.push_back(inside[kBorder - 1] >= kPrintedInside
+                                    ? LetterIn(pixels, place, specimen, onSpecimen(kLine))
+                                    : BitPlane());
     }
     print.belongs = 2 * lying > profile.Boxes.size() && !print.points.empty();
     return print;

@@ -13,10 +13,10 @@ namespace tavrene::recognition {
 struct SpecimenPrint {
     /// Points of the print, spread over the page: pixels and page frame of the profile.
     std::vector<precise::CellPoint> points;
-    /// For each box what is printed in it, a letter say, and a little around that: the pixels of the box,
-    /// from its lower left corner. Empty where nothing is printed.
+    /// For each box what is printed in it, a letter say, and a little around that: the box in pixels of the
+    /// specimen, from its lower left corner. Empty where nothing is printed.
     std::vector<precise::BitPlane> letters;
-    /// Its ink, in percent of the box less 1, 2, ... pixels on every side.
+    /// Its ink, in percent of the box less 1, 2, ... pixels of the profile on every side.
     std::vector<std::array<double, 12>> inside;
     /// The profile's boxes lie on this print. Where they do not, the image is not the one the profile was
     /// made from, and says nothing.

@@ -11,17 +11,18 @@ const SpecimenPrint* SpecimenPrints::Of(const profiles::ProfileRecord& profile) 
     if (known.image != profile.Image || known.fingerprint != fingerprint || known.boxes != profile.Boxes) {
         known = {profile.Image, std::move(fingerprint), profile.Boxes, std::nullopt};
         const auto read = imaging::ReadSpecimen(files_, profile.Image);
-        if (const auto* const page = std::get_if<imaging::Page>(&read)) {
+        if (const auto* const page = std::get_if<imaging::Page>(&read))
             known.print = TakePrint(*page, profile);
-            if (!known.print->belongs)
-                replaced_.push_back(profile.Name);
-        }
     }
+    if (!known.print)
+        faults_.unreadable.insert(profile.Name);
+    else if (!known.print->belongs)
+        faults_.replaced.insert(profile.Name);
     return known.print ? &*known.print : nullptr;
 }
 
-std::vector<std::string> SpecimenPrints::TakeReplaced() {
-    return std::exchange(replaced_, {});
+SpecimenFaults SpecimenPrints::TakeFaults() {
+    return std::exchange(faults_, {});
 }
 
 }  // namespace tavrene::recognition

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,13 @@
 #include "recognition/precise/SpecimenPrint.h"
 
 namespace tavrene::recognition {
+
+/// Names of the profiles whose specimen is of no use: it is missing or unreadable, or the boxes do not lie on
+/// it, since the image was replaced.
+struct SpecimenFaults {
+    std::set<std::string> unreadable;
+    std::set<std::string> replaced;
+};
 
 /// The prints of the profiles' specimens, each read when it is first asked for and again only when its image
 /// or its profile has changed.
@@ -20,9 +28,8 @@ class SpecimenPrints {
     /// for.
     const SpecimenPrint* Of(const profiles::ProfileRecord& profile);
 
-    /// Names of the profiles whose boxes did not lie on their specimen when it was read since the last call:
-    /// the image was replaced.
-    std::vector<std::string> TakeReplaced();
+    /// What was wrong with those that were asked for since the last call.
+    SpecimenFaults TakeFaults();
 
   private:
     struct Known {
@@ -34,7 +41,7 @@ class SpecimenPrints {
 
     const app::Files& files_;
     std::map<std::string, Known> known_;  // by profile name
-    std::vector<std::string> replaced_;
+    SpecimenFaults faults_;
 };
 
 }  // namespace tavrene::recognition
