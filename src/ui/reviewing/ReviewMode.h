@@ -82,6 +82,7 @@ class ReviewMode final : public QObject {
     void RectClicked(int group);
     void RowBecameCurrent(QTreeWidgetItem* row);
     void WatchFolder();
+    void CountDoubtsInIdleTime();
 
     const commands::AppState& state_;
     commands::CommandGate& gate_;
@@ -91,6 +92,7 @@ class ReviewMode final : public QObject {
     review::ReviewSession session_;
     QFileSystemWatcher watcher_;
     QTimer folderChanged_;  ///< Waits until a burst of changes is over.
+    QTimer idle_;           ///< Counts the doubts of a form while nobody waits.
     bool goesOn_;
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
