@@ -88,15 +88,6 @@ void Stamp(BlankForm& form, Random& dice, std::vector<std::optional<bool>>& mark
     }
 }
 
-KnownForm Know(const FormDesign& design, int dpi, const char* name) {
-    const BlankForm blank = PaintBlank(design, dpi);
-    KnownForm known;
-    known.Profile = blank.Profile;
-    known.Profile.Name = name;
-    known.Print = recognition::TakePrint(CleanScan(blank.Page), known.Profile);
-    return known;
-}
-
 // Profiles that are loaded beside the right one. Those of one column and of one box are loaded for strangers
 // alone: the described rules fail on any page that they take for the one, and take any page for the other.
 std::span<const KnownForm> Bystanders(bool alsoSmall) {
@@ -128,6 +119,15 @@ void Load(ReadingPage& page, const KnownForm& known) {
 }
 
 }  // namespace
+
+KnownForm Know(const FormDesign& design, int dpi, const char* name) {
+    const BlankForm blank = PaintBlank(design, dpi);
+    KnownForm known;
+    known.Profile = blank.Profile;
+    known.Profile.Name = name;
+    known.Print = recognition::TakePrint(CleanScan(blank.Page), known.Profile);
+    return known;
+}
 
 ReadingPage PaintReadingPage(const ReadingClass& kind, std::uint64_t seed) {
     Random dice(seed * 1000003 + 71);

@@ -16,6 +16,9 @@ struct KnownForm {
     recognition::SpecimenPrint Print;
 };
 
+/// The blank form of a design as a specimen, and its profile of that name.
+KnownForm Know(const FormDesign& design, int dpi, const char* name);
+
 /// A scan, the profiles that are loaded, and the truth.
 struct ReadingPage {
     imaging::Page Scan;

@@ -8,12 +8,13 @@ BEGIN {
     may["boxes/second"] = " boxes imaging app "
     may["profiles"] = " boxes imaging app "
     may["recognition"] = " profiles imaging app "
-    may["review"] = " recognition profiles imaging app "
+    may["review/doubts"] = " recognition profiles imaging app "
+    may["review"] = " review/doubts recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
-    may["ui/commands"] = " review results intake recognition profiles boxes boxes/second imaging app "
+    may["ui/commands"] = " review review/doubts results intake recognition profiles boxes boxes/second imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.
-    engine = " ui/commands review results intake recognition profiles boxes boxes/second imaging app "
+    engine = " ui/commands review review/doubts results intake recognition profiles boxes boxes/second imaging app "
     may["ui/base"] = engine
     may["ui/page"] = " ui/base" engine
     may["ui/lists"] = " ui/base" engine
@@ -26,7 +27,7 @@ BEGIN {
     knows["Qt"] = " ui/base ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/shell "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
-    knows["pugixml"] = " profiles recognition review "
+    knows["pugixml"] = " profiles recognition review review/doubts "
     knows["libxlsxwriter"] = " results "
     knows["Poppler"] = " intake "
     knows["platform"] = " app imaging ui/shell "
@@ -55,8 +56,8 @@ function fault(text) {
 function room(path) {
     if (path ~ /^ui\/[^\/]+\//)
         return "ui/" substr(path, 4, index(substr(path, 4), "/") - 1)
-    if (path ~ /^boxes\/second\//)
-        return "boxes/second"
+    if (path ~ /^(boxes\/second|review\/doubts)\//)
+        return substr(path, 1, match(path, /\/[^\/]*$/) - 1)
     return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : ""
 }
 

@@ -157,4 +157,21 @@ std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& profi
     return groups ? *std::move(groups) : GroupsByName(names);
 }
 
+std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& folder,
+                               const ProfileRecord& profile) {
+    const std::vector<std::string> names = NamesOf(profile);
+    try {
+        return GroupsOf(files, folder + profile.FileName, names);
+    } catch (const std::runtime_error&) {
+        return GroupsByName(names);
+    }
+}
+
+std::vector<std::string> NamesOf(const ProfileRecord& profile) {
+    std::vector<std::string> names;
+    for (const PrintedBox& box : profile.Boxes)
+        names.push_back(box.Name);
+    return names;
+}
+
 }  // namespace tavrene::profiles

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/Files.h"
+#include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
 
@@ -43,5 +44,13 @@ std::vector<BoxGroup> GroupsByName(std::span<const std::string> names);
 /// Throws as `ReadBoxGroups` does.
 std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& profilePath,
                                std::span<const std::string> names);
+
+/// The same for a loaded profile of the folder (path ending in a separator). A file that cannot be read
+/// counts as none: it must not keep a form away.
+std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& folder,
+                               const ProfileRecord& profile);
+
+/// The names of a profile's boxes, in its order.
+std::vector<std::string> NamesOf(const ProfileRecord& profile);
 
 }  // namespace tavrene::profiles

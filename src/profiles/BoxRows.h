@@ -11,8 +11,8 @@ enum class BoxColumns { Name, NameVal, NameValInk };
 struct BoxRow {
     std::string name;
     std::string val = {};
-    std::string ink = {};     ///< Empty where it is not known.
-    bool isDoubtful = false;  ///< The row stands out, for its ink is near the threshold.
+    std::string ink = {};    ///< Empty where it is not known.
+    std::string doubt = {};  ///< Why the box should be looked at: the row stands out. Empty for no reason.
 };
 
 /// The box list of the screen (`lvwSettings`): one row a box, in the order of the boxes' numbers, from 1. No

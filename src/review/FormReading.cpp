@@ -1,22 +1,19 @@
 #include "review/FormReading.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 #include "recognition/Classification.h"
 #include "recognition/MarkReading.h"
 #include "recognition/precise/ShiftFit.h"
 #include "review/BoxMatching.h"
+#include "review/doubts/FormEvidence.h"
+#include "review/doubts/GroupDoubts.h"
 
 namespace tavrene::review {
 namespace {
 
 using recognition::BoxShift;
-
-// In doubt within a third of the threshold: there a stroke more or less, or another scanner, turns the mark.
-FormBox Measured(const imaging::PageRect& rect, std::optional<double> ink, double threshold) {
-    return {rect, ink, ink && std::abs(*ink - threshold) * 3 <= threshold};
-}
 
 // Boxes of one column or row allow no spreading; those whose outline was found keep what was found.
 bool TrySpread(const profiles::ProfileRecord& profile, std::vector<BoxShift>& shifts) {
@@ -91,20 +88,6 @@ std::vector<recognition::BoxMeasure> MeasureBoxes(const OpenForm& form, const im
     return measures;
 }
 
-// Boxes that a second look reads otherwise; all of them where it does not see the form at all.
-std::vector<bool> ReadOtherwise(const imaging::Page& page, const profiles::ProfileRecord& profile,
-                                std::span<const recognition::MarkReading> readings,
-                                std::int16_t fillThreshold, recognition::PreciseReader* precise) {
-    std::vector<bool> otherwise(readings.size(), false);
-    if (precise == nullptr || !precise->GivesSecondOpinion())
-        return otherwise;
-    const recognition::SecondOpinion opinion = precise->OpinionOn(page, profile, readings, fillThreshold);
-    otherwise.assign(readings.size(), opinion.otherProfile);
-    for (const std::size_t box : opinion.boxes)
-        otherwise[box] = true;
-    return otherwise;
-}
-
 // What the measured ink of the boxes says.
 std::vector<recognition::MarkReading> ReadingsOf(std::span<const recognition::BoxMeasure> measures,
                                                  std::int16_t fillThreshold) {
@@ -114,6 +97,31 @@ std::vector<recognition::MarkReading> ReadingsOf(std::span<const recognition::Bo
         readings.push_back({{}, {}, measure.rect, fill, fill >= fillThreshold});
     }
     return readings;
+}
+
+// Precise alignment reads with no other way to ask.
+recognition::SecondOpinion OpinionOn(const OpenForm& form, const imaging::Page& page,
+                                     std::span<const recognition::BoxMeasure> measures,
+                                     std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+    if (precise == nullptr || precise->Reads())
+        return {};
+    return precise->OpinionOn(page, form.Profile, ReadingsOf(measures, fillThreshold), fillThreshold);
+}
+
+// In the order of the profile's boxes; `marks` are theirs in the document.
+BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page,
+                      std::span<const recognition::BoxMeasure> measures,
+                      std::span<const std::optional<std::size_t>> marks, std::int16_t fillThreshold,
+                      recognition::PreciseReader* precise) {
+    MeasuredForm measured{page, measures, {}, form.IsUpsideDown};
+    for (const std::optional<std::size_t>& mark : marks)
+        measured.checked.push_back(mark ? std::optional(form.Marks[*mark].Checked) : std::nullopt);
+    const std::vector<BoxEvidence> evidence =
+        EvidenceOf(measured, OpinionOn(form, page, measures, fillThreshold, precise),
+                   precise != nullptr ? precise->PrintOf(form.Profile) : nullptr);
+    BoxDoubts doubts = DoubtsOf(evidence, fillThreshold);
+    AddGroupDoubts(doubts, evidence, profiles::NamesOf(form.Profile), form.Groups);
+    return doubts;
 }
 
 // The precise reading of a form against a profile; nothing where it is not wanted or does not see the form.
@@ -133,6 +141,16 @@ std::vector<recognition::MarkReading> ReadFormPrecisely(const OpenForm& form, co
 
 }  // namespace
 
+void TakeDocument(OpenForm& form, const profiles::ProfileRecord& profile,
+                  std::vector<profiles::BoxGroup> groups) {
+    form.Opened = form.Result.Marks();
+    form.Marks = form.Opened;
+    form.SavedProfile = form.Result.Profile();
+    form.Profile = profile;
+    form.OpenedProfile = profile;
+    form.Groups = std::move(groups);
+}
+
 void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
                  recognition::PreciseReader* precise) {
     form.Boxes.assign(form.Marks.size(), {});
@@ -144,16 +162,12 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
     form.IsUpsideDown = LiesUpsideDown(*page, form.Profile, known);
     const std::vector<recognition::BoxMeasure> measures =
         MeasureBoxes(form, *page, known, fillThreshold, precise);
-    const std::vector<bool> otherwise =
-        ReadOtherwise(*page, form.Profile, ReadingsOf(measures, fillThreshold), fillThreshold, precise);
+    const BoxDoubts doubts = DoubtsAbout(form, *page, measures, marks, fillThreshold, precise);
     for (std::size_t k = 0; k < marks.size(); ++k) {
-        if (!marks[k]) {
+        if (marks[k])
+            form.Boxes[*marks[k]] = {measures[k].rect, measures[k].fill, doubts[k]};
+        else
             form.SkippedRects.push_back(measures[k].rect);
-            continue;
-        }
-        FormBox& box = form.Boxes[*marks[k]];
-        box = Measured(measures[k].rect, measures[k].fill, fillThreshold);
-        box.isDoubtful = box.isDoubtful || otherwise[k];
     }
 }
 
@@ -176,7 +190,8 @@ void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fill
 }
 
 OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
-                  std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+                  std::vector<profiles::BoxGroup> groups, std::int16_t fillThreshold,
+                  recognition::PreciseReader* precise) {
     std::vector<recognition::MarkReading> readings =
         ReadFormPrecisely(form, page, profile, fillThreshold, precise);
     if (readings.empty())
@@ -191,15 +206,11 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
     read.OpenedProfile = form.OpenedProfile;
     read.Before = form.Before;
     read.Profile = profile;
+    read.Groups = std::move(groups);
     read.SavedProfile = form.SavedProfile;
     read.Marks = read.Result.Marks();
     read.Changed = form.Changed;
-    read.IsUpsideDown = LiesUpsideDown(page, profile, KnownShifts(profile, read.Marks));
-    const std::vector<bool> otherwise = ReadOtherwise(page, profile, readings, fillThreshold, precise);
-    for (std::size_t k = 0; k < readings.size(); ++k) {
-        read.Boxes.push_back(Measured(readings[k].rect, readings[k].fill, fillThreshold));
-        read.Boxes.back().isDoubtful = read.Boxes.back().isDoubtful || otherwise[k];
-    }
+    MeasureForm(read, &page, fillThreshold, precise);
     return read;
 }
 

@@ -10,9 +10,14 @@
 
 namespace tavrene::review {
 
+/// Takes over what the form's document holds, as it is when it is opened. `profile` is the document's, with
+/// its groups.
+void TakeDocument(OpenForm& form, const profiles::ProfileRecord& profile,
+                  std::vector<profiles::BoxGroup> groups);
+
 /// Finds place and ink of every box that both document and profile have, and the places of those that only
-/// the profile has. Without a page the boxes have neither. `precise`, which may be null, measures the boxes
-/// or gives its second opinion: a box that it reads otherwise is in doubt.
+/// the profile has, and what is in doubt. Without a page there is nothing of it. `precise`, which may be
+/// null, measures the boxes where it is to read, and is asked for a second opinion where it is not.
 void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
                  recognition::PreciseReader* precise);
 
@@ -21,11 +26,12 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
 void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fillThreshold,
                     recognition::PreciseReader* precise);
 
-/// The form as it reads against `profile`, at the shifts that its document had when it was opened: what was
-/// read against another profile in between may have lost them. Nothing is written. Throws
+/// The form as it reads against `profile` with its groups, at the shifts that its document had when it was
+/// opened: what was read against another profile in between may have lost them. Nothing is written. Throws
 /// `recognition::ReadingError`.
 OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
-                  std::int16_t fillThreshold, recognition::PreciseReader* precise);
+                  std::vector<profiles::BoxGroup> groups, std::int16_t fillThreshold,
+                  recognition::PreciseReader* precise);
 
 /// What a person has changed since the document was last read or written: a line for another profile, then
 /// one for every box that was turned round, with what it was and what it is now.

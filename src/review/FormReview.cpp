@@ -57,14 +57,10 @@ bool FormReview::Prepare(OpenForm& form) {
     if (!HasImage(form))
         return false;
     ShowImage(form.Result.Image());
-    form.Opened = form.Result.Marks();
-    form.Marks = form.Opened;
-    form.SavedProfile = form.Result.Profile();
-    const ProfileRecord* const profile = FindProfile(form.SavedProfile);
+    const ProfileRecord* const profile = FindProfile(form.Result.Profile());
     if (profile == nullptr)
         return KeepWithoutProfile(form);
-    form.Profile = *profile;
-    form.OpenedProfile = *profile;
+    TakeDocument(form, *profile, profiles::GroupsOf(context_.files, folders_.Profiles, *profile));
     if (page_)
         FindLostShifts(form, *page_, settings_.FillThreshold, context_.precise);
     MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
@@ -83,14 +79,16 @@ bool FormReview::OpensUnasked(const std::string& document) const {
 
 // Its marks can be listed and decided about; where its boxes lie nobody knows any more.
 bool FormReview::KeepWithoutProfile(OpenForm& form) {
-    if (context_.person.AskYesNo("The profile " + form.SavedProfile +
+    const std::string profile = form.Result.Profile();
+    if (context_.person.AskYesNo("The profile " + profile +
                                      " no longer exists. Re-evaluate?\nSelecting Yes will move the image to "
                                      "ProcessIn Dir...",
                                  app::Answer::No) == app::Answer::Yes) {
         SendBack(form);
         return false;
     }
-    form.Profile.Name = form.SavedProfile;
+    TakeDocument(form, {}, {});
+    form.Profile.Name = profile;
     form.HasProfile = false;
     form.Boxes.assign(form.Marks.size(), {});
     screen_.ShowBoxes(form);
@@ -172,7 +170,9 @@ void FormReview::ShowInList(const OpenForm& form) {
 bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     if (!page_ || !MayOverwrite(form))
         return false;
-    OpenForm read = ReadForm(form, *page_, profile, settings_.FillThreshold, context_.precise);
+    OpenForm read =
+        ReadForm(form, *page_, profile, profiles::GroupsOf(context_.files, folders_.Profiles, profile),
+                 settings_.FillThreshold, context_.precise);
     read.Result.Save(context_.files, PathOf(form));
     read.Fingerprint = context_.files.Fingerprint(PathOf(form));
     form = std::move(read);
@@ -283,7 +283,7 @@ int FormReview::NextDoubtful(int number) const {
     const int count = form_ ? static_cast<int>(form_->Boxes.size()) : 0;
     for (int step = 1; step <= count; ++step) {
         const int next = (std::max(number, 0) + step - 1) % count + 1;
-        if (form_->Boxes[static_cast<std::size_t>(next) - 1].isDoubtful)
+        if (form_->Boxes[static_cast<std::size_t>(next) - 1].doubt)
             return next;
     }
     return 0;

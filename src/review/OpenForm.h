@@ -6,8 +6,10 @@
 
 #include "app/Files.h"
 #include "imaging/PageRect.h"
+#include "profiles/BoxGroups.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ResultDocument.h"
+#include "review/doubts/Doubts.h"
 
 namespace tavrene::review {
 
@@ -15,7 +17,7 @@ namespace tavrene::review {
 struct FormBox {
     std::optional<imaging::PageRect> rect;  ///< None where the profile or the image does not tell its place.
     std::optional<double> ink;              ///< Percent, as measured at opening.
-    bool isDoubtful = false;                ///< The ink was near the threshold then.
+    std::optional<DoubtReason> doubt;       ///< Why it should be looked at, as far as was known then.
 };
 
 /// The form under review.
@@ -34,8 +36,9 @@ struct OpenForm {
 
     /// The profile now chosen for it, as it was when it was chosen: a reload of the profiles changes nothing.
     profiles::ProfileRecord Profile;
-    bool HasProfile = true;    ///< False for one that is gone: `Profile` has its name alone.
-    std::string SavedProfile;  ///< The profile it had when it was opened or last saved.
+    bool HasProfile = true;                  ///< False for one that is gone: `Profile` has its name alone.
+    std::vector<profiles::BoxGroup> Groups;  ///< Of that profile's boxes.
+    std::string SavedProfile;                ///< The profile it had when it was opened or last saved.
 
     /// The current marks and what is shown of them: one each for every box of the document, in its order.
     std::vector<recognition::ResultMark> Marks;

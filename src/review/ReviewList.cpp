@@ -12,8 +12,8 @@
 
 namespace tavrene::review {
 
-ReviewList::ReviewList(const ReviewContext& context, const app::WorkingFolders& folders)
-    : context_(context), folders_(folders) {}
+ReviewList::ReviewList(const ReviewContext& context, const app::WorkingFolders& folders, DoubtFinder& doubts)
+    : context_(context), folders_(folders), doubts_(doubts) {}
 
 void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     std::vector<std::string> names;
@@ -22,6 +22,8 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
     context_.side.choice.ShowProfiles(names);
     entries_.clear();
     lines_.clear();
+    uncountable_.clear();
+    doubts_.Begin();
     context_.side.lines.ShowLines({});
     ShowCounts();
     folder_ = context_.files.Fingerprint(folders_.ProcessOut);
@@ -48,14 +50,52 @@ ReviewList::Entry ReviewList::Read(const std::string& document) {
         const auto result = recognition::ResultDocument::Load(context_.files, path);
         entry.image = folders_.ProcessOut + result.Image();
         if (context_.files.FileExists(entry.image))
-            entry.line =
-                ReviewLine{app::BaseName(document), document, result.IsReviewed(), result.Confidence()};
+            entry.line = ReviewLine{app::BaseName(document), document, result.IsReviewed(),
+                                    result.Confidence(), result.Profile()};
         else
             context_.log.LogProcessEvent("Review: Image <" + entry.image + "> does not exist.");
     } catch (const std::exception& error) {
         context_.log.LogProcessEvent(std::string("Review: Form left out: ") + app::ReasonOf(error));
     }
+    if (entry.line)
+        entry.line->Doubts = KnownDoubts(entry);
     return entry;
+}
+
+FormOnDisk ReviewList::OnDisk(const Entry& entry) const {
+    return {entry.document, entry.fingerprint, entry.image, entry.line->Profile};
+}
+
+std::optional<int> ReviewList::KnownDoubts(const Entry& entry) {
+    const FormDoubts* const known = entry.line->Reviewed ? nullptr : doubts_.Known(OnDisk(entry));
+    return known == nullptr ? std::nullopt : std::optional(static_cast<int>(known->size()));
+}
+
+ReviewList::Entry& ReviewList::EntryOf(const ReviewLine& line) {
+    return *std::ranges::find(entries_, line.Document, &Entry::document);
+}
+
+const FormDoubts* ReviewList::DoubtsOf(std::size_t line) {
+    return doubts_.Known(OnDisk(EntryOf(lines_.at(line))));
+}
+
+bool ReviewList::CountNext() {
+    const auto line = std::ranges::find_if(lines_, [this](const ReviewLine& next) {
+        return !next.Doubts && !next.Reviewed && !uncountable_.contains(next.Document);
+    });
+    if (line == lines_.end()) {
+        doubts_.Keep();
+        return false;
+    }
+    Entry& entry = EntryOf(*line);
+    const FormDoubts* const found = doubts_.Find(OnDisk(entry));
+    if (found == nullptr) {
+        uncountable_.insert(line->Document);
+        return true;
+    }
+    line->Doubts = entry.line->Doubts = static_cast<int>(found->size());
+    context_.side.lines.ChangeLine(static_cast<std::size_t>(line - lines_.begin()), *line);
+    return true;
 }
 
 bool ReviewList::IsCurrent(const Entry& entry) const {
@@ -135,6 +175,7 @@ void ReviewList::Change(const std::string& document, bool reviewed, const std::s
         return;
     lines_[*index].Reviewed = reviewed;
     lines_[*index].Confidence = confidence;
+    lines_[*index].Doubts.reset();
     context_.side.lines.ChangeLine(*index, lines_[*index]);
 }
 

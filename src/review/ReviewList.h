@@ -9,6 +9,7 @@
 
 #include "app/WorkingFolders.h"
 #include "profiles/ProfileRecord.h"
+#include "review/DoubtFinder.h"
 #include "review/ReviewScreen.h"
 
 namespace tavrene::review {
@@ -18,7 +19,7 @@ namespace tavrene::review {
 class ReviewList {
   public:
     /// Everything must outlive the list.
-    ReviewList(const ReviewContext& context, const app::WorkingFolders& folders);
+    ReviewList(const ReviewContext& context, const app::WorkingFolders& folders, DoubtFinder& doubts);
 
     /// Reads the folder anew, and offers the profiles for choice. Documents that are damaged or whose image
     /// is gone are logged and left out. Throws `app::FileError` when the folder cannot be listed; the list is
@@ -41,6 +42,13 @@ class ReviewList {
     void Change(const std::string& document, bool reviewed, const std::string& confidence);
     void Remove(const std::string& document);
 
+    /// Counts the doubts of one form of which they are not known. False when there is none left that can be
+    /// read.
+    bool CountNext();
+
+    /// What is in doubt of the form of a line; null while it is not known.
+    const FormDoubts* DoubtsOf(std::size_t line);
+
     /// Puts "Reviewed: 2 of 5" into the `File` panel.
     void ShowCounts() const;
 
@@ -57,12 +65,17 @@ class ReviewList {
     bool IsCurrent(const Entry& entry) const;
     void ShowDifference(const std::vector<ReviewLine>& wanted);
     void RemoveAt(std::size_t index);
+    std::optional<int> KnownDoubts(const Entry& entry);
+    Entry& EntryOf(const ReviewLine& line);
+    FormOnDisk OnDisk(const Entry& entry) const;
 
     ReviewContext context_;
     const app::WorkingFolders& folders_;
+    DoubtFinder& doubts_;
     std::string folder_;          ///< Its fingerprint when it was last looked at.
     std::vector<Entry> entries_;  ///< In the order of the folder.
     std::vector<ReviewLine> lines_;
+    std::set<std::string> uncountable_;  ///< Documents whose doubts were looked for in vain.
 };
 
 }  // namespace tavrene::review

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,7 +20,10 @@ struct ReviewLine {
     std::string Name;      ///< Base name of the document; the line's text.
     std::string Document;  ///< File name of the document as it is spelled on disk.
     bool Reviewed = false;
-    std::string Confidence;  ///< As it stands in the document.
+    std::string Confidence;    ///< As it stands in the document.
+    std::string Profile = {};  ///< Its name there.
+    /// Boxes in doubt; none while they are not counted, and of a reviewed form: it was looked at.
+    std::optional<int> Doubts = std::nullopt;
     bool operator==(const ReviewLine&) const = default;
 };
 

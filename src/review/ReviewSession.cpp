@@ -17,7 +17,8 @@ ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& 
     : context_(context),
       folders_(folders),
       profiles_(profiles),
-      list_(context, folders),
+      doubts_(context.files, settings, folders, profiles, context.precise),
+      list_(context, folders, doubts_),
       form_(context, settings, folders, profiles, list_),
       mover_(context.files, folders),
       unread_(context.files, context.log, folders) {}
@@ -30,6 +31,7 @@ void ReviewSession::Begin() {
 
 void ReviewSession::End() {
     form_.Close();
+    doubts_.Keep();
     stage_ = Stage::Over;
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles_));
     FormScreen screen(context_);

@@ -67,6 +67,15 @@ class ReviewSession {
     /// The line of the open form.
     std::optional<std::size_t> OpenLine() const;
 
+    /// The forms of the list, in its order.
+    const std::vector<ReviewLine>& Lines() const { return list_.Lines(); }
+
+    /// Counts the doubts of one form of which they are not known yet; false when there is none left.
+    bool CountNextDoubts() { return IsOn() && list_.CountNext(); }
+
+    /// What is in doubt of the form of a line; null while it is not known.
+    const FormDoubts* DoubtsOf(std::size_t line) { return list_.DoubtsOf(line); }
+
     /// The prompt before the open form is left, which saves it on Yes; false when the command at hand is to
     /// be abandoned. Where the form stays open, its line is selected.
     bool MayLeave();
@@ -131,6 +140,7 @@ class ReviewSession {
     ReviewContext context_;
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;
+    DoubtFinder doubts_;
     ReviewList list_;
     FormReview form_;
     FormMover mover_;

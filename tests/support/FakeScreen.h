@@ -73,7 +73,7 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
         rows[number] = row.name;
         transcript_.Add("row: " + Text(number) + " " + row.name + "|" + row.val);
         if (columns_ == profiles::BoxColumns::NameValInk)
-            transcript_.Add("ink: " + Text(number) + " " + row.ink + (row.isDoubtful ? " ?" : ""));
+            transcript_.Add("ink: " + Text(number) + " " + row.ink + (!row.doubt.empty() ? " ?" : ""));
     }
     void RemoveRow(int number) override { rows.erase(number); }
     void SelectRow(int number) override {

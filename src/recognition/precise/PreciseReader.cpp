@@ -54,6 +54,11 @@ SecondOpinion PreciseReader::OpinionOn(const imaging::Page& page, const profiles
     return OpinionOn(page, {&active, 1}, 0, marks, fillThreshold);
 }
 
+const SpecimenPrint* PreciseReader::PrintOf(const profiles::ProfileRecord& profile) {
+    const SpecimenPrint* const print = prints_.Of(profile);
+    return print != nullptr && print->belongs ? print : nullptr;
+}
+
 std::vector<MarkReading> PreciseReader::ReadAt(const imaging::Page& page,
                                                const profiles::ProfileRecord& profile,
                                                std::span<const std::optional<BoxShift>> known,

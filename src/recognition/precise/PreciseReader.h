@@ -39,6 +39,10 @@ class PreciseReader {
     SecondOpinion OpinionOn(const imaging::Page& page, const profiles::ProfileRecord& profile,
                             std::span<const MarkReading> marks, std::int16_t fillThreshold);
 
+    /// What is printed on a profile's specimen; null where that is not known, or the boxes do not lie on it.
+    /// Holds until the profile is next asked for.
+    const SpecimenPrint* PrintOf(const profiles::ProfileRecord& profile);
+
     /// The boxes of a profile at known shifts, one entry a box; the others take their place from these.
     /// Nothing when none is known.
     std::vector<MarkReading> ReadAt(const imaging::Page& page, const profiles::ProfileRecord& profile,

@@ -136,6 +136,7 @@ SpecimenPrint TakePrint(const imaging::Page& specimen, const profiles::ProfileRe
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
         if (finder.Find(place, onSpecimen(kReach)).ratio >= kOutlineShare)
             ++lying;
+        print.beside.push_back(InkBeside(specimen.grid, place));
         auto& inside = print.inside.emplace_back();
         for (std::size_t k = 0; k < inside.size(); ++k)
             inside[k] = precise::FillInside(pixels, place, onSpecimen(static_cast<double>(k + 1)));

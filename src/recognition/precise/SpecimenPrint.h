@@ -5,6 +5,7 @@
 
 #include "imaging/PageReader.h"
 #include "profiles/ProfileRecord.h"
+#include "recognition/InkBeside.h"
 #include "recognition/precise/CandidatePlaces.h"
 
 namespace tavrene::recognition {
@@ -18,6 +19,8 @@ struct SpecimenPrint {
     std::vector<precise::BitPlane> letters;
     /// Its ink, in percent of the box less 1, 2, ... pixels of the profile on every side.
     std::vector<std::array<double, 12>> inside;
+    /// What is printed close outside of each box.
+    std::vector<SideInk> beside;
     /// The profile's boxes lie on this print. Where they do not, the image is not the one the profile was
     /// made from, and says nothing.
     bool belongs = false;

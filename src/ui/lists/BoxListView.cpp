@@ -33,8 +33,8 @@ int InkWidth(QFont font) {
     return QFontMetrics(font).horizontalAdvance("100.0%") + kInkMargin;
 }
 
-void ShowDoubt(QTreeWidgetItem& row, bool isDoubtful) {
-    const QString why = isDoubtful ? "The ink is near the threshold: look at this box" : QString();
+void ShowDoubt(QTreeWidgetItem& row, const QString& why) {
+    const bool isDoubtful = !why.isEmpty();
     for (int column = 0; column <= kInkColumn; ++column) {
         QFont bold = row.font(column);
         bold.setBold(true);
@@ -148,7 +148,7 @@ void BoxListView::PutRow(int number, const profiles::BoxRow& row) {
     if (columnCount() > kInkColumn) {
         item.setText(kInkColumn, ToQt(row.ink));
         item.setTextAlignment(kInkColumn, Qt::AlignRight | Qt::AlignVCenter);
-        ShowDoubt(item, row.isDoubtful);
+        ShowDoubt(item, ToQt(row.doubt));
     }
 }
 

@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::string_view kGoOn = "GoOn";
 
+// Milliseconds of quiet after a command.
+constexpr int kCountAfter = 400;
+
 // What a key in one of the lists means; `canFlip` in a list of boxes that can be flipped.
 std::optional<Command> CommandOf(const QKeyEvent& key, bool canFlip) {
     if ((key.modifiers() & ~Qt::KeypadModifier) != 0)
@@ -60,6 +63,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
     ConnectFormCommands();
     ConnectControls();
     WatchFolder();
+    CountDoubtsInIdleTime();
 }
 
 void ReviewMode::ConnectCommands() {
@@ -154,6 +158,19 @@ void ReviewMode::WatchFolder() {
     });
 }
 
+// One form at a time, with a pause in which clicks and keys are taken first. A form that cannot be read is no
+// failure of a command: opening it tells what is wrong.
+void ReviewMode::CountDoubtsInIdleTime() {
+    constexpr int kPause = 20;  // milliseconds
+    idle_.setSingleShot(true);
+    connect(&idle_, &QTimer::timeout, this, [this] {
+        if (gate_.IsBusy() || gate_.CurrentMode() == commands::Mode::Run)
+            idle_.start(kCountAfter);
+        else if (session_.CountNextDoubts())
+            idle_.start(kPause);
+    });
+}
+
 // The line below has moved up into the place of the form that left.
 void ReviewMode::Decide(const std::function<void()>& decide) {
     const std::optional<std::size_t> line = session_.OpenLine();
@@ -185,6 +202,8 @@ void ReviewMode::Update() {
     if (gate_.CurrentMode() != commands::Mode::Run)
         session_.FollowFolder();
     const bool inReview = session_.IsOn();
+    if (inReview)
+        idle_.start(kCountAfter);
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
     controls_.pane.ShowUnread(session_.Unread());
     controls_.pane.Unread().Update([this](Command command) { return gate_.Offers(command); });

@@ -78,6 +78,7 @@ class ReviewMode final : public QObject {
     void NextDoubtful();
     void RectClicked(int group);
     void WatchFolder();
+    void CountDoubtsInIdleTime();
 
     const commands::AppState& state_;
     commands::CommandGate& gate_;
@@ -87,6 +88,7 @@ class ReviewMode final : public QObject {
     review::ReviewSession session_;
     QFileSystemWatcher watcher_;
     QTimer folderChanged_;  ///< Waits until a burst of changes is over.
+    QTimer idle_;           ///< Counts the doubts of a form while nobody waits.
     bool goesOn_;
     bool hadForm_ = false;  ///< A form was open after the last command.
 };

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "doubts/DoubtPages.h"
+#include "review/doubts/Doubts.h"
+
+namespace tavrene::samples {
+
+/// How the doubts about the forms of a class fare.
+struct DoubtTally {
+    std::size_t Forms = 0;
+    std::size_t Boxes = 0;
+    std::size_t Misread = 0;
+    std::size_t MisreadInDoubt = 0;
+    std::size_t InDoubt = 0;
+    std::map<review::DoubtReason, std::size_t> Reasons;
+};
+
+/// Reads `pages` pages of a class by the described rules, and doubts. Forms that the rules do not recognise
+/// are left out: nobody is shown their boxes. `tell`, if there is one, hears of every box that is misread or
+/// in doubt, one line of fields parted by tabs.
+DoubtTally ScoreDoubts(const DoubtClass& kind, std::size_t pages, std::uint64_t first,
+                       const std::function<void(const std::string&)>& tell = {});
+
+}  // namespace tavrene::samples

@@ -1,0 +1,53 @@
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include "doubts/DoubtScore.h"
+
+namespace {
+
+using namespace tavrene::samples;
+
+constexpr const char* kUsage =
+    "Scores the doubts about painted forms whose marks are known.\n"
+    "  tavrene-score-doubts [--pages N] [--from N] [--tell]\n"
+    "One line a class, fields parted by tabs: name, forms, boxes, misread, of these in doubt, in doubt at "
+    "all.\n"
+    "--from is the first seed; --tell gives a line for every box instead.\n";
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::size_t pages = 20;
+    std::uint64_t first = 1;
+    bool tells = false;
+    for (int k = 1; k < count; ++k) {
+        const std::string argument = arguments[k];
+        if (argument == "--tell") {
+            tells = true;
+        } else if (argument == "--pages" && k + 1 < count) {
+            pages = std::strtoul(arguments[++k], nullptr, 10);
+        } else if (argument == "--from" && k + 1 < count) {
+            first = std::strtoul(arguments[++k], nullptr, 10);
+        } else {
+            std::cerr << kUsage;
+            return 2;
+        }
+    }
+    try {
+        for (const DoubtClass& kind : DoubtClasses()) {
+            const DoubtTally tally =
+                tells ? ScoreDoubts(kind, pages, first,
+                                    [](const std::string& line) { std::cout << line << '\n'; })
+                      : ScoreDoubts(kind, pages, first);
+            (tells ? std::cerr : std::cout)
+                << kind.Name << '\t' << tally.Forms << '\t' << tally.Boxes << '\t' << tally.Misread << '\t'
+                << tally.MisreadInDoubt << '\t' << tally.InDoubt << std::endl;
+        }
+    } catch (const std::exception& error) {
+        std::cerr << "score-doubts: " << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "profiles/ProfileRecord.h"
+#include "recognition/precise/PreciseReader.h"
+#include "review/doubts/DoubtCache.h"
+
+namespace tavrene::review {
+
+/// A processed form as the folder has it.
+struct FormOnDisk {
+    std::string Document;     ///< File name.
+    std::string Fingerprint;  ///< Of the document.
+    std::string Image;        ///< Path.
+    std::string Profile;      ///< Name.
+};
+
+/// What is in doubt of the forms that wait in `ProcessOut`: as far as it is known already, or found by
+/// reading the form again.
+class DoubtFinder {
+  public:
+    /// Everything must outlive the object; `precise` may be null. `profiles` are the loaded ones, whatever
+    /// they are at the time.
+    DoubtFinder(app::Files& files, const app::Settings& settings, const app::WorkingFolders& folders,
+                const std::vector<profiles::ProfileRecord>& profiles, recognition::PreciseReader* precise);
+
+    /// The profiles, their groups or the way of reading may have changed.
+    void Begin();
+
+    /// Null while it is not known.
+    const FormDoubts* Known(const FormOnDisk& form);
+
+    /// Reads the form, and keeps what is found. Null when it cannot be read, or belongs to no profile.
+    const FormDoubts* Find(const FormOnDisk& form);
+
+    /// Writes what was found where the next start finds it.
+    void Keep() { cache_.Save(); }
+
+  private:
+    std::string StampOf(const FormOnDisk& form);
+    const std::string& RulesFor(const profiles::ProfileRecord& profile);
+    const profiles::ProfileRecord* ProfileOf(const FormOnDisk& form) const;
+    std::optional<FormDoubts> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile);
+
+    app::Files& files_;
+    const app::Settings& settings_;
+    const app::WorkingFolders& folders_;
+    const std::vector<profiles::ProfileRecord>& profiles_;
+    recognition::PreciseReader* precise_;
+    DoubtCache cache_;
+    std::map<std::string, std::string> rules_;  ///< By profile: what the doubts of its forms depend on.
+};
+
+}  // namespace tavrene::review

@@ -1,0 +1,110 @@
+#include "review/doubts/FormEvidence.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "recognition/InkBeside.h"
+
+namespace tavrene::review {
+namespace {
+
+using recognition::GridRect;
+using recognition::SideInk;
+
+// A mark runs over its box by so much of the box.
+constexpr double kOverrun = 0.6;
+
+constexpr std::size_t kSides = std::tuple_size_v<SideInk>;
+
+GridRect OnGrid(const imaging::WorkGrid& grid, const imaging::PageRect& rect) {
+    const int row1 = imaging::FlipVertically(grid.Rows(), static_cast<int>(rect.top));
+    const auto col0 = static_cast<int>(rect.left);
+    return {row1 - static_cast<int>(rect.height), col0, row1, col0 + static_cast<int>(rect.width)};
+}
+
+GridRect WithOverrun(const GridRect& box) {
+    const auto across = static_cast<int>(kOverrun * (box.col1 - box.col0));
+    const auto up = static_cast<int>(kOverrun * (box.row1 - box.row0));
+    return {box.row0 - up, box.col0 - across, box.row1 + up, box.col1 + across};
+}
+
+bool Overlap(const GridRect& a, const GridRect& b) {
+    return a.row0 <= b.row1 && b.row0 <= a.row1 && a.col0 <= b.col1 && b.col0 <= a.col1;
+}
+
+// On a page that lies upside down left is right, and above is below.
+SideInk Printed(SideInk beside, bool turned) {
+    if (turned)
+        std::ranges::rotate(beside, beside.begin() + 2);
+    return beside;
+}
+
+// Per box and side what is inked beyond the print. What most boxes have in common comes from the page lying
+// a little beside the places, not from anybody's pen.
+std::vector<SideInk> BeyondPrint(const MeasuredForm& form, std::span<const GridRect> places,
+                                 const recognition::SpecimenPrint& print) {
+    std::vector<SideInk> beyond;
+    for (std::size_t k = 0; k < places.size(); ++k) {
+        const SideInk printed = Printed(print.beside[k], form.turned);
+        beyond.push_back(recognition::InkBeside(form.page.grid, places[k]));
+        for (std::size_t side = 0; side < printed.size(); ++side)
+            beyond.back()[side] -= printed[side];
+    }
+    for (std::size_t side = 0; side < kSides; ++side) {
+        std::vector<double> all;
+        for (const SideInk& ink : beyond)
+            all.push_back(ink[side]);
+        const auto middle = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 2);
+        std::nth_element(all.begin(), middle, all.end());
+        for (SideInk& ink : beyond)
+            ink[side] -= std::max(0.0, *middle);
+    }
+    return beyond;
+}
+
+// Ink where the mark of another box may have run to is not counted.
+double StrayInk(const GridRect& box, const SideInk& beyond, std::span<const GridRect> marks) {
+    const std::array<GridRect, kSides> strips = recognition::StripsBeside(box);
+    double most = 0;
+    for (std::size_t side = 0; side < kSides; ++side)
+        if (beyond[side] > most &&
+            std::ranges::none_of(marks, [&](const GridRect& mark) { return Overlap(mark, strips[side]); }))
+            most = beyond[side];
+    return most;
+}
+
+void AddStrayInk(std::vector<BoxEvidence>& boxes, const MeasuredForm& form,
+                 const recognition::SpecimenPrint& print) {
+    std::vector<GridRect> places;
+    std::vector<GridRect> marks;
+    for (std::size_t k = 0; k < boxes.size(); ++k) {
+        places.push_back(OnGrid(form.page.grid, form.measures[k].rect));
+        if (form.checked[k].value_or(false))
+            marks.push_back(WithOverrun(places.back()));
+    }
+    const std::vector<SideInk> beyond = BeyondPrint(form, places, print);
+    for (std::size_t k = 0; k < boxes.size(); ++k)
+        if (form.checked[k] == false)
+            boxes[k].inkBeside = StrayInk(places[k], beyond[k], marks);
+}
+
+}  // namespace
+
+std::vector<BoxEvidence> EvidenceOf(const MeasuredForm& form, const recognition::SecondOpinion& opinion,
+                                    const recognition::SpecimenPrint* print) {
+    std::vector<BoxEvidence> boxes(form.measures.size());
+    for (std::size_t k = 0; k < boxes.size(); ++k) {
+        if (!form.checked[k])
+            continue;
+        boxes[k].isChecked = *form.checked[k];
+        boxes[k].fill = form.measures[k].fill;
+        boxes[k].isOtherForm = opinion.otherProfile;
+    }
+    for (const std::size_t k : opinion.boxes)
+        boxes[k].isReadOtherwise = true;
+    if (print != nullptr && !boxes.empty())
+        AddStrayInk(boxes, form, *print);
+    return boxes;
+}
+
+}  // namespace tavrene::review

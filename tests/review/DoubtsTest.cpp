@@ -1,0 +1,148 @@
+#include "ReviewWorld.h"
+#include "painter/ImageFiles.h"
+#include "profiles/BoxGroups.h"
+#include "review/doubts/Doubts.h"
+#include "review/doubts/GroupDoubts.h"
+
+namespace tavrene::review {
+namespace {
+
+using R = DoubtReason;
+
+// A page of boxes as a run reads them at a threshold of 8 %.
+std::vector<BoxEvidence> Page(const std::vector<double>& fills) {
+    std::vector<BoxEvidence> boxes;
+    for (const double fill : fills)
+        boxes.push_back({.isChecked = fill >= 8, .fill = fill});
+    return boxes;
+}
+
+TEST(DoubtsTest, WhatIsNearTheThresholdFollowsThePage) {
+    const std::vector<double> bold = {0, 0, 1, 0, 0, 40, 38, 42, 40, 39};
+    const std::vector<double> thin = {0, 0, 1, 0, 0, 10, 11, 12, 11, 10};
+    const std::vector<double> dirty = {5, 4, 6, 5, 4, 40, 38, 42, 40, 39};
+    const std::vector<double> few = {0, 40};
+    const std::tuple<std::vector<double>, double, std::optional<R>> cases[] = {
+        {bold, 3, std::nullopt},    {bold, 7, R::NearThreshold}, {bold, 12, R::NearThreshold},
+        {bold, 25, std::nullopt},   {bold, 90, R::OverFull},     {thin, 3, R::NearThreshold},
+        {thin, 9, std::nullopt},    {thin, 60, R::OverFull},     {dirty, 7, std::nullopt},
+        {few, 6, R::NearThreshold}, {few, 11, std::nullopt},     {few, 95, std::nullopt}};
+    for (const auto& [page, fill, doubt] : cases) {
+        std::vector<double> fills = page;
+        fills.push_back(fill);
+        const BoxDoubts doubts = DoubtsOf(Page(fills), 8);
+        EXPECT_EQ(doubts.back(), doubt) << fill << " among " << page.back();
+        EXPECT_EQ(std::count(doubts.begin(), doubts.end(), std::nullopt),
+                  std::ssize(doubts) - (doubt ? 1 : 0));
+    }
+}
+
+TEST(DoubtsTest, OtherSignsPutABoxInDoubt) {
+    std::vector<BoxEvidence> boxes = Page({0, 0, 50, 0, 50});
+    boxes[0].isChecked = true;
+    boxes[1].inkBeside = 30;
+    boxes[2].inkBeside = 30;  // a mark that runs over
+    boxes[3].isReadOtherwise = true;
+    boxes[4].isOtherForm = true;
+    EXPECT_EQ(DoubtsOf(boxes, 8),
+              (BoxDoubts{R::Contradiction, R::InkBeside, {}, R::ReadOtherwise, R::OtherForm}));
+}
+
+TEST(DoubtsTest, AGroupThatTakesOneMarkIsInDoubtWithNoneOrMore) {
+    using profiles::Takes;
+    const std::vector<std::string> names = {"a", "b", "c", "c"};
+    const std::tuple<Takes, std::vector<double>, BoxDoubts> cases[] = {
+        {Takes::One, {0, 2, 0, 0}, {{}, R::NoneOfGroup, {}, {}}},
+        {Takes::One, {50, 0, 0, 50}, {R::ManyOfGroup, {}, {}, R::ManyOfGroup}},
+        {Takes::One, {50, 0, 0, 0}, {{}, {}, {}, {}}},
+        {Takes::AtLeastOne, {0, 0, 1, 0}, {{}, {}, R::NoneOfGroup, {}}},
+        {Takes::AtLeastOne, {50, 50, 0, 0}, {{}, {}, {}, {}}},
+        {Takes::AnyNumber, {0, 0, 0, 0}, {{}, {}, {}, {}}}};
+    for (const auto& [takes, fills, expected] : cases) {
+        BoxDoubts doubts(4);
+        AddGroupDoubts(
+            doubts, Page(fills), names,
+            std::vector<profiles::BoxGroup>{{"G", {"a", "b", "c"}, takes}, {"-", {"gone"}, Takes::One}});
+        EXPECT_EQ(doubts, expected) << static_cast<int>(takes) << " " << fills[0];
+    }
+}
+
+class CountedDoubtsTest : public test::ReviewWorld {
+  protected:
+    // Three forms: "b" has an unclear box, "c" none, and "a" cannot be read.
+    void SetUp() override {
+        AddScan("a.tif");
+        AddScan("c.tif", {.checked = {1}});
+        samples::Canvas page = form_.Paint({.checked = {1}});
+        page.FillRect(form_.boxes[2].L + 6, form_.boxes[2].T + 6, 8, 4);
+        samples::SaveImage(samples::ToBilevel(page), imaging::ImageFormat::Tiff,
+                           folders_.ProcessIn + "b.tif");
+        Process();
+        test::WriteText(folders_.ProcessOut + "a.tif", "damaged");
+        EnterReview();
+    }
+
+    std::vector<std::optional<int>> Counts() const {
+        std::vector<std::optional<int>> counts;
+        for (const ReviewLine& line : review_.Lines())
+            counts.push_back(line.Doubts);
+        return counts;
+    }
+
+    void CountAll() {
+        int steps = 0;
+        while (review_.CountNextDoubts())
+            ASSERT_LT(++steps, 10);
+    }
+
+    void EnterAnew() {
+        Toggle();
+        Toggle();
+    }
+
+    const std::vector<std::optional<int>> counted_ = {std::nullopt, 1, 0};
+    const std::vector<std::optional<int>> unknown_ = {std::nullopt, std::nullopt, std::nullopt};
+};
+
+TEST_F(CountedDoubtsTest, AreKeptWhileNothingThatTheyDependOnChanges) {
+    EXPECT_EQ(Counts(), unknown_);
+    CountAll();
+    EXPECT_EQ(Counts(), counted_);
+    EXPECT_EQ(*review_.DoubtsOf(1), (FormDoubts{{3, R::NearThreshold}}));
+    EnterAnew();
+    EXPECT_EQ(Counts(), counted_);
+    profiles::WriteBoxGroups(files_, folders_.Profiles + "Form.Tvp",
+                             std::vector<profiles::BoxGroup>{{"Q", {"Q3", "Q4"}, profiles::Takes::One}});
+    EnterAnew();
+    EXPECT_EQ(Counts(), unknown_);
+    CountAll();
+    EXPECT_EQ(Counts(), (std::vector<std::optional<int>>{std::nullopt, 1, 1}));
+    settings_.FillThreshold = 30;
+    EnterAnew();
+    EXPECT_EQ(Counts(), unknown_);
+    CountAll();
+    Open(2);
+    Flip(1);
+    Okay();
+    EXPECT_EQ(Counts()[2], std::nullopt) << "a reviewed form was looked at";
+}
+
+TEST_F(CountedDoubtsTest, ACacheThatIsGoneOrBrokenIsMadeAnew) {
+    CountAll();
+    for (const char* const content : {"", "Doubts about processed forms, 1\nb.xml\t\t", "nonsense\n\t"}) {
+        Toggle();
+        test::WriteText(folders_.Temp + "doubts.txt", content);
+        Toggle();
+        EXPECT_EQ(Counts(), unknown_);
+        CountAll();
+        EXPECT_EQ(Counts(), counted_);
+    }
+    settings_.FillThreshold = 9;
+    Refuse("write", "doubts.txt");
+    EnterAnew();
+    CountAll();
+    EXPECT_EQ(Counts(), counted_);
+}
+
+}  // namespace
+}  // namespace tavrene::review
