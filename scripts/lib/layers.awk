@@ -11,6 +11,8 @@ BEGIN {
     may["review"] = " recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
+    may["batch"] = " results recognition profiles imaging app "
+    may["batch/program"] = " batch" may["batch"]
     may["ui/commands"] = " review results intake recognition profiles boxes boxes/second imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.
     engine = " ui/commands review results intake recognition profiles boxes boxes/second imaging app "
@@ -29,7 +31,7 @@ BEGIN {
     knows["pugixml"] = " profiles recognition review "
     knows["libxlsxwriter"] = " results "
     knows["Poppler"] = " intake "
-    knows["platform"] = " app imaging ui/shell "
+    knows["platform"] = " app imaging batch ui/shell "
     faults = 0
 }
 
@@ -57,6 +59,8 @@ function room(path) {
         return "ui/" substr(path, 4, index(substr(path, 4), "/") - 1)
     if (path ~ /^boxes\/second\//)
         return "boxes/second"
+    if (path ~ /^batch\/program\//)
+        return "batch/program"
     return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : ""
 }
 
@@ -74,7 +78,7 @@ function library(header) {
         return "Poppler"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
-    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
+    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|getopt|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
         return "platform"
     return ""
 }

@@ -94,7 +94,7 @@ void ProcessRun::Settle() {
 
 std::vector<std::string> ProcessRun::ListImages() {
     try {
-        return context_.files.List(folders_.ProcessIn, "*");
+        return context_.incoming ? context_.incoming() : context_.files.List(folders_.ProcessIn, "*");
     } catch (const std::exception& error) {
         context_.log.LogProcessEvent(app::ReasonOf(error));
         context_.person.ShowMessage("", app::ReasonOf(error));

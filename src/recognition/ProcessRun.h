@@ -34,6 +34,7 @@ struct RunContext {
     profiles::BoxRows& rows;
     PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
     bool canReadImages = !imaging::ImageLibraryVersion().empty();
+    std::function<std::vector<std::string>()> incoming = {};  ///< The files to take; without it, all.
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
