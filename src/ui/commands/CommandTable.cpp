@@ -89,7 +89,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::UndoDecision, T::None, "UndoDecision", "Bring the form back that was accepted or rejected last",
                 M::Review, "&Undo Decision", "Ctrl+U", "", false, false, kToAnotherForm},
     CommandInfo{C::ExportResults, T::None, "ExportResults", "Write the results of all forms into tables",
-                M::File, "&Export Results...", "Ctrl+E", "", false, true, {"SDUPRF", P::Form}},
+                M::File, "&Export Results...", "Ctrl+E", "", false, true, kIdle},
     CommandInfo{C::OpenWorkingFolder, T::None, "OpenWorkingFolder", "Show the working folder on the desktop",
                 M::File, "Open &Working Folder", "Ctrl+Shift+O", "", false, true, kIdle},
     CommandInfo{C::OpenLog, T::None, "OpenLog", "Read the newest log",

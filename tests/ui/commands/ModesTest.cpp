@@ -66,7 +66,6 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Process, Prompts::ProfileThenForm},
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
-                                                {C::ExportResults, Prompts::Form},
                                                 {C::UndoDecision, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
