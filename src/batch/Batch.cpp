@@ -112,6 +112,7 @@ class Batch {
 
     recognition::RunContext Context() {
         recognition::RunContext context{files_, log_, person_, clock_, screen_, screen_, &precise_};
+        context.jobs = [this] { return options_.jobs; };
         if (options_.watch)
             context.incoming = [this] { return std::exchange(ready_, {}); };
         return context;

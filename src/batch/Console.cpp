@@ -60,7 +60,6 @@ void ConsoleOperator::ShowNotices(std::span<const app::Notice> notices) {
 }
 
 void Progress::Begin(int files) {
-    told_ = 0;
     if (asJson_)
         out_ << R"({"event":"begin","files":)" << files << '}' << std::endl;
 }
@@ -77,6 +76,7 @@ void Progress::Update(const recognition::RunSummary& summary) {
 
 void Progress::End(const recognition::RunSummary& summary, bool isStopped) {
     Update(summary);
+    told_ = 0;
     if (asJson_)
         out_ << R"({"event":"end","files":)" << summary.files.size() << R"(,"seconds":)" << summary.seconds;
     else

@@ -2,23 +2,36 @@
 
 #include <getopt.h>
 
+#include <charconv>
 #include <iostream>
-#include <iterator>
+#include <string_view>
 
 namespace tavrene::batch {
 namespace {
 
-constexpr ::option kOptions[] = {
-    {"settings", required_argument, nullptr, 's'}, {"precise", no_argument, nullptr, 'p'},
-    {"export", required_argument, nullptr, 'e'},   {"watch", no_argument, nullptr, 'w'},
-    {"json", no_argument, nullptr, 'j'},           {"help", no_argument, nullptr, 'h'},
-    {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
+constexpr ::option kOptions[] = {{"settings", required_argument, nullptr, 's'},
+                                 {"jobs", required_argument, nullptr, 'n'},
+                                 {"precise", no_argument, nullptr, 'p'},
+                                 {"export", required_argument, nullptr, 'e'},
+                                 {"watch", no_argument, nullptr, 'w'},
+                                 {"json", no_argument, nullptr, 'j'},
+                                 {"help", no_argument, nullptr, 'h'},
+                                 {"version", no_argument, nullptr, 'v'},
+                                 {nullptr, 0, nullptr, 0}};
+
+bool NoteJobs(std::string_view text, int& jobs) {
+    constexpr int kMost = 256;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), jobs);
+    return error == std::errc() && end == text.data() + text.size() && jobs >= 1 && jobs <= kMost;
+}
 
 bool Note(Options& options, int option) {
     switch (option) {
         case 's':
             options.settings = ::optarg;
             return !options.settings.empty();
+        case 'n':
+            return NoteJobs(::optarg, options.jobs);
         case 'p':
             return options.precise = true;
         case 'e':
@@ -48,6 +61,7 @@ with the same documents and log lines. Settings about the window (one scan at a 
 no meaning here.
 
   --settings FILE  read the settings from FILE instead of ~/.config/Tavrene CheckBoxes/settings.ini
+  --jobs N         read N pages side by side; the outcome is the same as with one
   --precise        read by precise alignment
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
   --watch          go on with what comes to ProcessIn, once nobody writes to it any more, until a signal

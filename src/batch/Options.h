@@ -11,6 +11,7 @@ struct Options {
     std::string folder;    ///< The working folder.
     std::string settings;  ///< Empty for the window's settings file.
     std::string exportTo;  ///< Empty for no tables.
+    int jobs = 1;
     bool precise = false;
     bool watch = false;
     bool json = false;

@@ -60,14 +60,15 @@ class BatchTest : public test::RunWorld {
 };
 
 TEST_F(BatchTest, MakesTheSameFolderAsTheWindow) {
-    for (const bool precise : {false, true}) {
-        SCOPED_TRACE(precise);
+    for (const auto& [precise, jobs] : {std::pair{false, 1}, {false, 3}, {true, 2}}) {
+        SCOPED_TRACE(jobs);
         for (const std::string& folder : {work_.Path(), other_.Path()})
             for (const auto& entry : std::filesystem::directory_iterator(folder))
                 std::filesystem::remove_all(entry);
         ASSERT_TRUE(app::CreateWorkingFolders(files_, work_.Path()));
         FillFolder();
         reading_.preciseAlignment = options_.precise = precise;
+        options_.jobs = jobs;
         Process();
         EXPECT_EQ(Run(), Exit::SomeLeft);
         EXPECT_EQ(ContentOf(other_.Path()), ContentOf(work_.Path()));

@@ -18,10 +18,11 @@ std::optional<Options> Read(std::vector<std::string> words) {
 }
 
 TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
-    const auto read =
-        Read({"--settings", "s.ini", "forms", "--export=tables", "--precise", "--watch", "--json"});
+    const auto read = Read({"--settings", "s.ini", "forms", "--export=tables", "--jobs", "12", "--precise",
+                            "--watch", "--json"});
     ASSERT_TRUE(read);
     EXPECT_EQ(read->folder + read->settings + read->exportTo, "formss.initables");
+    EXPECT_EQ(read->jobs, 12);
     EXPECT_TRUE(read->precise && read->watch && read->json);
     EXPECT_TRUE(Read({"--help"})->help);
     EXPECT_TRUE(Read({"--version", "a", "b"})->version);
@@ -30,6 +31,8 @@ TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
                                                   {"a", "--nonsense"},
                                                   {"a", "--settings"},
                                                   {"a", "--settings="},
+                                                  {"a", "--jobs", "0"},
+                                                  {"a", "--jobs=2x"},
                                                   {"a", "--export", ""}})
         EXPECT_FALSE(Read(wrong)) << (wrong.empty() ? "" : wrong.back());
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <list>
 #include <map>
+#include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,14 +13,13 @@
 namespace tavrene::recognition {
 
 /// The prints of the profiles' specimens, each read when it is first asked for and again only when its image
-/// or its profile has changed.
+/// or its profile has changed. Several threads may ask at the same time.
 class SpecimenPrints {
   public:
     /// `files` must outlive this.
     explicit SpecimenPrints(const app::Files& files) : files_(files) {}
 
-    /// Null when the image is not there or cannot be read. The answer holds until the profile is next asked
-    /// for.
+    /// Null when the image is not there or cannot be read. The answer holds as long as this object.
     const SpecimenPrint* Of(const profiles::ProfileRecord& profile);
 
     /// Names of the profiles whose boxes did not lie on their specimen when it was read since the last call:
@@ -33,7 +35,9 @@ class SpecimenPrints {
     };
 
     const app::Files& files_;
+    std::mutex mutex_;
     std::map<std::string, Known> known_;  // by profile name
+    std::list<SpecimenPrint> former_;     // of images that have changed, for who still reads by them
     std::vector<std::string> replaced_;
 };
 

@@ -40,6 +40,7 @@ enum class Command {
     ToolbarLabels,
     PreciseAlignment,
     SecondOpinion,
+    UseAllCores,
     ReadAgain,
     RunSummary,
     BackToProcessIn,
