@@ -12,6 +12,8 @@ BEGIN {
     may["review"] = " review/doubts recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
+    may["batch"] = " results recognition profiles imaging app "
+    may["batch/program"] = " batch" may["batch"]
     may["ui/commands"] = " review review/doubts results intake recognition profiles boxes boxes/second imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.
     engine = " ui/commands review review/doubts results intake recognition profiles boxes boxes/second imaging app "
@@ -30,7 +32,7 @@ BEGIN {
     knows["pugixml"] = " profiles recognition review review/doubts "
     knows["libxlsxwriter"] = " results "
     knows["Poppler"] = " intake "
-    knows["platform"] = " app imaging ui/shell "
+    knows["platform"] = " app imaging batch ui/shell "
     faults = 0
 }
 
@@ -56,7 +58,7 @@ function fault(text) {
 function room(path) {
     if (path ~ /^ui\/[^\/]+\//)
         return "ui/" substr(path, 4, index(substr(path, 4), "/") - 1)
-    if (path ~ /^(boxes\/second|review\/doubts)\//)
+    if (path ~ /^(boxes\/second|review\/doubts|batch\/program)\//)
         return substr(path, 1, match(path, /\/[^\/]*$/) - 1)
     return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : ""
 }
@@ -75,7 +77,7 @@ function library(header) {
         return "Poppler"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
-    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
+    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|getopt|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
         return "platform"
     return ""
 }

@@ -19,4 +19,15 @@ inline std::string ReasonOf(const std::exception& error) {
     return isOwn ? error.what() : "a fault of the program keeps it from being done";
 }
 
+/// Takes a step; what it throws is given in those words, and nothing when it throws nothing.
+template <typename Step>
+std::string FailureOf(const Step& step) {
+    try {
+        step();
+        return {};
+    } catch (const std::exception& error) {
+        return ReasonOf(error);
+    }
+}
+
 }  // namespace tavrene::app

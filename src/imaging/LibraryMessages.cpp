@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdarg>
 #include <cstdio>
+#include <mutex>
 #include <span>
 #include <string_view>
 
@@ -14,7 +15,8 @@
 namespace tavrene::imaging {
 namespace {
 
-bool damageWasMet = false;
+// A picture is decoded, and its trouble told, within one thread.
+thread_local bool damageWasMet = false;
 
 // The parts of the TIFF library that read tags, not pictures. A tag that they give up is as if it were not
 // there, and where the picture cannot be read without it, its decoder says so.
@@ -79,10 +81,15 @@ void NoteMessage(FREE_IMAGE_FORMAT format, const char* message) {
 
 void ListenToLibraries() {
     damageWasMet = false;
-    TIFFSetErrorHandler(NoteTiffError);
-    TIFFSetWarningHandler(NoteTiffWarning);
-    if (HasImageLibrary())
-        Library().SetOutputMessage(NoteMessage);
+    // The listeners are the libraries' own state, and other threads may be decoding already.
+    static std::once_flag listening;
+    std::call_once(listening, [] {
+        const bool hasLibrary = HasImageLibrary();
+        TIFFSetErrorHandler(NoteTiffError);
+        TIFFSetWarningHandler(NoteTiffWarning);
+        if (hasLibrary)
+            Library().SetOutputMessage(NoteMessage);
+    });
 }
 
 bool DamageWasMet() {

@@ -7,7 +7,7 @@ namespace tavrene::imaging {
 /// screen, not on the console.
 void ListenToLibraries();
 
-/// Whether a damaged picture was met since the last `ListenToLibraries`.
+/// Whether this thread has met a damaged picture since its last `ListenToLibraries`.
 bool DamageWasMet();
 
 }  // namespace tavrene::imaging

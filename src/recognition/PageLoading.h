@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <variant>
 
 #include "app/ActivityLog.h"
 #include "app/Files.h"
@@ -11,14 +10,12 @@
 
 namespace tavrene::recognition {
 
-/// The page of an image, by the type that its extension stands for. Why there is none is written to the
-/// process log, and the operator is told unless the file is of no type that could hold a page, or there is
-/// no image library at all.
-std::variant<imaging::Page, imaging::PageError> LoadPageOrReason(const app::Files& files,
-                                                                 app::ActivityLog& log, app::Operator& person,
-                                                                 const std::string& path);
+/// Writes to the process log why an image gives no page, and tells the operator unless the file is of no type
+/// that could hold a page, or there is no image library at all.
+void TellPageError(app::ActivityLog& log, app::Operator& person, const std::string& imageName,
+                   imaging::PageError error);
 
-/// The same for who needs no reason.
+/// The page of an image, by the type that its extension stands for; why there is none is told.
 std::optional<imaging::Page> LoadPage(const app::Files& files, app::ActivityLog& log, app::Operator& person,
                                       const std::string& path);
 

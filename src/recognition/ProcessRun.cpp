@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
-#include <optional>
-#include <variant>
+#include <stdexcept>
 #include <vector>
 
 #include "app/Reason.h"
 #include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
-#include "recognition/Classification.h"
 #include "recognition/PageLoading.h"
+#include "recognition/ReadAhead.h"
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::recognition {
@@ -27,10 +26,7 @@ using profiles::ProfileRecord;
 // What came of one file, as far as it is shown.
 struct ProcessRun::FileOutcome {
     FileReport report;
-    std::optional<imaging::Page> page;
-    int winner = -1;  // index of the profile it was read as
-    std::vector<MarkReading> readings;
-    bool turned = false;            // the page lies upside down
+    FormReading reading;
     std::vector<ResultMark> marks;  // read back from the written document
 };
 
@@ -40,7 +36,8 @@ ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
       settings_(settings),
       folders_(folders),
       scratch_(context.files, folders.Temp),
-      delivery_(context.files, folders) {}
+      delivery_(context.files, folders),
+      reader_(context.files, context.precise, settings, folders.ProcessIn) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
     if (profiles.empty()) {
@@ -78,7 +75,10 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     Settle();
     context_.page.Clear();
     context_.rows.ClearRows(profiles::BoxColumns::NameVal);
-    TakeFiles(profiles);
+    std::vector<std::string> names = ListImages();
+    TakeFiles(profiles, names);
+    while (context_.incoming && !stop_ && !(names = ListImages()).empty())
+        TakeFiles(profiles, names);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
     Finish(start);
 }
@@ -94,7 +94,7 @@ void ProcessRun::Settle() {
 
 std::vector<std::string> ProcessRun::ListImages() {
     try {
-        return context_.files.List(folders_.ProcessIn, "*");
+        return context_.incoming ? context_.incoming() : context_.files.List(folders_.ProcessIn, "*");
     } catch (const std::exception& error) {
         context_.log.LogProcessEvent(app::ReasonOf(error));
         context_.person.ShowMessage("", app::ReasonOf(error));
@@ -102,13 +102,16 @@ std::vector<std::string> ProcessRun::ListImages() {
     }
 }
 
-void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles) {
-    const std::vector<std::string> names = ListImages();
+void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles, const std::vector<std::string>& names) {
     context_.person.SetProgressRange(static_cast<int>(names.size()));
     std::size_t next = settings_.ProcessSingle ? FirstToTake(names) : 0;
+    const int jobs = context_.jobs && !settings_.ProcessSingle ? context_.jobs() : 1;
+    ReadAhead forms(next, names.size(), jobs, [&](std::size_t index) {
+        return reader_.Read(names[index], profiles, settings_.DisplayDuringProcess);
+    });
     do {
         if (!names.empty())
-            TakeInTurn(names, next, profiles);
+            TakeInTurn(names, next, profiles, forms);
         // Behind a single file and over an empty folder too: what is clicked meanwhile belongs to this run
         // and must not wait for its end, to start another.
         context_.person.RunPendingEvents();
@@ -133,9 +136,9 @@ std::size_t ProcessRun::FirstToTake(const std::vector<std::string>& names) {
 }
 
 void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t index,
-                            std::span<const ProfileRecord> profiles) {
+                            std::span<const ProfileRecord> profiles, ReadAhead& forms) {
     currentName_ = names[index];
-    const bool moved = TakeFile(currentName_, profiles);
+    const bool moved = TakeFile(currentName_, profiles, forms);
     if (!moved)
         currentName_.clear();
     if (settings_.ProcessSingle)
@@ -146,7 +149,8 @@ void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t i
     context_.person.SetProgress(++filesDone_);
 }
 
-bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord> profiles) {
+bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord> profiles,
+                          ReadAhead& forms) {
     const bool display = settings_.DisplayDuringProcess;
     context_.person.SetPanel(Panel::File, name);
     if (display) {
@@ -156,14 +160,13 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     }
     FileOutcome outcome;
     outcome.report.name = name;
-    if (std::string failure = LogFailureOf(name, [&] { Recognise(name, profiles, outcome); });
-        !failure.empty()) {
+    outcome.reading = forms.Take();
+    if (std::string failure = LogFailureOf(name, [&] { Record(profiles, outcome); }); !failure.empty()) {
         // What was read and failed all the same could not be written.
-        outcome.report.end = outcome.readings.empty() ? FileEnd::Refused : FileEnd::NotWritten;
+        outcome.report.end = outcome.reading.marks.empty() ? FileEnd::Refused : FileEnd::NotWritten;
         outcome.report.reason = std::move(failure);
     }
-    // Also of a form that the described rules failed on.
-    LogFailureOf(name, [&] { AskSecondOpinion(name, profiles, outcome); });
+    NoteSecondOpinion(outcome);
     if (display)
         LogFailureOf(name, [&] { ShowPage(outcome); });
     const bool moved = MoveToProcessOut(outcome.report);
@@ -173,72 +176,44 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
 
 // Whatever goes wrong with one file, it moves on, and so does the run.
 std::string ProcessRun::LogFailureOf(const std::string& name, const std::function<void()>& step) {
-    try {
-        step();
-    } catch (const std::exception& error) {
-        LogAbout(name, app::ReasonOf(error));
-        return app::ReasonOf(error);
-    }
-    return {};
-}
-
-void ProcessRun::Recognise(const std::string& name, std::span<const ProfileRecord> profiles,
-                           FileOutcome& outcome) {
-    auto read = LoadPageOrReason(context_.files, context_.log, context_.person, folders_.ProcessIn + name);
-    if (const auto* const error = std::get_if<imaging::PageError>(&read)) {
-        outcome.report.reason = imaging::ReasonOf(*error);
-        return;
-    }
-    outcome.page = std::get<imaging::Page>(std::move(read));
-    const imaging::Page& page = *outcome.page;
-    if (const std::string failure = scratch_.WritePage(page); !failure.empty())
+    std::string failure = app::FailureOf(step);
+    if (!failure.empty())
         LogAbout(name, failure);
-    if (context_.precise != nullptr && context_.precise->Reads())
-        return RecognisePrecisely(name, profiles, outcome);
-    Classification classification = ClassifyImage(page, profiles);
-    NoteClassification(outcome.report, ClassificationLine(name, classification, profiles),
-                       classification.winner >= 0);
-    if (classification.winner < 0)
+    return failure;
+}
+
+void ProcessRun::Record(std::span<const ProfileRecord> profiles, FileOutcome& outcome) {
+    FileReport& report = outcome.report;
+    const FormReading& reading = outcome.reading;
+    if (reading.error) {
+        TellPageError(context_.log, context_.person, report.name, *reading.error);
+        report.reason = imaging::ReasonOf(*reading.error);
         return;
-    const auto winner = static_cast<std::size_t>(classification.winner);
-    ProfileMatch& match = classification.matches[winner];
-    SpreadShifts(profiles[winner], match.shifts);
-    outcome.readings = ReadMarks(page, profiles[winner], match.shifts, settings_.FillThreshold);
-    outcome.winner = classification.winner;
-    outcome.marks =
-        delivery_.StageResult({profiles[winner].Name, name, "0", match.Confidence}, outcome.readings);
-}
-
-void ProcessRun::NoteClassification(FileReport& report, const std::string& line, bool isRecognised) {
-    context_.log.LogProcessEvent(line);
-    report.end = isRecognised ? FileEnd::Read : FileEnd::NotRecognised;
-    report.reason = WhatItSaysOf(report.name, line);
-}
-
-void ProcessRun::RecognisePrecisely(const std::string& name, std::span<const ProfileRecord> profiles,
-                                    FileOutcome& outcome) {
-    PreciseReading reading = context_.precise->Read(*outcome.page, profiles, settings_.FillThreshold);
-    NoteClassification(outcome.report,
-                       ClassificationLine(name, AsClassification(reading, profiles.size()), profiles),
-                       reading.winner >= 0);
+    }
+    if (const std::string failure = scratch_.Write(reading.copy); !failure.empty())
+        LogAbout(report.name, failure);
+    if (!reading.classification.empty()) {
+        context_.log.LogProcessEvent(reading.classification);
+        report.end = reading.winner >= 0 ? FileEnd::Read : FileEnd::NotRecognised;
+        report.reason = WhatItSaysOf(report.name, reading.classification);
+    }
+    if (!reading.failure.empty())
+        throw std::runtime_error(reading.failure);
     if (reading.winner < 0)
         return;
-    outcome.readings = std::move(reading.marks);
-    outcome.turned = reading.turned;
-    outcome.marks = delivery_.StageResult(
-        {profiles[static_cast<std::size_t>(reading.winner)].Name, name, "0", reading.Confidence},
-        outcome.readings);
-    outcome.winner = reading.winner;
+    const ProfileRecord& profile = profiles[static_cast<std::size_t>(reading.winner)];
+    outcome.marks =
+        delivery_.StageResult({profile.Name, report.name, "0", reading.Confidence}, reading.marks);
 }
 
 // What it says is for the person alone: result and log are those of the described rules.
-void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const ProfileRecord> profiles,
-                                  const FileOutcome& outcome) {
+void ProcessRun::NoteSecondOpinion(const FileOutcome& outcome) {
     if (context_.precise == nullptr)
         return;
-    if (context_.precise->GivesSecondOpinion() && outcome.page)
-        opinions_.Add(name, context_.precise->OpinionOn(*outcome.page, profiles, outcome.winner,
-                                                        outcome.readings, settings_.FillThreshold));
+    if (outcome.reading.opinion)
+        opinions_.Add(outcome.report.name, *outcome.reading.opinion);
+    if (!outcome.reading.opinionFailure.empty())
+        LogAbout(outcome.report.name, outcome.reading.opinionFailure);
     SpecimenFaults faults = context_.precise->TakeFaults();
     opinions_.specimens.replaced.merge(faults.replaced);
     // The described rules need no specimen.
@@ -247,15 +222,15 @@ void ProcessRun::AskSecondOpinion(const std::string& name, std::span<const Profi
 }
 
 void ProcessRun::ShowPage(const FileOutcome& outcome) {
-    if (outcome.page)
-        context_.page.ShowPicture(outcome.page->bitmap);
+    if (outcome.reading.page)
+        context_.page.ShowPicture(outcome.reading.page->bitmap);
     else
         context_.page.Clear();
-    context_.page.TurnPage(outcome.turned);
+    context_.page.TurnPage(outcome.reading.turned);
     for (std::size_t k = 0; k < outcome.marks.size(); ++k) {
         const int number = static_cast<int>(k) + 1;
         const ResultMark& mark = outcome.marks[k];
-        context_.page.PutRect(number, outcome.readings[k].rect,
+        context_.page.PutRect(number, outcome.reading.marks[k].rect,
                               mark.Checked ? imaging::RectStyle::Checked : imaging::RectStyle::Unchecked);
         context_.rows.PutRow(number, {mark.Name, mark.Checked ? "1" : "0"});
     }

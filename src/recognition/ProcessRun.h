@@ -18,11 +18,13 @@
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/FormDelivery.h"
-#include "recognition/MarkReading.h"
+#include "recognition/FormReader.h"
 #include "recognition/RunSummary.h"
 #include "recognition/precise/PreciseReader.h"
 
 namespace tavrene::recognition {
+
+class ReadAhead;
 
 /// What a run needs of the world; everything must outlive it.
 struct RunContext {
@@ -34,10 +36,15 @@ struct RunContext {
     profiles::BoxRows& rows;
     PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
     bool canReadImages = !imaging::ImageLibraryVersion().empty();
+    /// Gives the files to take, and then again those that came meanwhile, until there are none. Without it
+    /// all that lie in `ProcessIn` at the start are taken.
+    std::function<std::vector<std::string>()> incoming = {};
+    std::function<int()> jobs = {};  ///< How many forms are read side by side; without it one.
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
-/// and moves it to `ProcessOut`. Whatever fails for one file is logged and the run goes on.
+/// and moves it to `ProcessOut`. Whatever fails for one file is logged and the run goes on. However many
+/// forms are read side by side, one hand tells and writes all in the order of the listing.
 class ProcessRun {
   public:
     /// The settings are asked anew for every file; the folders are those of the window.
@@ -70,19 +77,15 @@ class ProcessRun {
     struct FileOutcome;
 
     std::vector<std::string> ListImages();
-    void TakeFiles(std::span<const profiles::ProfileRecord> profiles);
+    void TakeFiles(std::span<const profiles::ProfileRecord> profiles, const std::vector<std::string>& names);
     void TakeInTurn(const std::vector<std::string>& names, std::size_t index,
-                    std::span<const profiles::ProfileRecord> profiles);
+                    std::span<const profiles::ProfileRecord> profiles, ReadAhead& forms);
     std::size_t FirstToTake(const std::vector<std::string>& names);
-    bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles);
-    void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
-                   FileOutcome& outcome);
-    void NoteClassification(FileReport& report, const std::string& line, bool isRecognised);
-    void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
-                            FileOutcome& outcome);
+    bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+                  ReadAhead& forms);
+    void Record(std::span<const profiles::ProfileRecord> profiles, FileOutcome& outcome);
     std::string LogFailureOf(const std::string& name, const std::function<void()>& step);
-    void AskSecondOpinion(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
-                          const FileOutcome& outcome);
+    void NoteSecondOpinion(const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
     bool MoveToProcessOut(FileReport& report);
     void StayBehind(FileReport& report, const std::string& reason);
@@ -96,6 +99,7 @@ class ProcessRun {
     const app::WorkingFolders& folders_;
     imaging::ScratchImages scratch_;
     FormDelivery delivery_;
+    FormReader reader_;
     bool running_ = false;
     bool stop_ = false;
     int filesDone_ = 0;

@@ -6,6 +6,7 @@ namespace tavrene::recognition {
 struct ReadingOptions {
     bool preciseAlignment = false;  ///< By precise alignment instead of the described rules.
     bool secondOpinion = false;     ///< Without it: precise alignment looks, and says where it differs.
+    bool allCores = false;          ///< Several at a time.
 };
 
 }  // namespace tavrene::recognition

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScopeGuard>
 
@@ -38,6 +39,29 @@ TEST(CompositionTest, FirstStartAsksForTheFolderAndLivesAsLongAsItsWindow) {
     });
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_TRUE(wasOpen);
+}
+
+TEST(CompositionTest, DoesNotOpenOnAFolderThatAnotherProgramWorksOn) {
+    const test::TempFolder home;
+    qputenv("XDG_CONFIG_HOME", home.Path().c_str());
+    app::DiskFiles().CreateFolder(home.File("Tavrene CheckBoxes"));
+    test::WriteText(home.File("Tavrene CheckBoxes/settings.ini"), "[Common]\nWorkDir=" + home.Path() + "\n");
+    QString told;
+    test::WhileRunning read([&told] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told = box->text();
+            box->accept();
+        }
+    });
+    {
+        app::FolderLock batch(home.Path());
+        ASSERT_TRUE(batch.Take(app::FolderLock::Use::Alone));
+        EXPECT_FALSE(Composition().Start());
+        EXPECT_TRUE(told.contains("is working on the forms in " + ToQt(home.Path()))) << FromQt(told);
+    }
+    Composition program;
+    EXPECT_TRUE(program.Start());
+    EXPECT_FALSE(app::FolderLock(home.Path()).Take(app::FolderLock::Use::Shared));
 }
 
 }  // namespace

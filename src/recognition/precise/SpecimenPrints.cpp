@@ -7,8 +7,11 @@ namespace tavrene::recognition {
 
 const SpecimenPrint* SpecimenPrints::Of(const profiles::ProfileRecord& profile) {
     std::string fingerprint = files_.Fingerprint(profile.Image);
+    const std::scoped_lock lock(mutex_);
     Known& known = known_[profile.Name];
     if (known.image != profile.Image || known.fingerprint != fingerprint || known.boxes != profile.Boxes) {
+        if (known.print)
+            former_.push_back(std::move(*known.print));
         known = {profile.Image, std::move(fingerprint), profile.Boxes, std::nullopt};
         const auto read = imaging::ReadSpecimen(files_, profile.Image);
         if (const auto* const page = std::get_if<imaging::Page>(&read))
@@ -22,6 +25,7 @@ const SpecimenPrint* SpecimenPrints::Of(const profiles::ProfileRecord& profile) 
 }
 
 SpecimenFaults SpecimenPrints::TakeFaults() {
+    const std::scoped_lock lock(mutex_);
     return std::exchange(faults_, {});
 }
 

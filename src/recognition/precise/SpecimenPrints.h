@@ -1,6 +1,9 @@
 #pragma once
 
+#include <list>
 #include <map>
+#include <mutex>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,14 +21,13 @@ struct SpecimenFaults {
 };
 
 /// The prints of the profiles' specimens, each read when it is first asked for and again only when its image
-/// or its profile has changed.
+/// or its profile has changed. Several threads may ask at the same time.
 class SpecimenPrints {
   public:
     /// `files` must outlive this.
     explicit SpecimenPrints(const app::Files& files) : files_(files) {}
 
-    /// Null when the image is not there or cannot be read. The answer holds until the profile is next asked
-    /// for.
+    /// Null when the image is not there or cannot be read. The answer holds as long as this object.
     const SpecimenPrint* Of(const profiles::ProfileRecord& profile);
 
     /// What was wrong with those that were asked for since the last call.
@@ -40,7 +42,9 @@ class SpecimenPrints {
     };
 
     const app::Files& files_;
+    std::mutex mutex_;
     std::map<std::string, Known> known_;  // by profile name
+    std::list<SpecimenPrint> former_;     // of images that have changed, for who still reads by them
     SpecimenFaults faults_;
 };
 

@@ -41,6 +41,7 @@ enum class Command {
     ToolbarLabels,
     PreciseAlignment,
     SecondOpinion,
+    UseAllCores,
     ReadAgain,
     RunSummary,
     BackToProcessIn,

@@ -1,19 +1,27 @@
 #include "ui/commands/ReadingCommands.h"
 
+#include <algorithm>
 #include <array>
+#include <thread>
 
 #include "recognition/precise/ReadAgain.h"
 #include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 
+int JobsOf(const recognition::ReadingOptions& reading) {
+    return reading.allCores ? std::max(1, static_cast<int>(std::thread::hardware_concurrency())) : 1;
+}
+
 ReadingCommands::ReadingCommands(AppState& state, const Context& context) : state_(state), context_(context) {
     state_.reading = {app::ReadWindowFlag(context.store, kPreciseAlignment, false),
-                      app::ReadWindowFlag(context.store, kSecondOpinion, true)};
+                      app::ReadWindowFlag(context.store, kSecondOpinion, true),
+                      app::ReadWindowFlag(context.store, kUseAllCores, false)};
     CommandGate& gate = context_.gate;
     gate.SetHandler(Command::PreciseAlignment,
                     [this] { Switch(state_.reading.preciseAlignment, kPreciseAlignment); });
     gate.SetHandler(Command::SecondOpinion, [this] { Switch(state_.reading.secondOpinion, kSecondOpinion); });
+    gate.SetHandler(Command::UseAllCores, [this] { Switch(state_.reading.allCores, kUseAllCores); });
     gate.SetHandler(
         Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
 }

@@ -14,9 +14,13 @@ namespace tavrene::commands {
 /// The values of what the window remembers about itself.
 inline constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
 inline constexpr std::string_view kSecondOpinion = "SecondOpinion";
+inline constexpr std::string_view kUseAllCores = "UseAllCores";
 
-/// The commands `PreciseAlignment`, `SecondOpinion` and `ReadAgain`, and the notice by which a run tells
-/// where precise alignment would read otherwise.
+/// How many forms a run reads side by side.
+int JobsOf(const recognition::ReadingOptions& reading);
+
+/// The commands `PreciseAlignment`, `SecondOpinion`, `UseAllCores` and `ReadAgain`, and the notice by which a
+/// run tells where precise alignment would read otherwise.
 class ReadingCommands {
   public:
     struct Context {
@@ -28,7 +32,7 @@ class ReadingCommands {
         CommandGate& gate;
     };
 
-    /// Takes the two toggles from the store. The references must outlive the object.
+    /// Takes the three toggles from the store. The references must outlive the object.
     ReadingCommands(AppState& state, const Context& context);
 
     /// What was told of the run before is over.

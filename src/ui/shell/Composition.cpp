@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStandardPaths>
@@ -85,12 +86,25 @@ bool Composition::Start() {
         store_, files_, [this] { return instance_.Become(); },
         [this](app::Settings& settings) { SettingsDialog(settings, store_, files_, nullptr).exec(); },
         [this] {
+            if (!HasFolderAlone())
+                return;
             window_ = std::make_unique<MainWindow>(settings_, WindowContext{store_, files_, clock_});
             window_->Load();
             window_->show();
             QApplication::setQuitOnLastWindowClosed(true);
         }};
-    return app::RunStartup(settings_, context);
+    return app::RunStartup(settings_, context) && window_ != nullptr;
+}
+
+// What a window settles at its start would be what another program is in the middle of.
+bool Composition::HasFolderAlone() {
+    folder_.emplace(settings_.WorkDir);
+    const bool isAlone = folder_->Take(app::FolderLock::Use::Alone);
+    if (!isAlone)
+        QMessageBox::information(nullptr, ToQt(app::kApplicationName),
+                                 ToQt("Another program, tavrene-batch for one, is working on the forms in " +
+                                      settings_.WorkDir + ". Please start again when it has ended."));
+    return isAlone;
 }
 
 }  // namespace tavrene::ui

@@ -2,9 +2,11 @@
 
 #include <QString>
 #include <memory>
+#include <optional>
 
 #include "app/Clock.h"
 #include "app/Files.h"
+#include "app/FolderLock.h"
 #include "app/Settings.h"
 #include "ui/settings/QtSettingsStore.h"
 #include "ui/shell/MainWindow.h"
@@ -22,18 +24,22 @@ class Composition {
     /// Uses the settings below the person's configuration folder.
     Composition();
 
-    /// Runs start-up, which ends with the window on the screen. False when another instance runs.
+    /// Runs start-up, which ends with the window on the screen. False when another instance runs, or when
+    /// another program works on the working folder, which the person is told.
     bool Start();
 
     /// The window of a successful start.
     MainWindow& Window() { return *window_; }
 
   private:
+    bool HasFolderAlone();
+
     QtSettingsStore store_;
     SingleInstance instance_;
     app::DiskFiles files_;
     app::SystemClock clock_;
     app::Settings settings_;
+    std::optional<app::FolderLock> folder_;
     std::unique_ptr<MainWindow> window_;
 };
 

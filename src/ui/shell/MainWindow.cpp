@@ -53,8 +53,15 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
       dialogs_(*this, context.files),
       log_(context.files, context.clock, operator_, state_.folders.Log),
       precise_(context.files, state_.reading),
-      run_({context.files, log_, operator_, context.clock, *view_, *boxes_, &precise_}, state_.settings,
-           state_.folders),
+      run_({.files = context.files,
+            .log = log_,
+            .person = operator_,
+            .clock = context.clock,
+            .page = *view_,
+            .rows = *boxes_,
+            .precise = &precise_,
+            .jobs = [this] { return commands::JobsOf(state_.reading); }},
+           state_.settings, state_.folders),
       gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
              [this] { return review_.MayLeave(); }}),
       desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_},
@@ -279,6 +286,7 @@ void MainWindow::UpdateCommands() {
     toolbars_.SetPressed(Command::PreciseAlignment, state_.reading.preciseAlignment);
     toolbars_.SetPressed(Command::GoOn, review_.GoesOn());
     toolbars_.SetPressed(Command::SecondOpinion, state_.reading.secondOpinion);
+    toolbars_.SetPressed(Command::UseAllCores, state_.reading.allCores);
 }
 
 // The toolkit puts a star in the place of "[*]" while there are unsaved changes.

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace tavrene::batch {
+
+/// What the command line asks for. Paths are as they were typed.
+struct Options {
+    std::string folder;    ///< The working folder.
+    std::string settings;  ///< Empty for the window's settings file.
+    std::string exportTo;  ///< Empty for no tables.
+    int jobs = 1;
+    bool precise = false;
+    bool watch = false;
+    bool json = false;
+    bool help = false;
+    bool version = false;
+};
+
+/// What `--help` prints.
+extern const char* const kUsage;
+
+/// Nothing, with a line on the standard error, when the arguments (the program's name first) make no sense.
+std::optional<Options> ReadOptions(std::span<char* const> arguments);
+
+}  // namespace tavrene::batch

@@ -1,0 +1,41 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "batch/Options.h"
+
+namespace tavrene::batch {
+namespace {
+
+std::optional<Options> Read(std::vector<std::string> words) {
+    std::vector<char*> arguments;
+    words.insert(words.begin(), "tavrene-batch");
+    for (std::string& word : words)
+        arguments.push_back(word.data());
+    // The C library expects an end to the list.
+    arguments.push_back(nullptr);
+    return ReadOptions(std::span(arguments).first(arguments.size() - 1));
+}
+
+TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
+    const auto read = Read({"--settings", "s.ini", "forms", "--export=tables", "--jobs", "12", "--precise",
+                            "--watch", "--json"});
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->folder + read->settings + read->exportTo, "formss.initables");
+    EXPECT_EQ(read->jobs, 12);
+    EXPECT_TRUE(read->precise && read->watch && read->json);
+    EXPECT_TRUE(Read({"--help"})->help);
+    EXPECT_TRUE(Read({"--version", "a", "b"})->version);
+    for (const std::vector<std::string>& wrong : {std::vector<std::string>{},
+                                                  {"a", "b"},
+                                                  {"a", "--nonsense"},
+                                                  {"a", "--settings"},
+                                                  {"a", "--settings="},
+                                                  {"a", "--jobs", "0"},
+                                                  {"a", "--jobs=2x"},
+                                                  {"a", "--export", ""}})
+        EXPECT_FALSE(Read(wrong)) << (wrong.empty() ? "" : wrong.back());
+}
+
+}  // namespace
+}  // namespace tavrene::batch
