@@ -70,19 +70,14 @@ class DeskWindow : public RunWorld {
         return selected.size() == 1 ? selected.front().row() + 1 : 0;
     }
 
-    void ClickThumbnail(int k) {
-        const QModelIndex index = Strip().model()->index(k - 1, 0);
-        Strip().scrollTo(index);
-        QTest::mouseClick(Strip().viewport(), Qt::LeftButton, Qt::NoModifier,
-                          Strip().visualRect(index).center());
+    /// On a line of a list, from 0.
+    static void ClickOn(QAbstractItemView& list, int line) {
+        const QModelIndex index = list.model()->index(line, 0);
+        list.scrollTo(index);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
     }
-
-    void ClickRow(int row) {
-        QTreeWidgetItem* const item = Rows().topLevelItem(row);
-        Rows().scrollToItem(item);
-        QTest::mouseClick(Rows().viewport(), Qt::LeftButton, Qt::NoModifier,
-                          Rows().visualItemRect(item).center());
-    }
+    void ClickThumbnail(int k) { ClickOn(Strip(), k - 1); }
+    void ClickRow(int row) { ClickOn(Rows(), row); }
 
     std::vector<std::string> RowTexts() {
         std::vector<std::string> texts;

@@ -102,8 +102,7 @@ TEST_F(IntakeTest, APageThatWasNotReadIsSeenInReviewAndProcessedOnceItsProfileIs
     auto& list = Find<QTreeWidget>(*window_, "lvwUnread");
     ASSERT_EQ(list.topLevelItemCount(), 1);
     EXPECT_FALSE(Find<QAction>(*window_, "BackToProcessIn").isEnabled());
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(list.topLevelItem(0)).topLeft() + QPoint(9, 9));
+    ClickOn(list, 0);
     EXPECT_EQ(Notices(), "strange.tif: unclassified");
     EXPECT_EQ(View().sceneRect(), QRectF(0, 0, other.width, other.height));
     Find<QAction>(*window_, "BackToProcessIn").trigger();

@@ -319,8 +319,7 @@ TEST_F(MainWindowTest, TheSummaryOfARunLeadsToEachOfItsFiles) {
                      "scan2.tif|classified as [Form] with confidence [100.00]"}));
     EXPECT_EQ(behind(recognition::FileEnd::Refused), Names{"torn.png|Image not in bitmap format"});
     EXPECT_EQ(behind(recognition::FileEnd::NotRecognised), Names{"strange.tif|unclassified"});
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(list.topLevelItem(0)).center());
+    ClickOn(list, 0);
     EXPECT_EQ(Notices(), "strange.tif: unclassified");
     EXPECT_TRUE(RowTexts().empty()) << "the boxes of the last form are not its boxes";
     EXPECT_GT(View().sceneRect().width(), 100);

@@ -34,11 +34,7 @@ class PreciseWindow : public test::DeskWindow {
     }
 
     int Lines() { return Find<QTreeView>(*window_, "lvwReview").model()->rowCount(); }
-    void OpenForm(int line) {
-        auto& list = Find<QTreeView>(*window_, "lvwReview");
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
-                          list.visualRect(list.model()->index(line, 0)).center());
-    }
+    void OpenForm(int line) { ClickOn(Find<QTreeView>(*window_, "lvwReview"), line); }
 
     TestForm form_ = TestForm::Grid(4, 3);
 };
