@@ -18,15 +18,16 @@ BEGIN {
     # The rooms of the window, from the lowest to the one that puts all together.
     engine = " ui/commands review review/doubts results intake recognition profiles boxes boxes/second imaging app "
     may["ui/base"] = engine
+    may["ui/look"] = " ui/base" engine
     may["ui/page"] = " ui/base" engine
     may["ui/lists"] = " ui/base" engine
     may["ui/profiling"] = " ui/page ui/lists ui/base" engine
     may["ui/reviewing"] = may["ui/profiling"]
     may["ui/settings"] = may["ui/profiling"]
     may["ui/exporting"] = may["ui/profiling"]
-    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/exporting ui/page ui/lists ui/base" engine
+    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/exporting ui/look ui/page ui/lists ui/base" engine
     # The rooms that know a library.
-    knows["Qt"] = " ui/base ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/shell "
+    knows["Qt"] = " ui/base ui/look ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/shell "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review review/doubts "

@@ -5,29 +5,17 @@
 #include <QPainter>
 #include <QPalette>
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <map>
 #include <vector>
 
 #include "ui/base/QtText.h"
 #include "ui/commands/CommandTable.h"
-#include "ui/shell/Icons.h"
+#include "ui/look/Contrast.h"
+#include "ui/look/Icons.h"
 
 namespace tavrene::ui {
 namespace {
-
-// Relative luminance and contrast as in WCAG 2.1.
-double Luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-double Contrast(const QColor& a, const QColor& b) {
-    const double bright = std::max(Luminance(a), Luminance(b));
-    const double dark = std::min(Luminance(a), Luminance(b));
-    return (bright + 0.05) / (dark + 0.05);
-}
 
 QPalette DarkPalette() {
     QPalette palette(QColor(53, 53, 53), QColor(53, 53, 53));

@@ -148,5 +148,20 @@ TEST_F(IntakeTest, TheChooserOfTheBlankFormShowsThePictureOfTheHighlightedFile) 
     EXPECT_TRUE(wasShown);
 }
 
+TEST_F(IntakeTest, APictureThatIsPastedBecomesAPageThatIsRead) {
+    form_.SaveScan(outside_.File("one.tif"), {.checked = {2}});
+    const QImage picture(ToQt(outside_.File("one.tif")));
+    ASSERT_FALSE(picture.isNull());
+    QGuiApplication::clipboard()->setImage(picture);
+    Open();
+    Find<QAction>(*window_, "PasteScans").trigger();
+    const Names pasted = In(folders_.ProcessIn);
+    ASSERT_EQ(pasted.size(), 1U);
+    EXPECT_TRUE(pasted[0].starts_with("pasted-") && pasted[0].ends_with(".png")) << pasted[0];
+    Click("Process");
+    EXPECT_EQ(In(folders_.ProcessOut).size(), 2U) << "the image and its result";
+    QGuiApplication::clipboard()->clear();
+}
+
 }  // namespace
 }  // namespace tavrene::ui

@@ -23,4 +23,9 @@ std::string ImageInUse(const app::Files& files, const app::WorkingFolders& folde
     return {};
 }
 
+bool WaitsForReview(const app::Files& files, const app::WorkingFolders& folders, const std::string& name) {
+    return !files.FileExists(folders.ProcessIn + name) && files.FileExists(folders.ProcessOut + name) &&
+           files.FileExists(folders.ProcessOut + app::BaseName(name) + ".xml");
+}
+
 }  // namespace tavrene::commands

@@ -19,4 +19,8 @@ std::string LogToShow(const app::Files& files, const app::WorkingFolders& folder
 /// working folder.
 std::string ImageInUse(const app::Files& files, const app::WorkingFolders& folders, const std::string& name);
 
+/// Whether an image that a run has taken lies in `ProcessOut` with its result, and no other of its name
+/// waits.
+bool WaitsForReview(const app::Files& files, const app::WorkingFolders& folders, const std::string& name);
+
 }  // namespace tavrene::commands

@@ -107,6 +107,11 @@ bool BoxListView::MakeCurrent(int number) {
     return row != nullptr;
 }
 
+QString BoxListView::NameOf(int number) const {
+    const QTreeWidgetItem* const row = RowOf(number);
+    return row == nullptr ? QString() : row->text(0);
+}
+
 void BoxListView::EditName(int number) {
     if (QTreeWidgetItem* const row = RowOf(number)) {
         setFocus();

@@ -27,6 +27,9 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     /// Makes the row of a box the current one, as a key would, and tells of it; false when it has none.
     bool MakeCurrent(int number);
 
+    /// The name of a box as its row shows it; empty for one without a row.
+    QString NameOf(int number) const;
+
     /// Starts editing the name of a box.
     void EditName(int number);
 

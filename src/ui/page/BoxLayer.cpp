@@ -1,5 +1,6 @@
 #include "ui/page/BoxLayer.h"
 
+#include <QAccessible>
 #include <QGraphicsScene>
 #include <algorithm>
 #include <cmath>
@@ -153,9 +154,21 @@ bool BoxLayer::HasBoxUnder(const QPointF& point) const {
                        [&point](const auto& box) { return box.second.place.contains(point); });
 }
 
-bool BoxLayer::IsEditable(int group) const {
+std::vector<int> BoxLayer::Groups() const {
+    std::vector<int> groups;
+    groups.reserve(boxes_.size());
+    for (const auto& [group, box] : boxes_)
+        groups.push_back(group);
+    return groups;
+}
+
+std::optional<imaging::RectStyle> BoxLayer::StyleOf(int group) const {
     const auto box = boxes_.find(group);
-    return box != boxes_.end() && box->second.style == imaging::RectStyle::Editable;
+    return box == boxes_.end() ? std::nullopt : std::optional(box->second.style);
+}
+
+bool BoxLayer::IsEditable(int group) const {
+    return StyleOf(group) == imaging::RectStyle::Editable;
 }
 
 QRectF BoxLayer::PlaceOf(int group) const {
@@ -191,6 +204,15 @@ void BoxLayer::TellMoved(int group) {
     listener_.moved(group);
 }
 
+// Who follows the page by ear hears which box is meant now.
+void BoxLayer::TellFocus() const {
+    if (!QAccessible::isActive() || selected_ == 0 || !view_.hasFocus())
+        return;
+    QAccessibleEvent focus(&view_, QAccessible::Focus);
+    focus.setChild(static_cast<int>(std::distance(boxes_.begin(), boxes_.find(selected_))));
+    QAccessible::updateAccessibility(&focus);
+}
+
 void BoxLayer::Mark(int group) {
     if (const auto before = boxes_.find(selected_); before != boxes_.end())
         before->second.item->SetEmphasised(false);
@@ -200,6 +222,7 @@ void BoxLayer::Mark(int group) {
     frame_->SetRect(isEditable ? box->second.place : QRectF());
     if (selected_ != 0)
         box->second.item->SetEmphasised(!isEditable);
+    TellFocus();
 }
 
 }  // namespace tavrene::ui

@@ -5,6 +5,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "imaging/PageScreen.h"
 #include "ui/page/HandleFrame.h"
@@ -43,6 +45,12 @@ class BoxLayer final {
     void Emphasise(int group);
     void SetTool(imaging::BoxTool tool, int nextGroup);
     bool IsEmpty() const { return boxes_.empty(); }
+
+    /// The groups that are shown, in their order.
+    std::vector<int> Groups() const;
+
+    /// How a group is shown; nothing for one that is not there.
+    std::optional<imaging::RectStyle> StyleOf(int group) const;
 
     // For the tools; rectangles and points in the page frame.
 
@@ -89,6 +97,7 @@ class BoxLayer final {
         imaging::RectStyle style;
     };
     void Mark(int group);
+    void TellFocus() const;
 
     /// Where boxes are put: the page, or every place that a document can hold while there is none.
     QRectF Room() const;

@@ -20,7 +20,7 @@ commands::Extent ExtentOf(const QSizeF& size) {
 
 void PaintNoPage(QPainter& painter, const QRect& area, const QPalette& palette, const QString& hint) {
     QColor color = palette.color(QPalette::WindowText);
-    color.setAlphaF(0.55F);
+    color.setAlphaF(0.7F);
     painter.setPen(color);
     QFont title = painter.font();
     title.setPointSizeF(title.pointSizeF() * 1.35);

@@ -56,6 +56,10 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
 
     BoxLayer& Boxes() { return *boxes_; }
 
+    /// What the boxes are called by those who read the page aloud.
+    void SetNames(std::function<QString(int group)> names) { names_ = std::move(names); }
+    QString NameOf(int group) const { return names_ ? names_(group) : QString(); }
+
     /// The page in its own frame; empty without one.
     QRectF PageRect() const { return page_->boundingRect(); }
 
@@ -121,6 +125,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     PageTool* tool_ = nullptr;
     std::function<bool(int, int, bool)> takeArrow_;
     std::function<void(double)> zoomed_;
+    std::function<QString(int)> names_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;
     QString hint_;

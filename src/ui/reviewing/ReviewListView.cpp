@@ -156,6 +156,12 @@ void ReviewListView::SelectLine(std::size_t index) {
     scrollTo(line);
 }
 
+std::optional<std::size_t> ReviewListView::LineOf(const std::string& form) const {
+    const QModelIndexList found = lines_->match(lines_->index(0, kName), Qt::DisplayRole, ToQt(form), 1,
+                                                Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return found.isEmpty() ? std::nullopt : std::optional(static_cast<std::size_t>(found.front().row()));
+}
+
 std::optional<std::size_t> ReviewListView::SelectedLine() const {
     const QModelIndex current = currentIndex();
     return current.isValid() ? std::optional(static_cast<std::size_t>(current.row())) : std::nullopt;

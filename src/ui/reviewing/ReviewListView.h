@@ -25,6 +25,9 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void RemoveLine(std::size_t index) override;
     void SelectLine(std::size_t index) override;
 
+    /// The line of the form of that name, where it is listed.
+    std::optional<std::size_t> LineOf(const std::string& form) const;
+
     /// The current line, counted from 0.
     std::optional<std::size_t> SelectedLine() const;
 

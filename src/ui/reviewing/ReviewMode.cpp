@@ -136,6 +136,18 @@ void ReviewMode::Toggle() {
     TakeFirstLine();
 }
 
+bool ReviewMode::OpenFormOf(const std::string& image) {
+    if (!session_.IsOn())
+        Toggle();
+    const std::optional<std::size_t> line = controls_.pane.List().LineOf(app::BaseName(image));
+    if (!line)
+        return false;
+    controls_.pane.ShowForms();
+    controls_.pane.List().SelectLine(*line);
+    session_.Open(*line);
+    return true;
+}
+
 // So that the first form is one Enter away. Only a list in sight can have the focus.
 void ReviewMode::TakeFirstLine() {
     controls_.side.setCurrentWidget(&controls_.pane);

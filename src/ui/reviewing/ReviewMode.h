@@ -55,6 +55,10 @@ class ReviewMode final : public QObject {
     /// Moves all pages that were not read back to `ProcessIn`.
     void SendAllBack() { session_.SendAllBack(); }
 
+    /// Opens the form of an image, in review; false when none of its name is listed. The prompts about what
+    /// is open come before.
+    bool OpenFormOf(const std::string& image);
+
     const review::ReviewSession& Session() const { return session_; }
 
     /// Whether the next form opens after a decision.

@@ -100,6 +100,7 @@ void MainWindow::BuildLayout() {
     lists->addWidget(boxes_);
     lists->addWidget(candidates_);
     view_->setMinimumWidth(300);
+    view_->SetNames([boxes = boxes_](int number) { return boxes->NameOf(number); });
     splitter_->addWidget(side_);
     splitter_->addWidget(WithStripAbove(*strip_, *view_));
     splitter_->addWidget(lists);
@@ -243,8 +244,10 @@ void MainWindow::ProcessUnread() {
     runs_.Process();
 }
 
-// A file is looked at by itself: what was open before would be taken for its boxes.
+// A file without a form is looked at by itself: what was open before would be taken for its boxes.
 void MainWindow::ShowFile(const ReasonRow& file) {
+    if (commands::WaitsForReview(context_.files, state_.folders, file.name) && review_.OpenFormOf(file.name))
+        return;
     desk_.Close();
     review_.RunBegins();
     view_->ShowFile(commands::ImageInUse(context_.files, state_.folders, file.name));

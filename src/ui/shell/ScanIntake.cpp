@@ -1,9 +1,12 @@
 #include "ui/shell/ScanIntake.h"
 
 #include <QClipboard>
+#include <QDateTime>
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
 #include <utility>
@@ -26,13 +29,17 @@ std::vector<std::string> PathsIn(const QMimeData* data) {
     return paths;
 }
 
+// A name by which the person knows it again in the lists.
+QString NameOfPicture() {
+    return "pasted-" + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".png";
+}
+
 }  // namespace
 
 ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context) : QObject(&window), context_(context) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
-    context_.gate.SetHandler(Command::PasteScans,
-                             [this] { CopyIn(PathsIn(QGuiApplication::clipboard()->mimeData())); });
+    context_.gate.SetHandler(Command::PasteScans, [this] { Paste(*QGuiApplication::clipboard()); });
 }
 
 bool ScanIntake::eventFilter(QObject* watched, QEvent* event) {
@@ -55,6 +62,21 @@ void ScanIntake::TakeWhenIdle(const std::vector<std::string>& paths) {
         QTimer::singleShot(kLater, this, [this, paths] { TakeWhenIdle(paths); });
     else
         context_.gate.Take(Command::PasteScans, [&] { CopyIn(paths); });
+}
+
+// What file managers copy may carry a small picture beside the files.
+void ScanIntake::Paste(const QClipboard& clipboard) {
+    const std::vector<std::string> paths = PathsIn(clipboard.mimeData());
+    const QImage picture = paths.empty() ? clipboard.image() : QImage();
+    if (picture.isNull()) {
+        CopyIn(paths);
+        return;
+    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(NameOfPicture());
+    if (!picture.save(path))
+        throw app::FileError("Cannot write " + FromQt(path));
+    CopyIn({FromQt(path)});
 }
 
 void ScanIntake::CopyIn(const std::vector<std::string>& paths) {

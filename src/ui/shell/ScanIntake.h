@@ -10,6 +10,8 @@
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 
+class QClipboard;
+
 namespace tavrene::ui {
 
 /// What the intake needs of the world; everything must outlive it.
@@ -20,7 +22,8 @@ struct IntakeContext {
     commands::CommandGate& gate;
 };
 
-/// The command `PasteScans`, and files and folders that are dropped anywhere on the window.
+/// The command `PasteScans`, of files, folders or a picture, and files and folders that are dropped anywhere
+/// on the window.
 class ScanIntake final : public QObject {
   public:
     ScanIntake(QWidget& window, const IntakeContext& context);
@@ -32,6 +35,7 @@ class ScanIntake final : public QObject {
     /// A command that takes events may be under way, and a question could not be answered meanwhile.
     void TakeWhenIdle(const std::vector<std::string>& paths);
 
+    void Paste(const QClipboard& clipboard);
     void CopyIn(const std::vector<std::string>& paths);
 
     IntakeContext context_;

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "ui/base/QtText.h"
-#include "ui/shell/Icons.h"
+#include "ui/look/Icons.h"
 
 namespace tavrene::ui {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/shell/Icons.h"
+#include "ui/look/Icons.h"
 
 #include <QFile>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "ui/base/FocusRing.h"
+#include "ui/look/FocusRing.h"
 
 #include <QApplication>
 #include <QEvent>
