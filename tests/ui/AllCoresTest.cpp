@@ -5,6 +5,7 @@
 namespace tavrene::ui {
 namespace {
 
+using test::DialogScript;
 using test::Find;
 
 // Runs with all cores in the real window.

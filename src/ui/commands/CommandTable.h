@@ -46,6 +46,7 @@ enum class Command {
     BackToProcessIn,
     AllBackToProcessIn,
     ProcessUnread,
+    BringIn,
     PasteScans,
     Manual,
     Settings,

@@ -81,7 +81,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectCommands();
     ConnectSummary();
     AddContextMenus();
-    new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    summary_->SetSplitter([this, intake] { gate_.Take(Command::BringIn, [&] { Split(*intake); }); });
     shape_.Restore();
     UpdateCommands();
 }
@@ -218,6 +219,13 @@ void MainWindow::AddContextMenus() {
     add(profiles_->Strip(), {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
     add(forms_->List(), {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
     add(*boxes_, {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful});
+}
+
+void MainWindow::Split(ScanIntake& intake) {
+    const auto sources = commands::FurtherPagesOf(run_.Summary(), context_.files, state_.folders);
+    run_.ForgetFurtherPages();
+    summary_->Show(run_.Summary());
+    intake.BringIn(sources);
 }
 
 // What cannot be processed stays where the list of unread pages shows it.

@@ -33,6 +33,8 @@ class QSplitter;
 
 namespace tavrene::ui {
 
+class ScanIntake;
+
 /// What the window needs of the world; everything must outlive it.
 struct WindowContext {
     app::SettingsStore& store;
@@ -67,6 +69,7 @@ class MainWindow final : public QMainWindow {
     void ConnectSummary();
     void AddContextMenus();
     void ProcessUnread();
+    void Split(ScanIntake& intake);
     void ShowFile(const ReasonRow& file);
     bool CloseWhatIsOver();
     void ShowSettings();

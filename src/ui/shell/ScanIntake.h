@@ -9,6 +9,7 @@
 #include "app/Operator.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
+#include "ui/commands/PagesIn.h"
 
 namespace tavrene::ui {
 
@@ -20,10 +21,14 @@ struct IntakeContext {
     commands::CommandGate& gate;
 };
 
-/// The command `PasteScans`, and files and folders that are dropped anywhere on the window.
+/// The commands `BringIn` and `PasteScans`, and files and folders that are dropped anywhere on the window.
 class ScanIntake final : public QObject {
   public:
     ScanIntake(QWidget& window, const IntakeContext& context);
+
+    /// Brings in pages of files, with a box that tells how far it is and can be cancelled. `told` stands
+    /// before what came of it.
+    void BringIn(const std::vector<intake::Source>& sources, const std::string& told = {});
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,9 +37,13 @@ class ScanIntake final : public QObject {
     /// A command that takes events may be under way, and a question could not be answered meanwhile.
     void TakeWhenIdle(const std::vector<std::string>& paths);
 
+    void Choose();
+    void TakeIn(const std::vector<std::string>& paths);
     void CopyIn(const std::vector<std::string>& paths);
 
+    QWidget& window_;
     IntakeContext context_;
+    QString folder_;  ///< From where files were chosen last.
 };
 
 }  // namespace tavrene::ui
