@@ -40,11 +40,10 @@ std::optional<Tool> SystemInformationTool() {
 
 QString Text() {
     // One of the libraries has a licence that holds for the program that is made with it.
-    const QString licence =
-        TAVRENE_WITH_PDF
-            ? "Its source is free under the MIT licence. This program is made with Poppler and is "
-              "given away under the GNU GPL, version 2 or 3."
-            : "Free software under the MIT licence.";
+    const QString licence = TAVRENE_WITH_PDF ? "Its source is free under the MIT licence. This program is "
+                                               "made with Poppler<br>and is given away "
+                                               "under the GNU GPL, version 2 or 3."
+                                             : "Free software under the MIT licence.";
     const QString poppler =
         TAVRENE_WITH_PDF ? "<tr><td>Poppler</td><td>GNU GPL, version 2 or 3</td></tr>" : "";
     return QString(

@@ -82,7 +82,10 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectSummary();
     AddContextMenus();
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
-    summary_->SetSplitter([this, intake] { gate_.Take(Command::BringIn, [&] { Split(*intake); }); });
+    summary_->SetSplitter([this, intake] {
+        gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
+        summary_->Show(run_.Summary());
+    });
     shape_.Restore();
     UpdateCommands();
 }
@@ -234,13 +237,6 @@ void MainWindow::AddContextMenus() {
         return place;
     };
     add(unread, offered, {Command::BackToProcessIn, Command::AllBackToProcessIn, Command::ProcessUnread});
-}
-
-void MainWindow::Split(ScanIntake& intake) {
-    const auto sources = commands::FurtherPagesOf(run_.Summary(), context_.files, state_.folders);
-    run_.ForgetFurtherPages();
-    summary_->Show(run_.Summary());
-    intake.BringIn(sources);
 }
 
 // What cannot be processed stays where the list of unread pages shows it.

@@ -33,8 +33,6 @@ class QSplitter;
 
 namespace tavrene::ui {
 
-class ScanIntake;
-
 /// What the window needs of the world; everything must outlive it.
 struct WindowContext {
     app::SettingsStore& store;
@@ -70,7 +68,6 @@ class MainWindow final : public QMainWindow {
     void ConnectSummary();
     void AddContextMenus();
     void ProcessUnread();
-    void Split(ScanIntake& intake);
     void ShowFile(const ReasonRow& file);
     bool CloseWhatIsOver();
     void ShowSettings();

@@ -117,6 +117,12 @@ void ScanIntake::Choose() {
     CopyIn(paths);
 }
 
+void ScanIntake::BringInFurtherPages(recognition::ProcessRun& run) {
+    const auto sources = commands::FurtherPagesOf(run.Summary(), context_.files, context_.state.folders);
+    run.ForgetFurtherPages();
+    BringIn(sources);
+}
+
 void ScanIntake::BringIn(const std::vector<intake::Source>& sources, const std::string& told) {
     const BusyCursor busy;
     const std::string text = commands::BringPagesIn(sources, context_.files, context_.person,

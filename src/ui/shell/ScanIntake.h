@@ -7,6 +7,7 @@
 
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "recognition/ProcessRun.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/PagesIn.h"
@@ -29,6 +30,9 @@ class ScanIntake final : public QObject {
     /// Brings in pages of files, with a box that tells how far it is and can be cancelled. `told` stands
     /// before what came of it.
     void BringIn(const std::vector<intake::Source>& sources, const std::string& told = {});
+
+    /// The same with the pages that the last run did not look at.
+    void BringInFurtherPages(recognition::ProcessRun& run);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
