@@ -4,9 +4,11 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <charconv>
+#include <functional>
 #include <system_error>
 #include <utility>
 
@@ -48,10 +50,21 @@ bool WriteAll(int descriptor, std::span<const std::byte> content) {
     return true;
 }
 
+// Several machines may write to one folder, and the numbers of their processes say nothing to each other.
+const std::string& HostTag() {
+    static const std::string tag = [] {
+        std::array<char, 256> host{};
+        ::gethostname(host.data(), host.size() - 1);
+        return std::to_string(std::hash<std::string_view>()(host.data()) % 1'000'000);
+    }();
+    return tag;
+}
+
 std::string TemporaryNeighbour(const std::string& path) {
     static std::atomic<unsigned> counter{0};
     std::string name(kPrefix);
-    name.append(std::to_string(::getpid())).append("-").append(std::to_string(++counter)).append(kSuffix);
+    name.append(std::to_string(::getpid())).append("-").append(std::to_string(++counter));
+    name.append("-").append(HostTag()).append(kSuffix);
     return FromPath(ToPath(path).parent_path() / name);
 }
 
@@ -73,8 +86,13 @@ void FlushFolderOf(const std::string& path) {
 // The number of this process is a dead one's, too: it has begun only now.
 bool IsHeldByOther(std::string_view temporary) {
     temporary.remove_prefix(kPrefix.size());
+    temporary.remove_suffix(kSuffix.size());
     ::pid_t holder = 0;
     const auto [end, error] = std::from_chars(temporary.data(), temporary.data() + temporary.size(), holder);
+    // Behind process and number stands the machine; earlier versions wrote none.
+    const std::size_t machine = temporary.find('-', temporary.find('-') + 1);
+    if (machine != std::string_view::npos && temporary.substr(machine + 1) != HostTag())
+        return true;
     return error == std::errc() && holder > 0 && holder != ::getpid() &&
            (::kill(holder, 0) == 0 || errno == EPERM);
 }

@@ -3,39 +3,52 @@
 #include <getopt.h>
 
 #include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <string_view>
+
+#include "app/Files.h"
 
 namespace tavrene::batch {
 namespace {
 
-constexpr ::option kOptions[] = {{"settings", required_argument, nullptr, 's'},
-                                 {"jobs", required_argument, nullptr, 'n'},
-                                 {"precise", no_argument, nullptr, 'p'},
-                                 {"export", required_argument, nullptr, 'e'},
-                                 {"watch", no_argument, nullptr, 'w'},
-                                 {"json", no_argument, nullptr, 'j'},
-                                 {"help", no_argument, nullptr, 'h'},
-                                 {"version", no_argument, nullptr, 'v'},
-                                 {nullptr, 0, nullptr, 0}};
+constexpr ::option kOptions[] = {
+    {"settings", required_argument, nullptr, 's'}, {"jobs", required_argument, nullptr, 'n'},
+    {"precise", no_argument, nullptr, 'p'},        {"export", required_argument, nullptr, 'e'},
+    {"claim", optional_argument, nullptr, 'c'},    {"watch", no_argument, nullptr, 'w'},
+    {"json", no_argument, nullptr, 'j'},           {"help", no_argument, nullptr, 'h'},
+    {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
 
-bool NoteJobs(std::string_view text, int& jobs) {
-    constexpr int kMost = 256;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), jobs);
-    return error == std::errc() && end == text.data() + text.size() && jobs >= 1 && jobs <= kMost;
+// Whole, so that a message names it wherever the program was started. Empty stays empty.
+std::string WholePath(const std::string& path) {
+    if (path.empty())
+        return {};
+    std::string whole = app::FromPath(std::filesystem::absolute(app::ToPath(path)).lexically_normal());
+    while (whole.size() > 1 && whole.ends_with('/'))
+        whole.pop_back();
+    return whole;
+}
+
+// A number from 1 to `most`.
+bool NoteNumber(std::string_view text, int most, int& number) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most;
 }
 
 bool Note(Options& options, int option) {
     switch (option) {
         case 's':
-            options.settings = ::optarg;
+            options.settings = WholePath(::optarg);
             return !options.settings.empty();
         case 'n':
-            return NoteJobs(::optarg, options.jobs);
+            return NoteNumber(::optarg, 256, options.jobs);
+        case 'c':
+            options.patience = 60;
+            return ::optarg == nullptr || NoteNumber(::optarg, 86'400, options.patience);
         case 'p':
             return options.precise = true;
         case 'e':
-            options.exportTo = ::optarg;
+            options.exportTo = WholePath(::optarg);
             return !options.exportTo.empty();
         case 'w':
             return options.watch = true;
@@ -64,6 +77,9 @@ no meaning here.
   --jobs N         read N pages side by side; the outcome is the same as with one
   --precise        read by precise alignment
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
+  --claim[=SEC]    share FOLDER with other tavrene-batch --claim, on this machine or others: each takes some
+                   files at a time, and those of one that has not been heard of for SEC seconds (60) are
+                   taken over
   --watch          go on with what comes to ProcessIn, once nobody writes to it any more, until a signal
   --json           tell of each file on the standard output, one JSON object a line
   --help           show this text
@@ -99,7 +115,7 @@ std::optional<Options> ReadOptions(std::span<char* const> arguments) {
         std::cerr << "tavrene-batch: one working folder is needed; see tavrene-batch --help\n";
         return std::nullopt;
     }
-    options.folder = arguments[static_cast<std::size_t>(::optind)];
+    options.folder = WholePath(arguments[static_cast<std::size_t>(::optind)]);
     return options;
 }
 

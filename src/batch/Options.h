@@ -6,12 +6,13 @@
 
 namespace tavrene::batch {
 
-/// What the command line asks for. Paths are as they were typed.
+/// What the command line asks for. Paths are whole, whatever was typed, and end in no separator.
 struct Options {
     std::string folder;    ///< The working folder.
     std::string settings;  ///< Empty for the window's settings file.
     std::string exportTo;  ///< Empty for no tables.
     int jobs = 1;
+    int patience = 0;  ///< Of claims: seconds until an owner counts as dead; 0 where none are made.
     bool precise = false;
     bool watch = false;
     bool json = false;

@@ -121,4 +121,11 @@ std::vector<TiffHeader> ReadTiffHeaders(std::span<const std::byte> content, int 
     return headers;
 }
 
+int CountTiffPictures(std::span<const std::byte> content) {
+    ListenToLibraries();
+    Source source{content};
+    const TiffFile file = Open(source);
+    return file != nullptr ? static_cast<int>(TIFFNumberOfDirectories(file.get())) : 0;
+}
+
 }  // namespace tavrene::imaging

@@ -21,4 +21,7 @@ struct TiffHeader {
 /// picture is of a kind that the image library cannot take. Never reads outside `content`.
 std::vector<TiffHeader> ReadTiffHeaders(std::span<const std::byte> content, int most);
 
+/// How many pictures a TIFF says that it holds; 0 for what is none.
+int CountTiffPictures(std::span<const std::byte> content);
+
 }  // namespace tavrene::imaging

@@ -1,5 +1,7 @@
 #include "intake/PageSource.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "imaging/ImageDecoder.h"
@@ -59,6 +61,13 @@ class PictureSource final : public PageSource {
 };
 
 }  // namespace
+
+bool IsPdf(std::span<const std::byte> content) {
+    constexpr std::size_t kRoomForStart = 1024;
+    const std::string_view start(reinterpret_cast<const char*>(content.data()),
+                                 std::min(content.size(), kRoomForStart));
+    return start.find("%PDF-") != std::string_view::npos;
+}
 
 std::variant<std::unique_ptr<PageSource>, Reason> OpenPages(app::Bytes content) {
     if (imaging::ImageLibraryVersion().empty())

@@ -131,12 +131,6 @@ class PdfSource final : public PageSource {
 
 }  // namespace
 
-bool IsPdf(std::span<const std::byte> content) {
-    constexpr std::size_t kRoomForStart = 1024;
-    return TextOf(content.first(std::min(content.size(), kRoomForStart))).find("%PDF-") !=
-           std::string_view::npos;
-}
-
 std::variant<std::unique_ptr<PageSource>, Reason> OpenPdf(app::Bytes content) {
     ListenToPdfLibrary();
     auto source = std::make_unique<PdfSource>(std::move(content));

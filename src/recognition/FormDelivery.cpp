@@ -23,8 +23,8 @@ std::string WhatWasSettled(bool hasArrived, bool isNew) {
 
 }  // namespace
 
-FormDelivery::FormDelivery(app::Files& files, const app::WorkingFolders& folders)
-    : files_(files), folders_(folders) {}
+FormDelivery::FormDelivery(app::Files& files, const app::WorkingFolders& folders, const std::string& staging)
+    : files_(files), folders_(folders), staging_(staging.empty() ? folders.ProcessOut : staging) {}
 
 FormDelivery::Waiting FormDelivery::WaitingFor(bool isNew, const std::string& image) const {
     Waiting document{isNew,
@@ -34,7 +34,7 @@ FormDelivery::Waiting FormDelivery::WaitingFor(bool isNew, const std::string& im
                      files_.Fingerprint(folders_.ProcessOut + image)};
     // One that could not be settled yet keeps its name.
     for (int number = 1; document.hidden.empty() || files_.FileExists(document.hidden); ++number) {
-        document.hidden = folders_.ProcessOut;
+        document.hidden = staging_;
         document.hidden.append(kPrefix).append(isNew ? kNew : kOld);
         document.hidden.append(std::to_string(number)).append("-").append(document.before).append(kSuffix);
     }
@@ -117,7 +117,7 @@ void FormDelivery::TakeBackIfPossible(const Waiting& document) {
 
 FormDelivery::Waiting FormDelivery::ReadWaiting(const std::string& name) const {
     Waiting document;
-    document.hidden = folders_.ProcessOut + name;
+    document.hidden = staging_ + name;
     std::string_view rest = std::string_view(name).substr(kPrefix.size());
     document.isNew = rest.starts_with(kNew);
     const std::size_t number = std::min(rest.find('-') + 1, rest.size());
@@ -130,11 +130,11 @@ FormDelivery::Waiting FormDelivery::ReadWaiting(const std::string& name) const {
 
 std::vector<std::string> FormDelivery::Settle() {
     std::vector<std::string> settled;
-    if (!files_.FolderExists(folders_.ProcessOut))
+    if (!files_.FolderExists(staging_))
         return settled;
     std::string pattern(kPrefix);
     pattern.append("*").append(kSuffix);
-    for (const std::string& name : files_.List(folders_.ProcessOut, pattern)) {
+    for (const std::string& name : files_.List(staging_, pattern)) {
         const Waiting document = ReadWaiting(name);
         if (document.image.empty())
             continue;

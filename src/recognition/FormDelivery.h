@@ -13,15 +13,17 @@ namespace tavrene::recognition {
 
 /// Brings an image and its result from `ProcessIn` to `ProcessOut` as one: no picture ever lies beside the
 /// marks of another, whatever fails and whenever the program is killed. A document on its way lies in
-/// `ProcessOut` under a hidden name, which also tells what the image's place held before; by that the next
-/// start knows whether the image had arrived.
+/// `ProcessOut` (or in `staging`) under a hidden name, which also tells what the image's place held before;
+/// by that the next start knows whether the image had arrived.
 class FormDelivery {
   public:
     /// What an arrival did to the result that lay there before.
     enum class Earlier { None, Replaced, Removed };
 
-    /// Both must outlive the delivery.
-    FormDelivery(app::Files& files, const app::WorkingFolders& folders);
+    /// Both must outlive the delivery. `staging` (ending in a separator) is where documents wait for their
+    /// images if not in `ProcessOut`: several deliveries to one `ProcessOut` need a place each, since what
+    /// waits in its own is settled as left over.
+    FormDelivery(app::Files& files, const app::WorkingFolders& folders, const std::string& staging = {});
 
     /// Writes the result of a waiting image, to be taken along by `Deliver`, and gives the marks that the
     /// document holds. Throws `app::FileError`, or what else keeps it from being read back; then there is
@@ -56,6 +58,7 @@ class FormDelivery {
 
     app::Files& files_;
     const app::WorkingFolders& folders_;
+    std::string staging_;
     std::optional<Waiting> waiting_;
 };
 

@@ -20,6 +20,7 @@ namespace tavrene::recognition {
 struct FormReading {
     std::optional<imaging::PageError> error;  ///< Why there is no page.
     std::optional<imaging::Page> page;        ///< Only where it was asked for.
+    int furtherPages = 0;                     ///< How many more the file has.
     imaging::ScratchCopy copy;
     std::string classification;  ///< The line for the log; empty where it did not come to one.
     int winner = -1;             ///< Index of the profile it was read as.

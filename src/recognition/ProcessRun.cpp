@@ -36,7 +36,7 @@ ProcessRun::ProcessRun(const RunContext& context, const app::Settings& settings,
       settings_(settings),
       folders_(folders),
       scratch_(context.files, folders.Temp),
-      delivery_(context.files, folders),
+      delivery_(context.files, folders, context.staging),
       reader_(context.files, context.precise, settings, folders.ProcessIn) {}
 
 bool ProcessRun::MayStart(std::span<const ProfileRecord> profiles) {
@@ -81,6 +81,11 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
         TakeFiles(profiles, names);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
     Finish(start);
+}
+
+void ProcessRun::ForgetFurtherPages() {
+    for (FileReport& file : summary_.files)
+        file.furtherPages = 0;
 }
 
 void ProcessRun::Settle() {
@@ -190,6 +195,7 @@ void ProcessRun::Record(std::span<const ProfileRecord> profiles, FileOutcome& ou
         report.reason = imaging::ReasonOf(*reading.error);
         return;
     }
+    report.furtherPages = reading.furtherPages;
     if (const std::string failure = scratch_.Write(reading.copy); !failure.empty())
         LogAbout(report.name, failure);
     if (!reading.classification.empty()) {

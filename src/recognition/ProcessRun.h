@@ -39,6 +39,7 @@ struct RunContext {
     /// Gives the files to take, and then again those that came meanwhile, until there are none. Without it
     /// all that lie in `ProcessIn` at the start are taken.
     std::function<std::vector<std::string>()> incoming = {};
+    std::string staging = {};        ///< As for `FormDelivery`.
     std::function<int()> jobs = {};  ///< How many forms are read side by side; without it one.
 };
 
@@ -65,6 +66,9 @@ class ProcessRun {
 
     /// What became of the files of the last run.
     const RunSummary& Summary() const { return summary_; }
+
+    /// The further pages of the last run's files have become files of their own.
+    void ForgetFurtherPages();
 
     /// What the second opinion on the forms of the last run has come to.
     const OpinionTally& Opinions() const { return opinions_; }

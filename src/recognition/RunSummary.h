@@ -13,7 +13,8 @@ enum class FileEnd { Read, NotRecognised, Refused, NotWritten };
 struct FileReport {
     std::string name;
     FileEnd end = FileEnd::Refused;
-    std::string reason;  ///< As the process log has it, without the name.
+    std::string reason;    ///< As the process log has it, without the name.
+    int furtherPages = 0;  ///< Of a file of several pages those that nobody looks at, the first being read.
 };
 
 /// The files that a run has taken, in its order.

@@ -121,7 +121,7 @@ TEST_F(BatchTest, SaysWhyItDoesNothing) {
         {other_.File("none"), settings_file_, false, Exit::Failed, "it has no folder Profiles"},
         {other_.Path(), home_.File("none.ini"), false, Exit::Failed, "there is no file "},
         {other_.Path(), settings_file_, true, Exit::InUse, "Another program works on "},
-        {other_.Path() + "/Profiles/..", "", false, Exit::Failed, "None of your Profiles are active!"}};
+        {other_.Path(), "", false, Exit::Failed, "None of your Profiles are active!"}};
     ::setenv("XDG_CONFIG_HOME", home_.Path().c_str(), 1);
     for (const Case& each : cases) {
         SCOPED_TRACE(each.message);

@@ -105,9 +105,8 @@ TEST_F(SideBySideTest, KilledAndStartedAgainTheOutcomeIsThatOfOneJob) {
         std::filesystem::remove(Waiting(name + std::string(".tif")));
     int kill = 0;
     bool isKilled = true;
-    // Every seventh of some hundred moments: the steps of a file are about as many, and 7 divides none of
-    // them.
-    for (; isKilled; kill += 7) {
+    // The steps of a file are fewer, so that the moments fall on different ones.
+    for (; isKilled; kill += 11) {
         SCOPED_TRACE(kill);
         Content one;
         for (const int jobs : {1, 3}) {

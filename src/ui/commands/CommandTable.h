@@ -47,6 +47,7 @@ enum class Command {
     BackToProcessIn,
     AllBackToProcessIn,
     ProcessUnread,
+    BringIn,
     PasteScans,
     Manual,
     Settings,

@@ -47,7 +47,14 @@ std::string SummaryText(const RunSummary& summary) {
         const std::size_t count = summary.Count(end);
         text += " &nbsp;|&nbsp; " + Linked(count, std::to_string(count) + " " + words, LinkOf(end));
     }
-    return text + " &nbsp;|&nbsp; " + Counted(summary.seconds, "second", "seconds");
+    text += " &nbsp;|&nbsp; " + Counted(summary.seconds, "second", "seconds");
+    int further = 0;
+    for (const FileReport& file : summary.files)
+        further += file.furtherPages;
+    if (further > 0)
+        text += " &nbsp;|&nbsp; " + Counted(further, "further page was", "further pages were") +
+                " not looked at: " + Linked(1, "bring in to ProcessIn", kSplitLink);
+    return text;
 }
 
 std::vector<FileReport> FilesBehind(const RunSummary& summary, const std::string& link) {

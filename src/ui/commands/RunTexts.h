@@ -11,8 +11,12 @@ namespace tavrene::commands {
 /// left out while too little is known of it.
 std::string ProgressText(int done, int total, double seconds);
 
+/// What the link stands for that offers to bring in the pages that were not looked at.
+inline constexpr const char* kSplitLink = "split";
+
 /// The line that tells of a run that has ended, as rich text. A number of files is a link whose address is
-/// the number of their `FileEnd`, or "all"; none is a link where there are no such files.
+/// the number of their `FileEnd`, or "all"; none is a link where there are no such files. Of pages that were
+/// not looked at it tells only where there are such, with the link `kSplitLink`.
 std::string SummaryText(const recognition::RunSummary& summary);
 
 /// The files of a link of that line, in the run's order.

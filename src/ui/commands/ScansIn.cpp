@@ -8,6 +8,7 @@
 #include "app/ImageNames.h"
 #include "imaging/PageReader.h"
 #include "ui/commands/Counted.h"
+#include "ui/commands/PagesIn.h"
 
 namespace tavrene::commands {
 namespace {
@@ -83,6 +84,8 @@ class Intake {
         Tell(copied);
     }
 
+    CopiedIn Result() const { return {pages_, told_}; }
+
   private:
     static std::string Inside(const std::string& folder, const std::string& name) {
         return app::FromPath(app::ToPath(folder) / app::ToPath(name));
@@ -91,10 +94,12 @@ class Intake {
     void AddFile(const std::string& path) {
         const std::string extension = ImageExtension(path);
         const std::string folder = app::FromPath(app::ToPath(path).parent_path() / "");
-        if (extension.empty())
-            ++others_;
-        else if (folder == folders_.ProcessIn)
+        if (folder == folders_.ProcessIn)
             ++waiting_;
+        else if (HoldsPages(files_, path))
+            pages_.push_back(path);
+        else if (extension.empty())
+            ++others_;
         else
             Take(path, extension);
     }
@@ -106,14 +111,16 @@ class Intake {
     }
 
     void Tell(int copied) {
-        std::string text = Counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
+        if (!pages_.empty() && found_.empty() && others_ + waiting_ == 0)
+            return;
+        told_ = Counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
         if (renamed_ > 0)
-            text += " " + Counted(renamed_, "has", "have") + " a new name.";
+            told_ += " " + Counted(renamed_, "has", "have") + " a new name.";
         if (others_ > 0)
-            text += " " + Counted(others_, "other file was", "other files were") + " left out: no image.";
+            told_ += " " + Counted(others_, "other file was", "other files were") + " left out: no image.";
         if (waiting_ > 0)
-            text += " " + Counted(waiting_, "is", "are") + " in ProcessIn already.";
-        person_.SetPanel(app::Panel::Message, text);
+            told_ += " " + Counted(waiting_, "is", "are") + " in ProcessIn already.";
+        person_.SetPanel(app::Panel::Message, told_);
     }
 
     app::Files& files_;
@@ -121,6 +128,8 @@ class Intake {
     const app::WorkingFolders& folders_;
     app::ImageNames names_;
     std::vector<Incoming> found_;
+    std::string told_;
+    std::vector<std::string> pages_;  // files of several pages
     std::set<std::string> replaced_;
     int renamed_ = 0;
     int others_ = 0;
@@ -129,14 +138,16 @@ class Intake {
 
 }  // namespace
 
-void CopyScansIn(std::span<const std::string> sources, app::Files& files, app::Operator& person,
-                 const app::WorkingFolders& folders) {
+CopiedIn CopyScansIn(std::span<const std::string> sources, app::Files& files, app::Operator& person,
+                     const app::WorkingFolders& folders) {
     Intake intake(files, person, folders);
     for (const std::string& source : sources)
         intake.Find(source);
     const app::Answer answer = intake.AskAboutNames();
-    if (answer != app::Answer::Cancel)
-        intake.Copy(answer);
+    if (answer == app::Answer::Cancel)
+        return {};
+    intake.Copy(answer);
+    return intake.Result();
 }
 
 }  // namespace tavrene::commands

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "app/Files.h"
 #include "app/Operator.h"
@@ -9,13 +10,19 @@
 
 namespace tavrene::commands {
 
+/// What came of copying.
+struct CopiedIn {
+    std::vector<std::string> filesOfPages;  ///< Paths of files of several pages, which were passed over.
+    std::string told;                       ///< What was told; empty where such files were all there was.
+};
+
 /// Copies scans to `ProcessIn` as they are; of a folder all that lie in it and in the folders below it. Files
-/// of other types are passed over. Names of scans that wait there are asked about once: those are
-/// replaced, the new ones get other names, or nothing is copied. Names of files that have been processed are
-/// not used again, or their results would be replaced unasked. What came of it is said in
-/// the `Message` panel, and file by file where one cannot be copied. Throws `app::FileError` when the working
-/// folders cannot be listed.
-void CopyScansIn(std::span<const std::string> sources, app::Files& files, app::Operator& person,
-                 const app::WorkingFolders& folders);
+/// of other types are passed over, and so are files of several pages. Names of scans
+/// that wait there are asked about once: those are replaced, the new ones get other names, or nothing is
+/// copied. Names of files that have been processed are not used again, or their results would be replaced
+/// unasked. What came of it is said in the `Message` panel, and file by file where one cannot be copied.
+/// Throws `app::FileError` when the working folders cannot be listed.
+CopiedIn CopyScansIn(std::span<const std::string> sources, app::Files& files, app::Operator& person,
+                     const app::WorkingFolders& folders);
 
 }  // namespace tavrene::commands

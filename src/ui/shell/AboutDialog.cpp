@@ -39,16 +39,23 @@ std::optional<Tool> SystemInformationTool() {
 }
 
 QString Text() {
+    // One of the libraries has a licence that holds for the program that is made with it.
+    const QString licence = TAVRENE_WITH_PDF ? "Its source is free under the MIT licence. This program is "
+                                               "made with Poppler<br>and is given away "
+                                               "under the GNU GPL, version 2 or 3."
+                                             : "Free software under the MIT licence.";
+    const QString poppler =
+        TAVRENE_WITH_PDF ? "<tr><td>Poppler</td><td>GNU GPL, version 2 or 3</td></tr>" : "";
     return QString(
                "<h3>%1</h3><p>Version %2</p><p>Reads the check boxes of scanned paper forms.</p>"
-               "<p>Free software under the MIT licence. It stands on these libraries:</p>"
+               "<p>%4 It stands on these libraries:</p>"
                "<table cellpadding='2'>"
                "<tr><td>Qt %3</td><td>GNU LGPL, version 3</td></tr>"
                "<tr><td>FreeImage</td><td>FreeImage Public License or GNU GPL</td></tr>"
                "<tr><td>libtiff</td><td>libtiff licence</td></tr>"
                "<tr><td>libxlsxwriter</td><td>BSD licence</td></tr>"
-               "<tr><td>pugixml</td><td>MIT licence</td></tr></table>")
-        .arg(ToQt(app::kApplicationName), QApplication::applicationVersion(), qVersion());
+               "<tr><td>pugixml</td><td>MIT licence</td></tr>%5</table>")
+        .arg(ToQt(app::kApplicationName), QApplication::applicationVersion(), qVersion(), licence, poppler);
 }
 
 }  // namespace

@@ -79,7 +79,11 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectCommands();
     ConnectSummary();
     AddContextMenus();
-    new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    summary_->SetSplitter([this, intake] {
+        gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
+        summary_->Show(run_.Summary());
+    });
     shape_.Restore();
     UpdateCommands();
 }

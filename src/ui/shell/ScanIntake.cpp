@@ -3,12 +3,16 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
+#include <memory>
 #include <utility>
 
 #include "ui/base/BusyCursor.h"
@@ -34,11 +38,34 @@ QString NameOfPicture() {
     return "pasted-" + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".png";
 }
 
+// The dialog takes the screen's events itself while it is modal; what it lets through is its own button.
+intake::Watch ProgressBox(QWidget& window) {
+    const auto box = std::make_shared<QProgressDialog>(QString(), "Cancel", 0, 0, &window);
+    box->setObjectName("BringInProgress");
+    box->setWindowTitle("Bring In Scans");
+    box->setWindowModality(Qt::ApplicationModal);
+    box->setMinimumDuration(400);
+    return [box](const intake::Progress& progress) {
+        // No less than this, or the box would close over the last page of a file.
+        box->setMaximum(progress.pages + 1);
+        box->setLabelText(QString("%1\nFile %2 of %3, page %4 of %5")
+                              .arg(ToQt(app::FileName(progress.path)))
+                              .arg(progress.filesDone + 1)
+                              .arg(progress.files)
+                              .arg(progress.pagesDone + 1)
+                              .arg(progress.pages));
+        box->setValue(progress.pagesDone);
+        return !box->wasCanceled();
+    };
+}
+
 }  // namespace
 
-ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context) : QObject(&window), context_(context) {
+ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context)
+    : QObject(&window), window_(window), context_(context) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
+    context_.gate.SetHandler(Command::BringIn, [this] { Choose(); });
     context_.gate.SetHandler(Command::PasteScans, [this] { Paste(*QGuiApplication::clipboard()); });
 }
 
@@ -86,7 +113,43 @@ void ScanIntake::CopyIn(const std::vector<std::string>& paths) {
             app::Panel::Message,
             "The clipboard holds no files. Copy scans or folders in a file manager first.");
     else
+        TakeIn(paths);
+}
+
+void ScanIntake::TakeIn(const std::vector<std::string>& paths) {
+    const commands::CopiedIn copied =
         commands::CopyScansIn(paths, context_.files, context_.person, context_.state.folders);
+    std::vector<intake::Source> sources;
+    for (const std::string& path : copied.filesOfPages)
+        sources.push_back({path});
+    if (!sources.empty())
+        BringIn(sources, copied.told);
+}
+
+void ScanIntake::Choose() {
+    const QStringList chosen = QFileDialog::getOpenFileNames(
+        &window_, "Bring In Scans", folder_,
+        "Scans (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp);;All Files (*)");
+    std::vector<std::string> paths;
+    for (const QString& path : chosen)
+        paths.push_back(FromQt(path));
+    if (paths.empty())
+        return;
+    folder_ = QFileInfo(chosen.front()).path();
+    CopyIn(paths);
+}
+
+void ScanIntake::BringInFurtherPages(recognition::ProcessRun& run) {
+    const auto sources = commands::FurtherPagesOf(run.Summary(), context_.files, context_.state.folders);
+    run.ForgetFurtherPages();
+    BringIn(sources);
+}
+
+void ScanIntake::BringIn(const std::vector<intake::Source>& sources, const std::string& told) {
+    const BusyCursor busy;
+    const std::string text = commands::BringPagesIn(sources, context_.files, context_.person,
+                                                    context_.state.folders, ProgressBox(window_));
+    context_.person.SetPanel(app::Panel::Message, told.empty() ? text : told + " " + text);
 }
 
 }  // namespace tavrene::ui

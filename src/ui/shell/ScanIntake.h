@@ -7,8 +7,10 @@
 
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "recognition/ProcessRun.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
+#include "ui/commands/PagesIn.h"
 
 class QClipboard;
 
@@ -22,11 +24,18 @@ struct IntakeContext {
     commands::CommandGate& gate;
 };
 
-/// The command `PasteScans`, of files, folders or a picture, and files and folders that are dropped anywhere
-/// on the window.
+/// The commands `BringIn` and `PasteScans` (files, folders or a picture), and files and folders that are dropped
+/// anywhere on the window.
 class ScanIntake final : public QObject {
   public:
     ScanIntake(QWidget& window, const IntakeContext& context);
+
+    /// Brings in pages of files, with a box that tells how far it is and can be cancelled. `told` stands
+    /// before what came of it.
+    void BringIn(const std::vector<intake::Source>& sources, const std::string& told = {});
+
+    /// The same with the pages that the last run did not look at.
+    void BringInFurtherPages(recognition::ProcessRun& run);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,9 +45,13 @@ class ScanIntake final : public QObject {
     void TakeWhenIdle(const std::vector<std::string>& paths);
 
     void Paste(const QClipboard& clipboard);
+    void Choose();
+    void TakeIn(const std::vector<std::string>& paths);
     void CopyIn(const std::vector<std::string>& paths);
 
+    QWidget& window_;
     IntakeContext context_;
+    QString folder_;  ///< From where files were chosen last.
 };
 
 }  // namespace tavrene::ui

@@ -43,8 +43,12 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     QVBoxLayout* const layout = FillingColumn(this);
     layout->addLayout(row);
     layout->addWidget(files_);
-    connect(text_, &QLabel::linkActivated, this,
-            [this](const QString& link) { ShowList(link == link_ ? QString() : link); });
+    connect(text_, &QLabel::linkActivated, this, [this](const QString& link) {
+        if (link == commands::kSplitLink)
+            split_();
+        else
+            ShowList(link == link_ ? QString() : link);
+    });
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     hide();
 }

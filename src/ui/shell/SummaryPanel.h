@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QFrame>
+#include <functional>
+#include <utility>
 
 #include "recognition/RunSummary.h"
 #include "ui/lists/ReasonList.h"
@@ -15,6 +17,9 @@ class SummaryPanel final : public QFrame {
   public:
     explicit SummaryPanel(QWidget* parent);
 
+    /// `split` is called when the person wants the pages that were not looked at.
+    void SetSplitter(std::function<void()> split) { split_ = std::move(split); }
+
     ReasonList& List() { return *files_; }
 
     /// Shows a run, with the list of what the person should look at first where there is such.
@@ -27,6 +32,7 @@ class SummaryPanel final : public QFrame {
     void ShowList(const QString& link);
 
     recognition::RunSummary summary_;
+    std::function<void()> split_;
     QString link_;  ///< Of the list that is shown.
     QLabel* text_;
     ReasonList* files_;

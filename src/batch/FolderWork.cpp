@@ -1,0 +1,156 @@
+#include "batch/FolderWork.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include "batch/IncomingWatch.h"
+#include "profiles/ProfileLoader.h"
+#include "results/CsvExport.h"
+
+namespace tavrene::batch {
+
+using app::FolderLock;
+using recognition::FileEnd;
+using std::chrono::steady_clock;
+
+FolderWork::FolderWork(const Options& options, const Surroundings& surroundings, app::Files& files,
+                       const app::Settings& settings)
+    : options_(options),
+      surroundings_(surroundings),
+      files_(files),
+      settings_(settings),
+      folders_(app::PathsUnder(settings.WorkDir)),
+      person_(surroundings.messages),
+      progress_(surroundings.out, options.json),
+      log_(files, clock_, person_, folders_.Log),
+      reading_{options.precise, false},
+      precise_(files, reading_),
+      lock_(settings.WorkDir) {
+    // They are about the window.
+    settings_.ProcessSingle = false;
+    settings_.DisplayDuringProcess = false;
+    person_.onRange = [this](int count) { progress_.Begin(count); };
+}
+
+Exit FolderWork::Do() {
+    if (options_.patience > 0)
+        return Share();
+    return options_.watch ? Watch() : ProcessOnce();
+}
+
+Exit FolderWork::ProcessOnce() {
+    return LockOrTell(FolderLock::Use::Alone) ? Process(folders_, {}, {}) : Exit::InUse;
+}
+
+// A signal is the only way to end this, so it ends well.
+Exit FolderWork::Watch() {
+    IncomingWatch watch(files_, folders_.ProcessIn);
+    for (; !surroundings_.stop; watch.Wait()) {
+        if (!LockOrTell(FolderLock::Use::Alone))
+            continue;
+        std::vector<std::string> ready = watch.Take(steady_clock::now());
+        const auto incoming = [&ready] { return std::exchange(ready, {}); };
+        if (!ready.empty() && Process(folders_, {}, incoming) == Exit::Failed)
+            return Exit::Failed;
+        // Between two lots the window may have the folder.
+        lock_.Release();
+    }
+    return Exit::Done;
+}
+
+// Nobody leaves before all is done, for each of the others may die and leave its files to this one.
+Exit FolderWork::Share() {
+    constexpr std::chrono::milliseconds kPause{200};
+    if (!LockOrTell(FolderLock::Use::Shared))
+        return Exit::InUse;
+    Claims claims(files_, folders_.ProcessIn, std::chrono::seconds(options_.patience));
+    Exit exit = Exit::Done;
+    while (!surroundings_.stop && exit != Exit::Failed) {
+        if (ShareNext(claims, exit))
+            continue;
+        if (!options_.watch && !claims.OthersWork())
+            break;
+        std::this_thread::sleep_for(kPause);
+    }
+    return surroundings_.stop ? Exit::Stopped : exit;
+}
+
+// False when there is nothing to do at the moment.
+bool FolderWork::ShareNext(Claims& claims, Exit& exit) {
+    constexpr std::size_t kLot = 8;
+    const std::size_t most = kLot * static_cast<std::size_t>(options_.jobs);
+    app::WorkingFolders folders = folders_;
+    folders.ProcessIn = claims.Folder();
+    Incoming incoming;
+    if (std::vector<std::string> lot = claims.Take(most); !lot.empty()) {
+        incoming = [lot = std::move(lot), &claims, most]() mutable {
+            std::vector<std::string> first = std::exchange(lot, {});
+            return first.empty() ? claims.Take(most) : first;
+        };
+    } else if (const auto claim = claims.TakeOver(steady_clock::now())) {
+        folders.ProcessIn = *claim;
+    } else {
+        claims.GiveBack(claims.Folder());
+        return false;
+    }
+    const Exit one = Process(folders, folders.ProcessIn, incoming);
+    exit = one == Exit::Done ? exit : one;
+    claims.GiveBack(folders.ProcessIn);
+    return true;
+}
+
+bool FolderWork::LockOrTell(FolderLock::Use use) {
+    const bool isLocked = lock_.Take(use);
+    if (!isLocked && !std::exchange(isWaiting_, true))
+        person_.ShowMessage(
+            "", (options_.watch ? "Waiting, for another program works on " : "Another program works on ") +
+                    settings_.WorkDir);
+    isWaiting_ = !isLocked;
+    return isLocked;
+}
+
+Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& staging,
+                         const Incoming& incoming) {
+    recognition::ProcessRun run({.files = files_,
+                                 .log = log_,
+                                 .person = person_,
+                                 .clock = clock_,
+                                 .page = screen_,
+                                 .rows = screen_,
+                                 .precise = &precise_,
+                                 .incoming = incoming,
+                                 .staging = staging,
+                                 .jobs = [this] { return options_.jobs; }},
+                                settings_, folders);
+    person_.onPendingEvents = [this, &run] {
+        progress_.Update(run.Summary());
+        if (surroundings_.stop)
+            run.Stop();
+    };
+    profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders.Profiles);
+    if (!run.MayStart(profiles_))
+        return Exit::Failed;
+    run.Run(profiles_);
+    progress_.End(run.Summary(), surroundings_.stop);
+    if (!options_.exportTo.empty())
+        Export();
+    if (surroundings_.stop)
+        return Exit::Stopped;
+    const std::size_t left = run.Summary().Count(FileEnd::Refused) + run.Summary().Count(FileEnd::NotWritten);
+    return left > 0 ? Exit::SomeLeft : Exit::Done;
+}
+
+void FolderWork::Export() {
+    const std::string folder = options_.exportTo + "/";
+    if (!files_.FolderExists(folder))
+        files_.CreateFolder(folder);
+    const results::Progress goOn = [](std::size_t, std::size_t) { return true; };
+    const auto found = results::ReadResults(files_, folders_.ProcessOut, goOn);
+    for (const results::LeftOut& document : found->Damaged)
+        person_.ReportFile(document.Document, document.Reason);
+    results::ExportCsv(files_, found->Tables, {}, folder, {}, goOn);
+}
+
+}  // namespace tavrene::batch

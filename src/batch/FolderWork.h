@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/ActivityLog.h"
+#include "app/Clock.h"
+#include "app/Files.h"
+#include "app/FolderLock.h"
+#include "app/Settings.h"
+#include "app/WorkingFolders.h"
+#include "batch/Batch.h"
+#include "batch/Claims.h"
+#include "batch/Console.h"
+#include "recognition/ProcessRun.h"
+
+namespace tavrene::batch {
+
+/// The work on one working folder: once, as long as nobody stops it, or together with others.
+class FolderWork {
+  public:
+    /// All must outlive this; of the settings the present values count.
+    FolderWork(const Options& options, const Surroundings& surroundings, app::Files& files,
+               const app::Settings& settings);
+
+    /// Throws `app::FileError` when the folder cannot be listed or a table not be written.
+    Exit Do();
+
+  private:
+    using Incoming = std::function<std::vector<std::string>()>;
+
+    Exit ProcessOnce();
+    Exit Watch();
+    Exit Share();
+    bool ShareNext(Claims& claims, Exit& exit);
+    bool LockOrTell(app::FolderLock::Use use);
+    Exit Process(const app::WorkingFolders& folders, const std::string& staging, const Incoming& incoming);
+    void Export();
+
+    const Options& options_;
+    const Surroundings& surroundings_;
+    app::Files& files_;
+    app::Settings settings_;
+    app::WorkingFolders folders_;
+    app::SystemClock clock_;
+    ConsoleOperator person_;
+    NoScreen screen_;
+    Progress progress_;
+    app::ActivityLog log_;
+    recognition::ReadingOptions reading_;
+    recognition::PreciseReader precise_;
+    app::FolderLock lock_;
+    std::vector<profiles::ProfileRecord> profiles_;
+    bool isWaiting_ = false;
+};
+
+}  // namespace tavrene::batch

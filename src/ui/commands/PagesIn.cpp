@@ -1,0 +1,44 @@
+#include "ui/commands/PagesIn.h"
+
+#include "app/Reason.h"
+#include "imaging/TiffHeader.h"
+#include "ui/commands/Counted.h"
+#include "ui/commands/Places.h"
+
+namespace tavrene::commands {
+
+bool HoldsPages(const app::Files& files, const std::string& path) {
+    const std::string extension = app::UpperCase(app::Extension(path));
+    int pages = extension == "PDF" ? 2 : 1;
+    // What cannot be read is told when it is to be copied.
+    if (extension == "TIF" || extension == "TIFF")
+        app::FailureOf([&] { pages = imaging::CountTiffPictures(files.Read(path)); });
+    return pages > 1;
+}
+
+std::string BringPagesIn(std::span<const intake::Source> sources, app::Files& files, app::Operator& person,
+                         const app::WorkingFolders& folders, const intake::Watch& watch) {
+    const intake::Report report = intake::BringIn(files, folders, sources, watch);
+    std::size_t pages = 0;
+    std::size_t taken = 0;
+    for (const intake::Outcome& file : report.files) {
+        pages += file.images.size();
+        if (!file.images.empty())
+            ++taken;
+        if (!file.reason.empty())
+            person.ReportFile(app::FileName(file.path), file.reason);
+    }
+    return Counted(pages, "page", "pages") + " of " + Counted(taken, "file", "files") +
+           " brought in to ProcessIn." + (report.isCancelled ? " The rest was cancelled." : "");
+}
+
+std::vector<intake::Source> FurtherPagesOf(const recognition::RunSummary& summary, const app::Files& files,
+                                           const app::WorkingFolders& folders) {
+    std::vector<intake::Source> sources;
+    for (const recognition::FileReport& file : summary.files)
+        if (file.furtherPages > 0)
+            sources.push_back({ImageInUse(files, folders, file.name), 2});
+    return sources;
+}
+
+}  // namespace tavrene::commands
