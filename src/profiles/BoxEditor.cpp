@@ -39,6 +39,14 @@ void MoveSides(std::int16_t& a, std::int16_t& b, int by, int extent) {
     b = static_cast<std::int16_t>(b + by);
 }
 
+// Moves the farther one of two opposite sides.
+void MoveFarSide(std::int16_t& a, std::int16_t& b, int by, int extent) {
+    const int last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
+    std::int16_t& farther = a > b ? a : b;
+    farther =
+        static_cast<std::int16_t>(std::clamp(farther + by, std::min(a, b) + 1, std::max<int>(farther, last)));
+}
+
 // From the top of the page down by the lower edge, and from left to right, as boxes that were found stand.
 bool StandsBefore(const OmrBox& a, const OmrBox& b) {
     return a.B != b.B ? a.B < b.B : a.L < b.L;
@@ -153,13 +161,25 @@ void BoxEditor::RectSelected(const RectReport& report) {
     screen_.rows.SelectRow(report.group);
     if (isDrawn || !HasSize(report) || !MayStore())
         return;
-    BoxEdit edit{report.group, Box(report.group), Box(report.group), profile_.Count, profile_.Count};
-    StoreCoordinates(report, *edit.after);
-    if (IsSamePlace(*edit.before, *edit.after))
+    OmrBox after = Box(report.group);
+    StoreCoordinates(report, after);
+    ChangePlace(report.group, after);
+}
+
+void BoxEditor::ChangePlace(int number, const OmrBox& after) {
+    if (IsSamePlace(Box(number), after))
         return;
-    Box(report.group) = *edit.after;
-    screen_.page.PutRect(report.group, PlaceOf(*edit.after), imaging::RectStyle::Editable);
+    BoxEdit edit{number, Box(number), after, profile_.Count, profile_.Count};
+    Box(number) = after;
+    screen_.page.PutRect(number, PlaceOf(after), imaging::RectStyle::Editable);
     Record(std::move(edit));
+}
+
+void BoxEditor::DrawBox(const imaging::PageRect& place) {
+    const int number = static_cast<int>(profile_.BoxList.size()) + 1;
+    if (MayStore() &&
+        AddDrawnBox(imaging::ReportOf(number, place, screen_.page.Zoom(), screen_.page.Scroll())))
+        Select(number);
 }
 
 // Counts `number` up behind the first one that names no box: a saved profile is numbered anew, so a box may
@@ -249,15 +269,21 @@ void BoxEditor::Nudge(int dx, int dy) {
     const int number = profile_.CurrentBox;
     if (!MayStore() || !IsKept(profile_, number))
         return;
-    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
-    OmrBox& box = *edit.after;
+    OmrBox box = Box(number);
     MoveSides(box.L, box.R, dx, profile_.ImageWidth);
     MoveSides(box.T, box.B, dy, profile_.ImageHeight);
-    if (IsSamePlace(*edit.before, box))
+    ChangePlace(number, box);
+    Select(number);
+}
+
+void BoxEditor::Stretch(int dx, int dy) {
+    const int number = profile_.CurrentBox;
+    if (!MayStore() || !IsKept(profile_, number))
         return;
-    Box(number) = box;
-    Record(std::move(edit));
-    screen_.page.PutRect(number, PlaceOf(Box(number)), imaging::RectStyle::Editable);
+    OmrBox box = Box(number);
+    MoveFarSide(box.L, box.R, dx, profile_.ImageWidth);
+    MoveFarSide(box.T, box.B, dy, profile_.ImageHeight);
+    ChangePlace(number, box);
     Select(number);
 }
 

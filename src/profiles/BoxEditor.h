@@ -43,6 +43,13 @@ class BoxEditor {
     /// Moves the current box by whole pixels of the image, to the right and down, but not off the page.
     void Nudge(int dx, int dy);
 
+    /// Moves the right and the lower side of the current box alone; it keeps a width and height of at least
+    /// one pixel and stays on the page.
+    void Stretch(int dx, int dy);
+
+    /// Puts a box at a place of the page, as if it had been drawn there, whatever the tool.
+    void DrawBox(const imaging::PageRect& place);
+
     void Undo();
     void Redo();
     bool CanUndo() const { return profile_.IsOpen && history_.CanStepBack(); }
@@ -58,6 +65,7 @@ class BoxEditor {
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
     bool MayStore() const { return profile_.IsOpen; }
     bool AddDrawnBox(const imaging::RectReport& report);
+    void ChangePlace(int number, const OmrBox& after);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
     std::string FreeName(int& number) const;
     void TakeList(const std::vector<OmrBox>& list, std::int16_t count);

@@ -22,6 +22,7 @@ enum class Command {
     RejectForm,
     SelectBox,
     AddBox,
+    PutBox,
     DeleteBox,
     RenameBox,
     Undo,

@@ -120,6 +120,19 @@ QRectF BoxLayer::Moved(const QRectF& place, const QPointF& by) const {
                                        std::max(0.0, room.bottom() - place.bottom())));
 }
 
+QRectF BoxLayer::FreePlace(const QPointF& centre, const QSizeF& size) const {
+    constexpr double kStep = 1.5;
+    const QRectF room = Room();
+    QRectF place({std::round(centre.x() - size.width() / 2), std::round(centre.y() - size.height() / 2)},
+                 size);
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - size.width())));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - size.height())));
+    const QPointF step(0, std::round(kStep * size.height()));
+    while (HasBoxUnder(place.center()) && place.bottom() + step.y() <= room.bottom())
+        place.translate(step);
+    return place;
+}
+
 int BoxLayer::BoxAt(const QPointF& point) const {
     const double nearby = kNearby / Scale();
     int found = 0;

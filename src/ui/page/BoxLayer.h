@@ -49,6 +49,10 @@ class BoxLayer final {
     /// How many pixels of the screen one pixel of the page takes.
     double Scale() const;
 
+    /// Where a box of this size goes that is to stand around a point: on whole pixels of the page, and below
+    /// whatever stands there already, as long as there is room.
+    QRectF FreePlace(const QPointF& centre, const QSizeF& size) const;
+
     /// The point on whole pixels of the page.
     QPointF Snapped(const QPointF& point, const QRectF& place = {}) const;
 

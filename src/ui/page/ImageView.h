@@ -68,9 +68,14 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool();
 
-    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; when it does
-    /// not take one, the view scrolls.
-    void SetArrowHandler(std::function<bool(int dx, int dy)> handler) { takeArrow_ = std::move(handler); }
+    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; with Ctrl
+    /// they are to stretch what they move without it. When it does not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(int dx, int dy, bool stretches)> handler) {
+        takeArrow_ = std::move(handler);
+    }
+
+    /// The middle of what is in sight, in the page frame.
+    QPointF Centre() const { return mapToScene(viewport()->rect().center()); }
 
     /// A zoom of the person's own, which ends following; in and out by the steps of the zoom commands,
     /// nothing without a page.
@@ -114,7 +119,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     PageItem* page_;
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
-    std::function<bool(int, int)> takeArrow_;
+    std::function<bool(int, int, bool)> takeArrow_;
     std::function<void(double)> zoomed_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;

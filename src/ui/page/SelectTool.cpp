@@ -9,8 +9,9 @@
 namespace tavrene::ui {
 // Handles stand out of their box, on dense forms over its neighbours, and give way to them.
 unsigned SelectTool::EdgesUnder(const QPointF& point) const {
-    const QRectF selected = layer_.PlaceOf(layer_.SelectedBox());
-    if (selected.isNull())
+    const int group = layer_.SelectedBox();
+    const QRectF selected = layer_.PlaceOf(group);
+    if (selected.isNull() || !layer_.IsEditable(group))
         return kNoEdge;
     const bool isOverNeighbour = !selected.contains(point) && layer_.HasBoxUnder(point);
     return isOverNeighbour ? kNoEdge : EdgesAt(selected, layer_.Scale(), point);
@@ -21,6 +22,7 @@ void SelectTool::Press(const QPointF& point) {
     const int group = edges_ != kNoEdge ? layer_.SelectedBox() : layer_.BoxAt(point);
     if (group == 0)
         return;
+    // What is told may fill the page anew.
     const bool canMove = layer_.IsEditable(group);
     if (edges_ == kNoEdge)
         layer_.TellSelected(group, layer_.PlaceOf(group));

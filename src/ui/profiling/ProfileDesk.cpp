@@ -54,6 +54,7 @@ void ProfileDesk::ConnectCommands() {
 void ProfileDesk::ConnectBoxCommands() {
     gate_.SetHandler(Command::SelectBox, [this] { session_.Editor().SetTool(BoxTool::Select); });
     gate_.SetHandler(Command::AddBox, [this] { session_.Editor().SetTool(BoxTool::Add); });
+    gate_.SetHandler(Command::PutBox, [this] { PutBox(); });
     gate_.SetHandler(Command::DeleteBox, [this] { session_.Editor().DeleteBox(); });
     gate_.SetHandler(
         Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().CurrentBox); },
@@ -62,6 +63,19 @@ void ProfileDesk::ConnectBoxCommands() {
         Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
     gate_.SetHandler(
         Command::Redo, [this] { session_.Editor().Redo(); }, [this] { return session_.Editor().CanRedo(); });
+}
+
+// Of the size of the selected box, or of what is looked for on a page; the arrow keys are to take it further.
+void ProfileDesk::PutBox() {
+    const BoxLayer& boxes = controls_.view.Boxes();
+    const app::Settings& sizes = state_.settings;
+    const QSize usual =
+        (QSize(sizes.BoxMinWidth, sizes.BoxMinHeight) + QSize(sizes.BoxMaxWidth, sizes.BoxMaxHeight)) / 2;
+    const QRectF selected = boxes.PlaceOf(session_.Profile().CurrentBox);
+    const QRectF place =
+        boxes.FreePlace(controls_.view.Centre(), selected.isEmpty() ? QSizeF(usual) : selected.size());
+    session_.Editor().DrawBox({place.left(), place.top(), place.width(), place.height()});
+    controls_.view.setFocus();
 }
 
 void ProfileDesk::ConnectControls() {
@@ -88,10 +102,12 @@ void ProfileDesk::ConnectControls() {
                 gate_.Run(Command::DeleteBox);
             },
             Qt::WidgetWithChildrenShortcut);
-    controls_.view.SetArrowHandler([this](int dx, int dy) {
+    controls_.view.SetArrowHandler([this](int dx, int dy, bool stretches) {
+        profiles::BoxEditor& editor = session_.Editor();
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)
-            gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); });
+            gate_.Take(Command::EditBoxes,
+                       [&] { stretches ? editor.Stretch(dx, dy) : editor.Nudge(dx, dy); });
         return isTaken;
     });
     controls_.pane.Strip().SetListener(

@@ -64,6 +64,7 @@ class ProfileDesk {
     void ConnectCommands();
     void ConnectBoxCommands();
     void ConnectControls();
+    void PutBox();
     void Pick(int thumbnail);
     bool CanEdit() const { return session_.IsOpen(); }
     bool HasBox() const { return session_.Profile().CurrentBox != 0; }

@@ -63,12 +63,11 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
               {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),
-      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_},
-               [this] { review_.Refill(); }),
+      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_}),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }),
-      shape_(*this, {context.store, *view_, toolbars_}) {
+      shape_(*this, {context.store, *view_, toolbars_, {&summary_->List(), &forms_->Unread().List()}}) {
     setObjectName("frmTavrene");
     BuildLayout();
     ConnectViewCommands();
@@ -198,20 +197,35 @@ void MainWindow::ConnectSummary() {
     for (ReasonList* const list : {&summary_->List(), &forms_->Unread().List()})
         list->SetListener(
             [this](const ReasonRow& file) { gate_.Take(Command::PickFile, [&] { ShowFile(file); }); });
+    // Once the list that is being filled is whole.
+    connect(&forms_->Unread().List(), &QTreeWidget::itemSelectionChanged, this, &MainWindow::OfferCommands,
+            Qt::QueuedConnection);
     forms_->Unread().SetListener([this](Command command) { RunCommand(command); });
     gate_.SetHandler(Command::ProcessUnread, [this] { ProcessUnread(); });
 }
 
 void MainWindow::AddContextMenus() {
-    const auto add = [this](QAbstractItemView& list, std::initializer_list<Command> offered) {
+    const auto add = [this](QAbstractScrollArea& area, ContextMenu::Target target,
+                            std::initializer_list<Command> offered) {
         QList<QAction*> actions;
         for (const Command command : offered)
             actions += toolbars_.ActionOf(command);
-        new ContextMenu(list, actions);
+        new ContextMenu(area, std::move(target), actions);
     };
-    add(profiles_->Strip(), {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
-    add(forms_->List(), {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
-    add(*boxes_, {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful});
+    const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful};
+    ReasonList& unread = forms_->Unread().List();
+    add(profiles_->Strip(), ClickedLine(profiles_->Strip()),
+        {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
+    add(forms_->List(), ClickedLine(forms_->List()),
+        {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
+    add(*boxes_, SelectedLine(*boxes_), ofBox);
+    add(*view_, BoxOnPage(*view_, *boxes_), ofBox);
+    const auto offered = [this, line = SelectedLine(unread)](const QContextMenuEvent& asked) {
+        const std::optional<QPoint> place = line(asked);
+        OfferCommands();
+        return place;
+    };
+    add(unread, offered, {Command::BackToProcessIn, Command::AllBackToProcessIn, Command::ProcessUnread});
 }
 
 // What cannot be processed stays where the list of unread pages shows it.
@@ -229,6 +243,7 @@ void MainWindow::ShowFile(const ReasonRow& file) {
     view_->ShowFile(commands::ImageInUse(context_.files, state_.folders, file.name));
     const app::Notice notice{file.name + ": " + file.reason};
     operator_.ShowNotices({&notice, 1});
+    fileMode_ = CurrentMode();
     // What the notice leaves of the room is known only once the window is laid out.
     QTimer::singleShot(0, view_, [view = view_] { view->FitPage(); });
 }
@@ -242,11 +257,18 @@ void MainWindow::RunCommand(Command command) {
     gate_.Run(command);
 }
 
-void MainWindow::UpdateCommands() {
-    const commands::Mode mode = CurrentMode();
-    toolbars_.Update([this, mode](Command command) {
+void MainWindow::OfferCommands() {
+    toolbars_.Update([this, mode = CurrentMode()](Command command) {
         return ButtonState{gate_.Offers(command), commands::IsShownIn(command, mode)};
     });
+}
+
+void MainWindow::UpdateCommands() {
+    OfferCommands();
+    if (fileMode_ && *fileMode_ != CurrentMode()) {
+        operator_.ShowNotices({});
+        fileMode_.reset();
+    }
     desk_.Update();
     review_.Update();
     ShowTitle();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <optional>
 #include <string>
 
 #include "app/ActivityLog.h"
@@ -61,6 +62,7 @@ class MainWindow final : public QMainWindow {
     void RunBegins();
     void RunEnded();
     void RunCommand(commands::Command command);
+    void OfferCommands();
     void UpdateCommands();
     void ShowTitle();
     void ConnectSummary();
@@ -97,6 +99,7 @@ class MainWindow final : public QMainWindow {
     commands::RunSession runs_;
     Toolbars toolbars_;
     WindowShape shape_;
+    std::optional<commands::Mode> fileMode_;  ///< While a file is shown by itself, with the notice about it.
 };
 
 }  // namespace tavrene::ui

@@ -37,8 +37,8 @@ Commands AllBut(const Commands& some) {
 
 const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
-const Commands kBoxes = {C::SelectBox, C::AddBox,        C::DeleteBox, C::RenameBox, C::Undo,
-                         C::Redo,      C::FindMoreBoxes, C::EditBoxes, C::SetActive};
+const Commands kBoxes = {C::SelectBox, C::AddBox, C::PutBox,        C::DeleteBox, C::RenameBox,
+                         C::Undo,      C::Redo,   C::FindMoreBoxes, C::EditBoxes, C::SetActive};
 const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm, C::PickForm,
                          C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
@@ -66,7 +66,6 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Process, Prompts::ProfileThenForm},
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
-                                                {C::ExportResults, Prompts::Form},
                                                 {C::UndoDecision, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
