@@ -6,10 +6,12 @@
 #include <utility>
 
 #include "review/ReviewScreen.h"
+#include "ui/reviewing/ShownLines.h"
 
 namespace tavrene::ui {
 
-/// The review list `lvwReview`: a tick, the form's name and the confidence. A click on a line or Enter opens
+/// The review list `lvwReview`: a tick, the form's name, its doubts and confidence; a click on a header sorts
+/// it, and back into the folder's order in the end. A click on a line or Enter opens
 /// it; moving the selection does not. A double click is a click.
 class ReviewListView final : public QTreeView, public review::ReviewLines {
   public:
@@ -24,6 +26,13 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void ChangeLine(std::size_t index, const review::ReviewLine& line) override;
     void RemoveLine(std::size_t index) override;
     void SelectLine(std::size_t index) override;
+    std::optional<std::size_t> Beside(std::optional<std::size_t> index, int step) const override;
+
+    /// Shows only some of the lines, and that of the open form.
+    void SetFilter(FormFilter filter);
+
+    /// Whether the filter lets a line through by itself.
+    bool Wants(std::size_t line) const;
 
     /// The current line, counted from 0.
     std::optional<std::size_t> SelectedLine() const;
@@ -40,11 +49,11 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    class Lines;
-
+    void LayOutColumns();
     void TellOpened(const QModelIndex& index);
 
-    Lines* lines_;
+    ReviewTable* lines_;
+    ShownLines* shown_;
     Opened opened_;
 };
 

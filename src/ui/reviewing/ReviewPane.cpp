@@ -57,6 +57,7 @@ void ReviewChoice::keyPressEvent(QKeyEvent* event) {
 
 ReviewPane::ReviewPane(QWidget* parent)
     : QFrame(parent),
+      filter_(new FilterBar(this)),
       list_(new ReviewListView(this)),
       choice_(new ReviewChoice(this)),
       unread_(new UnreadPane(this)),
@@ -69,7 +70,9 @@ ReviewPane::ReviewPane(QWidget* parent)
     auto* const layout = new QVBoxLayout(forms);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    layout->addWidget(filter_);
     layout->addWidget(list_, 1);
+    filter_->SetListener([this](FormFilter filter) { list_->SetFilter(std::move(filter)); });
     auto* const below = new QVBoxLayout;
     below->setContentsMargins(10, 8, 10, 10);
     auto* const title = new QLabel("Read a&gainst profile:", this);
@@ -87,6 +90,18 @@ ReviewPane::ReviewPane(QWidget* parent)
 void ReviewPane::ShowUnread(const std::vector<review::UnreadPage>& pages) {
     unread_->Show(pages);
     tabs_->setTabText(1, pages.empty() ? "Not read" : QString("Not read (%1)").arg(pages.size()));
+}
+
+void ReviewPane::ShowFilter() {
+    ShowForms();
+    filter_->TakeFocus();
+}
+
+void ReviewPane::OfferProfiles() {
+    QStringList names;
+    for (int k = 0; k < choice_->count(); ++k)
+        names.append(choice_->itemText(k));
+    filter_->OfferProfiles(names);
 }
 
 void ReviewPane::ShowForms() {
