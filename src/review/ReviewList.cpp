@@ -90,6 +90,10 @@ bool ReviewList::CountNext() {
     return false;
 }
 
+bool ReviewList::IsCounted() const {
+    return std::ranges::none_of(lines_, [this](const ReviewLine& line) { return IsUncounted(line); });
+}
+
 int ReviewList::CountOf(std::size_t line) {
     if (IsUncounted(lines_.at(line)))
         Count(line);

@@ -46,6 +46,12 @@ class ReviewList {
     /// read.
     bool CountNext();
 
+    /// Whether the doubts of a line's form are not known, but can be.
+    bool IsUncounted(const ReviewLine& line) const;
+
+    /// Whether there is no such form.
+    bool IsCounted() const;
+
     /// The number of boxes in doubt of the form of a line, which is read when that is not known; 0 of a
     /// reviewed form, and of one that cannot be read.
     int CountOf(std::size_t line);
@@ -69,7 +75,6 @@ class ReviewList {
     bool IsCurrent(const Entry& entry) const;
     void ShowDifference(const std::vector<ReviewLine>& wanted);
     void RemoveAt(std::size_t index);
-    bool IsUncounted(const ReviewLine& line) const;
     void Count(std::size_t line);
     std::optional<int> KnownDoubts(const Entry& entry);
     Entry& EntryOf(const ReviewLine& line);

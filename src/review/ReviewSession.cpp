@@ -163,7 +163,10 @@ bool ReviewSession::NextDoubt(int row) {
         }
     }
     if (next == 0)
-        context_.person.SetPanel(Panel::Message, "No form of the list has a box in doubt.");
+        context_.person.SetPanel(Panel::Message,
+                                 list_.IsCounted()
+                                     ? "No form of the list has a box in doubt."
+                                     : "No box in doubt was found yet; forms are still being looked at.");
     return ShowDoubt(next);
 }
 
@@ -175,15 +178,19 @@ bool ReviewSession::ShowDoubt(int row) {
     return true;
 }
 
-// From below the open form round the end of the list.
+// From below the open form round the end of the list. So many forms that are not counted are read on the way
+// that the person need not wait long; the others are being counted meanwhile.
 std::optional<std::size_t> ReviewSession::NextInDoubt() {
+    constexpr int kMostCounted = 100;
     const std::optional<std::size_t> open = OpenLine();
     std::optional<std::size_t> line = context_.lines.Beside(open, 1);
-    for (std::size_t tries = 0; tries < list_.Lines().size(); ++tries) {
+    int counted = 0;
+    for (std::size_t tries = 0; tries < list_.Lines().size() && counted < kMostCounted; ++tries) {
         if (!line)
             line = context_.lines.Beside(std::nullopt, 1);
         if (!line || line == open)
             return std::nullopt;
+        counted += list_.IsUncounted(list_.Lines()[*line]) ? 1 : 0;
         if (list_.CountOf(*line) > 0 && form_.OpensUnasked(list_.Lines()[*line].Document))
             return line;
         line = context_.lines.Beside(line, 1);

@@ -456,6 +456,11 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     }
     Open(2);
     Do([this] { review_.NextDoubt(0); });
+    EXPECT_EQ(review_.Form()->Document, "d.xml") << "the next form that has any";
+    EXPECT_EQ(transcript_.LinesOf("look at: "), Names{"2"});
+    Okay();
+    Open(2);
+    Do([this] { review_.NextDoubt(0); });
     EXPECT_EQ(transcript_.Lines(), Names{"panel Message: No form of the list has a box in doubt."});
 }
 

@@ -10,9 +10,9 @@
 
 namespace tavrene::ui {
 
-/// The review list `lvwReview`: a tick, the form's name, its doubts and confidence; a click on a header sorts
-/// it, and back into the folder's order in the end. A click on a line or Enter opens
-/// it; moving the selection does not. A double click is a click.
+/// The review list `lvwReview`: a tick, the form's name, its doubts, the confidence and more. A click on a
+/// header sorts it, a third one puts it back into the folder's order. A click on a line or Enter opens it;
+/// moving the selection does not. A double click is a click.
 class ReviewListView final : public QTreeView, public review::ReviewLines {
   public:
     using Opened = std::function<void(std::size_t line)>;

@@ -101,10 +101,13 @@ void ReviewMode::ConnectDecisions() {
         Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); }, isHighlighted);
     gate_.SetHandler(
         Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); }, isHighlighted);
-    connect(controls_.pane.List().selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+    const auto followSelection = [this] {
         if (!gate_.IsBusy() && session_.HasForm())
-            gate_.Guard([] {});  // the buttons follow
-    });
+            gate_.Guard([] {});  // what is offered follows every event
+    };
+    // Not at once, for the list itself is brought up to date then.
+    connect(controls_.pane.List().selectionModel(), &QItemSelectionModel::currentChanged, this,
+            followSelection, Qt::QueuedConnection);
 }
 
 void ReviewMode::ConnectFormCommands() {
@@ -204,7 +207,10 @@ void ReviewMode::GoOn() {
 
 // Who saves a form and still has it in the list may mean to decide about it next.
 void ReviewMode::Save() {
-    if (session_.Save() && !controls_.pane.List().Wants(*session_.OpenLine()))
+    if (!session_.Save())
+        return;
+    const std::optional<std::size_t> line = session_.OpenLine();
+    if (line && !controls_.pane.List().Wants(*line))
         GoOn();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/reviewing/ReviewTable.h"
 
+#include <QSize>
 #include <utility>
 
 #include "ui/base/QtText.h"
