@@ -59,6 +59,7 @@ class Nobody final : public app::Operator,
     void RemoveRect(int) override {}
     void ClearRects() override {}
     void Emphasise(int) override {}
+    void ShowLarge(int) override {}
     void SetTool(imaging::BoxTool, int) override {}
     void ClearRows(profiles::BoxColumns) override {}
     void PutRow(int, const profiles::BoxRow&) override {}

@@ -50,6 +50,9 @@ class PageScreen {
     /// Makes the rectangle of a group the only one that stands out and brings it into view; 0 leaves none.
     virtual void Emphasise(int group) = 0;
 
+    /// The same, and so near that what is in the rectangle can be judged.
+    virtual void ShowLarge(int group) = 0;
+
     /// Sets what the left button does while boxes can be edited. `nextGroup` is the group of the next
     /// rectangle that is drawn.
     virtual void SetTool(BoxTool tool, int nextGroup) = 0;

@@ -157,13 +157,12 @@ std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& profi
     return groups ? *std::move(groups) : GroupsByName(names);
 }
 
-std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& folder,
-                               const ProfileRecord& profile) {
-    const std::vector<std::string> names = NamesOf(profile);
+std::vector<BoxGroup> GroupsOrNone(const app::Files& files, const std::string& profilePath,
+                                   std::span<const std::string> names) {
     try {
-        return GroupsOf(files, folder + profile.FileName, names);
+        return GroupsOf(files, profilePath, names);
     } catch (const std::runtime_error&) {
-        return GroupsByName(names);
+        return {};
     }
 }
 

@@ -45,10 +45,9 @@ std::vector<BoxGroup> GroupsByName(std::span<const std::string> names);
 std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& profilePath,
                                std::span<const std::string> names);
 
-/// The same for a loaded profile of the folder (path ending in a separator). A file that cannot be read
-/// counts as none: it must not keep a form away.
-std::vector<BoxGroup> GroupsOf(const app::Files& files, const std::string& folder,
-                               const ProfileRecord& profile);
+/// The same where a file that cannot be read must keep no form away: it counts as none.
+std::vector<BoxGroup> GroupsOrNone(const app::Files& files, const std::string& profilePath,
+                                   std::span<const std::string> names);
 
 /// The names of a profile's boxes, in its order.
 std::vector<std::string> NamesOf(const ProfileRecord& profile);

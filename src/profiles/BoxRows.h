@@ -11,8 +11,9 @@ enum class BoxColumns { Name, NameVal, NameValInk };
 struct BoxRow {
     std::string name;
     std::string val = {};
-    std::string ink = {};    ///< Empty where it is not known.
-    std::string doubt = {};  ///< Why the box should be looked at: the row stands out. Empty for no reason.
+    std::string ink = {};      ///< Empty where it is not known.
+    bool isCorrected = false;  ///< A person has turned the mark round: the ink says otherwise.
+    std::string doubt = {};    ///< Why the box should be looked at: the row stands out. Empty for no reason.
 };
 
 /// The box list of the screen (`lvwSettings`): one row a box, in the order of the boxes' numbers, from 1. No

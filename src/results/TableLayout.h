@@ -7,15 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "profiles/BoxGroups.h"
 #include "results/ResultTable.h"
 
 namespace tavrene::results {
 
-/// Boxes that answer one question together, by their names.
-struct BoxGroup {
-    std::string Name;
-    std::vector<std::string> Boxes;
-};
+using profiles::BoxGroup;
 
 /// The groups of each profile, by its name. A box that is in none has a column of its own.
 using GroupsOfProfiles = std::map<std::string, std::vector<BoxGroup>>;

@@ -76,7 +76,9 @@ std::optional<FormDoubts> DoubtFinder::Read(const FormOnDisk& form, const Profil
         return std::nullopt;
     OpenForm open;
     open.Result = recognition::ResultDocument::Load(files_, folders_.ProcessOut + form.Document);
-    TakeDocument(open, profile, profiles::GroupsOf(files_, folders_.Profiles, profile));
+    TakeDocument(
+        open, profile,
+        profiles::GroupsOrNone(files_, folders_.Profiles + profile.FileName, profiles::NamesOf(profile)));
     FindLostShifts(open, *page, settings_.FillThreshold, precise_);
     MeasureForm(open, page, settings_.FillThreshold, precise_);
     FormDoubts doubts;

@@ -165,7 +165,10 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
     const BoxDoubts doubts = DoubtsAbout(form, *page, measures, marks, fillThreshold, precise);
     for (std::size_t k = 0; k < marks.size(); ++k) {
         if (marks[k])
-            form.Boxes[*marks[k]] = {measures[k].rect, measures[k].fill, doubts[k]};
+            form.Boxes[*marks[k]] = {
+                measures[k].rect, measures[k].fill,
+                measures[k].fill ? std::optional(*measures[k].fill >= fillThreshold) : std::nullopt,
+                doubts[k]};
         else
             form.SkippedRects.push_back(measures[k].rect);
     }
@@ -226,6 +229,25 @@ std::vector<std::string> CorrectionsOf(const OpenForm& form) {
             lines.push_back(start + "box [" + before[k].Name +
                             (before[k].Checked ? "] from 1 to 0" : "] from 0 to 1"));
     return lines;
+}
+
+int RowInGroup(const OpenForm& form, int row, int n) {
+    const auto count = static_cast<int>(form.Marks.size());
+    const auto nameOf = [&form](int of) -> const std::string& {
+        return form.Marks[static_cast<std::size_t>(of) - 1].Name;
+    };
+    const auto holds = [](const profiles::BoxGroup& group, const std::string& name) {
+        return std::ranges::find(group.Boxes, name) != group.Boxes.end();
+    };
+    const auto group = std::ranges::find_if(form.Groups, [&](const profiles::BoxGroup& each) {
+        return row >= 1 && row <= count && holds(each, nameOf(row));
+    });
+    int left = n;
+    for (int next = 1; next <= count; ++next)
+        if (group == form.Groups.end() || holds(*group, nameOf(next)))
+            if (--left == 0)
+                return next;
+    return 0;
 }
 
 int CountChecked(const OpenForm& form) {

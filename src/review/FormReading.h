@@ -37,6 +37,10 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
 /// one for every box that was turned round, with what it was and what it is now.
 std::vector<std::string> CorrectionsOf(const OpenForm& form);
 
+/// The row (from 1) of the n-th box of the group that the box of `row` belongs to; of a box without a group,
+/// and outside the rows, the n-th row of all. 0 where there is none.
+int RowInGroup(const OpenForm& form, int row, int n);
+
 /// The number of checked marks.
 int CountChecked(const OpenForm& form);
 

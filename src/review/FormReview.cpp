@@ -28,6 +28,11 @@ const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
     return found == profiles_.end() ? nullptr : &*found;
 }
 
+std::vector<profiles::BoxGroup> FormReview::GroupsOf(const ProfileRecord& profile) const {
+    return profiles::GroupsOrNone(context_.files, folders_.Profiles + profile.FileName,
+                                  profiles::NamesOf(profile));
+}
+
 void FormReview::Open(const std::string& document) {
     form_.reset();
     context_.person.ShowNotices({});
@@ -60,7 +65,7 @@ bool FormReview::Prepare(OpenForm& form) {
     const ProfileRecord* const profile = FindProfile(form.Result.Profile());
     if (profile == nullptr)
         return KeepWithoutProfile(form);
-    TakeDocument(form, *profile, profiles::GroupsOf(context_.files, folders_.Profiles, *profile));
+    TakeDocument(form, *profile, GroupsOf(*profile));
     if (page_)
         FindLostShifts(form, *page_, settings_.FillThreshold, context_.precise);
     MeasureForm(form, page_ ? &*page_ : nullptr, settings_.FillThreshold, context_.precise);
@@ -171,8 +176,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
     if (!page_ || !MayOverwrite(form))
         return false;
     OpenForm read =
-        ReadForm(form, *page_, profile, profiles::GroupsOf(context_.files, folders_.Profiles, profile),
-                 settings_.FillThreshold, context_.precise);
+        ReadForm(form, *page_, profile, GroupsOf(profile), settings_.FillThreshold, context_.precise);
     read.Result.Save(context_.files, PathOf(form));
     read.Fingerprint = context_.files.Fingerprint(PathOf(form));
     form = std::move(read);

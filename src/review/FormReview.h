@@ -60,6 +60,7 @@ class FormReview {
 
   private:
     const profiles::ProfileRecord* FindProfile(const std::string& name) const;
+    std::vector<profiles::BoxGroup> GroupsOf(const profiles::ProfileRecord& profile) const;
     bool Prepare(OpenForm& form);
     bool KeepWithoutProfile(OpenForm& form);
     bool SettleDifferences(OpenForm& form);

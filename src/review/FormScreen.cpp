@@ -62,7 +62,7 @@ void FormScreen::PutBox(const OpenForm& form, int number) {
     const auto k = static_cast<std::size_t>(number) - 1;
     const ResultMark& mark = form.Marks[k];
     const FormBox& box = form.Boxes[k];
-    context_.rows.PutRow(number, {mark.Name, ValOf(mark), InkText(box),
+    context_.rows.PutRow(number, {mark.Name, ValOf(mark), InkText(box), box.read == !mark.Checked,
                                   box.doubt ? std::string(TextOf(*box.doubt)) : std::string()});
     if (box.rect)
         context_.page.PutRect(number, *box.rect, StyleOf(mark));

@@ -17,6 +17,7 @@ namespace tavrene::review {
 struct FormBox {
     std::optional<imaging::PageRect> rect;  ///< None where the profile or the image does not tell its place.
     std::optional<double> ink;              ///< Percent, as measured at opening.
+    std::optional<bool> read;               ///< The mark that this ink makes.
     std::optional<DoubtReason> doubt;       ///< Why it should be looked at, as far as was known then.
 };
 

@@ -80,22 +80,39 @@ const FormDoubts* ReviewList::DoubtsOf(std::size_t line) {
 }
 
 bool ReviewList::CountNext() {
-    const auto line = std::ranges::find_if(lines_, [this](const ReviewLine& next) {
-        return !next.Doubts && !next.Reviewed && !uncountable_.contains(next.Document);
-    });
-    if (line == lines_.end()) {
-        doubts_.Keep();
-        return false;
+    for (std::size_t line = 0; line < lines_.size(); ++line) {
+        if (IsUncounted(lines_[line])) {
+            Count(line);
+            return true;
+        }
     }
-    Entry& entry = EntryOf(*line);
+    doubts_.Keep();
+    return false;
+}
+
+bool ReviewList::IsCounted() const {
+    return std::ranges::none_of(lines_, [this](const ReviewLine& line) { return IsUncounted(line); });
+}
+
+int ReviewList::CountOf(std::size_t line) {
+    if (IsUncounted(lines_.at(line)))
+        Count(line);
+    return lines_[line].Doubts.value_or(0);
+}
+
+bool ReviewList::IsUncounted(const ReviewLine& line) const {
+    return !line.Doubts && !line.Reviewed && !uncountable_.contains(line.Document);
+}
+
+void ReviewList::Count(std::size_t line) {
+    Entry& entry = EntryOf(lines_[line]);
     const FormDoubts* const found = doubts_.Find(OnDisk(entry));
     if (found == nullptr) {
-        uncountable_.insert(line->Document);
-        return true;
+        uncountable_.insert(entry.document);
+        return;
     }
-    line->Doubts = entry.line->Doubts = static_cast<int>(found->size());
-    context_.side.lines.ChangeLine(static_cast<std::size_t>(line - lines_.begin()), *line);
-    return true;
+    lines_[line].Doubts = entry.line->Doubts = static_cast<int>(found->size());
+    context_.side.lines.ChangeLine(line, lines_[line]);
 }
 
 bool ReviewList::IsCurrent(const Entry& entry) const {

@@ -46,6 +46,16 @@ class ReviewList {
     /// read.
     bool CountNext();
 
+    /// Whether the doubts of a line's form are not known, but can be.
+    bool IsUncounted(const ReviewLine& line) const;
+
+    /// Whether there is no such form.
+    bool IsCounted() const;
+
+    /// The number of boxes in doubt of the form of a line, which is read when that is not known; 0 of a
+    /// reviewed form, and of one that cannot be read.
+    int CountOf(std::size_t line);
+
     /// What is in doubt of the form of a line; null while it is not known.
     const FormDoubts* DoubtsOf(std::size_t line);
 
@@ -65,6 +75,7 @@ class ReviewList {
     bool IsCurrent(const Entry& entry) const;
     void ShowDifference(const std::vector<ReviewLine>& wanted);
     void RemoveAt(std::size_t index);
+    void Count(std::size_t line);
     std::optional<int> KnownDoubts(const Entry& entry);
     Entry& EntryOf(const ReviewLine& line);
     FormOnDisk OnDisk(const Entry& entry) const;

@@ -27,7 +27,8 @@ struct ReviewLine {
     bool operator==(const ReviewLine&) const = default;
 };
 
-/// The review list (`lvwReview`). Lines are counted from 0 and stand in the order given.
+/// The review list (`lvwReview`). Lines are counted from 0 in the order given; the person may have them shown
+/// in another one, and some not at all.
 class ReviewLines {
   public:
     virtual ~ReviewLines() = default;
@@ -41,6 +42,10 @@ class ReviewLines {
 
     /// Makes it the current line and brings it into view; opens nothing.
     virtual void SelectLine(std::size_t index) = 0;
+
+    /// The line shown `step` lines below another (above, if negative); for none the first one shown. Nothing
+    /// where there is no such line, or the other is not shown itself.
+    virtual std::optional<std::size_t> Beside(std::optional<std::size_t> index, int step) const = 0;
 };
 
 /// The choice of the profile to read a form against (`cboProfiles`).

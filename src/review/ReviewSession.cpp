@@ -90,18 +90,29 @@ std::optional<std::size_t> ReviewSession::OpenLine() const {
 
 void ReviewSession::Open(std::size_t line) {
     const std::string document = list_.Lines().at(line).Document;
+    const std::string near = DocumentNear(line);
     context_.side.lines.SelectLine(line);
     tried_ = document;
     form_.Open(document);
     if (!list_.IndexOf(document))
-        SelectLineNear(line);
+        SelectDocument(near);
 }
 
-// The next line has moved up into the place of the one that left.
-void ReviewSession::SelectLineNear(std::size_t line) {
+std::string ReviewSession::DocumentBeside(std::optional<std::size_t> line, int step) const {
+    const std::optional<std::size_t> beside = context_.side.lines.Beside(line, step);
+    return beside ? list_.Lines().at(*beside).Document : std::string();
+}
+
+// What the person turns to when a line leaves: the one below it, or above the last.
+std::string ReviewSession::DocumentNear(std::size_t line) const {
+    const std::string below = DocumentBeside(line, 1);
+    return below.empty() ? DocumentBeside(line, -1) : below;
+}
+
+void ReviewSession::SelectDocument(const std::string& document) {
     tried_.clear();
-    if (!list_.Lines().empty())
-        context_.side.lines.SelectLine(std::min(line, list_.Lines().size() - 1));
+    if (const std::optional<std::size_t> line = list_.IndexOf(document))
+        context_.side.lines.SelectLine(*line);
 }
 
 std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
@@ -109,11 +120,17 @@ std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> s
     const std::optional<std::size_t> from = open ? open : selected;
     const bool isTried =
         selected && *selected < list_.Lines().size() && list_.Lines()[*selected].Document == tried_;
-    const bool isNext = !open && !isTried && step > 0;
-    const std::ptrdiff_t line = from ? static_cast<std::ptrdiff_t>(*from) + (isNext ? 0 : step) : 0;
-    if (line < 0 || line >= std::ssize(list_.Lines()))
-        return std::nullopt;
-    return static_cast<std::size_t>(line);
+    if (from && !open && !isTried && step > 0)
+        return from;
+    return context_.side.lines.Beside(from, from ? step : 1);
+}
+
+std::optional<std::size_t> ReviewSession::FirstToDo() const {
+    const std::optional<std::size_t> first = context_.side.lines.Beside(std::nullopt, 1);
+    for (std::optional<std::size_t> line = first; line; line = context_.side.lines.Beside(line, 1))
+        if (!list_.Lines()[*line].Reviewed)
+            return line;
+    return first;
 }
 
 void ReviewSession::FlipBox(int row) {
@@ -121,22 +138,64 @@ void ReviewSession::FlipBox(int row) {
     form_.FlipBox(row);
 }
 
+void ReviewSession::FlipInGroup(int row, int n) {
+    const int found = HasForm() ? RowInGroup(*form_.Form(), row, n) : 0;
+    if (found == 0)
+        return;
+    context_.rows.SelectRow(found);
+    FlipBox(found);
+}
+
 void ReviewSession::BoxSelected(int row) {
     if (HasForm())
         context_.page.Emphasise(row);
 }
 
-bool ReviewSession::NextDoubtful(int row) {
-    if (!HasForm())
-        return false;
-    const int next = form_.NextDoubtful(row);
-    if (next == 0) {
-        context_.person.SetPanel(Panel::Message, "No box of this form is in doubt.");
-        return false;
+bool ReviewSession::NextDoubt(int row) {
+    int next = form_.NextDoubtful(row);
+    if (next <= row || next == 0) {  // none, or one before: the other forms come first
+        const std::optional<std::size_t> line = NextInDoubt();
+        if (line) {
+            if (!MayLeave())
+                return false;
+            Open(*line);
+            next = form_.NextDoubtful(0);
+        }
     }
-    context_.rows.SelectRow(next);
-    context_.page.Emphasise(next);
+    if (next == 0)
+        context_.person.SetPanel(Panel::Message,
+                                 list_.IsCounted()
+                                     ? "No form of the list has a box in doubt."
+                                     : "No box in doubt was found yet; forms are still being looked at.");
+    return ShowDoubt(next);
+}
+
+bool ReviewSession::ShowDoubt(int row) {
+    if (row == 0)
+        return false;
+    context_.rows.SelectRow(row);
+    context_.page.ShowLarge(row);
     return true;
+}
+
+// From below the open form round the end of the list. So many forms that are not counted are read on the way
+// that the person need not wait long; the others are being counted meanwhile.
+std::optional<std::size_t> ReviewSession::NextInDoubt() {
+    constexpr int kMostCounted = 100;
+    const std::optional<std::size_t> open = OpenLine();
+    std::optional<std::size_t> line = context_.side.lines.Beside(open, 1);
+    int counted = 0;
+    for (std::size_t tries = 0; tries < list_.Lines().size() && counted < kMostCounted; ++tries) {
+        if (!line)
+            line = context_.side.lines.Beside(std::nullopt, 1);
+        if (!line || line == open)
+            return std::nullopt;
+        counted += list_.IsUncounted(list_.Lines()[*line]) ? 1 : 0;
+        if (list_.CountOf(*line) > 0 && form_.OpensUnasked(list_.Lines()[*line].Document))
+            return line;
+        line = context_.side.lines.Beside(line, 1);
+    }
+    return std::nullopt;
 }
 
 bool ReviewSession::MayLeave() {
@@ -195,9 +254,11 @@ void ReviewSession::Decide(Decision decision) {
     mover_.Move(move);
     decided_.push_back(Remembered(move));
     const std::size_t line = OpenLine().value_or(0);
+    below_ = DocumentBeside(line, 1);
+    const std::string near = DocumentNear(line);
     list_.Remove(move.Document);
     form_.Close();
-    SelectLineNear(line);
+    SelectDocument(near);
     LogDecision(move);
     list_.ShowCounts();
 }
@@ -225,13 +286,22 @@ void ReviewSession::UndoDecision() {
     LogDecision(back);
     list_.Follow();
     if (const std::optional<std::size_t> line = list_.IndexOf(back.Document)) {
-        SelectLineNear(*line);
-        GoOnTo(*line);
+        SelectDocument(back.Document);
+        OpenUnasked(*line);
     }
 }
 
-void ReviewSession::GoOnTo(std::size_t line) {
-    if (line < list_.Lines().size() && form_.OpensUnasked(list_.Lines()[line].Document))
+bool ReviewSession::GoOn() {
+    const std::optional<std::size_t> line =
+        HasForm() ? context_.side.lines.Beside(OpenLine(), 1) : list_.IndexOf(below_);
+    if (!line)
+        return false;
+    OpenUnasked(*line);
+    return OpenLine() == line && ShowDoubt(form_.NextDoubtful(0));
+}
+
+void ReviewSession::OpenUnasked(std::size_t line) {
+    if (form_.OpensUnasked(list_.Lines()[line].Document))
         Open(line);
 }
 

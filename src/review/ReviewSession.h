@@ -90,12 +90,17 @@ class ReviewSession {
     /// Turns the mark of a row round and brings its box into view.
     void FlipBox(int row);
 
+    /// Turns the mark of the n-th box of the current row's group round, as `RowInGroup` finds it, and makes
+    /// it the current one.
+    void FlipInGroup(int row, int n);
+
     /// The row became the current one.
     void BoxSelected(int row);
 
-    /// Makes the next box whose mark is open to doubt the current one, starting behind `row`. False when
-    /// there is none.
-    bool NextDoubtful(int row);
+    /// Makes the next box in doubt behind `row` of the open form the current one and shows it large enough to
+    /// judge; behind the last one of the form, the first one of the next form that has any and is not
+    /// reviewed, which is opened. False when there is none, or the open form is not left.
+    bool NextDoubt(int row);
 
     void ReadAgainst(const std::string& profileName) { form_.ReadAgainst(profileName); }
 
@@ -107,8 +112,12 @@ class ReviewSession {
     void Accept() { Decide(Decision::Accept); }
     void Reject() { Decide(Decision::Reject); }
 
-    /// Opens the form of a line, where there is one and opening it asks nothing.
-    void GoOnTo(std::size_t line);
+    /// Opens the form below the one that was decided about or is open, where there is one and opening it asks
+    /// nothing, at its first box in doubt. False when it shows none.
+    bool GoOn();
+
+    /// The first line shown that is not reviewed, or else the first one; none in an empty list.
+    std::optional<std::size_t> FirstToDo() const;
 
     /// Whether there is a decision to take back: they are kept while the program runs.
     bool HasDecided() const { return !decided_.empty(); }
@@ -132,7 +141,12 @@ class ReviewSession {
     bool Leave(app::Answer answer);
     void SelectOpenLine();
     void FollowUnread();
-    void SelectLineNear(std::size_t line);
+    std::string DocumentBeside(std::optional<std::size_t> line, int step) const;
+    std::string DocumentNear(std::size_t line) const;
+    void SelectDocument(const std::string& document);
+    void OpenUnasked(std::size_t line);
+    bool ShowDoubt(int row);
+    std::optional<std::size_t> NextInDoubt();
     void Decide(Decision decision);
     void LogDecision(const FormMove& move);
     Decided Remembered(const FormMove& move) const;
@@ -148,6 +162,7 @@ class ReviewSession {
     std::string unreadIn_;  ///< Fingerprint of the folder when the unread images were looked for.
     Stage stage_ = Stage::NotYet;
     std::vector<Decided> decided_;
+    std::string below_;  ///< The document below the one that was decided about last.
     std::string tried_;  ///< The document that was opened last, or could not be opened.
 };
 

@@ -34,6 +34,12 @@ class FakeReviewScreen final : public review::ReviewLines, public review::Profil
     }
     void SelectLine(std::size_t index) override { transcript_.Add("select: " + lines.at(index)); }
 
+    std::optional<std::size_t> Beside(std::optional<std::size_t> index, int step) const override {
+        const auto line = index ? static_cast<std::ptrdiff_t>(*index) + step : 0;
+        return line < 0 || line >= std::ssize(lines) ? std::nullopt
+                                                     : std::optional(static_cast<std::size_t>(line));
+    }
+
     void ShowProfiles(std::span<const std::string> names) override { offered = {names.begin(), names.end()}; }
     void SetChoice(std::string_view name) override { transcript_.Add("choice: " + std::string(name)); }
     void TakeAway() override { transcript_.Add("choice: none"); }

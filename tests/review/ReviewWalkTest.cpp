@@ -192,13 +192,18 @@ TEST_F(ReviewWalkTest, DoubtfulBoxesStandOut) {
     EXPECT_EQ(transcript_.LinesOf("view: "), Names{"picture 600x500"});
     EXPECT_EQ(transcript_.LinesOf("ink: "), (Names{"1 54.6%", "2 10.6% ?", "3 6.0% ?", "4 11.3%"}));
     for (const auto& [from, next] : {std::pair{0, "2"}, {1, "2"}, {2, "3"}, {3, "2"}, {4, "2"}}) {
-        Do([this, from = from] { review_.NextDoubtful(from); });
+        Do([this, from = from] { review_.NextDoubt(from); });
         EXPECT_EQ(transcript_.Lines(),
                   (Names{std::string("select row: ") + next, std::string("look at: ") + next}));
     }
     Open(2);
-    Do([this] { review_.NextDoubtful(0); });
-    EXPECT_EQ(transcript_.Lines(), Names{"panel Message: No box of this form is in doubt."});
+    Do([this] { review_.NextDoubt(0); });
+    EXPECT_EQ(review_.Form()->Document, "d.xml") << "the next form that has any";
+    EXPECT_EQ(transcript_.LinesOf("look at: "), Names{"2"});
+    Okay();
+    Open(2);
+    Do([this] { review_.NextDoubt(0); });
+    EXPECT_EQ(transcript_.Lines(), Names{"panel Message: No form of the list has a box in doubt."});
 }
 
 }  // namespace

@@ -61,6 +61,7 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
         emphasised = group;
         transcript_.Add("look at: " + Text(group));
     }
+    void ShowLarge(int group) override { Emphasise(group); }
     void SetTool(imaging::BoxTool, int next) override { nextGroup = next; }
 
     void ClearRows(profiles::BoxColumns columns) override {

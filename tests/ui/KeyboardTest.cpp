@@ -163,9 +163,9 @@ TEST_F(KeyboardTest, TheMenuOfABoxOnThePageActsOnItAndChangesNothingByItself) {
     Press(Find<QTreeView>(*window_, "lvwReview"), Qt::Key_Return);
     const auto mark = [this](int row) { return FromQt(Rows().topLevelItem(row)->text(1)); };
     ASSERT_EQ(mark(1), "1");
-    EXPECT_EQ(MenuAt(View(), OnPage(2)), (Names{"FlipBox", "NextDoubtful"}));
+    EXPECT_EQ(MenuAt(View(), OnPage(2)), (Names{"FlipBox", "NextDoubt"}));
     EXPECT_EQ(MenuAt(Rows(), Rows().visualItemRect(Rows().topLevelItem(1)).center()),
-              (Names{"FlipBox", "NextDoubtful"}));
+              (Names{"FlipBox", "NextDoubt"}));
     EXPECT_EQ(mark(1), "1");
     Find<QAction>(*window_, "FlipBox").trigger();
     EXPECT_EQ(mark(1), "0");

@@ -14,9 +14,11 @@ inline QVBoxLayout* FillingColumn(QWidget* pane) {
     return column;
 }
 
-/// A list that takes all the room of `pane`, and the column of controls below it.
-inline QVBoxLayout* ControlsBelow(QWidget* pane, QWidget* list) {
+/// A list that takes all the room of `pane`, below what may stand above it, and the column of controls below.
+inline QVBoxLayout* ControlsBelow(QWidget* pane, QWidget* list, QWidget* above = nullptr) {
     QVBoxLayout* const column = FillingColumn(pane);
+    if (above != nullptr)
+        column->addWidget(above);
     column->addWidget(list, 1);
     auto* const below = new QVBoxLayout;
     below->setContentsMargins(10, 8, 10, 10);

@@ -42,6 +42,18 @@ bool MayReplace(const ExportContext& context, const std::vector<std::string>& na
                                                  app::Answer::No) == app::Answer::Yes;
 }
 
+results::GroupsOfProfiles GroupsOf(const app::Files& files, const std::vector<results::ResultTable>& tables,
+                                   const std::string& folder) {
+    results::GroupsOfProfiles groups;
+    for (const results::ResultTable& table : tables) {
+        std::vector<std::string> names;
+        for (const results::BoxColumn& box : table.Boxes)
+            names.push_back(box.Name);
+        groups[table.Profile] = profiles::GroupsOrNone(files, folder + table.Profile + ".Tvp", names);
+    }
+    return groups;
+}
+
 std::optional<std::string> AskTarget(const ExportContext& context, const ExportChoice& choice,
                                      const std::string& startFolder) {
     if (choice.workbook)
@@ -72,7 +84,8 @@ std::optional<results::Results> ReadForExport(const ExportContext& context, cons
 }
 
 std::optional<std::string> WriteExport(const ExportContext& context, const ExportChoice& choice,
-                                       const results::Results& found, const std::string& startFolder) {
+                                       const results::Results& found, const std::string& profiles,
+                                       const std::string& startFolder) {
     const std::optional<std::string> target = AskTarget(context, choice, startFolder);
     if (!target)
         return std::nullopt;
@@ -81,9 +94,12 @@ std::optional<std::string> WriteExport(const ExportContext& context, const Expor
     if (!choice.workbook && !MayReplace(context, results::CsvNames(found.Tables), folder))
         return std::nullopt;
     const results::Progress progress = context.progress("Writing the tables");
+    const results::GroupsOfProfiles groups =
+        choice.perGroup ? GroupsOf(context.files, found.Tables, profiles) : results::GroupsOfProfiles();
     const bool isWritten =
-        choice.workbook ? results::ExportXlsx(context.files, found.Tables, {}, *target, progress)
-                        : results::ExportCsv(context.files, found.Tables, {}, folder, choice.csv, progress);
+        choice.workbook
+            ? results::ExportXlsx(context.files, found.Tables, groups, *target, progress)
+            : results::ExportCsv(context.files, found.Tables, groups, folder, choice.csv, progress);
     if (!isWritten)
         return std::nullopt;
     context.person.SetPanel(app::Panel::Message, Counted(CountForms(found), "form", "forms") + " of " +

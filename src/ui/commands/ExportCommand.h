@@ -17,6 +17,7 @@ struct ExportChoice {
     bool accepted = false;  ///< The forms of `ProcessFinal`; or else those of `ProcessOut`.
     bool workbook = true;   ///< One workbook; or else a CSV file a profile.
     results::CsvOptions csv;
+    bool perGroup = false;  ///< A column a group of boxes instead of one a box.
 };
 
 struct ExportContext {
@@ -37,9 +38,10 @@ std::optional<results::Results> ReadForExport(const ExportContext& context, cons
                                               const app::WorkingFolders& folders);
 
 /// Asks where to and writes the tables there. `startFolder` (ending in a separator) is where the dialog
-/// opens. Gives the folder written into, or nothing when the person ended it; no file is changed then. Throws
-/// `app::FileError` or `results::WorkbookError`.
+/// opens; `profiles` (likewise) has the groups. Gives the folder written into, or nothing when the person
+/// ended it; no file is changed then. Throws `app::FileError` or `results::WorkbookError`.
 std::optional<std::string> WriteExport(const ExportContext& context, const ExportChoice& choice,
-                                       const results::Results& found, const std::string& startFolder);
+                                       const results::Results& found, const std::string& profiles,
+                                       const std::string& startFolder);
 
 }  // namespace tavrene::commands

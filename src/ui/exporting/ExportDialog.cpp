@@ -37,7 +37,10 @@ ExportDialog::ExportDialog(const commands::ExportChoice& choice, const app::Work
       csv_(Radio("optCsv", "CSV &files, one a profile")),
       separator_(new QComboBox),
       mark_(Check("chkByteOrderMark", "Byte &order mark",
-                  "Some spreadsheets show accents right only in files that begin with this mark")) {
+                  "Some spreadsheets show accents right only in files that begin with this mark")),
+      groups_(
+          Check("chkGroups", "One column a &group of boxes",
+                "Boxes with the same first words, or as set in the profile: the names of the checked ones")) {
     setObjectName("frmExport");
     setWindowTitle("Export Results");
     auto* const layout = new QVBoxLayout(this);
@@ -76,6 +79,7 @@ QWidget* ExportDialog::FormatFrame() {
     details->addRow("&Separator:", separator_);
     details->addRow(mark_);
     layout->addLayout(details);
+    layout->addWidget(groups_);
     const auto offerDetails = [this] {
         separator_->setEnabled(csv_->isChecked());
         mark_->setEnabled(csv_->isChecked());
@@ -105,12 +109,14 @@ void ExportDialog::Show(const commands::ExportChoice& choice) {
     (choice.workbook ? workbook_ : csv_)->setChecked(true);
     separator_->setCurrentIndex(separator_->findData(static_cast<int>(choice.csv.separator)));
     mark_->setChecked(choice.csv.byteOrderMark);
+    groups_->setChecked(choice.perGroup);
 }
 
 commands::ExportChoice ExportDialog::Choice() const {
     return {accepted_->isChecked(),
             workbook_->isChecked(),
-            {static_cast<Separator>(separator_->currentData().toInt()), mark_->isChecked()}};
+            {static_cast<Separator>(separator_->currentData().toInt()), mark_->isChecked()},
+            groups_->isChecked()};
 }
 
 }  // namespace tavrene::ui

@@ -33,6 +33,7 @@ class ExportDialog final : public QDialog {
     QRadioButton* csv_;
     QComboBox* separator_;
     QCheckBox* mark_;
+    QCheckBox* groups_;
 };
 
 }  // namespace tavrene::ui

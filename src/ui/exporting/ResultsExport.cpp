@@ -62,7 +62,7 @@ std::string ResultsExport::StartFolder() const {
 }
 
 void ResultsExport::Export(const results::Results& found) {
-    if (const auto folder = commands::WriteExport(Job(), choice_, found, StartFolder()))
+    if (const auto folder = commands::WriteExport(Job(), choice_, found, folders_.Profiles, StartFolder()))
         app::WriteWindow(context_.store, kExportFolder, *folder);
 }
 

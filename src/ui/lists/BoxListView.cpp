@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include "app/ScopedFlag.h"
@@ -19,6 +20,8 @@ constexpr int kValWidth = 52;
 constexpr int kInkMargin = 24;
 constexpr int kRowMargin = 6;
 
+constexpr int kPencil = 14;
+
 // Reads on light and dark bases alike.
 const QColor kDoubt(255, 180, 0, 90);
 
@@ -30,7 +33,7 @@ void ShowName(QTreeWidgetItem& row, const QString& name) {
 // Room for the widest ink, as a doubtful row shows it.
 int InkWidth(QFont font) {
     font.setBold(true);
-    return QFontMetrics(font).horizontalAdvance("100.0%") + kInkMargin;
+    return QFontMetrics(font).horizontalAdvance("100.0%") + kPencil + kInkMargin;
 }
 
 void ShowDoubt(QTreeWidgetItem& row, const QString& why) {
@@ -43,6 +46,25 @@ void ShowDoubt(QTreeWidgetItem& row, const QString& why) {
     }
     row.setToolTip(kInkColumn, why);
     row.setData(0, Qt::AccessibleDescriptionRole, why);
+}
+
+QIcon Pencil(const QColor& color) {
+    QPixmap picture(2 * kPencil, 2 * kPencil);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QFont font = painter.font();
+    font.setPixelSize(2 * kPencil);
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(picture.rect(), Qt::AlignCenter, QStringLiteral("\u270E"));
+    return picture;
+}
+
+void ShowCorrection(QTreeWidgetItem& row, bool isCorrected, const QColor& color) {
+    const QString what = "The mark was turned round by hand: the ink says otherwise";
+    row.setIcon(kInkColumn, isCorrected ? Pencil(color) : QIcon());
+    row.setToolTip(kValColumn, isCorrected ? what : QString());
+    row.setData(kValColumn, Qt::AccessibleDescriptionRole, isCorrected ? what : QString());
 }
 
 }  // namespace
@@ -148,12 +170,14 @@ void BoxListView::PutRow(int number, const profiles::BoxRow& row) {
     ShowName(item, ToQt(row.name));
     if (columnCount() > kValColumn) {
         item.setText(kValColumn, ToQt(row.val));
+        item.setCheckState(kValColumn, row.val == "1" ? Qt::Checked : Qt::Unchecked);
         item.setTextAlignment(kValColumn, Qt::AlignCenter);
     }
     if (columnCount() > kInkColumn) {
         item.setText(kInkColumn, ToQt(row.ink));
         item.setTextAlignment(kInkColumn, Qt::AlignRight | Qt::AlignVCenter);
         ShowDoubt(item, ToQt(row.doubt));
+        ShowCorrection(item, row.isCorrected, palette().color(QPalette::Text));
     }
 }
 
@@ -161,7 +185,7 @@ QTreeWidgetItem& BoxListView::AddRow(int number) {
     auto* const row = new QTreeWidgetItem;
     row->setData(0, Qt::UserRole, number);
     row->setSizeHint(0, {0, fontMetrics().height() + kRowMargin});
-    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    row->setFlags((row->flags() | Qt::ItemIsEditable) & ~Qt::ItemIsUserCheckable);
     insertTopLevelItem(PlaceFor(number), row);
     return *row;
 }

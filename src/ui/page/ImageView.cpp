@@ -64,7 +64,7 @@ void ImageView::SetPage(const QImage& image) {
         lastScroll_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     }
     page_->SetImage(image);
-    isTurned_ = false;
+    isTurned_ = isLarge_ = false;
     Transform();
     // Without a rectangle of its own the scene would keep the room that earlier pages took.
     scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
@@ -161,6 +161,20 @@ void ImageView::UseTool(PageTool* tool) {
     ShowCursorAt(mapToScene(viewport()->mapFromGlobal(QCursor::pos())));
 }
 
+void ImageView::ShowLarge(int group) {
+    constexpr double kLegible = 28;  // pixels of the screen
+    Emphasise(group);
+    const QRectF box = boxes_->PlaceOf(group);
+    const double side = std::min(box.width(), box.height());
+    if (side <= 0)
+        return;
+    isLarge_ = true;
+    if (side * zoom_ / 100 < kLegible)
+        ApplyZoom(100 * kLegible / side);
+    isUnseen_ = false;
+    centerOn(box.center());
+}
+
 void ImageView::ZoomTo(double percent) {
     fit_ = ZoomFit::None;
     ApplyZoom(percent);
@@ -182,10 +196,13 @@ void ImageView::ZoomToOriginal() {
 
 void ImageView::KeepFit(ZoomFit fit) {
     fit_ = fit;
+    isLarge_ = false;
     Refit();
 }
 
 void ImageView::Refit() {
+    if (isLarge_)
+        return;
     if (fit_ == ZoomFit::Page)
         FitPage();
     else if (fit_ == ZoomFit::Width)

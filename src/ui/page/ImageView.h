@@ -49,6 +49,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void RemoveRect(int group) override { boxes_->Remove(group); }
     void ClearRects() override { boxes_->Clear(); }
     void Emphasise(int group) override { boxes_->Emphasise(group); }
+    void ShowLarge(int group) override;
     void SetTool(imaging::BoxTool tool, int nextGroup) override { boxes_->SetTool(tool, nextGroup); }
 
     /// What is said in the place of a page while there is none.
@@ -132,6 +133,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     double zoom_ = 100;
     ZoomFit fit_ = ZoomFit::None;
     bool isTurned_ = false;
+    bool isLarge_ = false;  ///< A box is shown large, and the zoom waits for the next page to fit again.
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
     int pushedDown_ = 0;    ///< By what came to stand above the view, until the view has its new size.

@@ -12,7 +12,8 @@ namespace {
 
 constexpr double kSeam = 1.0;
 
-// Boxes that are smaller than this on the screen get thinner lines.
+// Boxes that are smaller than this on the screen get thinner lines, all of them outside, for a line would
+// cover the mark in them.
 constexpr double kSmallSide = 16;
 constexpr double kThinLine = 0.7;
 
@@ -99,13 +100,15 @@ void RectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget
     const double width = dots * (side < kSmallSide ? kThinLine * look.width : look.width);
     if (emphasised_)
         PaintEmphasis(*painter, rect_, scale, dots);
+    const double off = side < kSmallSide ? (width / dots / 2 + kSeam) / std::max(scale, 0.01) : 0;
+    const QRectF outline = rect_.adjusted(-off, -off, off, off);
     painter->setPen(CosmeticPen(QColor(255, 255, 255, 200), width + 2 * kSeam * dots));
-    painter->drawRect(rect_);
+    painter->drawRect(outline);
     QPen pen = CosmeticPen(look.color, width);
     if (look.inked < 1 && side > 0)
         BreakUp(pen, side, dots, look.inked);
     painter->setPen(pen);
-    painter->drawRect(rect_);
+    painter->drawRect(outline);
 }
 
 }  // namespace tavrene::ui

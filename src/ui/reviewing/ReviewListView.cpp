@@ -1,120 +1,24 @@
 #include "ui/reviewing/ReviewListView.h"
 
-#include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <vector>
+#include <utility>
 
 #include "ui/base/EmptyHint.h"
-#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
 
-enum Column { kName, kConfidence, kColumns };
-
 constexpr int kRowMargin = 6;
 constexpr int kHeaderMargin = 20;
+constexpr int kNameWidth = 130;
 
 }  // namespace
 
-// A model of our own, so that a long list costs no more than what is in sight.
-class ReviewListView::Lines final : public QAbstractTableModel {
-  public:
-    Lines(QObject* parent, const QFont& font, int rowHeight)
-        : QAbstractTableModel(parent), bold_(font), rowHeight_(rowHeight) {
-        bold_.setBold(true);
-    }
-
-    void Show(std::span<const review::ReviewLine> lines) {
-        beginResetModel();
-        open_ = -1;
-        lines_.assign(lines.begin(), lines.end());
-        endResetModel();
-    }
-
-    void Insert(std::size_t row, const review::ReviewLine& line) {
-        const int place = static_cast<int>(row);
-        beginInsertRows({}, place, place);
-        lines_.insert(lines_.begin() + place, line);
-        endInsertRows();
-    }
-
-    void Change(std::size_t row, const review::ReviewLine& line) {
-        lines_.at(row) = line;
-        TellChanged(static_cast<int>(row));
-    }
-
-    void Remove(std::size_t row) {
-        const int removed = static_cast<int>(row);
-        beginRemoveRows({}, removed, removed);
-        lines_.erase(lines_.begin() + removed);
-        endRemoveRows();
-    }
-
-    // Asked for after every command, so that lines that come and go need not keep it.
-    void MarkOpen(int row) {
-        if (row == open_)
-            return;
-        TellChanged(std::exchange(open_, row));
-        TellChanged(row);
-    }
-
-    int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(lines_.size());
-    }
-    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : kColumns; }
-
-    QVariant data(const QModelIndex& index, int role) const override {
-        if (role == Qt::FontRole)
-            return index.row() == open_ ? QVariant(bold_) : QVariant();
-        if (role == Qt::SizeHintRole)
-            return QSize(0, rowHeight_);
-        const review::ReviewLine& line = lines_[static_cast<std::size_t>(index.row())];
-        return index.column() == kName ? NameData(line, role) : ConfidenceData(line, role);
-    }
-
-    QVariant headerData(int section, Qt::Orientation, int role) const override {
-        if (role == Qt::TextAlignmentRole && section == kConfidence)
-            return Qt::AlignCenter;
-        if (role != Qt::DisplayRole)
-            return {};
-        return section == kName ? "Form" : "Confidence";
-    }
-
-  private:
-    static QVariant NameData(const review::ReviewLine& line, int role) {
-        switch (role) {
-            case Qt::DisplayRole:
-                return ToQt(line.Name);
-            case Qt::ToolTipRole:
-                return ToolTipOf(ToQt(line.Name));
-            case Qt::CheckStateRole:
-                return line.Reviewed ? Qt::Checked : Qt::Unchecked;
-            default:
-                return {};
-        }
-    }
-
-    static QVariant ConfidenceData(const review::ReviewLine& line, int role) {
-        if (role == Qt::TextAlignmentRole)
-            return Qt::AlignCenter;
-        return role == Qt::DisplayRole ? ToQt(line.Confidence) : QVariant();
-    }
-
-    void TellChanged(int row) {
-        if (row >= 0 && row < rowCount())
-            Q_EMIT dataChanged(index(row, kName), index(row, kConfidence));
-    }
-
-    std::vector<review::ReviewLine> lines_;
-    int open_ = -1;  // row of the open form
-    QFont bold_;
-    int rowHeight_;
-};
-
 ReviewListView::ReviewListView(QWidget* parent)
-    : QTreeView(parent), lines_(new Lines(this, font(), fontMetrics().height() + kRowMargin)) {
+    : QTreeView(parent),
+      lines_(new ReviewTable(this, font(), fontMetrics().height() + kRowMargin)),
+      shown_(new ShownLines(this, *lines_)) {
     setObjectName("lvwReview");
     setAccessibleName("Processed forms");
     setFrameShape(QFrame::NoFrame);
@@ -123,15 +27,40 @@ ReviewListView::ReviewListView(QWidget* parent)
     setTextElideMode(Qt::ElideMiddle);
     setAlternatingRowColors(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setModel(lines_);
-    header()->setStretchLastSection(false);
-    header()->setSectionsMovable(false);
-    header()->setSectionResizeMode(kName, QHeaderView::Stretch);
-    header()->setSectionResizeMode(kConfidence, QHeaderView::Fixed);
-    header()->resizeSection(kConfidence,
-                            header()->fontMetrics().horizontalAdvance("Confidence") + kHeaderMargin);
+    setModel(shown_);
+    setSortingEnabled(true);
+    LayOutColumns();
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) { TellOpened(index); });
+}
+
+// What a person looks for first stands first; the order is the folder's until a header is clicked.
+void ReviewListView::LayOutColumns() {
+    header()->setStretchLastSection(true);
+    header()->setSectionsMovable(false);
+    header()->setSortIndicatorClearable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    header()->moveSection(header()->visualIndex(ReviewTable::kDoubts), 1);
+    header()->resizeSection(ReviewTable::kName, kNameWidth);
+    for (const int column : {ReviewTable::kConfidence, ReviewTable::kProfile, ReviewTable::kDoubts}) {
+        const QString title = lines_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        header()->resizeSection(column, header()->fontMetrics().horizontalAdvance(title) + kHeaderMargin);
+    }
+}
+
+void ReviewListView::SetFilter(FormFilter filter) {
+    shown_->SetFilter(std::move(filter));
+    if (currentIndex().isValid())
+        scrollTo(currentIndex());
+}
+
+bool ReviewListView::Wants(std::size_t line) const {
+    return shown_->Wants(static_cast<int>(line));
+}
+
+std::optional<std::size_t> ReviewListView::Beside(std::optional<std::size_t> index, int step) const {
+    const std::optional<int> row =
+        shown_->Beside(index ? std::optional(static_cast<int>(*index)) : std::nullopt, step);
+    return row ? std::optional(static_cast<std::size_t>(*row)) : std::nullopt;
 }
 
 void ReviewListView::ShowLines(std::span<const review::ReviewLine> lines) {
@@ -151,29 +80,34 @@ void ReviewListView::RemoveLine(std::size_t index) {
 }
 
 void ReviewListView::SelectLine(std::size_t index) {
-    const QModelIndex line = lines_->index(static_cast<int>(index), kName);
+    const QModelIndex line =
+        shown_->mapFromSource(lines_->index(static_cast<int>(index), ReviewTable::kName));
     setCurrentIndex(line);
     scrollTo(line);
 }
 
 std::optional<std::size_t> ReviewListView::LineOf(const std::string& form) const {
-    const QModelIndexList found = lines_->match(lines_->index(0, kName), Qt::DisplayRole, ToQt(form), 1,
+    const QModelIndexList found = lines_->match(lines_->index(0, ReviewTable::kName), Qt::DisplayRole, ToQt(form), 1,
                                                 Qt::MatchExactly | Qt::MatchCaseSensitive);
     return found.isEmpty() ? std::nullopt : std::optional(static_cast<std::size_t>(found.front().row()));
 }
 
 std::optional<std::size_t> ReviewListView::SelectedLine() const {
-    const QModelIndex current = currentIndex();
+    const QModelIndex current = shown_->mapToSource(currentIndex());
     return current.isValid() ? std::optional(static_cast<std::size_t>(current.row())) : std::nullopt;
 }
 
 void ReviewListView::MarkOpen(std::optional<std::size_t> line) {
-    lines_->MarkOpen(line ? static_cast<int>(*line) : -1);
+    const int row = line ? static_cast<int>(*line) : -1;
+    if (row == lines_->OpenRow())
+        return;
+    lines_->MarkOpen(row);
+    shown_->FollowOpen();
 }
 
 void ReviewListView::TellOpened(const QModelIndex& index) {
     if (index.isValid() && opened_)
-        opened_(static_cast<std::size_t>(index.row()));
+        opened_(static_cast<std::size_t>(shown_->mapToSource(index).row()));
 }
 
 QItemSelectionModel::SelectionFlags ReviewListView::selectionCommand(const QModelIndex& index,
@@ -195,6 +129,8 @@ void ReviewListView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
     if (lines_->rowCount() == 0)
         PaintEmptyHint(*viewport(), "No processed forms are waiting.\nProcess reads new scans.");
+    else if (shown_->rowCount() == 0)
+        PaintEmptyHint(*viewport(), "No form is like this.\nChoose All forms above to see the others.");
 }
 
 }  // namespace tavrene::ui

@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "review/ReviewScreen.h"
+#include "ui/reviewing/ShownLines.h"
 
 namespace tavrene::ui {
 
-/// The review list `lvwReview`: a tick, the form's name and the confidence. A click on a line or Enter opens
-/// it; moving the selection does not. A double click is a click.
+/// The review list `lvwReview`: a tick, the form's name, its doubts, the confidence and more. A click on a
+/// header sorts it, a third one puts it back into the folder's order. A click on a line or Enter opens it;
+/// moving the selection does not. A double click is a click.
 class ReviewListView final : public QTreeView, public review::ReviewLines {
   public:
     using Opened = std::function<void(std::size_t line)>;
@@ -24,6 +26,13 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void ChangeLine(std::size_t index, const review::ReviewLine& line) override;
     void RemoveLine(std::size_t index) override;
     void SelectLine(std::size_t index) override;
+    std::optional<std::size_t> Beside(std::optional<std::size_t> index, int step) const override;
+
+    /// Shows only some of the lines, and that of the open form.
+    void SetFilter(FormFilter filter);
+
+    /// Whether the filter lets a line through by itself.
+    bool Wants(std::size_t line) const;
 
     /// The line of the form of that name, where it is listed.
     std::optional<std::size_t> LineOf(const std::string& form) const;
@@ -43,11 +52,11 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    class Lines;
-
+    void LayOutColumns();
     void TellOpened(const QModelIndex& index);
 
-    Lines* lines_;
+    ReviewTable* lines_;
+    ShownLines* shown_;
     Opened opened_;
 };
 

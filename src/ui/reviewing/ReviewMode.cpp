@@ -61,6 +61,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
     });
     ConnectCommands();
     ConnectFormCommands();
+    ConnectDecisions();
     ConnectControls();
     WatchFolder();
     CountDoubtsInIdleTime();
@@ -92,14 +93,34 @@ void ReviewMode::ConnectNeighbour(Command command, int step) {
         command, [this, line] { session_.Open(*line()); }, [line] { return line().has_value(); });
 }
 
+// They wait while another line than that of the open form stands out, so that nobody decides about a form
+// that is not the one in sight.
+void ReviewMode::ConnectDecisions() {
+    const auto isHighlighted = [this] {
+        const std::optional<std::size_t> selected = controls_.pane.List().SelectedLine();
+        return !selected || selected == session_.OpenLine();
+    };
+    gate_.SetHandler(
+        Command::Okay, [this] { Save(); }, isHighlighted);
+    gate_.SetHandler(
+        Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); }, isHighlighted);
+    gate_.SetHandler(
+        Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); }, isHighlighted);
+    const auto followSelection = [this] {
+        if (!gate_.IsBusy() && session_.HasForm())
+            gate_.Guard([] {});  // what is offered follows every event
+    };
+    // Not at once, for the list itself is brought up to date then.
+    connect(controls_.pane.List().selectionModel(), &QItemSelectionModel::currentChanged, this,
+            followSelection, Qt::QueuedConnection);
+}
+
 void ReviewMode::ConnectFormCommands() {
-    gate_.SetHandler(Command::Okay, [this] { session_.Save(); });
-    gate_.SetHandler(Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); });
-    gate_.SetHandler(Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); });
     gate_.SetHandler(
         Command::UndoDecision, [this] { session_.UndoDecision(); }, [this] { return session_.HasDecided(); });
     gate_.SetHandler(Command::FlipBox, [this] { session_.FlipBox(controls_.boxes.CurrentNumber()); });
-    gate_.SetHandler(Command::NextDoubtful, [this] { NextDoubtful(); });
+    gate_.SetHandler(Command::NextDoubt, [this] { NextDoubt(); });
+    gate_.SetHandler(Command::FilterForms, [this] { controls_.pane.ShowFilter(); });
 }
 
 void ReviewMode::ConnectControls() {
@@ -133,6 +154,7 @@ void ReviewMode::Toggle() {
     watcher_.addPath(ToQt(state_.folders.ProcessOut));
     closeProfile_();
     session_.Begin();
+    controls_.pane.OfferProfiles();
     TakeFirstLine();
 }
 
@@ -153,8 +175,8 @@ void ReviewMode::TakeFirstLine() {
     controls_.side.setCurrentWidget(&controls_.pane);
     controls_.pane.ShowForms();
     controls_.pane.List().setFocus();
-    if (controls_.pane.List().model()->rowCount() > 0)
-        controls_.pane.List().SelectLine(0);
+    if (const std::optional<std::size_t> line = session_.FirstToDo())
+        controls_.pane.List().SelectLine(*line);
 }
 
 // While a command is under way, with a question of it open perhaps, the list stays as the command found it;
@@ -183,16 +205,29 @@ void ReviewMode::CountDoubtsInIdleTime() {
     });
 }
 
-// The line below has moved up into the place of the form that left.
 void ReviewMode::Decide(const std::function<void()>& decide) {
-    const std::optional<std::size_t> line = session_.OpenLine();
     decide();
-    if (goesOn_ && line)
-        session_.GoOnTo(*line);
+    GoOn();
 }
 
-void ReviewMode::NextDoubtful() {
-    if (session_.NextDoubtful(controls_.boxes.CurrentNumber()))
+// The keys go where the next thing is to do.
+void ReviewMode::GoOn() {
+    if (goesOn_ && session_.GoOn())
+        controls_.boxes.setFocus();
+}
+
+// Who saves a form and still has it in the list may mean to decide about it next.
+void ReviewMode::Save() {
+    if (!session_.Save())
+        return;
+    const std::optional<std::size_t> line = session_.OpenLine();
+    if (line && !controls_.pane.List().Wants(*line))
+        GoOn();
+}
+
+void ReviewMode::NextDoubt() {
+    const BusyCursor busy;
+    if (session_.NextDoubt(session_.HasForm() ? controls_.boxes.CurrentNumber() : 0))
         controls_.boxes.setFocus();
 }
 
@@ -232,13 +267,23 @@ void ReviewMode::Update() {
         controls_.pane.List().setFocus();
 }
 
+// The digits turn the boxes of a question round.
+bool ReviewMode::TakeDigit(const QKeyEvent& key) {
+    const int n = key.key() - Qt::Key_0;
+    if ((key.modifiers() & ~Qt::KeypadModifier) != 0 || n < 1 || n > 9 || !session_.HasForm())
+        return false;
+    if (!key.isAutoRepeat())
+        gate_.Take(Command::PickMark, [&] { session_.FlipInGroup(controls_.boxes.CurrentNumber(), n); });
+    return true;
+}
+
 bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !session_.IsOn())
         return false;
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
     const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && session_.HasForm());
     if (!command)
-        return false;
+        return watched == &controls_.boxes && TakeDigit(key);
     if (!key.isAutoRepeat())
         gate_.Run(*command);
     return true;

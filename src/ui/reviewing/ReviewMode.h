@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileSystemWatcher>
+#include <QKeyEvent>
 #include <QObject>
 #include <QStackedWidget>
 #include <QTimer>
@@ -75,11 +76,15 @@ class ReviewMode final : public QObject {
     void ConnectCommands();
     void ConnectNeighbour(commands::Command command, int step);
     void ConnectFormCommands();
+    void ConnectDecisions();
     void ConnectControls();
     void Toggle();
     void TakeFirstLine();
     void Decide(const std::function<void()>& decide);
-    void NextDoubtful();
+    void GoOn();
+    void Save();
+    void NextDoubt();
+    bool TakeDigit(const QKeyEvent& key);
     void RectClicked(int group);
     void WatchFolder();
     void CountDoubtsInIdleTime();

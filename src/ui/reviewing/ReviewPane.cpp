@@ -57,6 +57,7 @@ void ReviewChoice::keyPressEvent(QKeyEvent* event) {
 
 ReviewPane::ReviewPane(QWidget* parent)
     : QFrame(parent),
+      filter_(new FilterBar(this)),
       list_(new ReviewListView(this)),
       choice_(new ReviewChoice(this)),
       unread_(new UnreadPane(this)),
@@ -66,7 +67,8 @@ ReviewPane::ReviewPane(QWidget* parent)
     tabs_->setAccessibleName("Processed pages");
     tabs_->setDocumentMode(true);
     auto* const forms = new QWidget;
-    QVBoxLayout* const below = ControlsBelow(forms, list_);
+    QVBoxLayout* const below = ControlsBelow(forms, list_, filter_);
+    filter_->SetListener([this](FormFilter filter) { list_->SetFilter(std::move(filter)); });
     auto* const title = new QLabel("Read a&gainst profile:", this);
     title->setBuddy(choice_);
     below->addWidget(title);
@@ -79,6 +81,18 @@ ReviewPane::ReviewPane(QWidget* parent)
 void ReviewPane::ShowUnread(const std::vector<review::UnreadPage>& pages) {
     unread_->Show(pages);
     tabs_->setTabText(1, pages.empty() ? "Not read" : QString("Not read (%1)").arg(pages.size()));
+}
+
+void ReviewPane::ShowFilter() {
+    ShowForms();
+    filter_->TakeFocus();
+}
+
+void ReviewPane::OfferProfiles() {
+    QStringList names;
+    for (int k = 0; k < choice_->count(); ++k)
+        names.append(choice_->itemText(k));
+    filter_->OfferProfiles(names);
 }
 
 void ReviewPane::ShowForms() {

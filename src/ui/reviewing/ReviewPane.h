@@ -4,6 +4,7 @@
 #include <QFrame>
 
 #include "review/ReviewScreen.h"
+#include "ui/reviewing/FilterBar.h"
 #include "ui/reviewing/ReviewListView.h"
 #include "ui/reviewing/UnreadPane.h"
 
@@ -38,10 +39,15 @@ class ReviewPane final : public QFrame {
 
     void ShowUnread(const std::vector<review::UnreadPage>& pages);
 
-    /// Brings the tab of the forms to the front.
+    /// Brings the tab of the forms to the front; and there the filter to the keys.
     void ShowForms();
+    void ShowFilter();
+
+    /// Lets the filter offer the profiles that `cboProfiles` does.
+    void OfferProfiles();
 
   private:
+    FilterBar* filter_;
     ReviewListView* list_;
     ReviewChoice* choice_;
     UnreadPane* unread_;

@@ -224,12 +224,12 @@ void MainWindow::AddContextMenus() {
             actions += toolbars_.ActionOf(command);
         new ContextMenu(area, std::move(target), actions);
     };
-    const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful};
+    const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubt};
     ReasonList& unread = forms_->Unread().List();
     add(profiles_->Strip(), ClickedLine(profiles_->Strip()),
         {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
     add(forms_->List(), ClickedLine(forms_->List()),
-        {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
+        {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubt});
     add(*boxes_, SelectedLine(*boxes_), ofBox);
     add(*view_, BoxOnPage(*view_, *boxes_), ofBox);
     const auto offered = [this, line = SelectedLine(unread)](const QContextMenuEvent& asked) {

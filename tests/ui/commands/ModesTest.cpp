@@ -39,10 +39,11 @@ const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
 const Commands kBoxes = {C::SelectBox, C::AddBox, C::PutBox,        C::DeleteBox, C::RenameBox,
                          C::Undo,      C::Redo,   C::FindMoreBoxes, C::EditBoxes, C::SetActive};
-const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm, C::PickForm,
-                         C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision};
+const Commands kForms = {C::OpenForm,     C::NextForm,        C::PreviousForm,
+                         C::PickForm,     C::BackToProcessIn, C::AllBackToProcessIn,
+                         C::UndoDecision, C::NextDoubt,       C::FilterForms};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
-const Commands kForm = {C::FlipBox, C::NextDoubtful, C::PickProfile, C::PickMark};
+const Commands kForm = {C::FlipBox, C::PickProfile, C::PickMark};
 const Commands kReview = AllBut(kNew + kFile + kBoxes + kDecisions + kForm);
 const Commands kProfiling = AllBut(kFile + kBoxes + kForms + kDecisions + kForm);
 

@@ -1,0 +1,56 @@
+#include "ui/reviewing/FilterBar.h"
+
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <array>
+
+namespace tavrene::ui {
+namespace {
+
+constexpr std::array kKinds = {"All forms", "Not reviewed", "In doubt"};
+
+}  // namespace
+
+FilterBar::FilterBar(QWidget* parent)
+    : QWidget(parent), kind_(new QComboBox(this)), text_(new QLineEdit(this)) {
+    kind_->setObjectName("cboFilter");
+    kind_->setAccessibleName("Which forms the list shows");
+    kind_->setToolTip("Which forms the list shows");
+    kind_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    for (const char* const kind : kKinds)
+        kind_->addItem(kind);
+    text_->setObjectName("txtFilter");
+    text_->setAccessibleName("Text that the names of the forms hold");
+    text_->setPlaceholderText("Name holds...");
+    text_->setClearButtonEnabled(true);
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(6, 4, 6, 4);
+    layout->addWidget(kind_, 1);
+    layout->addWidget(text_, 1);
+    connect(kind_, &QComboBox::currentIndexChanged, this, [this] { Tell(); });
+    connect(text_, &QLineEdit::textChanged, this, [this] { Tell(); });
+}
+
+void FilterBar::OfferProfiles(const QStringList& names) {
+    const QString chosen = kind_->currentText();
+    {
+        const QSignalBlocker quiet(kind_);
+        while (kind_->count() > static_cast<int>(kKinds.size()))
+            kind_->removeItem(kind_->count() - 1);
+        for (const QString& name : names)
+            kind_->addItem("Profile " + name, name);
+        kind_->setCurrentIndex(std::max(0, kind_->findText(chosen)));
+    }
+    if (kind_->currentText() != chosen)
+        Tell();
+}
+
+void FilterBar::Tell() {
+    const int index = kind_->currentIndex();
+    const bool isProfile = index >= static_cast<int>(kKinds.size());
+    const auto kind = isProfile ? FormFilter::Kind::OfProfile : static_cast<FormFilter::Kind>(index);
+    if (changed_)
+        changed_({kind, kind_->currentData().toString(), text_->text()});
+}
+
+}  // namespace tavrene::ui

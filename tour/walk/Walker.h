@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QTreeWidget>
+
+#include "tour/walk/Forms.h"
+#include "ui/shell/MainWindow.h"
+
+namespace tavrene::tour {
+
+/// A person who goes through the processed forms by the keyboard alone, knows what the marks mean, and counts
+/// the keys. A key with modifiers held is one.
+class Walker {
+  public:
+    Walker(ui::MainWindow& window, const FormTruth& truth) : window_(window), truth_(truth) {}
+
+    /// Looks at every form, turns round what was misread and saves each as reviewed; going on opens the next.
+    void GoOnThroughAll();
+
+    int Keys() const { return keys_; }
+
+  private:
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    QTreeWidget& Boxes();
+    std::string OpenForm() const;
+    int WrongRows();
+    bool IsWrong(const QTreeWidgetItem& row) const;
+    void CorrectForm();
+
+    ui::MainWindow& window_;
+    const FormTruth& truth_;
+    int keys_ = 0;
+};
+
+}  // namespace tavrene::tour
