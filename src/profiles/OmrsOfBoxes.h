@@ -20,4 +20,8 @@ std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height
 std::string UnnamedBox(int number);
 bool IsUnnamed(const std::string& name);
 
+/// Such a name that no kept box of these has, and counts `number` up behind it: a saved profile is numbered
+/// anew, so a box may have the name of another one's number.
+std::string FreeName(std::span<const OmrBox> boxes, int& number);
+
 }  // namespace tavrene::profiles

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/Files.h"
+#include "profiles/BoxSelection.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
@@ -26,8 +27,8 @@ struct OpenProfile {
     std::vector<OmrBox> BoxList;
     std::int16_t Count =
         0;               ///< Goes with every box added and deleted; it starts from the document's attribute.
-    int CurrentBox = 0;  ///< Number of the box last selected or edited; 0 for none.
-    int NextBoxId = 1;   ///< The number that the next drawn rectangle carries.
+    BoxSelection Selected;  ///< Its current box is the one last selected or edited.
+    int NextBoxId = 1;      ///< The number that the next drawn rectangle carries.
 
     int CurrentProfile = 0;       ///< 1-based place in the thumbnail strip; 0 for none.
     bool ProfileChanged = false;  ///< There are unsaved changes of boxes.

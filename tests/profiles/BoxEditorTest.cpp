@@ -87,11 +87,11 @@ TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
 TEST_F(BoxEditorTest, DeletingTheLastBoxMakesTheFirstCurrent) {
     Delete(6);
     editor_.RowClicked(6);  // gone
-    EXPECT_EQ(profile_.CurrentBox, 1);
+    EXPECT_EQ(profile_.Selected.Current(), 1);
     EXPECT_EQ(screen_.emphasised, 1);
     for (int k = 0; k < 6; ++k)
         editor_.DeleteBox();
-    EXPECT_EQ(profile_.Count + profile_.CurrentBox, 0);
+    EXPECT_EQ(profile_.Count + profile_.Selected.Current(), 0);
     EXPECT_TRUE(screen_.rows.empty());
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }

@@ -86,6 +86,7 @@ void BoxLayer::Remove(int group) {
         return;
     if (group == selected_)
         Mark(0);
+    marked_.erase(group);
     delete box->second.item;
     boxes_.erase(box);
 }
@@ -112,12 +113,12 @@ QPointF BoxLayer::Snapped(const QPointF& point, const QRectF& place) const {
             std::clamp(std::round(point.y()), room.top(), room.bottom())};
 }
 
-QRectF BoxLayer::Moved(const QRectF& place, const QPointF& by) const {
+QPointF BoxLayer::Way(const QRectF& place, const QPointF& by) const {
     const QRectF room = Room();
-    return place.translated(std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
-                                       std::max(0.0, room.right() - place.right())),
-                            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
-                                       std::max(0.0, room.bottom() - place.bottom())));
+    return {std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
+                       std::max(0.0, room.right() - place.right())),
+            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
+                       std::max(0.0, room.bottom() - place.bottom()))};
 }
 
 int BoxLayer::BoxAt(const QPointF& point) const {
@@ -158,8 +159,20 @@ void BoxLayer::ShowAt(int group, const QRectF& place) {
     const bool isEditable = box->second.style == imaging::RectStyle::Editable;
     const imaging::PageRect rect = ToPageRect(place);
     box->second.item->SetRect(isEditable ? imaging::PaintedPart(rect) : rect);
-    if (group == selected_ && isEditable)
-        frame_->SetRect(place);
+    if (isEditable && IsMarked(group))
+        frame_->SetRect(group, place);
+}
+
+QRectF BoxLayer::PlaceOfMarked() const {
+    QRectF place;
+    for (const int group : marked_)
+        place |= PlaceOf(group);
+    return place;
+}
+
+void BoxLayer::ShowMarkedAt(const QPointF& by) {
+    for (const int group : marked_)
+        ShowAt(group, PlaceOf(group).translated(by));
 }
 
 void BoxLayer::ShowDrawn(const QRectF& rect) {
@@ -178,15 +191,31 @@ void BoxLayer::TellMoved(int group) {
     listener_.moved(group);
 }
 
-void BoxLayer::Mark(int group) {
+void BoxLayer::TellFramed(const QRectF& area, bool isFurther) {
+    listener_.framed(ToPageRect(area), isFurther);
+}
+
+void BoxLayer::TellMovedTogether(const QPointF& by) {
+    listener_.movedTogether(static_cast<int>(by.x()), static_cast<int>(by.y()));
+}
+
+void BoxLayer::Mark(std::span<const int> groups, int current) {
     if (const auto before = boxes_.find(selected_); before != boxes_.end())
         before->second.item->SetEmphasised(false);
-    const auto box = boxes_.find(group);
-    selected_ = box == boxes_.end() ? 0 : group;
-    const bool isEditable = selected_ != 0 && box->second.style == imaging::RectStyle::Editable;
-    frame_->SetRect(isEditable ? box->second.place : QRectF());
-    if (selected_ != 0)
-        box->second.item->SetEmphasised(!isEditable);
+    const auto box = boxes_.find(current);
+    selected_ = box == boxes_.end() ? 0 : current;
+    marked_.clear();
+    if (groups.size() > 1)
+        marked_.insert(groups.begin(), groups.end());
+    frame_->Clear();
+    if (selected_ == 0)
+        return;
+    const bool isEditable = IsEditable(selected_);
+    box->second.item->SetEmphasised(!isEditable);
+    for (const int group : marked_)
+        frame_->SetRect(group, PlaceOf(group));
+    if (isEditable)
+        frame_->SetCurrent(selected_, PlaceOf(selected_));
 }
 
 }  // namespace tavrene::ui

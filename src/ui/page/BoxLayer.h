@@ -5,8 +5,11 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
+#include <span>
 
 #include "imaging/PageScreen.h"
+#include "profiles/BoxSelection.h"
 #include "ui/page/HandleFrame.h"
 #include "ui/page/PageTool.h"
 #include "ui/page/RectItem.h"
@@ -23,6 +26,15 @@ class BoxLayer final {
     struct Listener {
         std::function<void(const imaging::RectReport&)> selected;  ///< Also after a move and for a new one.
         std::function<void(int group)> moved;                      ///< Moved or resized; told first.
+
+        /// Clicked with Ctrl or Shift.
+        std::function<void(int group, profiles::Pick pick)> picked;
+
+        /// A frame was drawn around boxes; they are further ones, or alone.
+        std::function<void(const imaging::PageRect& area, bool isFurther)> framed;
+
+        /// All that are marked were moved together, by whole pixels.
+        std::function<void(int dx, int dy)> movedTogether;
     };
 
     /// The view owns the layer and the items in its scene.
@@ -41,6 +53,7 @@ class BoxLayer final {
     void Remove(int group);
     void Clear();
     void Emphasise(int group);
+    void Mark(std::span<const int> groups, int current);
     void SetTool(imaging::BoxTool tool, int nextGroup);
     bool IsEmpty() const { return boxes_.empty(); }
 
@@ -52,8 +65,9 @@ class BoxLayer final {
     /// The point on whole pixels of the page.
     QPointF Snapped(const QPointF& point, const QRectF& place = {}) const;
 
-    /// The place moved by whole pixels, not off the page or, of one that lies beside it, not further.
-    QRectF Moved(const QRectF& place, const QPointF& by) const;
+    /// The way in whole pixels that a place can be moved: not off the page or, where it lies beside it, not
+    /// further.
+    QPointF Way(const QRectF& place, const QPointF& by) const;
 
     /// The box at a point, the smallest where several lie over each other; 0 for none.
     int BoxAt(const QPointF& point) const;
@@ -61,6 +75,14 @@ class BoxLayer final {
     /// Whether a point lies within a box, and not only near it.
     bool HasBoxUnder(const QPointF& point) const;
     int SelectedBox() const { return selected_; }
+
+    /// The marked boxes, where they are several that can be moved; their numbers and the room they take.
+    bool HasSeveral() const { return marked_.size() > 1; }
+    bool IsMarked(int group) const { return group == selected_ || marked_.contains(group); }
+    QRectF PlaceOfMarked() const;
+
+    /// Shows the marked boxes moved without telling of it.
+    void ShowMarkedAt(const QPointF& by);
 
     /// Whether a box can be moved and resized; any other is told of when it is clicked.
     bool IsEditable(int group) const;
@@ -77,6 +99,9 @@ class BoxLayer final {
 
     void TellSelected(int group, const QRectF& place);
     void TellMoved(int group);
+    void TellPicked(int group, profiles::Pick pick) { listener_.picked(group, pick); }
+    void TellFramed(const QRectF& area, bool isFurther);
+    void TellMovedTogether(const QPointF& by);
 
   private:
     struct Shown {
@@ -84,8 +109,7 @@ class BoxLayer final {
         QRectF place;
         imaging::RectStyle style;
     };
-    void Mark(int group);
-
+    void Mark(int group) { Mark({}, group); }
     /// Where boxes are put: the page, or every place that a document can hold while there is none.
     QRectF Room() const;
 
@@ -99,6 +123,7 @@ class BoxLayer final {
     imaging::BoxTool tool_ = imaging::BoxTool::Select;
     bool editable_ = false;
     int selected_ = 0;
+    std::set<int> marked_;  ///< Where several are, all of them.
     int nextGroup_ = 1;
 };
 

@@ -245,7 +245,7 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
         viewport()->setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::LeftButton && tool_ != nullptr) {
         isToolDown_ = true;
-        tool_->Press(PagePoint(*event));
+        tool_->Press(PagePoint(*event), event->modifiers());
     }
 }
 
@@ -253,7 +253,7 @@ void ImageView::mouseMoveEvent(QMouseEvent* event) {
     if (panFrom_)
         Pan(event->position().toPoint());
     else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
-        tool_->Drag(PagePoint(*event));
+        tool_->Drag(PagePoint(*event), event->modifiers());
     else
         ShowCursorAt(PagePoint(*event));
 }
@@ -262,7 +262,7 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton)
         panFrom_.reset();
     else if (event->button() == Qt::LeftButton && std::exchange(isToolDown_, false) && tool_ != nullptr)
-        tool_->Release(PagePoint(*event));
+        tool_->Release(PagePoint(*event), event->modifiers());
     ShowCursorAt(PagePoint(*event));
 }
 
@@ -308,7 +308,7 @@ void ImageView::keyPressEvent(QKeyEvent* event) {
         if (isToolDown_)
             return;
         const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
-        if (takeArrow_(by.x(), by.y()))
+        if (takeArrow_(by.x(), by.y(), event->isAutoRepeat()))
             return;
     }
     QGraphicsView::keyPressEvent(event);

@@ -49,6 +49,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void RemoveRect(int group) override { boxes_->Remove(group); }
     void ClearRects() override { boxes_->Clear(); }
     void Emphasise(int group) override { boxes_->Emphasise(group); }
+    void Mark(std::span<const int> groups, int current) override { boxes_->Mark(groups, current); }
     void SetTool(imaging::BoxTool tool, int nextGroup) override { boxes_->SetTool(tool, nextGroup); }
 
     /// What is said in the place of a page while there is none.
@@ -68,9 +69,11 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool();
 
-    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; when it does
-    /// not take one, the view scrolls.
-    void SetArrowHandler(std::function<bool(int dx, int dy)> handler) { takeArrow_ = std::move(handler); }
+    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down, and whether the
+    /// key has been held since the step before; when it does not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(int dx, int dy, bool isHeld)> handler) {
+        takeArrow_ = std::move(handler);
+    }
 
     /// A zoom of the person's own, which ends following; in and out by the steps of the zoom commands,
     /// nothing without a page.
@@ -114,7 +117,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     PageItem* page_;
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
-    std::function<bool(int, int)> takeArrow_;
+    std::function<bool(int, int, bool)> takeArrow_;
     std::function<void(double)> zoomed_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;

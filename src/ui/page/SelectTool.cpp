@@ -10,59 +10,96 @@ namespace tavrene::ui {
 // Handles stand out of their box, on dense forms over its neighbours, and give way to them.
 unsigned SelectTool::EdgesUnder(const QPointF& point) const {
     const QRectF selected = layer_.PlaceOf(layer_.SelectedBox());
-    if (selected.isNull())
+    if (selected.isNull() || layer_.HasSeveral())
         return kNoEdge;
     const bool isOverNeighbour = !selected.contains(point) && layer_.HasBoxUnder(point);
     return isOverNeighbour ? kNoEdge : EdgesAt(selected, layer_.Scale(), point);
 }
 
-void SelectTool::Press(const QPointF& point) {
-    edges_ = EdgesUnder(point);
-    const int group = edges_ != kNoEdge ? layer_.SelectedBox() : layer_.BoxAt(point);
-    if (group == 0)
-        return;
-    const bool canMove = layer_.IsEditable(group);
-    if (edges_ == kNoEdge)
-        layer_.TellSelected(group, layer_.PlaceOf(group));
-    if (!canMove)
-        return;
-    dragged_ = group;
-    hasMoved_ = false;
+void SelectTool::Press(const QPointF& point, Qt::KeyboardModifiers keys) {
     from_ = point;
-    before_ = layer_.PlaceOf(group);
+    way_ = {};
+    hasMoved_ = false;
+    edges_ = EdgesUnder(point);
+    pressed_ = edges_ != kNoEdge ? layer_.SelectedBox() : layer_.BoxAt(point);
+    if (pressed_ == 0)
+        deed_ = Deed::Frame;
+    else if (edges_ != kNoEdge)
+        deed_ = Deed::Resize;
+    else
+        PressBox(pressed_, keys);
+    before_ = deed_ == Deed::MoveTogether ? layer_.PlaceOfMarked() : layer_.PlaceOf(pressed_);
+}
+
+// A box among several that are marked stays so until it is known whether they are dragged.
+void SelectTool::PressBox(int group, Qt::KeyboardModifiers keys) {
+    const bool canMove = layer_.IsEditable(group);
+    if (canMove && (keys & (Qt::ControlModifier | Qt::ShiftModifier)) != 0) {
+        deed_ = Deed::Click;
+        return;
+    }
+    if (canMove && layer_.HasSeveral() && layer_.IsMarked(group)) {
+        deed_ = Deed::MoveTogether;
+        return;
+    }
+    deed_ = canMove ? Deed::Move : Deed::None;
+    layer_.TellSelected(group, layer_.PlaceOf(group));
 }
 
 QRectF SelectTool::Moved(const QPointF& point) const {
-    if (edges_ != kNoEdge)
+    if (deed_ == Deed::Resize)
         return WithEdgesAt(before_, edges_, layer_.Snapped(point, before_));
-    return layer_.Moved(before_, point - from_);
+    return before_.translated(layer_.Way(before_, point - from_));
 }
 
-void SelectTool::Drag(const QPointF& point) {
-    if (dragged_ == 0)
-        return;
+void SelectTool::MoveTogetherTo(const QPointF& point) {
+    const QPointF way = layer_.Way(before_, point - from_);
+    layer_.ShowMarkedAt(way - way_);
+    way_ = way;
+}
+
+void SelectTool::Drag(const QPointF& point, Qt::KeyboardModifiers) {
     const QPointF by = (point - from_) * layer_.Scale();
     hasMoved_ = hasMoved_ || std::hypot(by.x(), by.y()) > kTremble;
-    if (hasMoved_)
-        layer_.ShowAt(dragged_, Moved(point));
+    if (!hasMoved_)
+        return;
+    if (deed_ == Deed::Frame)
+        layer_.ShowDrawn(QRectF(from_, point).normalized());
+    else if (deed_ == Deed::MoveTogether)
+        MoveTogetherTo(point);
+    else if (deed_ == Deed::Move || deed_ == Deed::Resize)
+        layer_.ShowAt(pressed_, Moved(point));
 }
 
-void SelectTool::Release(const QPointF& point) {
-    Drag(point);
-    const int group = std::exchange(dragged_, 0);
-    const QRectF place = layer_.PlaceOf(group);
-    if (group == 0 || place == before_)
-        return;
-    layer_.TellMoved(group);
-    layer_.TellSelected(group, place);
+void SelectTool::Release(const QPointF& point, Qt::KeyboardModifiers keys) {
+    Drag(point, keys);
+    const Deed deed = std::exchange(deed_, Deed::None);
+    const QRectF place = layer_.PlaceOf(pressed_);
+    layer_.ShowDrawn({});
+    if (deed == Deed::Click && !hasMoved_) {
+        layer_.TellPicked(pressed_, keys.testFlag(Qt::ControlModifier) ? profiles::Pick::Toggle
+                                                                       : profiles::Pick::Span);
+    } else if (deed == Deed::Frame && hasMoved_) {
+        layer_.TellFramed(QRectF(from_, point).normalized(),
+                          (keys & (Qt::ControlModifier | Qt::ShiftModifier)) != 0);
+    } else if (deed == Deed::MoveTogether && !hasMoved_) {
+        layer_.TellSelected(pressed_, place);
+    } else if (deed == Deed::MoveTogether && !way_.isNull()) {
+        layer_.TellMovedTogether(way_);
+    } else if ((deed == Deed::Move || deed == Deed::Resize) && place != before_) {
+        layer_.TellMoved(pressed_);
+        layer_.TellSelected(pressed_, place);
+    }
 }
 
 bool SelectTool::Cancel() {
-    const int group = std::exchange(dragged_, 0);
-    if (group == 0)
-        return false;
-    layer_.ShowAt(group, before_);
-    return true;
+    const Deed deed = std::exchange(deed_, Deed::None);
+    layer_.ShowDrawn({});
+    if (deed == Deed::MoveTogether)
+        layer_.ShowMarkedAt(-way_);
+    else if (deed == Deed::Move || deed == Deed::Resize)
+        layer_.ShowAt(pressed_, before_);
+    return deed != Deed::None;
 }
 
 QCursor SelectTool::CursorOver(int group) const {
