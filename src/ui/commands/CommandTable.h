@@ -27,6 +27,15 @@ enum class Command {
     Undo,
     Redo,
     FindMoreBoxes,
+    SelectAllBoxes,
+    SelectSameSize,
+    EqualSize,
+    AlignLeft,
+    AlignRight,
+    AlignTop,
+    AlignBottom,
+    DistributeAcross,
+    DistributeDown,
     OpenForm,
     NextForm,
     PreviousForm,
@@ -64,7 +73,8 @@ enum class Command {
 /// Where a command's button stands; the commands without one are reached through the menu bar alone.
 enum class Toolbar { Main, Cfg, None };
 
-enum class Menu { File, Boxes, View, Process, Review, Help };
+/// `Arrange` opens from `Boxes`, the others from the menu bar.
+enum class Menu { File, Boxes, Arrange, View, Process, Review, Help };
 
 /// One command as the window presents it.
 struct CommandInfo {

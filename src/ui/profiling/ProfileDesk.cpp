@@ -24,6 +24,7 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                                        [this] { gate_.Run(Command::FindMoreBoxes); }};
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
+      boxes_(context.gate, session_.Profile(), session_.Editor()),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
             [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
@@ -56,7 +57,7 @@ void ProfileDesk::ConnectBoxCommands() {
     gate_.SetHandler(Command::AddBox, [this] { session_.Editor().SetTool(BoxTool::Add); });
     gate_.SetHandler(Command::DeleteBox, [this] { session_.Editor().DeleteBox(); });
     gate_.SetHandler(
-        Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().CurrentBox); },
+        Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().Selected.Current()); },
         [this] { return HasBox(); });
     gate_.SetHandler(
         Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
@@ -66,8 +67,8 @@ void ProfileDesk::ConnectBoxCommands() {
 
 void ProfileDesk::ConnectControls() {
     controls_.rows.SetListener(
-        {[this](int number) {
-             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowClicked(number); });
+        {[this](int number, profiles::Pick pick) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowClicked(number, pick); });
          },
          [this](int number, const QString& name) {
              gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowRenamed(number, FromQt(name)); });
@@ -79,7 +80,16 @@ void ProfileDesk::ConnectControls() {
                      session_.Editor().RectSelected(report);
              });
          },
-         [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
+         [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); },
+         [this](int group, profiles::Pick pick) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectPicked(group, pick); });
+         },
+         [this](const imaging::PageRect& area, bool isFurther) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().AreaPicked(area, isFurther); });
+         },
+         [this](int dx, int dy) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); });
+         }});
     for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
         new QShortcut(
             Qt::Key_Delete, widget,
@@ -88,10 +98,10 @@ void ProfileDesk::ConnectControls() {
                 gate_.Run(Command::DeleteBox);
             },
             Qt::WidgetWithChildrenShortcut);
-    controls_.view.SetArrowHandler([this](int dx, int dy) {
+    controls_.view.SetArrowHandler([this](int dx, int dy, bool isHeld) {
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)
-            gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); });
+            gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy, isHeld); });
         return isTaken;
     });
     controls_.pane.Strip().SetListener(

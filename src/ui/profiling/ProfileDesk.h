@@ -9,6 +9,7 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
+#include "ui/profiling/BoxCommands.h"
 #include "ui/profiling/MoreBoxes.h"
 #include "ui/profiling/ProfilePane.h"
 
@@ -66,13 +67,14 @@ class ProfileDesk {
     void ConnectControls();
     void Pick(int thumbnail);
     bool CanEdit() const { return session_.IsOpen(); }
-    bool HasBox() const { return session_.Profile().CurrentBox != 0; }
+    bool HasBox() const { return !session_.Profile().Selected.IsEmpty(); }
 
     commands::AppState& state_;
     app::Operator& person_;
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::ProfileSession session_;
+    BoxCommands boxes_;
     MoreBoxes more_;
 };
 
