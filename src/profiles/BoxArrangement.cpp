@@ -29,8 +29,8 @@ const OmrBox& CurrentOf(const std::vector<OmrBox>& boxes, const BoxSelection& se
     return boxes[static_cast<std::size_t>(selected.Current()) - 1];
 }
 
-// How far two opposite sides may go together, from below 0 to above it, within an extent that is 0 where it is
-// not known.
+// How far two opposite sides may go together, from below 0 to above it, within an extent that is 0 where it
+// is not known.
 struct Leeway {
     int least = std::numeric_limits<int>::min();
     int most = std::numeric_limits<int>::max();
@@ -106,7 +106,8 @@ void Distribute(std::vector<OmrBox>& boxes, const BoxSelection& selected, Direct
         return direction == Direction::Across ? at.x : at.y;
     };
     std::vector<OmrBox*> picked = Picked(boxes, selected);
-    std::sort(picked.begin(), picked.end(), [&](const auto* a, const auto* b) { return middle(a) < middle(b); });
+    std::sort(picked.begin(), picked.end(),
+              [&](const auto* a, const auto* b) { return middle(a) < middle(b); });
     std::vector<std::vector<OmrBox*>> lines;
     for (OmrBox* const box : picked) {
         const PageRect place = PlaceOf(*box);

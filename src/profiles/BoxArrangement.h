@@ -29,8 +29,8 @@ void MakeEqualSize(std::vector<OmrBox>& boxes, const BoxSelection& selected);
 /// That side of all where the current box has it.
 void Align(std::vector<OmrBox>& boxes, const BoxSelection& selected, Side side);
 
-/// The middles at equal distances between the two that are outermost, which stay. Boxes in one line of the other
-/// direction (as the boxes of a table's column are) move together.
+/// The middles at equal distances between the two that are outermost, which stay. Boxes in one line of the
+/// other direction (as the boxes of a table's column are) move together.
 void Distribute(std::vector<OmrBox>& boxes, const BoxSelection& selected, Direction direction);
 
 /// All boxes about as wide and high as this one: print and scan make a pixel or two of difference.

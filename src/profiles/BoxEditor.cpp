@@ -249,8 +249,8 @@ bool BoxEditor::Change(const std::function<void(std::vector<OmrBox>&)>& change,
     std::vector<OmrBox> after = profile_.BoxList;
     change(after);
     BoxEdit edit = EditTo(after, selected.value_or(profile_.Selected));
-    const bool isTooMany = after.size() > profile_.BoxList.size() &&
-                           !HasRoomFor(after.size() - profile_.BoxList.size());
+    const bool isTooMany =
+        after.size() > profile_.BoxList.size() && !HasRoomFor(after.size() - profile_.BoxList.size());
     if (edit.changes.empty() || isTooMany)
         return false;
     Apply(std::move(edit));
@@ -282,11 +282,8 @@ bool BoxEditor::HasRoomFor(std::size_t boxes) const {
 
 BoxEdit BoxEditor::EditTo(const std::vector<OmrBox>& after, BoxSelection selected) const {
     const int more = static_cast<int>(KeptNumbers(after).size() - KeptNumbers(profile_.BoxList).size());
-    return {ChangesBetween(profile_.BoxList, after),
-            profile_.Count,
-            app::Max(0, app::ClampToInt16(profile_.Count + more)),
-            profile_.Selected,
-            std::move(selected)};
+    return {ChangesBetween(profile_.BoxList, after), profile_.Count,
+            app::Max(0, app::ClampToInt16(profile_.Count + more)), profile_.Selected, std::move(selected)};
 }
 
 void BoxEditor::Apply(BoxEdit edit) {

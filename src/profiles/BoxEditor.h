@@ -37,7 +37,8 @@ class BoxEditor {
     /// A box of the page was picked beside others; a span holds the boxes between it and the anchor.
     void RectPicked(int group, Pick pick);
 
-    /// The boxes in a rectangle of the page were picked, as further ones or alone; without any nothing changes.
+    /// The boxes in a rectangle of the page were picked, as further ones or alone; without any nothing
+    /// changes.
     void AreaPicked(const imaging::PageRect& area, bool isFurther);
 
     /// Puts boxes among the others, each where sorting from the top of the page down and from left to right
@@ -48,12 +49,12 @@ class BoxEditor {
     /// Deletes the selected boxes; the next one that is left becomes current.
     void DeleteBox();
 
-    /// Moves the selected boxes by whole pixels of the image, to the right and down, but not off the page. While
-    /// a key is held its steps are one edit.
+    /// Moves the selected boxes by whole pixels of the image, to the right and down, but not off the page.
+    /// While a key is held its steps are one edit.
     void Nudge(int dx, int dy, bool isHeld = false);
 
-    /// Changes the boxes, of which at most the end of the list may come or go, as one edit, and selects others
-    /// or the same. False when nothing is changed by it, or there is no room for so many boxes.
+    /// Changes the boxes, of which at most the end of the list may come or go, as one edit, and selects
+    /// others or the same. False when nothing is changed by it, or there is no room for so many boxes.
     bool Change(const std::function<void(std::vector<OmrBox>&)>& change,
                 const std::optional<BoxSelection>& selected = {});
 

@@ -9,8 +9,8 @@
 
 namespace tavrene::profiles {
 
-/// Where a box stands on the page. A document written by hand may have its edges in the other order; it stands
-/// at the same place.
+/// Where a box stands on the page. A document written by hand may have its edges in the other order; it
+/// stands at the same place.
 inline imaging::PageRect PlaceOf(const OmrBox& box) {
     return {static_cast<double>(std::min(box.L, box.R)), static_cast<double>(std::min(box.T, box.B)),
             std::abs(static_cast<double>(box.R - box.L)), std::abs(static_cast<double>(box.B - box.T))};

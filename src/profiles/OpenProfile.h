@@ -26,7 +26,7 @@ struct OpenProfile {
     /// while the profile is open.
     std::vector<OmrBox> BoxList;
     std::int16_t Count =
-        0;               ///< Goes with every box added and deleted; it starts from the document's attribute.
+        0;  ///< Goes with every box added and deleted; it starts from the document's attribute.
     BoxSelection Selected;  ///< Its current box is the one last selected or edited.
     int NextBoxId = 1;      ///< The number that the next drawn rectangle carries.
 

@@ -25,8 +25,12 @@ class SeveralBoxesTest : public test::EditorWorld {
 
 // Q1 to Q3 stand at 60, 114 and 168 in the first row, Q4 to Q6 below them.
 TEST_F(SeveralBoxesTest, ArePickedByRowsByBoxesAndByAFrame) {
-    const auto row = [this](int number, Pick pick) { return [=, this] { editor_.RowClicked(number, pick); }; };
-    const auto rect = [this](int number, Pick pick) { return [=, this] { editor_.RectPicked(number, pick); }; };
+    const auto row = [this](int number, Pick pick) {
+        return [=, this] { editor_.RowClicked(number, pick); };
+    };
+    const auto rect = [this](int number, Pick pick) {
+        return [=, this] { editor_.RectPicked(number, pick); };
+    };
     const auto frame = [this](PageRect area, bool isFurther) {
         return [=, this] { editor_.AreaPicked(area, isFurther); };
     };
@@ -60,13 +64,15 @@ TEST_F(SeveralBoxesTest, AreArrangedAndMovedTogetherOnThePage) {
     profile_.ImageWidth = 230;
     editor_.Select(BoxSelection({1, 2, 3}, 2));
     editor_.Nudge(100, 0);
-    EXPECT_EQ(Lefts(), (Numbers{98, 152, 206, 60, 114, 168})) << "the right one stops at the edge of the page";
+    EXPECT_EQ(Lefts(), (Numbers{98, 152, 206, 60, 114, 168}))
+        << "the right one stops at the edge of the page";
     editor_.Nudge(-60, 0);
     Box(2).L = 101;
     Arrange([](auto& boxes, const auto& selected) { Distribute(boxes, selected, Direction::Across); });
     EXPECT_EQ(Lefts(), (Numbers{38, 97, 146, 60, 114, 168})) << "the middle of the narrower one";
     Arrange(MakeEqualSize);
-    EXPECT_EQ(Place(1), (std::vector<int>{42, 70, 57, 94})) << "as narrow as the current one, its middle kept";
+    EXPECT_EQ(Place(1), (std::vector<int>{42, 70, 57, 94}))
+        << "as narrow as the current one, its middle kept";
     Arrange([](auto& boxes, const auto& selected) { Align(boxes, selected, Side::Right); });
     EXPECT_EQ(Lefts(), (Numbers{97, 97, 97, 60, 114, 168}));
     editor_.DeleteBox();
@@ -113,11 +119,15 @@ TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
     const std::vector<std::function<void()>> actions = {
         [&] { editor_.Nudge(any(-9, 9), any(-9, 9), any(0, 1) == 1); },
         [&] { Draw(any(0, 500), any(0, 400), any(5, 40), any(5, 40)); },
-        [&] { editor_.AddBoxes({{"a", 10, 10, 30, 30}, {"b", 300, 90, 320, 110}}); },
+        [&] {
+            editor_.AddBoxes({{"a", 10, 10, 30, 30}, {"b", 300, 90, 320, 110}});
+        },
         [&] { editor_.DeleteBox(); },
         [&] { Arrange(MakeEqualSize); },
         [&] { Arrange([&](auto& boxes, auto& on) { Align(boxes, on, static_cast<Side>(any(0, 3))); }); },
-        [&] { Arrange([&](auto& boxes, auto& on) { Distribute(boxes, on, static_cast<Direction>(any(0, 1))); }); },
+        [&] {
+            Arrange([&](auto& boxes, auto& on) { Distribute(boxes, on, static_cast<Direction>(any(0, 1))); });
+        },
         [&] { Rename(profile_.Selected.Current(), "name " + std::to_string(any(1, 99))); },
     };
     const auto began = state();
@@ -125,7 +135,8 @@ TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
         const Numbers kept = KeptNumbers(profile_.BoxList);
         if (kept.empty())
             break;
-        editor_.Select(BoxSelection(kept[static_cast<std::size_t>(any(0, static_cast<int>(kept.size()) - 1))]));
+        editor_.Select(
+            BoxSelection(kept[static_cast<std::size_t>(any(0, static_cast<int>(kept.size()) - 1))]));
         for (const int number : kept)
             if (any(0, 3) == 0)
                 editor_.RowClicked(number, Pick::Toggle);

@@ -1,7 +1,7 @@
 #include "ui/commands/CommandTable.h"
 
 #include <array>
-#include <cstddef>
+#include <stdexcept>
 #include <utility>
 
 namespace tavrene::commands {
@@ -10,125 +10,152 @@ namespace {
 using C = Command;
 using T = Toolbar;
 using M = Menu;
+using P = Prompts;
 
+// Commands of one of these rules are never in different states.
+constexpr Rule kIdle = {"SDUPRF"};  // everywhere but in a run
+constexpr Rule kLeavesProfile = {"SDUP", P::Profile};
+constexpr Rule kLeavesAll = {"SDUPRF", P::ProfileThenForm};
+constexpr Rule kOfProfile = {"UP", P::None, "S"};
+constexpr Rule kOfBoxes = {"P"};
+constexpr Rule kOfReview = {"RF"};
+constexpr Rule kToAnotherForm = {"RF", P::Form};
+constexpr Rule kOfForm = {"F"};
+constexpr Rule kDecides = {"F", P::None, "", "RF"};
+constexpr Rule kAccepts = {"F", P::Form, "", "RF"};
+
+// Save and Delete are enabled when the window opens, as all of its buttons but the decisions; with review
+// they go until there is a profile again. Process and Stop are one group: while a run goes on, a second
+// Process is enabled and ignored, and Stop has nothing to stop before.
 // clang-format off
 constexpr std::array kCommands = {
     CommandInfo{C::New, T::Main, "New", "Create New Profile",
-                M::File, "&New Profile...", "Ctrl+N", "New", false, false},
+                M::File, "&New Profile...", "Ctrl+N", "New", false, false, kLeavesProfile},
     CommandInfo{C::Save, T::Main, "Save", "Save Current Profile",
-                M::File, "&Save Profile", "Ctrl+S", "Save", false, false},
+                M::File, "&Save Profile", "Ctrl+S", "Save", false, false, kOfProfile},
     CommandInfo{C::DeleteProfile, T::Main, "Delete", "Delete Current Profile",
-                M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", false, false},
+                M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", false, false, kOfProfile},
     CommandInfo{C::ZoomToOrig, T::Main, "ZoomToOrig", "Zoom To Original",
-                M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", false, true},
+                M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", false, true, kIdle},
     CommandInfo{C::ZoomIn, T::Main, "ZoomIn", "Zoom In",
-                M::View, "Zoom &In", "Ctrl++", "ZoomIn", false, false},
+                M::View, "Zoom &In", "Ctrl++", "ZoomIn", false, false, kIdle},
     CommandInfo{C::ZoomOut, T::Main, "ZoomOut", "Zoom Out",
-                M::View, "Zoom O&ut", "Ctrl+-", "ZoomOut", false, false},
+                M::View, "Zoom O&ut", "Ctrl+-", "ZoomOut", false, false, kIdle},
     CommandInfo{C::FitPage, T::Main, "FitPage", "Fit Page",
-                M::View, "Fit &Page", "Ctrl+2", "FitPage", false, false},
+                M::View, "Fit &Page", "Ctrl+2", "FitPage", false, false, kIdle},
     CommandInfo{C::FitWidth, T::Main, "FitWidth", "Fit Width",
-                M::View, "Fit &Width", "Ctrl+3", "FitWidth", false, false},
+                M::View, "Fit &Width", "Ctrl+3", "FitWidth", false, false, kIdle},
     CommandInfo{C::ToolbarLabels, T::None, "ToolbarLabels", "Words under the buttons of the toolbars",
-                M::View, "Toolbar &Labels", "Ctrl+L", "", true, true},
+                M::View, "Toolbar &Labels", "Ctrl+L", "", true, true, kIdle},
     CommandInfo{C::Process, T::Main, "Process",
                 "Start OMR recognition process of images from configured directory",
-                M::Process, "&Process", "F5", "Process", false, true},
+                M::Process, "&Process", "F5", "Process", false, true, {"SDUPRF", P::ProfileThenForm, "X"}},
     CommandInfo{C::Stop, T::Main, "Stop", "Stop Process",
-                M::Process, "&Stop", "Shift+F5", "Stop", false, false},
+                M::Process, "&Stop", "Shift+F5", "Stop", false, false, {kModeLetters}},
     CommandInfo{C::Review, T::Main, "Review", "Review Processed Forms",
-                M::Review, "&Review Forms", "F6", "Review", true, true},
+                M::Review, "&Review Forms", "F6", "Review", true, true, kLeavesAll},
     CommandInfo{C::Okay, T::Main, "Okay", "Reviewed OK",
-                M::Review, "Reviewed &OK", "Ctrl+Return; Ctrl+Enter", "Okay", false, false},
+                M::Review, "Reviewed &OK", "Ctrl+Return; Ctrl+Enter", "Okay", false, false, kDecides},
     CommandInfo{C::AcceptForm, T::Main, "AcceptForm", "Accept Form (Move to Final Folder)",
-                M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", false, false},
+                M::Review, "&Accept Form", "Ctrl+Shift+A", "AcceptForm", false, false, kAccepts},
     CommandInfo{C::RejectForm, T::Main, "RejectForm", "Reject Form (Move to Reject Folder)",
-                M::Review, "Re&ject Form", "Ctrl+Shift+R", "RejectForm", false, false},
+                M::Review, "Re&ject Form", "Ctrl+Shift+R", "RejectForm", false, false, kDecides},
     CommandInfo{C::SelectBox, T::Cfg, "Select", "Select/Move/Modify OMR CheckBox",
-                M::Boxes, "&Select Box", "F7", "Select", true, false},
+                M::Boxes, "&Select Box", "F7", "Select", true, false, kOfBoxes},
     CommandInfo{C::AddBox, T::Cfg, "Add", "Create New OMR CheckBox",
-                M::Boxes, "&Add Box", "F8", "Add", true, false},
+                M::Boxes, "&Add Box", "F8", "Add", true, false, kOfBoxes},
     CommandInfo{C::DeleteBox, T::Cfg, "Delete", "Delete OMR CheckBox",
-                M::Boxes, "&Delete Box\tDel", "", "DeleteBox", false, false},
+                M::Boxes, "&Delete Box\tDel", "", "DeleteBox", false, false, kOfBoxes},
     CommandInfo{C::RenameBox, T::None, "Rename", "Give the selected box another name",
-                M::Boxes, "&Rename Box", "F2", "", false, false},
+                M::Boxes, "&Rename Box", "F2", "", false, false, kOfBoxes},
     CommandInfo{C::Undo, T::None, "Undo", "Take back the last change of a box",
-                M::Boxes, "&Undo", "Ctrl+Z", "", false, true},
+                M::Boxes, "&Undo", "Ctrl+Z", "", false, true, kOfBoxes},
     CommandInfo{C::Redo, T::None, "Redo", "Make the change again that was taken back",
-                M::Boxes, "R&edo", "Ctrl+Shift+Z; Ctrl+Y", "", false, false},
+                M::Boxes, "R&edo", "Ctrl+Shift+Z; Ctrl+Y", "", false, false, kOfBoxes},
     CommandInfo{C::FindMoreBoxes, T::None, "FindMoreBoxes", "Look for boxes of the page that are not in the list",
-                M::Boxes, "&Find More Boxes", "Ctrl+M", "", false, true},
+                M::Boxes, "&Find More Boxes", "Ctrl+M", "", false, true, kOfBoxes},
     CommandInfo{C::SelectAllBoxes, T::None, "SelectAllBoxes", "Select all boxes of the page",
-                M::Boxes, "Select A&ll Boxes", "Ctrl+A", "", false, true},
+                M::Boxes, "Select A&ll Boxes", "Ctrl+A", "", false, true, kOfBoxes},
     CommandInfo{C::SelectSameSize, T::None, "SelectSameSize", "Select all boxes that are as large as the selected one",
-                M::Boxes, "Select Boxes of This Si&ze", "Ctrl+Alt+A", "", false, false},
+                M::Boxes, "Select Boxes of This Si&ze", "Ctrl+Alt+A", "", false, false, kOfBoxes},
     CommandInfo{C::EqualSize, T::None, "EqualSize", "Make the selected boxes as large as the one with the thick frame",
-                M::Arrange, "&Equal Size", "Ctrl+Alt+S", "", false, false},
+                M::Arrange, "&Equal Size", "Ctrl+Alt+S", "", false, false, kOfBoxes},
     CommandInfo{C::AlignLeft, T::None, "AlignLeft", "Put the left sides of the selected boxes in one line",
-                M::Arrange, "Align &Left Sides", "Ctrl+Shift+Left", "", false, true},
+                M::Arrange, "Align &Left Sides", "Ctrl+Shift+Left", "", false, true, kOfBoxes},
     CommandInfo{C::AlignRight, T::None, "AlignRight", "Put the right sides of the selected boxes in one line",
-                M::Arrange, "Align &Right Sides", "Ctrl+Shift+Right", "", false, false},
+                M::Arrange, "Align &Right Sides", "Ctrl+Shift+Right", "", false, false, kOfBoxes},
     CommandInfo{C::AlignTop, T::None, "AlignTop", "Put the upper sides of the selected boxes in one line",
-                M::Arrange, "Align &Upper Sides", "Ctrl+Shift+Up", "", false, false},
+                M::Arrange, "Align &Upper Sides", "Ctrl+Shift+Up", "", false, false, kOfBoxes},
     CommandInfo{C::AlignBottom, T::None, "AlignBottom", "Put the lower sides of the selected boxes in one line",
-                M::Arrange, "Align Lo&wer Sides", "Ctrl+Shift+Down", "", false, false},
+                M::Arrange, "Align Lo&wer Sides", "Ctrl+Shift+Down", "", false, false, kOfBoxes},
     CommandInfo{C::DistributeAcross, T::None, "DistributeAcross", "Put the selected boxes at equal distances across the page",
-                M::Arrange, "Distribute &Across", "Ctrl+Alt+H", "", false, true},
+                M::Arrange, "Distribute &Across", "Ctrl+Alt+H", "", false, true, kOfBoxes},
     CommandInfo{C::DistributeDown, T::None, "DistributeDown", "Put the selected boxes at equal distances down the page",
-                M::Arrange, "Distribute &Down", "Ctrl+Alt+V", "", false, false},
+                M::Arrange, "Distribute &Down", "Ctrl+Alt+V", "", false, false, kOfBoxes},
     CommandInfo{C::OpenForm, T::None, "OpenForm", "Open the form of the selected line",
-                M::Review, "Open &Form\tEnter", "", "", false, true},
+                M::Review, "Open &Form\tEnter", "", "", false, true, kToAnotherForm},
     CommandInfo{C::NextForm, T::None, "NextForm", "Open the form below",
-                M::Review, "&Next Form", "PgDown", "", false, false},
+                M::Review, "&Next Form", "PgDown", "", false, false, kToAnotherForm},
     CommandInfo{C::PreviousForm, T::None, "PreviousForm", "Open the form above",
-                M::Review, "&Previous Form", "PgUp", "", false, false},
+                M::Review, "&Previous Form", "PgUp", "", false, false, kToAnotherForm},
     CommandInfo{C::FlipBox, T::None, "FlipBox", "Turn the mark of the selected box round",
-                M::Review, "&Turn Mark\tSpace", "", "", false, true},
+                M::Review, "&Turn Mark\tSpace", "", "", false, true, kOfForm},
     CommandInfo{C::NextDoubtful, T::None, "NextDoubtful", "Go to the next box whose ink is near the threshold",
-                M::Review, "Next &Doubtful Box", "Ctrl+D", "", false, false},
+                M::Review, "Next &Doubtful Box", "Ctrl+D", "", false, false, kOfForm},
     CommandInfo{C::GoOn, T::None, "GoOn", "Open the next form after a form was accepted or rejected",
-                M::Review, "&Go On to the Next Form", "Ctrl+G", "", true, true},
+                M::Review, "&Go On to the Next Form", "Ctrl+G", "", true, true, kIdle},
     CommandInfo{C::UndoDecision, T::None, "UndoDecision", "Bring the form back that was accepted or rejected last",
-                M::Review, "&Undo Decision", "Ctrl+U", "", false, false},
+                M::Review, "&Undo Decision", "Ctrl+U", "", false, false, kToAnotherForm},
     CommandInfo{C::ExportResults, T::None, "ExportResults", "Write the results of all forms into tables",
-                M::File, "&Export Results...", "Ctrl+E", "", false, true},
+                M::File, "&Export Results...", "Ctrl+E", "", false, true, {"SDUPRF", P::Form}},
     CommandInfo{C::OpenWorkingFolder, T::None, "OpenWorkingFolder", "Show the working folder on the desktop",
-                M::File, "Open &Working Folder", "Ctrl+Shift+O", "", false, true},
+                M::File, "Open &Working Folder", "Ctrl+Shift+O", "", false, true, kIdle},
     CommandInfo{C::OpenLog, T::None, "OpenLog", "Read the newest log",
-                M::File, "Open &Log", "Ctrl+Shift+L", "", false, false},
+                M::File, "Open &Log", "Ctrl+Shift+L", "", false, false, kIdle},
     CommandInfo{C::PreciseAlignment, T::None, "PreciseAlignment",
                 "Read forms by one map of all their boxes: also turned, stretched, bent and thin ones",
-                M::Process, "Precise &Alignment", "Ctrl+Shift+P", "", true, true},
+                M::Process, "Precise &Alignment", "Ctrl+Shift+P", "", true, true, kIdle},
     CommandInfo{C::SecondOpinion, T::None, "SecondOpinion",
                 "While Precise Alignment is off, say where it would read otherwise",
-                M::Process, "Second &Opinion", "Ctrl+Shift+D", "", true, false},
+                M::Process, "Second &Opinion", "Ctrl+Shift+D", "", true, false, kIdle},
     CommandInfo{C::ReadAgain, T::None, "ReadAgain",
                 "Read the forms of the last run that only Precise Alignment recognises",
-                M::Process, "Read Turned Forms A&gain", "Ctrl+F5", "", false, false},
+                M::Process, "Read Turned Forms A&gain", "Ctrl+F5", "", false, false, kIdle},
     CommandInfo{C::RunSummary, T::None, "RunSummary", "What became of the files of the last run",
-                M::Process, "Summary of the &Last Run", "Ctrl+R", "", false, true},
+                M::Process, "Summary of the &Last Run", "Ctrl+R", "", false, true, kIdle},
     CommandInfo{C::ProcessUnread, T::None, "ProcessUnread",
                 "Take the pages of ProcessOut that were not read once more, with the profiles as they are now",
-                M::Process, "Process &Unread Pages Again", "Shift+F6", "", false, false},
+                M::Process, "Process &Unread Pages Again", "Shift+F6", "", false, false, kLeavesAll},
     CommandInfo{C::BackToProcessIn, T::None, "BackToProcessIn",
                 "Move the selected pages that were not read back to ProcessIn",
-                M::Review, "&Back to ProcessIn", "Ctrl+B", "", false, true},
+                M::Review, "&Back to ProcessIn", "Ctrl+B", "", false, true, kOfReview},
     CommandInfo{C::AllBackToProcessIn, T::None, "AllBackToProcessIn",
                 "Move all pages that were not read back to ProcessIn",
-                M::Review, "A&ll Back to ProcessIn", "Ctrl+Shift+B", "", false, false},
+                M::Review, "A&ll Back to ProcessIn", "Ctrl+Shift+B", "", false, false, kOfReview},
     CommandInfo{C::PasteScans, T::None, "PasteScans",
                 "Copy the scans or folders of the clipboard to ProcessIn; dropping them on the window does it, too",
-                M::File, "&Paste Scans", "Ctrl+V", "", false, true},
+                M::File, "&Paste Scans", "Ctrl+V", "", false, true, kIdle},
     CommandInfo{C::Settings, T::None, "Settings", "Folder, box sizes and processing options",
-                M::File, "Se&ttings...", "Ctrl+,", "", false, true},
+                M::File, "Se&ttings...", "Ctrl+,", "", false, true, kIdle},
     CommandInfo{C::Exit, T::None, "Exit", "Close the program",
-                M::File, "E&xit", "Ctrl+Q", "", false, true},
+                M::File, "E&xit", "Ctrl+Q", "", false, true, {kModeLetters, P::FormThenProfile}},
     CommandInfo{C::Manual, T::None, "Manual", "The manual, at the page of what is being done",
-                M::Help, "&Manual", "F1", "", false, false},
+                M::Help, "&Manual", "F1", "", false, false, kIdle},
     CommandInfo{C::About, T::None, "About", "Name and version of the program",
-                M::Help, "&About...", "Shift+F1", "", false, true},
+                M::Help, "&About...", "Shift+F1", "", false, true, kIdle},
 };
 // clang-format on
+
+// What the person does in lists and views.
+constexpr std::pair<Command, Rule> kEvents[] = {
+    {C::PickThumbnail, kLeavesProfile},
+    {C::SetActive, kOfBoxes},
+    {C::EditBoxes, kOfBoxes},
+    {C::PickForm, kToAnotherForm},
+    {C::PickFile, kLeavesAll},
+    {C::PickProfile, kOfForm},
+    {C::PickMark, kOfForm},
+};
 
 // Shorter than the menu's texts, so that all buttons have room in a narrow window.
 constexpr std::pair<Command, std::string_view> kLabels[] = {
@@ -144,6 +171,16 @@ constexpr std::pair<Command, std::string_view> kLabels[] = {
 
 std::span<const CommandInfo> CommandTable() {
     return kCommands;
+}
+
+const Rule& RuleOf(Command command) {
+    for (const CommandInfo& info : kCommands)
+        if (info.command == command)
+            return info.rule;
+    for (const auto& [event, rule] : kEvents)
+        if (event == command)
+            return rule;
+    throw std::logic_error("a command without a rule");
 }
 
 std::string_view LabelOf(Command command) {

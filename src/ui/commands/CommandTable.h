@@ -76,6 +76,20 @@ enum class Toolbar { Main, Cfg, None };
 /// `Arrange` opens from `Boxes`, the others from the menu bar.
 enum class Menu { File, Boxes, Arrange, View, Process, Review, Help };
 
+/// The questions about unsaved work that come before a command. Cancel at one of them abandons the command.
+enum class Prompts { None, Profile, Form, ProfileThenForm, FormThenProfile };
+
+/// The modes by a letter each, in the order of `Mode`.
+constexpr std::string_view kModeLetters = "SDUPRFX";
+
+/// In which modes a command acts, by their letters, and what is asked first.
+struct Rule {
+    std::string_view acts;
+    Prompts prompts = Prompts::None;
+    std::string_view alsoOffered = {};  ///< Where its button is enabled without effect.
+    std::string_view shown = kModeLetters;
+};
+
 /// One command as the window presents it.
 struct CommandInfo {
     Command command;
@@ -88,10 +102,14 @@ struct CommandInfo {
     std::string_view icon;      ///< Name of the picture; empty for none.
     bool isToggle;              ///< Its button stays pressed.
     bool separatorBefore;
+    Rule rule;
 };
 
 /// All commands with a place in the menus; those of one toolbar or menu stand in its order.
 std::span<const CommandInfo> CommandTable();
+
+/// That of any command, with a place in the menus or without.
+const Rule& RuleOf(Command command);
 
 /// The word or two under a command's button, where buttons carry labels; empty for a command without a
 /// button.

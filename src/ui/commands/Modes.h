@@ -27,9 +27,6 @@ struct Situation {
 
 Mode ModeOf(const Situation& situation);
 
-/// The questions about unsaved work that come before a command. Cancel at one of them abandons the command.
-enum class Prompts { None, Profile, Form, ProfileThenForm, FormThenProfile };
-
 /// Whether the command does something in that mode.
 bool ActsIn(Command command, Mode mode);
 

@@ -96,9 +96,8 @@ BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     // Whatever makes a row current, be it a button of the mouse, a drag over the rows, the Tab key of the
     // name editor or the focus: it is the one that commands act on. A click on the current row shows its box
     // again.
-    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
-        TakeCurrent(row, isSpanning_ ? Pick::Span : Pick::Only);
-    });
+    connect(this, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* row) { TakeCurrent(row, isSpanning_ ? Pick::Span : Pick::Only); });
     connect(this, &QTreeWidget::itemClicked, this,
             [this](QTreeWidgetItem* row) { TakeCurrent(row, Pick::Only); });
 }
@@ -234,7 +233,8 @@ void BoxListView::mousePressEvent(QMouseEvent* event) {
     }
     setFocus(Qt::MouseFocusReason);
     if (const int number = NumberOf(itemAt(event->position().toPoint())); number != 0 && listener_.chosen)
-        listener_.chosen(number, event->modifiers().testFlag(Qt::ControlModifier) ? Pick::Toggle : Pick::Span);
+        listener_.chosen(number,
+                         event->modifiers().testFlag(Qt::ControlModifier) ? Pick::Toggle : Pick::Span);
 }
 
 void BoxListView::mouseMoveEvent(QMouseEvent* event) {
@@ -248,8 +248,8 @@ void BoxListView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BoxListView::keyPressEvent(QKeyEvent* event) {
-    isSpanning_ = editTriggers() != QAbstractItemView::NoEditTriggers &&
-                  event->modifiers().testFlag(Qt::ShiftModifier);
+    isSpanning_ =
+        editTriggers() != QAbstractItemView::NoEditTriggers && event->modifiers().testFlag(Qt::ShiftModifier);
     QTreeWidget::keyPressEvent(event);
     isSpanning_ = false;
 }

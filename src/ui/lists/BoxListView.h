@@ -48,7 +48,8 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
 
-    /// While names can be edited, Ctrl and Shift pick further rows; which ones are selected then is told back.
+    /// While names can be edited, Ctrl and Shift pick further rows; which ones are selected then is told
+    /// back.
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -69,8 +69,8 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool();
 
-    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down, and whether the
-    /// key has been held since the step before; when it does not take one, the view scrolls.
+    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down, and whether
+    /// the key has been held since the step before; when it does not take one, the view scrolls.
     void SetArrowHandler(std::function<bool(int dx, int dy, bool isHeld)> handler) {
         takeArrow_ = std::move(handler);
     }

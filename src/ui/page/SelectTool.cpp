@@ -77,8 +77,8 @@ void SelectTool::Release(const QPointF& point, Qt::KeyboardModifiers keys) {
     const QRectF place = layer_.PlaceOf(pressed_);
     layer_.ShowDrawn({});
     if (deed == Deed::Click && !hasMoved_) {
-        layer_.TellPicked(pressed_, keys.testFlag(Qt::ControlModifier) ? profiles::Pick::Toggle
-                                                                       : profiles::Pick::Span);
+        layer_.TellPicked(pressed_,
+                          keys.testFlag(Qt::ControlModifier) ? profiles::Pick::Toggle : profiles::Pick::Span);
     } else if (deed == Deed::Frame && hasMoved_) {
         layer_.TellFramed(QRectF(from_, point).normalized(),
                           (keys & (Qt::ControlModifier | Qt::ShiftModifier)) != 0);
