@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "profiles/BoxNaming.h"
 #include "profiles/BoxPlace.h"
 
 namespace tavrene::profiles {
@@ -128,6 +129,16 @@ void Distribute(std::vector<OmrBox>& boxes, const BoxSelection& selected, Direct
             PutAt(*box, place);
         }
     }
+}
+
+std::vector<int> AppendCopies(std::vector<OmrBox>& boxes, std::span<const OmrBox> copied) {
+    std::vector<int> numbers;
+    for (OmrBox copy : copied) {
+        copy.Name = NextName(boxes, copy.Name);
+        boxes.push_back(std::move(copy));
+        numbers.push_back(static_cast<int>(boxes.size()));
+    }
+    return numbers;
 }
 
 BoxSelection OfSizeOf(const std::vector<OmrBox>& boxes, int number) {

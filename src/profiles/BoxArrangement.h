@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "imaging/PageRect.h"
@@ -32,6 +33,9 @@ void Align(std::vector<OmrBox>& boxes, const BoxSelection& selected, Side side);
 /// The middles at equal distances between the two that are outermost, which stay. Boxes in one line of the
 /// other direction (as the boxes of a table's column are) move together.
 void Distribute(std::vector<OmrBox>& boxes, const BoxSelection& selected, Direction direction);
+
+/// Copies of boxes at the end of the list, with the names that follow theirs. Gives their numbers.
+std::vector<int> AppendCopies(std::vector<OmrBox>& boxes, std::span<const OmrBox> copied);
 
 /// All boxes about as wide and high as this one: print and scan make a pixel or two of difference.
 BoxSelection OfSizeOf(const std::vector<OmrBox>& boxes, int number);

@@ -83,9 +83,14 @@ bool CandidatePane::TakeKey(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 bool CandidatePane::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
         return QFrame::eventFilter(watched, event);
     const auto& press = static_cast<const QKeyEvent&>(*event);
+    // Here Ctrl+A means the candidates, not the boxes of the profile.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->setAccepted(press.key() == Qt::Key_A && press.modifiers() == Qt::ControlModifier);
+        return event->isAccepted();
+    }
     return TakeKey(press.key(), press.modifiers() & ~Qt::KeypadModifier);
 }
 

@@ -1,0 +1,86 @@
+#include "ui/page/BoxLabels.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace tavrene::ui {
+namespace {
+
+// Pixels of the screen.
+constexpr double kLongest = 150;
+constexpr double kPadding = 2;
+constexpr double kGap = 2;
+
+const QColor kInk(0, 70, 120);
+const QColor kBadInk(180, 0, 0);
+const QColor kPaper(255, 255, 255, 225);
+
+// Over the box, or where the page ends there, below it.
+QRectF LabelPlace(const QRectF& box, const QSizeF& size, const QRectF& sight) {
+    QRectF label(QPointF(box.left(), box.top() - size.height() - kGap), size);
+    if (label.top() < sight.top())
+        label.moveTop(box.bottom() + kGap);
+    return label;
+}
+
+}  // namespace
+
+BoxLabels::BoxLabels() {
+    setZValue(1.5);
+    setVisible(false);
+}
+
+void BoxLabels::SetLabels(std::map<int, BoxLabel> labels) {
+    labels_ = std::move(labels);
+    setVisible(!labels_.empty());
+    update();
+}
+
+void BoxLabels::SetPlaces(std::map<int, QRectF> places) {
+    prepareGeometryChange();
+    places_ = std::move(places);
+    // Letters keep their size on the screen, which is many image pixels on a page that is shown small.
+    constexpr double kRoom = 2000;
+    room_ = {};
+    for (const auto& [group, place] : places_)
+        room_ |= place.adjusted(-kRoom, -kRoom, kRoom, kRoom);
+    update();
+}
+
+void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
+    const QTransform toScreen = painter->worldTransform();
+    const double dots = painter->device()->devicePixelRatio();
+    const QRectF sight(painter->viewport());
+    painter->save();
+    painter->resetTransform();
+    QFont font = QApplication::font();
+    font.setPixelSize(qRound(12 * dots));
+    painter->setFont(font);
+    const QFontMetricsF metrics(font);
+    std::vector<QRectF> taken;
+    for (const auto& [group, label] : labels_) {
+        const auto place = places_.find(group);
+        if (place == places_.end() || label.text.isEmpty())
+            continue;
+        const QRectF box = toScreen.mapRect(place->second);
+        const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest * dots);
+        const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding * dots, metrics.height());
+        const QRectF at = LabelPlace(box, size, sight);
+        const bool isHidden = !sight.intersects(at) || std::any_of(taken.begin(), taken.end(), [&](const QRectF& other) {
+            return other.intersects(at);
+        });
+        if (isHidden)
+            continue;
+        taken.push_back(at);
+        painter->fillRect(at, kPaper);
+        painter->setPen(label.isBad ? kBadInk : kInk);
+        painter->drawText(at, Qt::AlignCenter, text);
+    }
+    painter->restore();
+}
+
+}  // namespace tavrene::ui
