@@ -53,8 +53,8 @@ class Operator {
     virtual void SetProgressRange(int last) = 0;
     virtual void SetProgress(int value) = 0;
 
-    /// Lets the screen take pending events (a click on `Stop`, repainting). Called from the processing run
-    /// only.
+    /// Lets the screen take pending events (a click on `Stop`, repainting). Called between the files of a run
+    /// and by computations that watch for Escape alone.
     virtual void RunPendingEvents() = 0;
 };
 

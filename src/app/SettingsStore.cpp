@@ -36,4 +36,21 @@ void WriteCommonFlag(SettingsStore& store, std::string_view name, bool on) {
     WriteCommon(store, name, on ? "1" : "0");
 }
 
+std::string ReadWindow(const SettingsStore& store, std::string_view name) {
+    return store.ReadSettingValue(kApplicationName, kWindowSection, name);
+}
+
+bool ReadWindowFlag(const SettingsStore& store, std::string_view name, bool fallback) {
+    const std::string text = ReadWindow(store, name);
+    return text == "1" || (fallback && text != "0");
+}
+
+void WriteWindow(SettingsStore& store, std::string_view name, std::string_view text) {
+    store.WriteSettingValue(kApplicationName, kWindowSection, name, text);
+}
+
+void WriteWindowFlag(SettingsStore& store, std::string_view name, bool on) {
+    WriteWindow(store, name, on ? "1" : "0");
+}
+
 }  // namespace tavrene::app

@@ -8,6 +8,8 @@ namespace tavrene::app {
 
 inline constexpr std::string_view kApplicationName = "Tavrene CheckBoxes";
 inline constexpr std::string_view kCommonSection = "Common";
+/// What the window remembers about itself, toggles of its menus included.
+inline constexpr std::string_view kWindowSection = "Window";
 
 /// A store of named text values. Every value is text, whatever it means.
 class SettingsStore {
@@ -42,5 +44,11 @@ bool ReadCommonFlag(const SettingsStore& store, std::string_view name);
 void WriteCommon(SettingsStore& store, std::string_view name, std::string_view text);
 void WriteCommonNumber(SettingsStore& store, std::string_view name, std::int16_t value);
 void WriteCommonFlag(SettingsStore& store, std::string_view name, bool on);
+
+/// The same of section `Window`. A flag is "1" or "0"; whatever else is stored means `fallback`.
+std::string ReadWindow(const SettingsStore& store, std::string_view name);
+bool ReadWindowFlag(const SettingsStore& store, std::string_view name, bool fallback);
+void WriteWindow(SettingsStore& store, std::string_view name, std::string_view text);
+void WriteWindowFlag(SettingsStore& store, std::string_view name, bool on);
 
 }  // namespace tavrene::app

@@ -84,7 +84,8 @@ std::vector<int> Renumbered(std::vector<OmrBox>& boxes, const std::vector<int>& 
     std::iota(numbers.begin(), numbers.end(), 1);
     const std::vector<OmrBox> before = boxes;
     for (std::size_t index = 0; index < places.size(); ++index) {
-        boxes[static_cast<std::size_t>(places[index]) - 1] = before[static_cast<std::size_t>(order[index]) - 1];
+        boxes[static_cast<std::size_t>(places[index]) - 1] =
+            before[static_cast<std::size_t>(order[index]) - 1];
         numbers[static_cast<std::size_t>(order[index]) - 1] = places[index];
     }
     return numbers;
@@ -115,14 +116,15 @@ std::vector<BoxCell> CellsInLines(const std::vector<OmrBox>& boxes, std::span<co
 
 }  // namespace
 
-std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const int> numbers, CellOrder order) {
+std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const int> numbers,
+                             CellOrder order) {
     std::vector<BoxCell> cells = CellsInLines(boxes, numbers);
     CountRows(cells);
     std::sort(cells.begin(), cells.end(), [order](const BoxCell& a, const BoxCell& b) {
-        return order == CellOrder::Across
-                   ? std::tuple(a.block, a.row, a.column, a.number) < std::tuple(b.block, b.row, b.column, b.number)
-                   : std::tuple(a.block, a.column, a.row, a.number) <
-                         std::tuple(b.block, b.column, b.row, b.number);
+        return order == CellOrder::Across ? std::tuple(a.block, a.row, a.column, a.number) <
+                                                std::tuple(b.block, b.row, b.column, b.number)
+                                          : std::tuple(a.block, a.column, a.row, a.number) <
+                                                std::tuple(b.block, b.column, b.row, b.number);
     });
     return cells;
 }
@@ -145,7 +147,9 @@ std::vector<int> MoveInList(std::vector<OmrBox>& boxes, std::span<const int> num
     std::vector<int> order = kept;
     if (by > 0)
         std::reverse(order.begin(), order.end());
-    const auto isMoved = [&](int number) { return std::find(numbers.begin(), numbers.end(), number) != numbers.end(); };
+    const auto isMoved = [&](int number) {
+        return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
+    };
     if (order.empty() || isMoved(order.front()))
         return Renumbered(boxes, kept, kept);
     for (std::size_t place = 1; place < order.size(); ++place)

@@ -23,12 +23,12 @@ enum class CellOrder { Across, Down };
 /// column. A row may be a little uneven or aslant.
 std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const int> numbers, CellOrder order);
 
-/// The kept boxes row by row from the top of the page down, whatever blocks there are. Deleted boxes keep their
-/// places. Gives the new number of each box.
+/// The kept boxes row by row from the top of the page down, whatever blocks there are. Deleted boxes keep
+/// their places. Gives the new number of each box.
 std::vector<int> SortByPlace(std::vector<OmrBox>& boxes);
 
-/// Moves the boxes of these numbers by one place to the front (-1) or to the end (1) of the list, past the one
-/// that stands there; at the end of the list they stay. Gives the new number of each box.
+/// Moves the boxes of these numbers by one place to the front (-1) or to the end (1) of the list, past the
+/// one that stands there; at the end of the list they stay. Gives the new number of each box.
 std::vector<int> MoveInList(std::vector<OmrBox>& boxes, std::span<const int> numbers, int by);
 
 }  // namespace tavrene::profiles

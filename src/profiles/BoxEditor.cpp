@@ -153,6 +153,11 @@ void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
     box.B = app::RoundToInt16((scroll.y + report.top + report.height) * scale);
 }
 
+void BoxEditor::Place(OmrBox& box) const {
+    if (placing_)
+        PutAt(box, placing_(PlaceOf(box)));
+}
+
 bool BoxEditor::AddDrawnBox(const RectReport& report) {
     if (!HasSize(report) || profile_.Count == std::numeric_limits<std::int16_t>::max()) {
         screen_.page.RemoveRect(report.group);
@@ -163,6 +168,7 @@ bool BoxEditor::AddDrawnBox(const RectReport& report) {
     int number = report.group;
     box.Name = FreeName(after, number);
     StoreCoordinates(report, box);
+    Place(box);
     after.push_back(box);
     Apply(EditTo(after, BoxSelection(report.group)));
     return true;
@@ -182,6 +188,11 @@ void BoxEditor::RectSelected(const RectReport& report) {
     std::vector<OmrBox> after = profile_.BoxList;
     OmrBox& box = after[static_cast<std::size_t>(report.group) - 1];
     StoreCoordinates(report, box);
+    if (IsSamePlace(Box(report.group), box))
+        return;
+    Place(box);
+    // It may have come back to where it was, from where the mouse has shown it.
+    screen_.page.PutRect(report.group, PlaceOf(box), imaging::RectStyle::Editable);
     if (!IsSamePlace(Box(report.group), box))
         Apply(EditTo(after, profile_.Selected));
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/Operator.h"
@@ -27,6 +28,11 @@ class BoxEditor {
     void BuildBoxList(const ProfileContent& content);
 
     void SetTool(imaging::BoxTool tool);
+
+    /// `place` has the last word on where a box stands that is drawn or moved by the mouse.
+    void SetPlacing(std::function<imaging::PageRect(const imaging::PageRect&)> place) {
+        placing_ = std::move(place);
+    }
 
     /// Events of the box list and the image view.
     void RowClicked(int number, Pick pick = Pick::Only);
@@ -75,6 +81,7 @@ class BoxEditor {
     bool MayStore() const { return profile_.IsOpen; }
     bool AddDrawnBox(const imaging::RectReport& report);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
+    void Place(OmrBox& box) const;
     bool HasRoomFor(std::size_t boxes) const;
     BoxEdit EditTo(const std::vector<OmrBox>& after, BoxSelection selected) const;
     void Apply(BoxEdit edit);
@@ -89,6 +96,7 @@ class BoxEditor {
     app::Operator& person_;
     ProfileScreen screen_;
     BoxHistory history_;
+    std::function<imaging::PageRect(const imaging::PageRect&)> placing_;
     imaging::BoxTool tool_ = imaging::BoxTool::Select;
 };
 

@@ -83,8 +83,7 @@ Outline OutlineNear(const WorkGrid& page, const Sides& near, int reachX, int rea
     const Line right = upright(near.right);
     const Line top = level(near.top, left, right);
     const Line bottom = level(near.bottom, left, right);
-    return {{left.at, top.at, right.at, bottom.at},
-            std::min({left.ink, right.ink, top.ink, bottom.ink})};
+    return {{left.at, top.at, right.at, bottom.at}, std::min({left.ink, right.ink, top.ink, bottom.ink})};
 }
 
 // How well a line of so many boxes from the first to the last is printed.
@@ -105,7 +104,8 @@ int CountInPrint(const WorkGrid& page, double way, double size, const Places& pl
     for (int count = 2; count <= most; ++count)
         prints.push_back(PrintOf(page, placesOf(count)));
     const double good = kNearlyAsGood * *std::max_element(prints.begin(), prints.end());
-    const auto last = std::find_if(prints.rbegin(), prints.rend(), [good](double print) { return print >= good; });
+    const auto last =
+        std::find_if(prints.rbegin(), prints.rend(), [good](double print) { return print >= good; });
     return good == 0 ? 2 : most - static_cast<int>(last - prints.rbegin());
 }
 
@@ -130,9 +130,12 @@ GridShape ShapeInPrint(const WorkGrid& page, const PageRect& first, const PageRe
     PageRect beside = first;
     beside.left = last.left;
     return {CountInPrint(page, last.top - first.top, first.height,
-                         [&](int rows) { return PlacesOfGrid(first, below, {rows, 1}); }),
-            CountInPrint(page, last.left - first.left, first.width,
-                         [&](int columns) { return PlacesOfGrid(first, beside, {1, columns}); })};
+                         [&](int rows) {
+                             return PlacesOfGrid(first, below, {rows, 1});
+                         }),
+            CountInPrint(page, last.left - first.left, first.width, [&](int columns) {
+                return PlacesOfGrid(first, beside, {1, columns});
+            })};
 }
 
 std::optional<PageRect> OutlineUnder(const WorkGrid& page, const PageRect& place) {

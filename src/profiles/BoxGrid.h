@@ -21,8 +21,8 @@ struct GridShape {
 std::vector<imaging::PageRect> PlacesOfGrid(const imaging::PageRect& first, const imaging::PageRect& last,
                                             GridShape shape);
 
-/// The rows and columns of which the page shows the most printed outlines between these two boxes: at least one
-/// of each, two where the boxes lie apart.
+/// The rows and columns of which the page shows the most printed outlines between these two boxes: at least
+/// one of each, two where the boxes lie apart.
 GridShape ShapeInPrint(const imaging::WorkGrid& page, const imaging::PageRect& first,
                        const imaging::PageRect& last);
 

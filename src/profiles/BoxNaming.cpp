@@ -34,7 +34,8 @@ std::string Counted(int count, const std::string& format) {
         return Letters(count);
     const bool isWidth = format.size() <= 2 && format.find_first_not_of(kDigits) == std::string::npos;
     if (!isWidth)
-        throw std::invalid_argument("Behind the colon stands how many digits a number has, as in {n:02}, or A.");
+        throw std::invalid_argument(
+            "Behind the colon stands how many digits a number has, as in {n:02}, or A.");
     return Padded(std::to_string(count), format.empty() ? 0 : static_cast<std::size_t>(std::stoi(format)));
 }
 
@@ -148,12 +149,14 @@ NameTroubles TroublesOf(const std::vector<OmrBox>& boxes, std::span<const NewNam
             continue;
         const OmrBox& box = after[static_cast<std::size_t>(name.number) - 1];
         if (FindUnwritableName({&box, 1})) {
-            add("The name \"" + name.name + "\" holds a double quote, < or &, which no profile can.", numbers);
+            add("The name \"" + name.name + "\" holds a double quote, < or &, which no profile can.",
+                numbers);
             troubles.mayNotBe = true;
         } else if (name.name.empty()) {
             add(std::to_string(numbers.size()) + " boxes would have no name.", numbers);
         } else if (numbers.size() > 1) {
-            add(std::to_string(numbers.size()) + " boxes would have the name \"" + name.name + "\".", numbers);
+            add(std::to_string(numbers.size()) + " boxes would have the name \"" + name.name + "\".",
+                numbers);
         }
     }
     return troubles;
@@ -162,8 +165,9 @@ NameTroubles TroublesOf(const std::vector<OmrBox>& boxes, std::span<const NewNam
 std::string NextName(std::span<const OmrBox> boxes, const std::string& name) {
     const auto last = name.find_last_of(kDigits);
     const auto before = last == std::string::npos ? last : name.find_last_not_of(kDigits, last);
-    const std::size_t first = last == std::string::npos ? name.size()
-                              : before == std::string::npos ? 0 : before + 1;
+    const std::size_t first = last == std::string::npos     ? name.size()
+                              : before == std::string::npos ? 0
+                                                            : before + 1;
     const std::string digits = last == std::string::npos ? "" : name.substr(first, last - first + 1);
     const std::string head = digits.empty() ? name + " " : name.substr(0, first);
     const std::string tail = digits.empty() ? "" : name.substr(last + 1);

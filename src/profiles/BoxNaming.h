@@ -17,9 +17,9 @@ struct NewName {
     bool operator==(const NewName&) const = default;
 };
 
-/// What names are made of. In the pattern `{row}`, `{column}`, `{block}` and `{n}` are counted from 1, `{n}` over
-/// all boxes in their order; `{n:02}` has at least two digits, `{column:A}` is a letter. `{name}` is the name so
-/// far. Rows and columns take the words of their lists for as long as there are some.
+/// What names are made of. In the pattern `{row}`, `{column}`, `{block}` and `{n}` are counted from 1, `{n}`
+/// over all boxes in their order; `{n:02}` has at least two digits, `{column:A}` is a letter. `{name}` is the
+/// name so far. Rows and columns take the words of their lists for as long as there are some.
 struct NamePattern {
     std::string text;
     std::vector<std::string> rows = {};
@@ -38,8 +38,8 @@ std::vector<NewName> NamesOfLines(std::span<const BoxCell> cells, std::span<cons
 std::vector<NewName> NamesReplaced(const std::vector<OmrBox>& boxes, std::span<const BoxCell> cells,
                                    const std::string& find, const std::string& replace);
 
-/// The cells of a pasted column, or the words of a list: parted by line breaks, or by commas where there is no
-/// line break; blanks around them are dropped.
+/// The cells of a pasted column, or the words of a list: parted by line breaks, or by commas where there is
+/// no line break; blanks around them are dropped.
 std::vector<std::string> WordsOf(const std::string& text);
 
 /// What is wrong with new names, before anything is changed.
@@ -50,8 +50,8 @@ struct NameTroubles {
 };
 NameTroubles TroublesOf(const std::vector<OmrBox>& boxes, std::span<const NewName> names);
 
-/// The name that follows: its last number counted up, with as many digits, or a number behind it; the first such
-/// one that no kept box has.
+/// The name that follows: its last number counted up, with as many digits, or a number behind it; the first
+/// such one that no kept box has.
 std::string NextName(std::span<const OmrBox> boxes, const std::string& name);
 
 }  // namespace tavrene::profiles

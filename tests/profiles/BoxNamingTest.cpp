@@ -1,11 +1,10 @@
-#include "profiles/BoxNaming.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
 #include "profiles/BoxArrangement.h"
 #include "profiles/BoxGrid.h"
+#include "profiles/BoxNaming.h"
 #include "profiles/BoxPlace.h"
 #include "profiles/BoxSelection.h"
 #include "support/TestForm.h"
@@ -16,7 +15,8 @@ namespace {
 using test::TestForm;
 using Names = std::vector<std::string>;
 
-// Two blocks of three columns and four rows each, a little uneven and aslant, in the order of a shuffled list.
+// Two blocks of three columns and four rows each, a little uneven and aslant, in the order of a shuffled
+// list.
 std::vector<OmrBox> TwoBlocks() {
     std::vector<OmrBox> boxes;
     for (int k = 0; k < 24; ++k) {
@@ -66,7 +66,8 @@ TEST(BoxNamingTest, ListsAndReplacementsNameOnlyWhatTheyReach) {
     const auto down = CellsOf(boxes, KeptNumbers(boxes), CellOrder::Down);
     const std::vector<NewName> listed = NamesOfLines(down, WordsOf("yes\r\n\n  no, never \n"));
     EXPECT_EQ(Texts(listed), (Names{"yes", "no, never"}));
-    EXPECT_EQ(boxes[static_cast<std::size_t>(listed[1].number) - 1].Name, "3/1") << "the empty line is passed over";
+    EXPECT_EQ(boxes[static_cast<std::size_t>(listed[1].number) - 1].Name, "3/1")
+        << "the empty line is passed over";
     EXPECT_EQ(WordsOf("often, rarely,never"), (Names{"often", "rarely", "never"}));
     EXPECT_EQ(Texts(NamesReplaced(boxes, down, "1", "11")).front(), "11/11");
     EXPECT_TRUE(NamesReplaced(boxes, down, "", "x").empty());

@@ -46,10 +46,11 @@ TEST_F(HelpWindowTest, TheManualKnowsEveryKeyAndItsLinksLeadSomewhere) {
         const auto found = std::ranges::find(pages, title, &commands::ManualPage::title);
         return found == pages.end() ? std::string() : found->text;
     };
-    const std::string keys = page("Keyboard");
+    QString rows = ToQt(page("Keyboard"));
+    const QStringList keys = rows.replace(" and ", "|").replace(", ", "|").replace(' ', "").split('|');
     for (const commands::CommandInfo& info : commands::CommandTable())
         for (const QString& key : ToQt(info.shortcut).split("; ", Qt::SkipEmptyParts))
-            EXPECT_PRED2(test::Has, keys, FromQt(key)) << info.key;
+            EXPECT_TRUE(keys.contains(key)) << info.key;
     for (const auto mode :
          {commands::Mode::Start, commands::Mode::Profile, commands::Mode::Form, commands::Mode::Run})
         EXPECT_FALSE(page(commands::PageFor(mode)).empty());

@@ -72,11 +72,20 @@ TEST_F(IntakeTest, ScansAndFoldersAreDroppedOrPastedIntoProcessIn) {
         return In(folders_.ProcessIn);
     };
     EXPECT_EQ(paste(), Names{"three.jpg"});
-    EXPECT_TRUE(dialogs.shown.at(0).starts_with("3 of 3 scans have names")) << dialogs.shown.at(0);
+    EXPECT_TRUE(dialogs.shown.at(0).starts_with("1 of 3 scans have names")) << dialogs.shown.at(0);
     EXPECT_EQ(paste(), (Names{"one-2.tif", "three-2.jpg", "three.jpg", "two-2.tif"}));
+    EXPECT_EQ(Panel("Message"), "3 scans were copied to ProcessIn. 3 have a new name.");
     EXPECT_EQ(test::ReadText(folders_.ProcessIn + "three.jpg"), "three");
-    EXPECT_EQ(paste(), (Names{"one-2.tif", "one.tif", "three-2.jpg", "three.jpg", "two-2.tif", "two.tif"}));
+    // Only the one that waits is replaced: the other names belong to forms that were read.
+    EXPECT_EQ(paste(),
+              (Names{"one-2.tif", "one-3.tif", "three-2.jpg", "three.jpg", "two-2.tif", "two-3.tif"}));
     EXPECT_EQ(test::ReadText(folders_.ProcessIn + "three.jpg"), "another three");
+
+    // Files that differ by the ending alone would share a result.
+    test::WriteText(outside_.File("four.jpg"), "4");
+    test::WriteText(outside_.File("four.png"), "4");
+    EXPECT_TRUE(Drop({outside_.File("four.jpg"), outside_.File("four.png")}));
+    EXPECT_TRUE(files_.FileExists(folders_.ProcessIn + "four-2.png"));
 }
 
 TEST_F(IntakeTest, APageThatWasNotReadIsSeenInReviewAndProcessedOnceItsProfileIsThere) {
@@ -99,6 +108,9 @@ TEST_F(IntakeTest, APageThatWasNotReadIsSeenInReviewAndProcessedOnceItsProfileIs
     EXPECT_EQ(View().sceneRect(), QRectF(0, 0, other.width, other.height));
     Find<QAction>(*window_, "BackToProcessIn").trigger();
     EXPECT_EQ(In(folders_.ProcessIn), Names{"strange.tif"});
+    Click("Review");
+    EXPECT_EQ(Notices(), "") << "the file is no longer shown";
+    Click("Review");
     EXPECT_EQ(tabs.tabText(1), "Not read");
 
     Click("Process");

@@ -197,6 +197,8 @@ TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
     fits();
     Find<QTreeWidget>(*window_, "SummaryFiles").header()->resizeSection(0, 123);
     window_->close();
+    EXPECT_EQ(app::ReadWindow(store_, "lvwSettings"), "")
+        << "the columns of the box list are set by the mode";
     Open();
     EXPECT_EQ(Find<QTreeWidget>(*window_, "SummaryFiles").header()->sectionSize(0), 123);
     ClickThumbnail(2);

@@ -49,9 +49,12 @@ TEST_F(MoreBoxesTest, EachTakenBoxComesWhereSortingPutsItAndGoesWithOneUndo) {
     after.insert(after.begin() + 3, "Un-named-7");
     EXPECT_EQ(RowTexts(), after);
 
-    // A click on the dotted outline of the next one takes it as well.
+    // A click on the dotted outline of the next one takes it as well, also where a box has its handles.
     const profiles::OmrBox& next = form_.boxes[4];
-    ClickPage({next.L + 12.0, next.T + 12.0});
+    Click("ZoomToOrig");
+    Click("ZoomIn");
+    Click("ZoomIn");
+    ClickPage({next.L + 0.0, next.T + 0.0});
     EXPECT_EQ(Candidates().count(), 1);
     EXPECT_EQ(Rows().topLevelItemCount(), 8);
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
@@ -83,10 +86,15 @@ TEST_F(MoreBoxesTest, AllAtOnceAreOneEditAndEscapeClosesTheListBeforeTheWindow) 
 
     Press(*window_, Qt::Key_M, Qt::ControlModifier);
     ASSERT_TRUE(AreShown());
+    const QPoint row = Candidates().visualItemRect(Candidates().item(0)).center();
+    QTest::mouseClick(Candidates().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(Candidates().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseRelease(Candidates().viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(Candidates().count(), 2) << "the second click of a double click takes no other";
     Press(*window_, Qt::Key_Escape);
     EXPECT_FALSE(AreShown());
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_EQ(Rows().topLevelItemCount(), 6);
+    EXPECT_EQ(Rows().topLevelItemCount(), 7);
 }
 
 TEST_F(MoreBoxesTest, EscapeStopsTheLookAndNothingElseActsMeanwhile) {

@@ -53,9 +53,9 @@ TEST_F(SeveralBoxesWindowTest, MouseAndKeysSelectMoveAndDeleteThemTogether) {
     OpenForm();
     Drag({30, 30}, {200, 105});  // around the first row
     EXPECT_EQ(SelectedRows(), 3);
-    Click(Middle(5), Qt::ControlModifier);
+    ClickPage(Middle(5), Qt::ControlModifier);
     EXPECT_EQ(SelectedRows(), 4);
-    Click(Middle(1), Qt::ControlModifier);
+    ClickPage(Middle(1), Qt::ControlModifier);
     HoldKey(Qt::Key_Right, 4);
     EXPECT_EQ(SavedCorners(), (std::vector<std::pair<int, int>>{
                                   {60, 70}, {119, 70}, {173, 70}, {60, 124}, {119, 124}, {168, 124}}));
@@ -177,8 +177,9 @@ TEST_F(SeveralBoxesWindowTest, AProfileIsCompleteAfterFewKeys) {
         }
     exam.SaveScan(folders_.ProfileImages + "Exam.tif", {});
     Open();
-    for (const auto& [name, least, most] : {std::tuple("PatientQuestionnaire", 20U, 60U),
-                                            std::tuple("StaffSurvey", 20U, 60U), std::tuple("Exam", 200U, 80U)}) {
+    for (const auto& [name, least, most] :
+         {std::tuple("PatientQuestionnaire", 20U, 60U), std::tuple("StaffSurvey", 20U, 60U),
+          std::tuple("Exam", 200U, 80U)}) {
         std::size_t effort = 0;
         const auto type = [&](const std::string& text) {
             effort += text.size() + 1;

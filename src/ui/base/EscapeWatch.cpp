@@ -16,7 +16,7 @@ bool EscapeWatch::eventFilter(QObject*, QEvent* event) {
             wasPressed_ = wasPressed_ || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
             return true;
         case QEvent::Close:
-            // The window asks again when the computation is over.
+            // What is under way may not lose its window; the second try finds it stopped.
             event->ignore();
             wasPressed_ = true;
             return true;
@@ -27,6 +27,9 @@ bool EscapeWatch::eventFilter(QObject*, QEvent* event) {
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
         case QEvent::ContextMenu:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
             return true;
         default:
             return false;

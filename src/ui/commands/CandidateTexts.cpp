@@ -1,11 +1,9 @@
 #include "ui/commands/CandidateTexts.h"
 
+#include "ui/commands/Counted.h"
+
 namespace tavrene::commands {
 namespace {
-
-std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
 
 std::string Measures(int width, int height) {
     return std::to_string(width) + " x " + std::to_string(height);
@@ -16,14 +14,14 @@ std::string OtherSizeText(const boxes::SecondLook& look) {
     if (!look.Other)
         return {};
     const boxes::OtherSize& other = *look.Other;
-    return Counted(static_cast<std::size_t>(other.Count), "box", "boxes") + " of about " +
+    return Counted(other.Count, "box", "boxes") + " of about " +
            Measures(other.Size.Width, other.Size.Height) +
            (other.IsLarger ? " px: larger than the settings allow."
                            : " px: smaller than the settings allow.");
 }
 
 std::string MoreMayBe(std::size_t candidates) {
-    return std::to_string(candidates) + (candidates == 1 ? " more may be a box" : " more may be boxes");
+    return Counted(candidates, "more may be a box", "more may be boxes");
 }
 
 }  // namespace
@@ -32,9 +30,9 @@ std::string OfferOf(int found, const boxes::SecondLook& look) {
     if (look.Candidates.empty())
         return {};
     const std::string other = OtherSizeText(look);
-    return Counted(static_cast<std::size_t>(found), "box", "boxes") + " found. " +
-           (other.empty() ? "" : other + " ") + MoreMayBe(look.Candidates.size()) + ": look at " +
-           (look.Candidates.size() == 1 ? "it" : "them") + " with Find More Boxes (Ctrl+M).";
+    return Counted(found, "box", "boxes") + " found. " + (other.empty() ? "" : other + " ") +
+           MoreMayBe(look.Candidates.size()) + ": look at " + (look.Candidates.size() == 1 ? "it" : "them") +
+           " with Find More Boxes (Ctrl+M).";
 }
 
 std::string HeadingOf(std::size_t candidates, const boxes::SecondLook& look) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "results/XlsxExport.h"
+#include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 namespace {
@@ -14,10 +15,6 @@ std::size_t CountForms(const results::Results& found) {
     for (const results::ResultTable& table : found.Tables)
         forms += table.Forms.size();
     return forms;
-}
-
-std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
 // A list of hundreds would hide the page; the first ones tell what is wrong.
@@ -39,11 +36,10 @@ bool MayReplace(const ExportContext& context, const std::vector<std::string>& na
     const auto there = std::count_if(names.begin(), names.end(), [&](const std::string& name) {
         return context.files.FileExists(folder + name);
     });
-    return there == 0 ||
-           context.person.AskYesNo(Counted(static_cast<std::size_t>(there), "file", "files") +
-                                       " of the tables' names " + (there == 1 ? "is" : "are") + " in " +
-                                       folder + " already. Replace " + (there == 1 ? "it?" : "them?"),
-                                   app::Answer::No) == app::Answer::Yes;
+    return there == 0 || context.person.AskYesNo(Counted(there, "file", "files") + " of the tables' names " +
+                                                     (there == 1 ? "is" : "are") + " in " + folder +
+                                                     " already. Replace " + (there == 1 ? "it?" : "them?"),
+                                                 app::Answer::No) == app::Answer::Yes;
 }
 
 std::optional<std::string> AskTarget(const ExportContext& context, const ExportChoice& choice,

@@ -1,18 +1,15 @@
 #include "ui/commands/ReadingCommands.h"
 
 #include <array>
-#include <utility>
 
 #include "recognition/precise/ReadAgain.h"
+#include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 
-ReadingCommands::ReadingCommands(AppState& state, const Context& context, std::function<void()> formsRead)
-    : state_(state), context_(context), formsRead_(std::move(formsRead)) {
-    const auto stored = [&context](std::string_view name) {
-        return context.store.ReadSettingValue(app::kApplicationName, kWindowSection, name);
-    };
-    state_.reading = {stored(kPreciseAlignment) == "1", stored(kSecondOpinion) != "0"};
+ReadingCommands::ReadingCommands(AppState& state, const Context& context) : state_(state), context_(context) {
+    state_.reading = {app::ReadWindowFlag(context.store, kPreciseAlignment, false),
+                      app::ReadWindowFlag(context.store, kSecondOpinion, true)};
     CommandGate& gate = context_.gate;
     gate.SetHandler(Command::PreciseAlignment,
                     [this] { Switch(state_.reading.preciseAlignment, kPreciseAlignment); });
@@ -23,7 +20,7 @@ ReadingCommands::ReadingCommands(AppState& state, const Context& context, std::f
 
 void ReadingCommands::Switch(bool& option, std::string_view name) {
     option = !option;
-    context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, name, option ? "1" : "0");
+    app::WriteWindowFlag(context_.store, name, option);
 }
 
 void ReadingCommands::RunBegins() {
@@ -49,9 +46,8 @@ void ReadingCommands::ReadAgain() {
                                                   state_.profiles, state_.settings.FillThreshold);
     unread_.clear();
     context_.person.ShowNotices(
-        std::array{app::Notice{std::to_string(count) + (count == 1 ? " form was" : " forms were") +
-                               " read by Precise Alignment" + (count > 0 ? " and can be reviewed." : ".")}});
-    formsRead_();
+        std::array{app::Notice{Counted(count, "form was", "forms were") + " read by Precise Alignment" +
+                               (count > 0 ? " and can be reviewed." : ".")}});
 }
 
 }  // namespace tavrene::commands

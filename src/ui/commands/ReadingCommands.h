@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +11,7 @@
 
 namespace tavrene::commands {
 
-/// The group and the values of the settings that hold what the window remembers about itself.
-inline constexpr std::string_view kWindowSection = "Window";
+/// The values of what the window remembers about itself.
 inline constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
 inline constexpr std::string_view kSecondOpinion = "SecondOpinion";
 
@@ -30,9 +28,8 @@ class ReadingCommands {
         CommandGate& gate;
     };
 
-    /// Takes the two toggles from the store. `formsRead` is called when new result documents were written.
-    /// The references must outlive the object.
-    ReadingCommands(AppState& state, const Context& context, std::function<void()> formsRead);
+    /// Takes the two toggles from the store. The references must outlive the object.
+    ReadingCommands(AppState& state, const Context& context);
 
     /// What was told of the run before is over.
     void RunBegins();
@@ -47,7 +44,6 @@ class ReadingCommands {
 
     AppState& state_;
     Context context_;
-    std::function<void()> formsRead_;
     std::vector<std::string> unread_;  ///< Forms of the last run that only precise alignment recognises.
 };
 

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "ui/commands/Counted.h"
+
 namespace tavrene::commands {
 namespace {
 
@@ -40,14 +42,12 @@ std::string ProgressText(int done, int total, double seconds) {
 
 std::string SummaryText(const RunSummary& summary) {
     const std::size_t files = summary.files.size();
-    std::string text =
-        "Last run: " + Linked(files, std::to_string(files) + (files == 1 ? " file" : " files"), kAll);
+    std::string text = "Last run: " + Linked(files, Counted(files, "file", "files"), kAll);
     for (const auto& [end, words] : kEnds) {
         const std::size_t count = summary.Count(end);
         text += " &nbsp;|&nbsp; " + Linked(count, std::to_string(count) + " " + words, LinkOf(end));
     }
-    return text + " &nbsp;|&nbsp; " + std::to_string(summary.seconds) +
-           (summary.seconds == 1 ? " second" : " seconds");
+    return text + " &nbsp;|&nbsp; " + Counted(summary.seconds, "second", "seconds");
 }
 
 std::vector<FileReport> FilesBehind(const RunSummary& summary, const std::string& link) {

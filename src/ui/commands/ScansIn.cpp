@@ -7,6 +7,7 @@
 
 #include "app/ImageNames.h"
 #include "imaging/PageReader.h"
+#include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 namespace {
@@ -16,6 +17,12 @@ struct Incoming {
     std::string path;
     std::string ownName;
     std::string freeName;
+    bool mayReplace;  // A scan of its own name waits in `ProcessIn`.
+
+    // Any other file of that name, read already or read by the same run, would share its result.
+    const std::string& NameFor(app::Answer answer) const {
+        return mayReplace && answer == app::Answer::Yes ? ownName : freeName;
+    }
 };
 
 // The extension by which a run takes it for an image; empty for other files. Runs do not know the longer
@@ -47,33 +54,28 @@ class Intake {
         }
     }
 
-    // False when nothing is to be copied.
-    bool SettleNames() {
-        const auto taken = std::ranges::count_if(found_, IsTaken);
-        if (taken == 0)
-            return true;
-        const app::Answer answer = person_.AskYesNoCancel(
-            std::to_string(taken) + " of " + std::to_string(found_.size()) +
-                " scans have names that scans in the working folder have already.\nYes puts the new ones in "
-                "the place of those that have the same name, No gives the new ones other names.",
-            app::Answer::No);
-        if (answer == app::Answer::Cancel)
-            return false;
-        std::set<std::string> used;
-        for (Incoming& scan : found_)
-            if (answer == app::Answer::No || !used.insert(app::LowerCase(scan.ownName)).second)
-                scan.ownName = scan.freeName;
-        return true;
+    // Whether scans that wait are replaced; Cancel when nothing is to be copied.
+    app::Answer AskAboutNames() {
+        const auto waiting = std::ranges::count_if(found_, &Incoming::mayReplace);
+        if (waiting == 0)
+            return app::Answer::No;
+        return person_.AskYesNoCancel(std::to_string(waiting) + " of " + std::to_string(found_.size()) +
+                                          " scans have names of scans that wait in ProcessIn.\nYes puts the "
+                                          "new ones in their place, No "
+                                          "gives the new ones other names.",
+                                      app::Answer::No);
     }
 
-    void Copy() {
+    void Copy(app::Answer answer) {
         int copied = 0;
         for (const Incoming& scan : found_) {
+            const std::string& name = scan.NameFor(answer);
             try {
                 const bool isLast = &scan == &found_.back();
-                files_.Write(folders_.ProcessIn + scan.ownName, files_.Read(scan.path),
+                files_.Write(folders_.ProcessIn + name, files_.Read(scan.path),
                              isLast ? app::Keep::Durably : app::Keep::WithNext);
                 ++copied;
+                renamed_ += name != scan.ownName ? 1 : 0;
             } catch (const app::FileError& error) {
                 person_.ReportFile(app::FileName(scan.path), error.what());
             }
@@ -82,8 +84,6 @@ class Intake {
     }
 
   private:
-    static bool IsTaken(const Incoming& scan) { return scan.ownName != scan.freeName; }
-
     static std::string Inside(const std::string& folder, const std::string& name) {
         return app::FromPath(app::ToPath(folder) / app::ToPath(name));
     }
@@ -96,19 +96,23 @@ class Intake {
         else if (folder == folders_.ProcessIn)
             ++waiting_;
         else
-            found_.push_back(
-                {path, app::BaseName(path) + extension, names_.Take(path, {&extension, 1}).front()});
+            Take(path, extension);
+    }
+
+    void Take(const std::string& path, const std::string& extension) {
+        const std::string own = app::BaseName(path) + extension;
+        const bool waits = files_.FileExists(folders_.ProcessIn + own) && replaced_.insert(own).second;
+        found_.push_back({path, own, names_.Take(path, {&extension, 1}).front(), waits});
     }
 
     void Tell(int copied) {
-        const auto counted = [](int count, const char* one, const char* many) {
-            return std::to_string(count) + " " + (count == 1 ? one : many);
-        };
-        std::string text = counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
+        std::string text = Counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
+        if (renamed_ > 0)
+            text += " " + Counted(renamed_, "has", "have") + " a new name.";
         if (others_ > 0)
-            text += " " + counted(others_, "other file was", "other files were") + " left out: no image.";
+            text += " " + Counted(others_, "other file was", "other files were") + " left out: no image.";
         if (waiting_ > 0)
-            text += " " + counted(waiting_, "is", "are") + " in ProcessIn already.";
+            text += " " + Counted(waiting_, "is", "are") + " in ProcessIn already.";
         person_.SetPanel(app::Panel::Message, text);
     }
 
@@ -117,6 +121,8 @@ class Intake {
     const app::WorkingFolders& folders_;
     app::ImageNames names_;
     std::vector<Incoming> found_;
+    std::set<std::string> replaced_;
+    int renamed_ = 0;
     int others_ = 0;
     int waiting_ = 0;
 };
@@ -128,8 +134,9 @@ void CopyScansIn(std::span<const std::string> sources, app::Files& files, app::O
     Intake intake(files, person, folders);
     for (const std::string& source : sources)
         intake.Find(source);
-    if (intake.SettleNames())
-        intake.Copy();
+    const app::Answer answer = intake.AskAboutNames();
+    if (answer != app::Answer::Cancel)
+        intake.Copy(answer);
 }
 
 }  // namespace tavrene::commands

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTextDocument>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "app/Reason.h"
@@ -45,11 +46,14 @@ QByteArray PdfOf(const QTextDocument& shown) {
 }
 
 QByteArray PngOf(const QTextDocument& shown) {
-    const qreal scale = kPictureDpi / 96.0;
+    // What is painted lies in 16 bits; of a thousand boxes the picture becomes smaller.
+    constexpr qreal kMostPixels = 32000;
+    qreal scale = kPictureDpi / 96.0;
     QTextDocument page;
     SetPage(page, shown);
     page.setDocumentMargin(24);
     page.setTextWidth(kPictureWidth / scale);
+    scale = std::min(scale, kMostPixels / page.size().height());
     QImage image(kPictureWidth, static_cast<int>(page.size().height() * scale) + 1, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);

@@ -6,14 +6,11 @@
 #include "ui/base/QtText.h"
 #include "ui/commands/CountsPage.h"
 #include "ui/commands/Places.h"
-#include "ui/commands/ReadingCommands.h"
 #include "ui/exporting/CountsDialog.h"
 #include "ui/exporting/ExportDialog.h"
 
 namespace tavrene::ui {
 namespace {
-
-using commands::kWindowSection;
 
 constexpr std::string_view kExportFolder = "ExportFolder";
 
@@ -58,8 +55,7 @@ commands::ExportContext ResultsExport::Job() {
 }
 
 std::string ResultsExport::StartFolder() const {
-    std::string folder =
-        context_.store.ReadSettingValue(app::kApplicationName, kWindowSection, kExportFolder);
+    std::string folder = app::ReadWindow(context_.store, kExportFolder);
     return !folder.empty() && context_.files.FolderExists(folder)
                ? folder
                : commands::WorkingFolderInUse(folders_) + "/";
@@ -67,7 +63,7 @@ std::string ResultsExport::StartFolder() const {
 
 void ResultsExport::Export(const results::Results& found) {
     if (const auto folder = commands::WriteExport(Job(), choice_, found, StartFolder()))
-        context_.store.WriteSettingValue(app::kApplicationName, kWindowSection, kExportFolder, *folder);
+        app::WriteWindow(context_.store, kExportFolder, *folder);
 }
 
 void ResultsExport::ShowCounts(const results::Results& found) {

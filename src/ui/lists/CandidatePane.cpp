@@ -28,6 +28,7 @@ CandidatePane::CandidatePane(QWidget* parent)
     list_->setFrameShape(QFrame::NoFrame);
     list_->setAlternatingRowColors(true);
     list_->installEventFilter(this);
+    list_->viewport()->installEventFilter(this);
     unlikely_->setObjectName("chkUnlikely");
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -83,6 +84,9 @@ bool CandidatePane::TakeKey(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 bool CandidatePane::eventFilter(QObject* watched, QEvent* event) {
+    // Its first click has taken a row and moved the next one under the pointer.
+    if (event->type() == QEvent::MouseButtonDblClick)
+        return true;
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
         return QFrame::eventFilter(watched, event);
     const auto& press = static_cast<const QKeyEvent&>(*event);

@@ -40,6 +40,11 @@ void BoxLabels::SetLabels(std::map<int, BoxLabel> labels) {
     update();
 }
 
+QString BoxLabels::TextOf(int group) const {
+    const auto label = labels_.find(group);
+    return label == labels_.end() ? QString() : label->second.text;
+}
+
 void BoxLabels::SetPlaces(std::map<int, QRectF> places) {
     prepareGeometryChange();
     places_ = std::move(places);
@@ -70,9 +75,9 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
         const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest * dots);
         const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding * dots, metrics.height());
         const QRectF at = LabelPlace(box, size, sight);
-        const bool isHidden = !sight.intersects(at) || std::any_of(taken.begin(), taken.end(), [&](const QRectF& other) {
-            return other.intersects(at);
-        });
+        const bool isHidden =
+            !sight.intersects(at) || std::any_of(taken.begin(), taken.end(),
+                                                 [&](const QRectF& other) { return other.intersects(at); });
         if (isHidden)
             continue;
         taken.push_back(at);

@@ -12,14 +12,15 @@ struct BoxLabel {
     bool isBad = false;
 };
 
-/// Names at the boxes of the page, in letters of one size at every zoom. Where boxes lie too close for all names
-/// to be read, some are left out: those of boxes that come later, and never over another name.
+/// Names at the boxes of the page, in letters of one size at every zoom. Where boxes lie too close for all
+/// names to be read, some are left out: those of boxes that come later, and never over another name.
 class BoxLabels final : public QGraphicsItem {
   public:
     BoxLabels();
 
     void SetLabels(std::map<int, BoxLabel> labels);
     bool IsEmpty() const { return labels_.empty(); }
+    QString TextOf(int group) const;
 
     /// Where a box is, in the page frame; an empty place for one that is not there any more.
     void SetPlaces(std::map<int, QRectF> places);

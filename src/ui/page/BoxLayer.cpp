@@ -8,6 +8,7 @@
 
 #include "ui/page/CosmeticPen.h"
 #include "ui/page/DrawTool.h"
+#include "ui/page/GridTool.h"
 #include "ui/page/ImageView.h"
 #include "ui/page/SelectTool.h"
 
@@ -31,7 +32,12 @@ imaging::PageRect ToPageRect(const QRectF& rect) {
 }  // namespace
 
 BoxLayer::BoxLayer(ImageView& view)
-    : view_(view), items_(new QGraphicsItemGroup), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
+    : view_(view),
+      items_(new QGraphicsItemGroup),
+      frame_(new HandleFrame),
+      labels_(new BoxLabels),
+      grid_(std::make_unique<GridTool>(*this)),
+      drawn_(new QGraphicsRectItem) {
     tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
     tools_[imaging::BoxTool::Add] = std::make_unique<DrawTool>(*this);
     drawn_->setPen(CosmeticPen(QColor(213, 94, 0), 1.5, Qt::DashLine));
@@ -40,6 +46,7 @@ BoxLayer::BoxLayer(ImageView& view)
     drawn_->setVisible(false);
     view_.scene()->addItem(items_);
     view_.scene()->addItem(frame_);
+    view_.scene()->addItem(labels_);
     view_.scene()->addItem(drawn_);
 }
 
@@ -59,6 +66,26 @@ void BoxLayer::SetTool(imaging::BoxTool tool, int nextGroup) {
     tool_ = tool;
     if (editable_)
         view_.UseTool(tools_[tool_].get());
+}
+
+void BoxLayer::ShowLabels(std::map<int, BoxLabel> labels) {
+    if (labels.empty() && labels_->IsEmpty())
+        return;
+    std::map<int, QRectF> places;
+    for (const auto& [group, label] : labels)
+        if (const auto box = boxes_.find(group); box != boxes_.end())
+            places[group] = box->second.place;
+    labels_->SetPlaces(std::move(places));
+    labels_->SetLabels(std::move(labels));
+}
+
+void BoxLayer::DrawGrid(const std::function<void(const QRectF&, const QRectF&)>& drawn) {
+    view_.UseTool(grid_.get());
+    grid_->Start(drawn);
+}
+
+void BoxLayer::EndGrid() {
+    view_.UseTool(editable_ ? tools_[tool_].get() : nullptr);
 }
 
 void BoxLayer::Clear() {
@@ -195,8 +222,9 @@ void BoxLayer::TellFramed(const QRectF& area, bool isFurther) {
     listener_.framed(ToPageRect(area), isFurther);
 }
 
-void BoxLayer::TellMovedTogether(const QPointF& by) {
-    listener_.movedTogether(static_cast<int>(by.x()), static_cast<int>(by.y()));
+void BoxLayer::TellMovedTogether(const QPointF& by, bool areCopies) {
+    (areCopies ? listener_.copied : listener_.movedTogether)(static_cast<int>(by.x()),
+                                                             static_cast<int>(by.y()));
 }
 
 void BoxLayer::Mark(std::span<const int> groups, int current) {

@@ -10,12 +10,14 @@
 
 #include "imaging/PageScreen.h"
 #include "profiles/BoxSelection.h"
+#include "ui/page/BoxLabels.h"
 #include "ui/page/HandleFrame.h"
 #include "ui/page/PageTool.h"
 #include "ui/page/RectItem.h"
 
 namespace tavrene::ui {
 
+class GridTool;
 class ImageView;
 
 /// The rectangles over the page, one a group. Editable ones can be selected, moved, resized and drawn anew:
@@ -33,8 +35,9 @@ class BoxLayer final {
         /// A frame was drawn around boxes; they are further ones, or alone.
         std::function<void(const imaging::PageRect& area, bool isFurther)> framed;
 
-        /// All that are marked were moved together, by whole pixels.
+        /// All that are marked were moved together, by whole pixels; or copies of them, with Ctrl.
         std::function<void(int dx, int dy)> movedTogether;
+        std::function<void(int dx, int dy)> copied;
     };
 
     /// The view owns the layer and the items in its scene.
@@ -56,6 +59,14 @@ class BoxLayer final {
     void Mark(std::span<const int> groups, int current);
     void SetTool(imaging::BoxTool tool, int nextGroup);
     bool IsEmpty() const { return boxes_.empty(); }
+
+    /// Shows names at their boxes instead of those that are shown; none where it is given none.
+    void ShowLabels(std::map<int, BoxLabel> labels);
+    QString LabelOf(int group) const { return labels_->TextOf(group); }
+
+    /// Lets the person draw the first and the last box of a grid, once, instead of using the tool.
+    void DrawGrid(const std::function<void(const QRectF& first, const QRectF& last)>& drawn);
+    void EndGrid();
 
     // For the tools; rectangles and points in the page frame.
 
@@ -101,7 +112,7 @@ class BoxLayer final {
     void TellMoved(int group);
     void TellPicked(int group, profiles::Pick pick) { listener_.picked(group, pick); }
     void TellFramed(const QRectF& area, bool isFurther);
-    void TellMovedTogether(const QPointF& by);
+    void TellMovedTogether(const QPointF& by, bool areCopies);
 
   private:
     struct Shown {
@@ -118,6 +129,8 @@ class BoxLayer final {
     QGraphicsItemGroup* items_;  ///< Parent of all rectangles, so that they go in one step.
     std::map<int, Shown> boxes_;
     HandleFrame* frame_;
+    BoxLabels* labels_;
+    std::unique_ptr<GridTool> grid_;
     QGraphicsRectItem* drawn_;
     std::map<imaging::BoxTool, std::unique_ptr<PageTool>> tools_;
     imaging::BoxTool tool_ = imaging::BoxTool::Select;

@@ -9,8 +9,7 @@ namespace tavrene::ui {
 
 void GridTool::Start(std::function<void(const QRectF&, const QRectF&)> done) {
     done_ = std::move(done);
-    first_ = {};
-    isDrawing_ = false;
+    isActive_ = true;
 }
 
 // A click means a box as large as the first one.
@@ -43,17 +42,21 @@ void GridTool::Release(const QPointF& point, Qt::KeyboardModifiers) {
         first_ = drawn;
         layer_.ShowDrawn(first_);
     } else {
-        const QRectF first = std::exchange(first_, {});
-        layer_.ShowDrawn({});
+        const QRectF first = first_;
+        Cancel();
         done_(first, drawn);
     }
 }
 
+// The tool of before comes back, which gives this one up once more.
 bool GridTool::Cancel() {
-    layer_.ShowDrawn({});
-    const bool wasDrawing = std::exchange(isDrawing_, false) || !first_.isNull();
+    if (!std::exchange(isActive_, false))
+        return false;
+    isDrawing_ = false;
     first_ = {};
-    return wasDrawing;
+    layer_.ShowDrawn({});
+    layer_.EndGrid();
+    return true;
 }
 
 QCursor GridTool::CursorAt(const QPointF&) const {

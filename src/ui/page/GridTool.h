@@ -9,8 +9,8 @@ namespace tavrene::ui {
 
 class BoxLayer;
 
-/// Asks for the corners of a grid: its first box is drawn at the upper left, its last one at the lower right drawn
-/// as well, or clicked at its middle.
+/// Asks for the corners of a grid: its first box is drawn at the upper left, its last one at the lower right
+/// drawn as well, or clicked at its middle.
 class GridTool final : public PageTool {
   public:
     explicit GridTool(BoxLayer& layer) : layer_(layer) {}
@@ -29,6 +29,7 @@ class GridTool final : public PageTool {
 
     BoxLayer& layer_;
     std::function<void(const QRectF&, const QRectF&)> done_;
+    bool isActive_ = false;
     bool isDrawing_ = false;
     QPointF from_;
     QRectF first_;

@@ -240,6 +240,7 @@ QPointF ImageView::PagePoint(const QMouseEvent& event) const {
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (event->button() == Qt::MiddleButton) {
         panFrom_ = event->position().toPoint();
         viewport()->setCursor(Qt::ClosedHandCursor);
@@ -250,6 +251,7 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
 }
 
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (panFrom_)
         Pan(event->position().toPoint());
     else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
@@ -259,6 +261,7 @@ void ImageView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (event->button() == Qt::MiddleButton)
         panFrom_.reset();
     else if (event->button() == Qt::LeftButton && std::exchange(isToolDown_, false) && tool_ != nullptr)
@@ -294,6 +297,10 @@ void ImageView::wheelEvent(QWheelEvent* event) {
     const QPointF away = viewportTransform().map(held) - event->position();
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(away.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(away.y()));
+}
+
+bool ImageView::focusNextPrevChild(bool next) {
+    return (takeTab_ && takeTab_(next)) || QGraphicsView::focusNextPrevChild(next);
 }
 
 void ImageView::keyPressEvent(QKeyEvent* event) {

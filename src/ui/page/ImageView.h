@@ -75,6 +75,13 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
         takeArrow_ = std::move(handler);
     }
 
+    /// `handler` is offered the Tab key, forwards or with Shift back; when it does not take it, the focus
+    /// goes on.
+    void SetTabHandler(std::function<bool(bool isForward)> handler) { takeTab_ = std::move(handler); }
+
+    /// The keys that were held when a button of the mouse went down, up or moved last.
+    Qt::KeyboardModifiers HeldKeys() const { return heldKeys_; }
+
     /// A zoom of the person's own, which ends following; in and out by the steps of the zoom commands,
     /// nothing without a page.
     void ZoomTo(double percent);
@@ -99,6 +106,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     bool HasPage() const { return !page_->Size().isEmpty(); }
@@ -118,7 +126,9 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
     std::function<bool(int, int, bool)> takeArrow_;
+    std::function<bool(bool)> takeTab_;
     std::function<void(double)> zoomed_;
+    Qt::KeyboardModifiers heldKeys_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;
     QString hint_;

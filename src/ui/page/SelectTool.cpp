@@ -9,8 +9,9 @@
 namespace tavrene::ui {
 // Handles stand out of their box, on dense forms over its neighbours, and give way to them.
 unsigned SelectTool::EdgesUnder(const QPointF& point) const {
-    const QRectF selected = layer_.PlaceOf(layer_.SelectedBox());
-    if (selected.isNull() || layer_.HasSeveral())
+    const int group = layer_.SelectedBox();
+    const QRectF selected = layer_.PlaceOf(group);
+    if (selected.isNull() || layer_.HasSeveral() || !layer_.IsEditable(group))
         return kNoEdge;
     const bool isOverNeighbour = !selected.contains(point) && layer_.HasBoxUnder(point);
     return isOverNeighbour ? kNoEdge : EdgesAt(selected, layer_.Scale(), point);
@@ -28,14 +29,16 @@ void SelectTool::Press(const QPointF& point, Qt::KeyboardModifiers keys) {
         deed_ = Deed::Resize;
     else
         PressBox(pressed_, keys);
-    before_ = deed_ == Deed::MoveTogether ? layer_.PlaceOfMarked() : layer_.PlaceOf(pressed_);
+    const bool areSeveral = layer_.HasSeveral() && layer_.IsMarked(pressed_);
+    before_ = areSeveral ? layer_.PlaceOfMarked() : layer_.PlaceOf(pressed_);
 }
 
 // A box among several that are marked stays so until it is known whether they are dragged.
 void SelectTool::PressBox(int group, Qt::KeyboardModifiers keys) {
+    // What is told may fill the page anew.
     const bool canMove = layer_.IsEditable(group);
     if (canMove && (keys & (Qt::ControlModifier | Qt::ShiftModifier)) != 0) {
-        deed_ = Deed::Click;
+        deed_ = keys.testFlag(Qt::ControlModifier) ? Deed::Copy : Deed::Click;
         return;
     }
     if (canMove && layer_.HasSeveral() && layer_.IsMarked(group)) {
@@ -65,6 +68,8 @@ void SelectTool::Drag(const QPointF& point, Qt::KeyboardModifiers) {
         return;
     if (deed_ == Deed::Frame)
         layer_.ShowDrawn(QRectF(from_, point).normalized());
+    else if (deed_ == Deed::Copy)
+        layer_.ShowDrawn(before_.translated(layer_.Way(before_, point - from_)));
     else if (deed_ == Deed::MoveTogether)
         MoveTogetherTo(point);
     else if (deed_ == Deed::Move || deed_ == Deed::Resize)
@@ -74,18 +79,27 @@ void SelectTool::Drag(const QPointF& point, Qt::KeyboardModifiers) {
 void SelectTool::Release(const QPointF& point, Qt::KeyboardModifiers keys) {
     Drag(point, keys);
     const Deed deed = std::exchange(deed_, Deed::None);
+    if (deed == Deed::Frame || deed == Deed::Copy)
+        layer_.ShowDrawn({});
+    if (hasMoved_)
+        Finish(deed, point, keys);
+    else if (deed == Deed::Copy || deed == Deed::Click)
+        layer_.TellPicked(pressed_, deed == Deed::Copy ? profiles::Pick::Toggle : profiles::Pick::Span);
+    else if (deed == Deed::MoveTogether)
+        layer_.TellSelected(pressed_, layer_.PlaceOf(pressed_));
+}
+
+void SelectTool::Finish(Deed deed, const QPointF& point, Qt::KeyboardModifiers keys) {
     const QRectF place = layer_.PlaceOf(pressed_);
-    layer_.ShowDrawn({});
-    if (deed == Deed::Click && !hasMoved_) {
-        layer_.TellPicked(pressed_,
-                          keys.testFlag(Qt::ControlModifier) ? profiles::Pick::Toggle : profiles::Pick::Span);
-    } else if (deed == Deed::Frame && hasMoved_) {
+    if (deed == Deed::Frame) {
         layer_.TellFramed(QRectF(from_, point).normalized(),
                           (keys & (Qt::ControlModifier | Qt::ShiftModifier)) != 0);
-    } else if (deed == Deed::MoveTogether && !hasMoved_) {
-        layer_.TellSelected(pressed_, place);
+    } else if (deed == Deed::Copy) {
+        if (!layer_.IsMarked(pressed_))
+            layer_.TellSelected(pressed_, place);
+        layer_.TellMovedTogether(layer_.Way(before_, point - from_), true);
     } else if (deed == Deed::MoveTogether && !way_.isNull()) {
-        layer_.TellMovedTogether(way_);
+        layer_.TellMovedTogether(way_, false);
     } else if ((deed == Deed::Move || deed == Deed::Resize) && place != before_) {
         layer_.TellMoved(pressed_);
         layer_.TellSelected(pressed_, place);

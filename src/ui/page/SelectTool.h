@@ -22,12 +22,13 @@ class SelectTool final : public PageTool {
 
   private:
     /// What the button that is down does.
-    enum class Deed { None, Move, Resize, MoveTogether, Frame, Click };
+    enum class Deed { None, Move, Resize, MoveTogether, Frame, Copy, Click };
 
     unsigned EdgesUnder(const QPointF& point) const;
     void PressBox(int group, Qt::KeyboardModifiers keys);
     QRectF Moved(const QPointF& point) const;
     void MoveTogetherTo(const QPointF& point);
+    void Finish(Deed deed, const QPointF& point, Qt::KeyboardModifiers keys);
     QCursor CursorOver(int group) const;
 
     BoxLayer& layer_;

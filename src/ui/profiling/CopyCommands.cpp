@@ -57,7 +57,8 @@ CopyCommands::CopyCommands(commands::CommandGate& gate, const app::Files& files,
 
 void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
     const auto hasSelected = [this] { return !profile_.Selected.IsEmpty(); };
-    gate.SetHandler(Command::CopyBoxes, [this] { copied_ = SelectedBoxes(); }, hasSelected);
+    gate.SetHandler(
+        Command::CopyBoxes, [this] { copied_ = SelectedBoxes(); }, hasSelected);
     gate.SetHandler(
         Command::PasteBoxes,
         [this] {

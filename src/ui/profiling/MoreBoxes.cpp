@@ -9,6 +9,7 @@
 #include "ui/base/EscapeWatch.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/CandidateTexts.h"
+#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 namespace {
@@ -46,6 +47,7 @@ MoreBoxes::MoreBoxes(const MoreBoxesContext& context,
                                [this, take] { take([this] { TakeAll(); }); }, [this] { Close(); },
                                [this](bool shown) {
                                    std::erase_if(shown_, [](const Shown& one) { return one.isUnlikely; });
+                                   unlikelyLeft_ = !shown;
                                    if (shown)
                                        AddShown(RectsOf(look_.Unlikely), true);
                                    Show();
@@ -100,6 +102,7 @@ void MoreBoxes::Find() {
     AddShown(RectsOf(look_.Unlikely), true);
     const std::size_t unlikely = shown_.size() - likely;
     shown_.resize(likely);
+    unlikelyLeft_ = unlikely > 0;
     context_.pane.SetUnlikely(static_cast<int>(unlikely));
     context_.person.SetPanel(app::Panel::Message, commands::OutcomeOf(likely, look_));
     if (likely + unlikely == 0) {
@@ -158,7 +161,7 @@ void MoreBoxes::Take(int id) {
     const profiles::OmrBox box = taken->box;
     shown_.erase(taken);
     context_.editor.AddBoxes({box});
-    if (shown_.empty())
+    if (shown_.empty() && !unlikelyLeft_)
         Close();
     else
         Show();
@@ -170,9 +173,8 @@ void MoreBoxes::TakeAll() {
         boxes.push_back(one.box);
     Close();
     if (context_.editor.AddBoxes(boxes))
-        context_.person.SetPanel(
-            app::Panel::Message,
-            std::to_string(boxes.size()) + (boxes.size() == 1 ? " box" : " boxes") + " added.");
+        context_.person.SetPanel(app::Panel::Message,
+                                 commands::Counted(boxes.size(), "box", "boxes") + " added.");
 }
 
 bool MoreBoxes::Close() {

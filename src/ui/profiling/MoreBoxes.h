@@ -68,6 +68,7 @@ class MoreBoxes {
     boxes::SecondLook look_;
     int pageHeight_ = 0;
     std::vector<Shown> shown_;
+    bool unlikelyLeft_ = false;  ///< Shapes that look like print can be shown, but are not.
     std::string desk_;  ///< What stood at the desk when the candidates were found; empty while closed.
 };
 

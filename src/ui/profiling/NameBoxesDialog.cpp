@@ -54,8 +54,9 @@ QWidget* NameBoxesDialog::PatternPage() {
     auto* const page = new QWidget;
     auto* const form = new QFormLayout(page);
     pattern_ = Field("txtPattern", "Pattern", "Q{row} {column}");
-    pattern_->setToolTip("{row} and {column}: where the box stands; {n:02}: its number, with two digits;\n"
-                         "{column:A}: a letter; {block}: the block of columns; {name}: the name it has");
+    pattern_->setToolTip(
+        "{row} and {column}: where the box stands; {n:02}: its number, with two digits;\n"
+        "{column:A}: a letter; {block}: the block of columns; {name}: the name it has");
     rows_ = Field("txtRows", "Names of the rows");
     rows_->setPlaceholderText("1, 2, 3 ...");
     columns_ = Field("txtColumns", "Names of the columns");

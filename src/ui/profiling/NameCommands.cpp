@@ -28,7 +28,8 @@ NameCommands::NameCommands(commands::CommandGate& gate, const profiles::OpenProf
 
 void NameCommands::ConnectOrder(commands::CommandGate& gate) {
     gate.SetHandler(Command::SortByPlace, [this] { Reorder(profiles::SortByPlace); });
-    for (const auto& [command, by] : {std::pair(Command::MoveRowsUp, -1), std::pair(Command::MoveRowsDown, 1)})
+    for (const auto& [command, by] :
+         {std::pair(Command::MoveRowsUp, -1), std::pair(Command::MoveRowsDown, 1)})
         gate.SetHandler(
             command,
             [this, by = by] {

@@ -25,6 +25,9 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
       boxes_(context.gate, session_.Profile(), session_.Editor()),
+      names_(context.gate, session_.Profile(), session_.Editor(), controls.view),
+      copies_(context.gate, context.files, context.person, session_.Profile(), session_.Editor(),
+              controls.view),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
             [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
@@ -87,9 +90,8 @@ void ProfileDesk::ConnectControls() {
          [this](const imaging::PageRect& area, bool isFurther) {
              gate_.Take(Command::EditBoxes, [&] { session_.Editor().AreaPicked(area, isFurther); });
          },
-         [this](int dx, int dy) {
-             gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); });
-         }});
+         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); }); },
+         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { copies_.CopyBy(dx, dy); }); }});
     for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
         new QShortcut(
             Qt::Key_Delete, widget,
@@ -133,6 +135,7 @@ void ProfileDesk::FinishEdits() {
 
 void ProfileDesk::Update() {
     more_.Update();
+    names_.Update();
     person_.ShowStandingNotices(session_.Notices());
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
@@ -142,6 +145,10 @@ void ProfileDesk::Update() {
 }
 
 bool ProfileDesk::Presses(Command command) const {
+    if (command == Command::BoxNames)
+        return names_.ShowsNames();
+    if (command == Command::SnapToPrint)
+        return copies_.SnapsToPrint();
     const BoxTool tool = controls_.view.Boxes().Tool();
     return CanEdit() && ((command == Command::SelectBox && tool == BoxTool::Select) ||
                          (command == Command::AddBox && tool == BoxTool::Add));

@@ -10,7 +10,9 @@
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
 #include "ui/profiling/BoxCommands.h"
+#include "ui/profiling/CopyCommands.h"
 #include "ui/profiling/MoreBoxes.h"
+#include "ui/profiling/NameCommands.h"
 #include "ui/profiling/ProfilePane.h"
 
 namespace tavrene::ui {
@@ -75,6 +77,8 @@ class ProfileDesk {
     DeskControls controls_;
     profiles::ProfileSession session_;
     BoxCommands boxes_;
+    NameCommands names_;
+    CopyCommands copies_;
     MoreBoxes more_;
 };
 

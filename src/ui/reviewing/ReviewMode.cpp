@@ -1,12 +1,12 @@
 #include "ui/reviewing/ReviewMode.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <optional>
 #include <utility>
 
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
-#include "ui/commands/ReadingCommands.h"
 
 namespace tavrene::ui {
 
@@ -46,10 +46,10 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
       session_({context.files, context.log, context.person, controls.view, controls.boxes,
                 controls.pane.List(), controls.pane.Choice(), &context.precise},
                state.settings, state.folders, state.profiles),
-      goesOn_(context.store.ReadSettingValue(app::kApplicationName, commands::kWindowSection, kGoOn) != "0") {
+      goesOn_(app::ReadWindowFlag(context.store, kGoOn, true)) {
     gate_.SetHandler(Command::GoOn, [this, &store = context.store] {
         goesOn_ = !goesOn_;
-        store.WriteSettingValue(app::kApplicationName, commands::kWindowSection, kGoOn, goesOn_ ? "1" : "0");
+        app::WriteWindowFlag(store, kGoOn, goesOn_);
     });
     ConnectCommands();
     ConnectFormCommands();
@@ -175,11 +175,6 @@ void ReviewMode::RectClicked(int group) {
     session_.FlipBox(group);
 }
 
-void ReviewMode::Refill() {
-    if (session_.IsOn())
-        session_.Refill();
-}
-
 void ReviewMode::RunEnded() {
     if (!session_.IsOn())
         return;
@@ -200,8 +195,10 @@ void ReviewMode::Update() {
                                : "Choose a profile on the left, make one with New,\n"
                                  "or press Process to read the scans that wait in the folder ProcessIn.");
     controls_.pane.List().MarkOpen(session_.OpenLine());
-    // With the form all that had its keys is gone; Enter opens the next one.
-    if (std::exchange(hadForm_, session_.HasForm()) && inReview && !hadForm_)
+    // With the form all that had its keys is gone; Enter opens the next one. A list of files, whose line took
+    // the form's place on the page, goes on by itself.
+    const bool hasKeys = dynamic_cast<const ReasonList*>(QApplication::focusWidget()) != nullptr;
+    if (std::exchange(hadForm_, session_.HasForm()) && inReview && !hadForm_ && !hasKeys)
         controls_.pane.List().setFocus();
 }
 

@@ -55,9 +55,6 @@ class ReviewMode final : public QObject {
     /// Moves all pages that were not read back to `ProcessIn`.
     void SendAllBack() { session_.SendAllBack(); }
 
-    /// Fills the list anew in review: results have been added.
-    void Refill();
-
     const review::ReviewSession& Session() const { return session_; }
 
     /// Whether the next form opens after a decision.

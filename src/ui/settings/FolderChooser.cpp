@@ -78,7 +78,8 @@ FolderChooser::FolderChooser()
             [this](const QListWidgetItem* row) { Choose(row->data(Qt::UserRole).toString()); });
     connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) {
         const QString path = QDir::fromNativeSeparators(text);
-        current_ = QDir::cleanPath(path.startsWith("~/") ? QDir::homePath() + path.mid(1) : path);
+        current_ = QDir::cleanPath(
+            QDir(path.startsWith("~/") ? QDir::homePath() + path.mid(1) : path).absolutePath());
     });
     connect(path_, &QLineEdit::editingFinished, this, [this] { GoTo(current_); });
     folders_->installEventFilter(this);

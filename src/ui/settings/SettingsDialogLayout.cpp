@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/settings/SettingsDialog.h"
@@ -46,6 +47,7 @@ QSpinBox* MakeNumber(const QString& name, const QString& accessibleName, int low
     number->setObjectName(name);
     number->setAccessibleName(accessibleName);
     number->setRange(lowest, highest);
+    new CalmWheel(*number);
     return number;
 }
 

@@ -63,12 +63,11 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
               {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),
-      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_},
-               [this] { review_.Refill(); }),
+      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_}),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }),
-      shape_(*this, {context.store, *view_, toolbars_}) {
+      shape_(*this, {context.store, *view_, toolbars_, {&summary_->List(), &forms_->Unread().List()}}) {
     setObjectName("frmTavrene");
     BuildLayout();
     ConnectViewCommands();
@@ -229,6 +228,7 @@ void MainWindow::ShowFile(const ReasonRow& file) {
     view_->ShowFile(commands::ImageInUse(context_.files, state_.folders, file.name));
     const app::Notice notice{file.name + ": " + file.reason};
     operator_.ShowNotices({&notice, 1});
+    fileMode_ = CurrentMode();
     // What the notice leaves of the room is known only once the window is laid out.
     QTimer::singleShot(0, view_, [view = view_] { view->FitPage(); });
 }
@@ -247,10 +247,15 @@ void MainWindow::UpdateCommands() {
     toolbars_.Update([this, mode](Command command) {
         return ButtonState{gate_.Offers(command), commands::IsShownIn(command, mode)};
     });
+    if (fileMode_ && *fileMode_ != mode) {
+        operator_.ShowNotices({});
+        fileMode_.reset();
+    }
     desk_.Update();
     review_.Update();
     ShowTitle();
-    for (const Command command : {Command::SelectBox, Command::AddBox})
+    for (const Command command :
+         {Command::SelectBox, Command::AddBox, Command::BoxNames, Command::SnapToPrint})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <optional>
 #include <string>
 
 #include "app/ActivityLog.h"
@@ -97,6 +98,7 @@ class MainWindow final : public QMainWindow {
     commands::RunSession runs_;
     Toolbars toolbars_;
     WindowShape shape_;
+    std::optional<commands::Mode> fileMode_;  ///< While a file is shown by itself, with the notice about it.
 };
 
 }  // namespace tavrene::ui

@@ -45,10 +45,16 @@ bool ScanIntake::eventFilter(QObject* watched, QEvent* event) {
     drag.setAccepted(!paths.empty() && commands::ActsIn(Command::PasteScans, context_.gate.CurrentMode()));
     // A question that opened at once would hold up the program from which they are dragged.
     if (event->type() == QEvent::Drop && drag.isAccepted())
-        QTimer::singleShot(0, this, [this, dropped = std::move(paths)] {
-            context_.gate.Take(Command::PasteScans, [&] { CopyIn(dropped); });
-        });
+        QTimer::singleShot(0, this, [this, dropped = std::move(paths)] { TakeWhenIdle(dropped); });
     return true;
+}
+
+void ScanIntake::TakeWhenIdle(const std::vector<std::string>& paths) {
+    constexpr int kLater = 200;  // milliseconds
+    if (context_.gate.IsBusy())
+        QTimer::singleShot(kLater, this, [this, paths] { TakeWhenIdle(paths); });
+    else
+        context_.gate.Take(Command::PasteScans, [&] { CopyIn(paths); });
 }
 
 void ScanIntake::CopyIn(const std::vector<std::string>& paths) {

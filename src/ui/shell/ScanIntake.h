@@ -29,6 +29,9 @@ class ScanIntake final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// A command that takes events may be under way, and a question could not be answered meanwhile.
+    void TakeWhenIdle(const std::vector<std::string>& paths);
+
     void CopyIn(const std::vector<std::string>& paths);
 
     IntakeContext context_;

@@ -92,6 +92,8 @@ void StatusPanels::SetProgressRange(int last) {
     progress_->setRange(0, std::max(last, 1));
     since_.start();
     SetProgress(0);
+    if (countsFiles_)
+        SetPanel(app::Panel::Progress, ToQt(commands::ProgressText(0, last, 0)));
 }
 
 void StatusPanels::SetProgress(int value) {
@@ -100,8 +102,10 @@ void StatusPanels::SetProgress(int value) {
     constexpr double kMilliseconds = 1000;
     if (countsFiles_)
         SetPanel(app::Panel::Progress,
-                 ToQt(commands::ProgressText(value, progress_->maximum(),
-                                             static_cast<double>(since_.elapsed()) / kMilliseconds)));
+                 value == 0
+                     ? QString()
+                     : ToQt(commands::ProgressText(value, progress_->maximum(),
+                                                   static_cast<double>(since_.elapsed()) / kMilliseconds)));
 }
 
 void StatusPanels::Show(app::Panel panel, bool shown) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTreeWidget>
+#include <utility>
+#include <vector>
 
 #include "app/SettingsStore.h"
 #include "ui/page/ImageView.h"
@@ -17,10 +20,11 @@ class WindowShape {
         app::SettingsStore& store;
         ImageView& view;
         Toolbars& toolbars;
+        std::vector<QTreeWidget*> lists;  ///< Those whose columns can be dragged.
     };
 
     /// All must outlive it.
-    WindowShape(QMainWindow& window, const Parts& parts) : window_(window), parts_(parts) {}
+    WindowShape(QMainWindow& window, Parts parts) : window_(window), parts_(std::move(parts)) {}
 
     /// Once the window has all its parts; what was never stored stays as it is.
     void Restore();

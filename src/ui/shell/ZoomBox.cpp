@@ -3,6 +3,8 @@
 #include <QSignalBlocker>
 #include <cmath>
 
+#include "ui/base/CalmWheel.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -20,9 +22,9 @@ ZoomBox::ZoomBox() {
     setSuffix(" %");
     setAlignment(Qt::AlignRight);
     setFrame(false);
-    // A number is taken when it is whole, not digit by digit, and a wheel over the status bar is none.
+    // A number is taken when it is whole, not digit by digit.
     setKeyboardTracking(false);
-    setFocusPolicy(Qt::StrongFocus);
+    new CalmWheel(*this);
 }
 
 void ZoomBox::Connect(ImageView& view) {

@@ -38,10 +38,12 @@ Commands AllBut(const Commands& some) {
 const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
 const Commands kBoxes = {
-    C::SelectBox,      C::AddBox,           C::DeleteBox,     C::RenameBox,  C::Undo,
-    C::Redo,           C::FindMoreBoxes,    C::EditBoxes,     C::SetActive,  C::SelectAllBoxes,
-    C::SelectSameSize, C::EqualSize,        C::AlignLeft,     C::AlignRight, C::AlignTop,
-    C::AlignBottom,    C::DistributeAcross, C::DistributeDown};
+    C::SelectBox,      C::AddBox,           C::DeleteBox,      C::RenameBox,  C::Undo,
+    C::Redo,           C::FindMoreBoxes,    C::EditBoxes,      C::SetActive,  C::SelectAllBoxes,
+    C::SelectSameSize, C::EqualSize,        C::AlignLeft,      C::AlignRight, C::AlignTop,
+    C::AlignBottom,    C::DistributeAcross, C::DistributeDown, C::NameBoxes,  C::BoxNames,
+    C::SortByPlace,    C::MoveRowsUp,       C::MoveRowsDown,   C::DrawGrid,   C::CopyBoxes,
+    C::PasteBoxes,     C::DuplicateBoxes,   C::SnapToPrint};
 const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm, C::PickForm,
                          C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
@@ -69,7 +71,6 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Process, Prompts::ProfileThenForm},
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
-                                                {C::ExportResults, Prompts::Form},
                                                 {C::UndoDecision, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace tavrene::commands {
+
+/// A number with the word that goes with it: "1 box", "3 boxes".
+template <typename Count>
+std::string Counted(Count count, const char* one, const char* many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+}  // namespace tavrene::commands
