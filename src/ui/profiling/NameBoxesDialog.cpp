@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "profiles/BoxSelection.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
