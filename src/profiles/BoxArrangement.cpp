@@ -44,6 +44,14 @@ struct Leeway {
     int Held(int by) const { return std::clamp(by, least, most); }
 };
 
+// Moves the farther one of two opposite sides.
+void MoveFarSide(std::int16_t& a, std::int16_t& b, int by, int extent) {
+    const int last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
+    std::int16_t& farther = a > b ? a : b;
+    farther =
+        static_cast<std::int16_t>(std::clamp(farther + by, std::min(a, b) + 1, std::max<int>(farther, last)));
+}
+
 bool IsAlike(double a, double b) {
     return std::abs(a - b) <= std::max(kLeastJitter, kJitter * b);
 }
@@ -64,6 +72,13 @@ void Move(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int 
         shift(box->R, across.Held(dx));
         shift(box->T, down.Held(dy));
         shift(box->B, down.Held(dy));
+    }
+}
+
+void Stretch(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int dy, PageExtent page) {
+    for (OmrBox* const box : Picked(boxes, selected)) {
+        MoveFarSide(box->L, box->R, dx, page.width);
+        MoveFarSide(box->T, box->B, dy, page.height);
     }
 }
 

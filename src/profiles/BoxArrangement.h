@@ -24,6 +24,9 @@ enum class Direction { Across, Down };
 /// back.
 void Move(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int dy, PageExtent page);
 
+/// The right and the lower side of each moved, as far as the page and a pixel of size let it.
+void Stretch(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int dy, PageExtent page);
+
 /// All as wide and high as the current one, each around its own middle.
 void MakeEqualSize(std::vector<OmrBox>& boxes, const BoxSelection& selected);
 

@@ -7,6 +7,7 @@
 #include "app/Numeric.h"
 #include "profiles/BoxArrangement.h"
 #include "profiles/BoxPlace.h"
+#include "profiles/GroupEdits.h"
 #include "profiles/OmrsOfBoxes.h"
 
 namespace tavrene::profiles {
@@ -197,6 +198,13 @@ void BoxEditor::RectSelected(const RectReport& report) {
         Apply(EditTo(after, profile_.Selected));
 }
 
+void BoxEditor::DrawBox(const imaging::PageRect& place) {
+    const int number = static_cast<int>(profile_.BoxList.size()) + 1;
+    if (MayStore() &&
+        AddDrawnBox(imaging::ReportOf(number, place, screen_.page.Zoom(), screen_.page.Scroll())))
+        Select(number);
+}
+
 bool BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
     if (!MayStore() || boxes.empty() || !HasRoomFor(boxes.size()))
         return false;
@@ -236,11 +244,19 @@ void BoxEditor::DeleteBox() {
 }
 
 void BoxEditor::Nudge(int dx, int dy, bool isHeld) {
+    ChangeByKey(Move, dx, dy, isHeld);
+}
+
+void BoxEditor::Stretch(int dx, int dy, bool isHeld) {
+    ChangeByKey(profiles::Stretch, dx, dy, isHeld);
+}
+
+void BoxEditor::ChangeByKey(KeyStep step, int dx, int dy, bool isHeld) {
     const BoxSelection selected = profile_.Selected;
     if (!MayStore() || !IsKept(profile_, selected.Current()))
         return;
     std::vector<OmrBox> after = profile_.BoxList;
-    Move(after, selected, dx, dy, {profile_.ImageWidth, profile_.ImageHeight});
+    step(after, selected, dx, dy, {profile_.ImageWidth, profile_.ImageHeight});
     BoxEdit edit = EditTo(after, selected);
     edit.isNudge = true;
     if (edit.changes.empty())
@@ -274,6 +290,7 @@ void BoxEditor::Undo() {
         return;
     const BoxEdit& edit = *history_.StepBack();
     Take(edit.changes, false, edit.countBefore);
+    profile_.Groups = edit.groupsBefore;
     Select(edit.selectedBefore);
     profile_.ProfileChanged = !history_.IsSavedState();
 }
@@ -283,6 +300,7 @@ void BoxEditor::Redo() {
         return;
     const BoxEdit& edit = *history_.StepForward();
     Take(edit.changes, true, edit.countAfter);
+    profile_.Groups = edit.groupsAfter;
     Select(edit.selectedAfter);
     profile_.ProfileChanged = !history_.IsSavedState();
 }
@@ -293,8 +311,24 @@ bool BoxEditor::HasRoomFor(std::size_t boxes) const {
 
 BoxEdit BoxEditor::EditTo(const std::vector<OmrBox>& after, BoxSelection selected) const {
     const int more = static_cast<int>(KeptNumbers(after).size() - KeptNumbers(profile_.BoxList).size());
-    return {ChangesBetween(profile_.BoxList, after), profile_.Count,
-            app::Max(0, app::ClampToInt16(profile_.Count + more)), profile_.Selected, std::move(selected)};
+    BoxEdit edit{ChangesBetween(profile_.BoxList, after),
+                 profile_.Count,
+                 app::Max(0, app::ClampToInt16(profile_.Count + more)),
+                 profile_.Selected,
+                 std::move(selected),
+                 profile_.Groups,
+                 {}};
+    if (profile_.Groups)
+        edit.groupsAfter = GroupsAfter(*profile_.Groups, edit.changes, after);
+    return edit;
+}
+
+void BoxEditor::SetGroups(std::optional<std::vector<BoxGroup>> groups) {
+    if (!MayStore() || groups == profile_.Groups)
+        return;
+    BoxEdit edit = EditTo(profile_.BoxList, profile_.Selected);
+    edit.groupsAfter = std::move(groups);
+    Remember(std::move(edit));
 }
 
 void BoxEditor::Apply(BoxEdit edit) {
@@ -304,6 +338,7 @@ void BoxEditor::Apply(BoxEdit edit) {
 }
 
 void BoxEditor::Remember(BoxEdit edit) {
+    profile_.Groups = edit.groupsAfter;
     history_.Record(std::move(edit));
     profile_.ProfileChanged = true;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Operator.h"
+#include "profiles/BoxArrangement.h"
 #include "profiles/BoxHistory.h"
 #include "profiles/OpenProfile.h"
 #include "profiles/ProfileDocument.h"
@@ -64,6 +65,15 @@ class BoxEditor {
     bool Change(const std::function<void(std::vector<OmrBox>&)>& change,
                 const std::optional<BoxSelection>& selected = {});
 
+    /// Moves their right and lower sides instead, each by itself.
+    void Stretch(int dx, int dy, bool isHeld = false);
+
+    /// Puts a box at a place of the page, as if it had been drawn there, whatever the tool.
+    void DrawBox(const imaging::PageRect& place);
+
+    /// Sets which boxes belong together, or lets their names tell it, as one edit.
+    void SetGroups(std::optional<std::vector<BoxGroup>> groups);
+
     void Undo();
     void Redo();
     bool CanUndo() const { return profile_.IsOpen && history_.CanStepBack(); }
@@ -80,6 +90,8 @@ class BoxEditor {
     OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
     bool MayStore() const { return profile_.IsOpen; }
     bool AddDrawnBox(const imaging::RectReport& report);
+    using KeyStep = void (*)(std::vector<OmrBox>&, const BoxSelection&, int, int, PageExtent);
+    void ChangeByKey(KeyStep step, int dx, int dy, bool isHeld);
     void StoreCoordinates(const imaging::RectReport& report, OmrBox& box) const;
     void Place(OmrBox& box) const;
     bool HasRoomFor(std::size_t boxes) const;

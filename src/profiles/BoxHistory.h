@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "profiles/BoxGroups.h"
 #include "profiles/BoxSelection.h"
 #include "profiles/ProfileRecord.h"
 
@@ -28,6 +29,8 @@ struct BoxEdit {
     std::int16_t countAfter = 0;
     BoxSelection selectedBefore;
     BoxSelection selectedAfter;
+    std::optional<std::vector<BoxGroup>> groupsBefore = {};
+    std::optional<std::vector<BoxGroup>> groupsAfter = {};
     bool isNudge = false;  ///< A key moves the boxes on for as long as it is held.
 };
 

@@ -2,6 +2,7 @@
 
 #include "EditorWorld.h"
 #include "profiles/BoxArrangement.h"
+#include "profiles/GroupEdits.h"
 
 namespace tavrene::profiles {
 namespace {
@@ -97,6 +98,49 @@ TEST_F(SeveralBoxesTest, AHeldKeyIsOneStep) {
     editor_.Undo();
     EXPECT_EQ(Place(4), (std::vector<int>{60, 124, 84, 148}));
     EXPECT_FALSE(editor_.CanUndo());
+}
+
+TEST_F(SeveralBoxesTest, GroupsFollowTheirBoxesThroughEveryEdit) {
+    const auto groups = [this] {
+        std::string text;
+        for (const BoxGroup& group : profile_.Groups.value_or(std::vector<BoxGroup>())) {
+            text += group.Name + ":";
+            for (const std::string& box : group.Boxes)
+                text += " " + box;
+            text += "; ";
+        }
+        return text;
+    };
+    editor_.SetGroups(GroupsByRow(profile_.BoxList, KeptNumbers(profile_.BoxList)));
+    EXPECT_EQ(groups(), "Q1: Q1 Q2 Q3; Q4: Q4 Q5 Q6; ");
+    editor_.SetGroups(WithGroup(*profile_.Groups, {"hand", {"Q3", "Q4"}, Takes::AtLeastOne}));
+    const std::vector<std::pair<std::function<void()>, std::string>> steps = {
+        {[this] { Rename(4, "yes"); }, "Q1: Q1 Q2; Q4: Q5 Q6; hand: Q3 yes; "},
+        {[this] {
+             editor_.Change([](std::vector<OmrBox>& boxes) { std::swap(boxes[0].Name, boxes[4].Name); });
+         },
+         "Q1: Q5 Q2; Q4: Q1 Q6; hand: Q3 yes; "},
+        {[this] { editor_.Change([](std::vector<OmrBox>& boxes) { std::swap(boxes[0], boxes[3]); }); },
+         "Q1: Q5 Q2; Q4: Q1 Q6; hand: Q3 yes; "},
+        {[this] {
+             editor_.Select(BoxSelection({1, 3}, 1));
+             editor_.DeleteBox();
+         },
+         "Q1: Q5 Q2; Q4: Q1 Q6; "},
+        {[this] { editor_.SetGroups(std::nullopt); }, ""},
+    };
+    for (const auto& [act, wanted] : steps) {
+        act();
+        EXPECT_EQ(groups(), wanted);
+    }
+    for (std::size_t step = steps.size(); step-- > 0;) {
+        editor_.Undo();
+        EXPECT_EQ(groups(), step > 0 ? steps[step - 1].second : "Q1: Q1 Q2; Q4: Q5 Q6; hand: Q3 Q4; ");
+    }
+    editor_.Redo();
+    EXPECT_EQ(groups(), steps[0].second);
+    const std::string words[] = {"Sex of child male", "Sex of child mixed"};
+    EXPECT_EQ(NameForGroup(words), "Sex of child");
 }
 
 // Whatever was done, and however often it goes back and forth, the way back ends where it began.

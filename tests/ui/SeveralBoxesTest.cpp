@@ -163,6 +163,41 @@ TEST_F(SeveralBoxesWindowTest, AGridIsDrawnAndCopiesSnapToThePrint) {
     EXPECT_EQ(PlaceOf(Saved("Form").back()), PlaceOf(whole.boxes[20]));
 }
 
+TEST_F(SeveralBoxesWindowTest, GroupsAreFramedAndKeptBesideTheProfile) {
+    OpenForm();
+    Trigger("GroupByRows");
+    const auto frames = [this] {
+        std::string text;
+        for (const GroupFrame& frame : View().Boxes().Groups())
+            text += FromQt(frame.text) + "|";
+        return text;
+    };
+    EXPECT_EQ(frames(), "Q1: one mark|Q4: one mark|");
+    DialogScript dialogs;
+    dialogs.Do([](QDialog& dialog) {
+        Find<QLineEdit>(dialog, "txtGroup").setText("Sizes");
+        Find<QComboBox>(dialog, "cboTakes").setCurrentIndex(2);
+        dialog.accept();
+    });
+    ClickPage(Middle(3));
+    ClickPage(Middle(6), Qt::ControlModifier);
+    Trigger("GroupBoxes");
+    EXPECT_EQ(frames(), "Q1: one mark|Q4: one mark|Sizes: at least one mark|");
+    EXPECT_EQ(View().Boxes().Groups().back().place, PlaceOf(form_.boxes[2]).united(PlaceOf(form_.boxes[5])));
+    Click("Save");
+    const auto kept = profiles::ReadBoxGroups(files_, folders_.Profiles + "Form.Tvp");
+    ASSERT_TRUE(kept && kept->size() == 3);
+    EXPECT_EQ(kept->back(), (profiles::BoxGroup{"Sizes", {"Q3", "Q6"}, profiles::Takes::AtLeastOne}));
+    Trigger("GroupByNames");
+    EXPECT_EQ(frames(), "") << "these names tell none";
+    dialogs.Press(QMessageBox::No);
+    ClickThumbnail(1);
+    EXPECT_EQ(frames(), "Q1: one mark|Q4: one mark|Sizes: at least one mark|");
+    dialogs.Press(QMessageBox::Yes);
+    Click("Delete");
+    EXPECT_FALSE(files_.FileExists(profiles::BoxGroupsPath(folders_.Profiles + "Form.Tvp")));
+}
+
 // Keystrokes and clicks from New to a profile whose boxes are all there and named.
 TEST_F(SeveralBoxesWindowTest, AProfileIsCompleteAfterFewKeys) {
     const std::string samples = test::SourceFolder() + "/samples/";

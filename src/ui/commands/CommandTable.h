@@ -22,6 +22,7 @@ enum class Command {
     RejectForm,
     SelectBox,
     AddBox,
+    PutBox,
     DeleteBox,
     RenameBox,
     Undo,
@@ -46,6 +47,11 @@ enum class Command {
     PasteBoxes,
     DuplicateBoxes,
     SnapToPrint,
+    GroupBoxes,
+    UngroupBoxes,
+    GroupByRows,
+    GroupByNames,
+    GroupFrames,
     OpenForm,
     NextForm,
     PreviousForm,
@@ -83,8 +89,8 @@ enum class Command {
 /// Where a command's button stands; the commands without one are reached through the menu bar alone.
 enum class Toolbar { Main, Cfg, None };
 
-/// `Arrange` opens from `Boxes`, the others from the menu bar.
-enum class Menu { File, Boxes, Arrange, View, Process, Review, Help };
+/// `Arrange` and `Groups` open from `Boxes`, the others from the menu bar.
+enum class Menu { File, Boxes, Arrange, Groups, View, Process, Review, Help };
 
 /// The questions about unsaved work that come before a command. Cancel at one of them abandons the command.
 enum class Prompts { None, Profile, Form, ProfileThenForm, FormThenProfile };

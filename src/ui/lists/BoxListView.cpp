@@ -106,6 +106,13 @@ void BoxListView::SetEditable(bool editable) {
     setEditTriggers(editable ? QAbstractItemView::DoubleClicked : QAbstractItemView::NoEditTriggers);
 }
 
+bool BoxListView::MakeCurrent(int number) {
+    QTreeWidgetItem* const row = RowOf(number);
+    if (row != nullptr)
+        setCurrentItem(row);
+    return row != nullptr;
+}
+
 void BoxListView::EditName(int number) {
     if (QTreeWidgetItem* const row = RowOf(number)) {
         setFocus();

@@ -26,6 +26,9 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     /// Whether a double click on a row edits its name.
     void SetEditable(bool editable);
 
+    /// Makes the row of a box the current one, as a key would, and tells of it; false when it has none.
+    bool MakeCurrent(int number);
+
     /// Starts editing the name of a box.
     void EditName(int number);
 

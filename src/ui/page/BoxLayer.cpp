@@ -36,6 +36,7 @@ BoxLayer::BoxLayer(ImageView& view)
       items_(new QGraphicsItemGroup),
       frame_(new HandleFrame),
       labels_(new BoxLabels),
+      groups_(new GroupFrames),
       grid_(std::make_unique<GridTool>(*this)),
       drawn_(new QGraphicsRectItem) {
     tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
@@ -47,6 +48,7 @@ BoxLayer::BoxLayer(ImageView& view)
     view_.scene()->addItem(items_);
     view_.scene()->addItem(frame_);
     view_.scene()->addItem(labels_);
+    view_.scene()->addItem(groups_);
     view_.scene()->addItem(drawn_);
 }
 
@@ -77,6 +79,11 @@ void BoxLayer::ShowLabels(std::map<int, BoxLabel> labels) {
             places[group] = box->second.place;
     labels_->SetPlaces(std::move(places));
     labels_->SetLabels(std::move(labels));
+}
+
+void BoxLayer::ShowGroups(std::vector<GroupFrame> frames) {
+    if (!frames.empty() || !groups_->Frames().empty())
+        groups_->SetFrames(std::move(frames));
 }
 
 void BoxLayer::DrawGrid(const std::function<void(const QRectF&, const QRectF&)>& drawn) {
@@ -146,6 +153,19 @@ QPointF BoxLayer::Way(const QRectF& place, const QPointF& by) const {
                        std::max(0.0, room.right() - place.right())),
             std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
                        std::max(0.0, room.bottom() - place.bottom()))};
+}
+
+QRectF BoxLayer::FreePlace(const QPointF& centre, const QSizeF& size) const {
+    constexpr double kStep = 1.5;
+    const QRectF room = Room();
+    QRectF place({std::round(centre.x() - size.width() / 2), std::round(centre.y() - size.height() / 2)},
+                 size);
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - size.width())));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - size.height())));
+    const QPointF step(0, std::round(kStep * size.height()));
+    while (HasBoxUnder(place.center()) && place.bottom() + step.y() <= room.bottom())
+        place.translate(step);
+    return place;
 }
 
 int BoxLayer::BoxAt(const QPointF& point) const {

@@ -11,6 +11,7 @@
 #include "imaging/PageScreen.h"
 #include "profiles/BoxSelection.h"
 #include "ui/page/BoxLabels.h"
+#include "ui/page/GroupFrames.h"
 #include "ui/page/HandleFrame.h"
 #include "ui/page/PageTool.h"
 #include "ui/page/RectItem.h"
@@ -64,6 +65,10 @@ class BoxLayer final {
     void ShowLabels(std::map<int, BoxLabel> labels);
     QString LabelOf(int group) const { return labels_->TextOf(group); }
 
+    /// Frames around groups of boxes instead of those that are shown; none where it is given none.
+    void ShowGroups(std::vector<GroupFrame> frames);
+    const std::vector<GroupFrame>& Groups() const { return groups_->Frames(); }
+
     /// Lets the person draw the first and the last box of a grid, once, instead of using the tool.
     void DrawGrid(const std::function<void(const QRectF& first, const QRectF& last)>& drawn);
     void EndGrid();
@@ -72,6 +77,10 @@ class BoxLayer final {
 
     /// How many pixels of the screen one pixel of the page takes.
     double Scale() const;
+
+    /// Where a box of this size goes that is to stand around a point: on whole pixels of the page, and below
+    /// whatever stands there already, as long as there is room.
+    QRectF FreePlace(const QPointF& centre, const QSizeF& size) const;
 
     /// The point on whole pixels of the page.
     QPointF Snapped(const QPointF& point, const QRectF& place = {}) const;
@@ -130,6 +139,7 @@ class BoxLayer final {
     std::map<int, Shown> boxes_;
     HandleFrame* frame_;
     BoxLabels* labels_;
+    GroupFrames* groups_;
     std::unique_ptr<GridTool> grid_;
     QGraphicsRectItem* drawn_;
     std::map<imaging::BoxTool, std::unique_ptr<PageTool>> tools_;

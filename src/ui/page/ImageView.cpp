@@ -309,13 +309,13 @@ void ImageView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && CancelTool())
         return;
     const auto arrow = arrows.find(event->key());
-    const bool isPlain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-    if (arrow != arrows.end() && isPlain && takeArrow_) {
+    if (arrow != arrows.end() && !event->modifiers().testFlag(Qt::AltModifier) && takeArrow_) {
         // What a drag holds stays where the drag puts it.
         if (isToolDown_)
             return;
         const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
-        if (takeArrow_(by.x(), by.y(), event->isAutoRepeat()))
+        if (takeArrow_(
+                {by.x(), by.y(), event->modifiers().testFlag(Qt::ControlModifier), event->isAutoRepeat()}))
             return;
     }
     QGraphicsView::keyPressEvent(event);

@@ -17,6 +17,14 @@ namespace tavrene::ui {
 /// What the zoom follows by itself, whatever page is shown and however large the view is.
 enum class ZoomFit { None, Page, Width };
 
+/// An arrow key, in image pixels, x to the right and y down.
+struct ArrowStep {
+    int dx = 0;
+    int dy = 0;
+    bool stretches = false;  ///< With Ctrl: what it moves without it is to become larger or smaller.
+    bool isHeld = false;     ///< The key has been down since the step before.
+};
+
 /// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
 /// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
 /// pointer, and the page can be dragged by the middle button.
@@ -69,11 +77,8 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool();
 
-    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down, and whether
-    /// the key has been held since the step before; when it does not take one, the view scrolls.
-    void SetArrowHandler(std::function<bool(int dx, int dy, bool isHeld)> handler) {
-        takeArrow_ = std::move(handler);
-    }
+    /// `handler` is offered the arrow keys; when it does not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(const ArrowStep&)> handler) { takeArrow_ = std::move(handler); }
 
     /// `handler` is offered the Tab key, forwards or with Shift back; when it does not take it, the focus
     /// goes on.
@@ -81,6 +86,9 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
 
     /// The keys that were held when a button of the mouse went down, up or moved last.
     Qt::KeyboardModifiers HeldKeys() const { return heldKeys_; }
+
+    /// The middle of what is in sight, in the page frame.
+    QPointF Centre() const { return mapToScene(viewport()->rect().center()); }
 
     /// A zoom of the person's own, which ends following; in and out by the steps of the zoom commands,
     /// nothing without a page.
@@ -125,7 +133,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     PageItem* page_;
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
-    std::function<bool(int, int, bool)> takeArrow_;
+    std::function<bool(const ArrowStep&)> takeArrow_;
     std::function<bool(bool)> takeTab_;
     std::function<void(double)> zoomed_;
     Qt::KeyboardModifiers heldKeys_;

@@ -28,6 +28,7 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       names_(context.gate, session_.Profile(), session_.Editor(), controls.view),
       copies_(context.gate, context.files, context.person, session_.Profile(), session_.Editor(),
               controls.view),
+      groups_(context.gate, session_.Profile(), session_.Editor(), controls.view),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
             [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
@@ -58,6 +59,7 @@ void ProfileDesk::ConnectCommands() {
 void ProfileDesk::ConnectBoxCommands() {
     gate_.SetHandler(Command::SelectBox, [this] { session_.Editor().SetTool(BoxTool::Select); });
     gate_.SetHandler(Command::AddBox, [this] { session_.Editor().SetTool(BoxTool::Add); });
+    gate_.SetHandler(Command::PutBox, [this] { PutBox(); });
     gate_.SetHandler(Command::DeleteBox, [this] { session_.Editor().DeleteBox(); });
     gate_.SetHandler(
         Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().Selected.Current()); },
@@ -66,6 +68,19 @@ void ProfileDesk::ConnectBoxCommands() {
         Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
     gate_.SetHandler(
         Command::Redo, [this] { session_.Editor().Redo(); }, [this] { return session_.Editor().CanRedo(); });
+}
+
+// Of the size of the selected box, or of what is looked for on a page; the arrow keys are to take it further.
+void ProfileDesk::PutBox() {
+    const BoxLayer& boxes = controls_.view.Boxes();
+    const app::Settings& sizes = state_.settings;
+    const QSize usual =
+        (QSize(sizes.BoxMinWidth, sizes.BoxMinHeight) + QSize(sizes.BoxMaxWidth, sizes.BoxMaxHeight)) / 2;
+    const QRectF selected = boxes.PlaceOf(session_.Profile().Selected.Current());
+    const QRectF place =
+        boxes.FreePlace(controls_.view.Centre(), selected.isEmpty() ? QSizeF(usual) : selected.size());
+    session_.Editor().DrawBox({place.left(), place.top(), place.width(), place.height()});
+    controls_.view.setFocus();
 }
 
 void ProfileDesk::ConnectControls() {
@@ -100,10 +115,14 @@ void ProfileDesk::ConnectControls() {
                 gate_.Run(Command::DeleteBox);
             },
             Qt::WidgetWithChildrenShortcut);
-    controls_.view.SetArrowHandler([this](int dx, int dy, bool isHeld) {
+    controls_.view.SetArrowHandler([this](const ArrowStep& step) {
+        profiles::BoxEditor& editor = session_.Editor();
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)
-            gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy, isHeld); });
+            gate_.Take(Command::EditBoxes, [&] {
+                step.stretches ? editor.Stretch(step.dx, step.dy, step.isHeld)
+                               : editor.Nudge(step.dx, step.dy, step.isHeld);
+            });
         return isTaken;
     });
     controls_.pane.Strip().SetListener(
@@ -136,6 +155,7 @@ void ProfileDesk::FinishEdits() {
 void ProfileDesk::Update() {
     more_.Update();
     names_.Update();
+    groups_.Update();
     person_.ShowStandingNotices(session_.Notices());
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
@@ -147,6 +167,8 @@ void ProfileDesk::Update() {
 bool ProfileDesk::Presses(Command command) const {
     if (command == Command::BoxNames)
         return names_.ShowsNames();
+    if (command == Command::GroupFrames)
+        return groups_.ShowsFrames();
     if (command == Command::SnapToPrint)
         return copies_.SnapsToPrint();
     const BoxTool tool = controls_.view.Boxes().Tool();

@@ -11,6 +11,7 @@
 #include "ui/page/ImageView.h"
 #include "ui/profiling/BoxCommands.h"
 #include "ui/profiling/CopyCommands.h"
+#include "ui/profiling/GroupCommands.h"
 #include "ui/profiling/MoreBoxes.h"
 #include "ui/profiling/NameCommands.h"
 #include "ui/profiling/ProfilePane.h"
@@ -67,6 +68,7 @@ class ProfileDesk {
     void ConnectCommands();
     void ConnectBoxCommands();
     void ConnectControls();
+    void PutBox();
     void Pick(int thumbnail);
     bool CanEdit() const { return session_.IsOpen(); }
     bool HasBox() const { return !session_.Profile().Selected.IsEmpty(); }
@@ -79,6 +81,7 @@ class ProfileDesk {
     BoxCommands boxes_;
     NameCommands names_;
     CopyCommands copies_;
+    GroupCommands groups_;
     MoreBoxes more_;
 };
 

@@ -171,6 +171,12 @@ void ReviewListView::TellOpened(const QModelIndex& index) {
         opened_(static_cast<std::size_t>(index.row()));
 }
 
+QItemSelectionModel::SelectionFlags ReviewListView::selectionCommand(const QModelIndex& index,
+                                                                     const QEvent*) const {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+}
+
 void ReviewListView::keyPressEvent(QKeyEvent* event) {
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
     const bool isEnter = isPlain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);

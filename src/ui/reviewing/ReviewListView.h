@@ -32,6 +32,10 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     void MarkOpen(std::optional<std::size_t> line);
 
   protected:
+    /// The current line is always the selected one: no key takes that away.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

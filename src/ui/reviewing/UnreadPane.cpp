@@ -34,7 +34,7 @@ UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this))
     below->setContentsMargins(10, 8, 10, 10);
     below->setSpacing(6);
     const std::pair<Command, const char*> buttons[] = {
-        {Command::BackToProcessIn, "&Back to ProcessIn"},
+        {Command::BackToProcessIn, "Bac&k to ProcessIn"},
         {Command::AllBackToProcessIn, "&All Back to ProcessIn"},
         {Command::ProcessUnread, "Process A&ll Again"}};
     for (const auto& [command, text] : buttons) {

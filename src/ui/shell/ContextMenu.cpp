@@ -1,36 +1,41 @@
 #include "ui/shell/ContextMenu.h"
 
 #include <QAction>
-#include <QContextMenuEvent>
 #include <QMenu>
 #include <utility>
 
 namespace tavrene::ui {
+namespace {
 
-ContextMenu::ContextMenu(QAbstractItemView& list, QList<QAction*> actions)
-    : QObject(&list), list_(list), actions_(std::move(actions)) {
-    list.viewport()->installEventFilter(this);
+bool IsByKey(const QContextMenuEvent& asked) {
+    return asked.reason() == QContextMenuEvent::Keyboard;
+}
+
+QModelIndex LineAskedFor(const QAbstractItemView& list, const QContextMenuEvent& asked) {
+    return IsByKey(asked) ? list.currentIndex() : list.indexAt(asked.pos());
+}
+
+QPoint MenuPlace(const QAbstractItemView& list, const QModelIndex& line, const QContextMenuEvent& asked) {
+    return IsByKey(asked) ? list.viewport()->mapToGlobal(list.visualRect(line).center()) : asked.globalPos();
+}
+
+}  // namespace
+
+ContextMenu::ContextMenu(QAbstractScrollArea& area, Target target, QList<QAction*> actions)
+    : QObject(&area), area_(area), target_(std::move(target)), actions_(std::move(actions)) {
+    area.viewport()->installEventFilter(this);
 }
 
 bool ContextMenu::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::ContextMenu)
         return false;
-    const auto& asked = dynamic_cast<const QContextMenuEvent&>(*event);
-    const bool byKey = asked.reason() == QContextMenuEvent::Keyboard;
-    const QModelIndex line = byKey ? list_.currentIndex() : list_.indexAt(asked.pos());
-    if (line.isValid())
-        ShowAt(line,
-               byKey ? list_.viewport()->mapToGlobal(list_.visualRect(line).center()) : asked.globalPos());
+    if (const auto place = target_(dynamic_cast<const QContextMenuEvent&>(*event)))
+        ShowAt(*place);
     return true;
 }
 
-void ContextMenu::ShowAt(const QModelIndex& line, const QPoint& place) {
-    // The click may fill the list anew, or ask a question whose answer keeps another line.
-    const int row = line.row();
-    Q_EMIT list_.clicked(line);
-    if (!list_.selectionModel()->isSelected(list_.model()->index(row, 0)))
-        return;
-    auto* const menu = new QMenu(&list_);
+void ContextMenu::ShowAt(const QPoint& place) {
+    auto* const menu = new QMenu(&area_);
     menu->setObjectName("ContextMenu");
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (QAction* const action : actions_)
@@ -40,6 +45,45 @@ void ContextMenu::ShowAt(const QModelIndex& line, const QPoint& place) {
         delete menu;
     else
         menu->popup(place);
+}
+
+ContextMenu::Target ClickedLine(QAbstractItemView& list) {
+    return [&list](const QContextMenuEvent& asked) -> std::optional<QPoint> {
+        const QModelIndex line = LineAskedFor(list, asked);
+        if (!line.isValid())
+            return std::nullopt;
+        const QPoint place = MenuPlace(list, line, asked);
+        // The click may fill the list anew, or ask a question whose answer keeps another line.
+        const int row = line.row();
+        Q_EMIT list.clicked(line);
+        const bool isTaken = list.selectionModel()->isSelected(list.model()->index(row, 0));
+        return isTaken ? std::optional(place) : std::nullopt;
+    };
+}
+
+ContextMenu::Target SelectedLine(QAbstractItemView& list) {
+    return [&list](const QContextMenuEvent& asked) -> std::optional<QPoint> {
+        const QModelIndex line = LineAskedFor(list, asked);
+        if (!line.isValid())
+            return std::nullopt;
+        // Of several that are selected the menu means all.
+        if (!list.selectionModel()->isSelected(line))
+            list.setCurrentIndex(line);
+        return MenuPlace(list, line, asked);
+    };
+}
+
+ContextMenu::Target BoxOnPage(ImageView& page, BoxListView& rows) {
+    return [&page, &rows](const QContextMenuEvent& asked) -> std::optional<QPoint> {
+        const BoxLayer& boxes = page.Boxes();
+        const int number = IsByKey(asked)
+                               ? boxes.SelectedBox()
+                               : boxes.BoxAt(page.viewportTransform().inverted().map(QPointF(asked.pos())));
+        if (number == 0 || !rows.MakeCurrent(number))
+            return std::nullopt;
+        const QPointF middle = page.viewportTransform().map(boxes.PlaceOf(number).center());
+        return IsByKey(asked) ? page.viewport()->mapToGlobal(middle.toPoint()) : asked.globalPos();
+    };
 }
 
 }  // namespace tavrene::ui

@@ -197,20 +197,35 @@ void MainWindow::ConnectSummary() {
     for (ReasonList* const list : {&summary_->List(), &forms_->Unread().List()})
         list->SetListener(
             [this](const ReasonRow& file) { gate_.Take(Command::PickFile, [&] { ShowFile(file); }); });
+    // Once the list that is being filled is whole.
+    connect(&forms_->Unread().List(), &QTreeWidget::itemSelectionChanged, this, &MainWindow::OfferCommands,
+            Qt::QueuedConnection);
     forms_->Unread().SetListener([this](Command command) { RunCommand(command); });
     gate_.SetHandler(Command::ProcessUnread, [this] { ProcessUnread(); });
 }
 
 void MainWindow::AddContextMenus() {
-    const auto add = [this](QAbstractItemView& list, std::initializer_list<Command> offered) {
+    const auto add = [this](QAbstractScrollArea& area, ContextMenu::Target target,
+                            std::initializer_list<Command> offered) {
         QList<QAction*> actions;
         for (const Command command : offered)
             actions += toolbars_.ActionOf(command);
-        new ContextMenu(list, actions);
+        new ContextMenu(area, std::move(target), actions);
     };
-    add(profiles_->Strip(), {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
-    add(forms_->List(), {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
-    add(*boxes_, {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful});
+    const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubtful};
+    ReasonList& unread = forms_->Unread().List();
+    add(profiles_->Strip(), ClickedLine(profiles_->Strip()),
+        {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
+    add(forms_->List(), ClickedLine(forms_->List()),
+        {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubtful});
+    add(*boxes_, SelectedLine(*boxes_), ofBox);
+    add(*view_, BoxOnPage(*view_, *boxes_), ofBox);
+    const auto offered = [this, line = SelectedLine(unread)](const QContextMenuEvent& asked) {
+        const std::optional<QPoint> place = line(asked);
+        OfferCommands();
+        return place;
+    };
+    add(unread, offered, {Command::BackToProcessIn, Command::AllBackToProcessIn, Command::ProcessUnread});
 }
 
 // What cannot be processed stays where the list of unread pages shows it.
@@ -242,12 +257,15 @@ void MainWindow::RunCommand(Command command) {
     gate_.Run(command);
 }
 
-void MainWindow::UpdateCommands() {
-    const commands::Mode mode = CurrentMode();
-    toolbars_.Update([this, mode](Command command) {
+void MainWindow::OfferCommands() {
+    toolbars_.Update([this, mode = CurrentMode()](Command command) {
         return ButtonState{gate_.Offers(command), commands::IsShownIn(command, mode)};
     });
-    if (fileMode_ && *fileMode_ != mode) {
+}
+
+void MainWindow::UpdateCommands() {
+    OfferCommands();
+    if (fileMode_ && *fileMode_ != CurrentMode()) {
         operator_.ShowNotices({});
         fileMode_.reset();
     }
@@ -255,7 +273,7 @@ void MainWindow::UpdateCommands() {
     review_.Update();
     ShowTitle();
     for (const Command command :
-         {Command::SelectBox, Command::AddBox, Command::BoxNames, Command::SnapToPrint})
+         {Command::SelectBox, Command::AddBox, Command::BoxNames, Command::GroupFrames, Command::SnapToPrint})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());

@@ -62,6 +62,7 @@ class MainWindow final : public QMainWindow {
     void RunBegins();
     void RunEnded();
     void RunCommand(commands::Command command);
+    void OfferCommands();
     void UpdateCommands();
     void ShowTitle();
     void ConnectSummary();

@@ -71,8 +71,8 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
 // A menu within another one stands where its first command is.
 QMenu* Toolbars::MenuOf(commands::Menu menu) {
     using commands::Menu;
-    if (menu == Menu::Arrange && !menus_.contains(menu))
-        menus_[menu] = menus_.at(Menu::Boxes)->addMenu("Arran&ge");
+    if (!menus_.contains(menu))
+        menus_[menu] = menus_.at(Menu::Boxes)->addMenu(menu == Menu::Arrange ? "Arran&ge" : "Gr&oups");
     return menus_.at(menu);
 }
 
