@@ -51,6 +51,10 @@ bool IsUnnamed(const std::string& name) {
            name.find_first_not_of("0123456789", kUnnamed.size()) == std::string::npos;
 }
 
+std::string ShownName(const OmrBox& box, int number) {
+    return box.Name.empty() ? UnnamedBox(number) : box.Name;
+}
+
 std::string FreeName(std::span<const OmrBox> boxes, int& number) {
     const auto isTaken = [boxes](const std::string& name) {
         return std::any_of(boxes.begin(), boxes.end(),

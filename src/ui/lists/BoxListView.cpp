@@ -263,8 +263,10 @@ void BoxListView::keyPressEvent(QKeyEvent* event) {
 
 QItemSelectionModel::SelectionFlags BoxListView::selectionCommand(const QModelIndex& index,
                                                                   const QEvent*) const {
-    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
-                           : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+    // Which rows a span takes is told while the key is still at work.
+    return index.isValid() && !isSpanning_
+               ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+               : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }
 
 void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -21,6 +21,9 @@ namespace {
 
 constexpr int kMostLines = 200;
 
+// Copies go to an outline below that is at most so many heights of a box away.
+constexpr double kReachDown = 3;
+
 PageRect ToPageRect(const QRectF& rect) {
     return {rect.left(), rect.top(), rect.width(), rect.height()};
 }
@@ -75,16 +78,25 @@ void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
         Command::DuplicateBoxes,
         [this] {
             const std::vector<OmrBox> boxes = SelectedBoxes();
-            PageRect span = profiles::PlaceOf(boxes.front());
-            for (const OmrBox& box : boxes) {
-                const PageRect place = profiles::PlaceOf(box);
-                const double bottom = std::max(span.top + span.height, place.top + place.height);
-                span.top = std::min(span.top, place.top);
-                span.height = bottom - span.top;
-            }
-            Append(boxes, 0, static_cast<int>(span.height + profiles::PlaceOf(boxes.front()).height / 2));
+            Append(boxes, 0, WayDown(boxes));
         },
         hasSelected);
+}
+
+// To the next outline that is printed below the first of them and has no box yet, or else just below them.
+int CopyCommands::WayDown(const std::vector<OmrBox>& boxes) {
+    const PageRect first = profiles::PlaceOf(boxes.front());
+    double bottom = 0;
+    for (const OmrBox& box : boxes)
+        bottom = std::max<double>(bottom, std::max(box.T, box.B));
+    const double below = bottom - first.top;
+    for (double down = below; down < below + kReachDown * first.height; down += 2) {
+        const PageRect place = {first.left, first.top + down, first.width, first.height};
+        const PageRect printed = InPrint(place);
+        if (printed != place && printed.top > bottom && !IsTaken(profile_.BoxList, printed))
+            return static_cast<int>(printed.top - first.top);
+    }
+    return static_cast<int>(below + first.height / 2);
 }
 
 std::vector<OmrBox> CopyCommands::SelectedBoxes() const {
@@ -118,6 +130,8 @@ void CopyCommands::Append(const std::vector<OmrBox>& copied, int dx, int dy) {
 void CopyCommands::DrawGrid(commands::CommandGate& gate) {
     person_.SetPanel(app::Panel::Message,
                      "Draw the first box at the upper left, then draw or click the last at the lower right.");
+    // Escape gives it up there, and would close the window elsewhere.
+    view_.setFocus();
     view_.Boxes().DrawGrid([this, &gate](const QRectF& first, const QRectF& last) {
         gate.Take(Command::EditBoxes, [&] { AddGrid(ToPageRect(first), ToPageRect(last)); });
     });

@@ -34,6 +34,7 @@ class CopyCommands {
     std::optional<profiles::GridShape> AskShape(const profiles::GridShape& guess) const;
     void Append(const std::vector<profiles::OmrBox>& copied, int dx, int dy);
     std::vector<profiles::OmrBox> SelectedBoxes() const;
+    int WayDown(const std::vector<profiles::OmrBox>& boxes);
     imaging::PageRect InPrint(const imaging::PageRect& place);
     const imaging::WorkGrid* Print();
 

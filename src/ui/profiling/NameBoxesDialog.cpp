@@ -119,7 +119,6 @@ void NameBoxesDialog::Build() {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     rename_ = buttons->addButton("&Name Them", QDialogButtonBox::AcceptRole);
     rename_->setObjectName("cmdOK");
-    rename_->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
@@ -130,6 +129,9 @@ void NameBoxesDialog::Build() {
     layout->addLayout(order);
     layout->addWidget(outcome_);
     layout->addWidget(buttons);
+    // Only a button that is in its dialog can be the one that Enter means.
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    rename_->setDefault(true);
     pattern_->setFocus();
     pattern_->selectAll();
 }
