@@ -18,6 +18,9 @@ constexpr double kUnevenness = 0.5;
 // Columns with so many times the usual distance between them are of two blocks.
 constexpr double kWideGap = 1.8;
 
+// Of a grid at least so many cells have a box.
+constexpr double kMostlyFilled = 0.6;
+
 double Median(std::vector<double> values) {
     if (values.empty())
         return 0;
@@ -91,7 +94,13 @@ std::vector<int> Renumbered(std::vector<OmrBox>& boxes, const std::vector<int>& 
     return numbers;
 }
 
-std::vector<BoxCell> CellsInLines(const std::vector<OmrBox>& boxes, std::span<const int> numbers) {
+struct Grid {
+    std::vector<BoxCell> cells;
+    std::size_t rows = 0;
+    std::size_t columns = 0;
+};
+
+Grid GridOf(const std::vector<OmrBox>& boxes, std::span<const int> numbers) {
     std::vector<double> xs;
     std::vector<double> ys;
     std::vector<double> widths;
@@ -106,19 +115,38 @@ std::vector<BoxCell> CellsInLines(const std::vector<OmrBox>& boxes, std::span<co
     const Lines rows = LinesOf(ys, Median(heights));
     const Lines columns = LinesOf(xs, Median(widths));
     const std::vector<std::pair<int, int>> blocks = BlocksOf(columns.middles);
-    std::vector<BoxCell> cells;
+    Grid grid{{}, rows.middles.size(), columns.middles.size()};
     for (std::size_t index = 0; index < numbers.size(); ++index) {
         const auto& [block, column] = blocks[static_cast<std::size_t>(columns.lineOf[index])];
-        cells.push_back({numbers[index], block, rows.lineOf[index] + 1, column});
+        grid.cells.push_back({numbers[index], block, rows.lineOf[index] + 1, column});
     }
-    return cells;
+    return grid;
+}
+
+// Boxes that only happen to stand below each other are no columns: they count along their row.
+void CountAlongRows(const std::vector<OmrBox>& boxes, std::vector<BoxCell>& cells) {
+    const auto left = [&](const BoxCell& cell) { return boxes[static_cast<std::size_t>(cell.number) - 1].L; };
+    std::sort(cells.begin(), cells.end(), [&](const BoxCell& a, const BoxCell& b) {
+        return std::tuple(a.row, left(a), a.number) < std::tuple(b.row, left(b), b.number);
+    });
+    int row = 0;
+    int column = 0;
+    for (BoxCell& cell : cells) {
+        column = cell.row == row ? column + 1 : 1;
+        row = cell.row;
+        cell.block = 1;
+        cell.column = column;
+    }
 }
 
 }  // namespace
 
 std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const int> numbers,
                              CellOrder order) {
-    std::vector<BoxCell> cells = CellsInLines(boxes, numbers);
+    Grid grid = GridOf(boxes, numbers);
+    std::vector<BoxCell>& cells = grid.cells;
+    if (static_cast<double>(cells.size()) < kMostlyFilled * static_cast<double>(grid.rows * grid.columns))
+        CountAlongRows(boxes, cells);
     CountRows(cells);
     std::sort(cells.begin(), cells.end(), [order](const BoxCell& a, const BoxCell& b) {
         return order == CellOrder::Across ? std::tuple(a.block, a.row, a.column, a.number) <
@@ -131,7 +159,7 @@ std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const i
 
 std::vector<int> SortByPlace(std::vector<OmrBox>& boxes) {
     const std::vector<int> kept = KeptNumbers(boxes);
-    std::vector<BoxCell> cells = CellsInLines(boxes, kept);
+    std::vector<BoxCell> cells = GridOf(boxes, kept).cells;
     const auto left = [&](const BoxCell& cell) { return boxes[static_cast<std::size_t>(cell.number) - 1].L; };
     std::stable_sort(cells.begin(), cells.end(), [&](const BoxCell& a, const BoxCell& b) {
         return std::pair(a.row, left(a)) < std::pair(b.row, left(b));

@@ -61,6 +61,22 @@ TEST(BoxNamingTest, RowsAndColumnsAreThoseOfTheBlocksThatStandSideBySide) {
         EXPECT_THROW(name(wrong, {}, {}), std::invalid_argument) << wrong;
 }
 
+// Questions below each other, with boxes behind answers of any length.
+TEST(BoxNamingTest, BoxesThatAreNoGridCountAlongTheirRows) {
+    std::vector<OmrBox> boxes;
+    const std::vector<std::vector<int>> rows = {{100, 300, 520}, {140, 410}, {90, 380, 600, 700}, {205}};
+    int top = 100;
+    for (const std::vector<int>& row : rows) {
+        for (const int left : row)
+            boxes.push_back({"", static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+                             static_cast<std::int16_t>(left + 20), static_cast<std::int16_t>(top + 20)});
+        top += 50;
+    }
+    const auto cells = CellsOf(boxes, KeptNumbers(boxes), CellOrder::Across);
+    EXPECT_EQ(Texts(NamesByPattern(boxes, cells, {"{row}{column:A}"})),
+              (Names{"1A", "1B", "1C", "2A", "2B", "3A", "3B", "3C", "3D", "4A"}));
+}
+
 TEST(BoxNamingTest, ListsAndReplacementsNameOnlyWhatTheyReach) {
     const std::vector<OmrBox> boxes = TwoBlocks();
     const auto down = CellsOf(boxes, KeptNumbers(boxes), CellOrder::Down);

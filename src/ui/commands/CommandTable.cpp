@@ -90,7 +90,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::CopyBoxes, T::None, "CopyBoxes", "Keep copies of the selected boxes, also for another profile",
                 M::Boxes, "&Copy Boxes", "Ctrl+C", "", false, true, kOfBoxes},
     CommandInfo{C::PasteBoxes, T::None, "PasteBoxes", "Add the boxes that were copied, with the names that follow",
-                M::Boxes, "&Paste Boxes", "Ctrl+Shift+V", "", false, false, kOfBoxes},
+                M::Boxes, "Paste Bo&xes", "Ctrl+Shift+V", "", false, false, kOfBoxes},
     CommandInfo{C::DuplicateBoxes, T::None, "DuplicateBoxes", "Add the selected boxes once more below, with the names that follow",
                 M::Boxes, "Duplica&te Boxes", "Ctrl+D", "", false, false, kOfBoxes},
     CommandInfo{C::SnapToPrint, T::None, "SnapToPrint", "Boxes that are drawn or moved keep to the printed outline under them; Alt leaves them free",

@@ -19,12 +19,23 @@ const QColor kInk(0, 70, 120);
 const QColor kBadInk(180, 0, 0);
 const QColor kPaper(255, 255, 255, 225);
 
-// Over the box, or where the page ends there, below it.
-QRectF LabelPlace(const QRectF& box, const QSizeF& size, const QRectF& sight) {
-    QRectF label(QPointF(box.left(), box.top() - size.height() - kGap), size);
-    if (label.top() < sight.top())
-        label.moveTop(box.bottom() + kGap);
-    return label;
+// The first place beside the box, in sight and over nothing that is to be seen: above it, below it, at its
+// right or its left. A null rectangle where there is none.
+QRectF LabelPlace(const QRectF& box, const QSizeF& size, const QRectF& sight,
+                  const std::vector<QRectF>& taken) {
+    const double level = box.center().y() - size.height() / 2;
+    const QPointF places[] = {{box.left(), box.top() - size.height() - kGap},
+                              {box.left(), box.bottom() + kGap},
+                              {box.right() + kGap, level},
+                              {box.left() - size.width() - kGap, level}};
+    for (const QPointF& place : places) {
+        const QRectF label(place, size);
+        if (sight.contains(label) && std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) {
+                return other.intersects(label);
+            }))
+            return label;
+    }
+    return {};
 }
 
 }  // namespace
@@ -66,7 +77,11 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
     font.setPixelSize(qRound(12 * dots));
     painter->setFont(font);
     const QFontMetricsF metrics(font);
+    // What is out of sight takes no room.
     std::vector<QRectF> taken;
+    for (const auto& [group, place] : places_)
+        if (const QRectF box = toScreen.mapRect(place); sight.intersects(box))
+            taken.push_back(box);
     for (const auto& [group, label] : labels_) {
         const auto place = places_.find(group);
         if (place == places_.end() || label.text.isEmpty())
@@ -74,11 +89,8 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
         const QRectF box = toScreen.mapRect(place->second);
         const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest * dots);
         const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding * dots, metrics.height());
-        const QRectF at = LabelPlace(box, size, sight);
-        const bool isHidden =
-            !sight.intersects(at) || std::any_of(taken.begin(), taken.end(),
-                                                 [&](const QRectF& other) { return other.intersects(at); });
-        if (isHidden)
+        const QRectF at = sight.intersects(box) ? LabelPlace(box, size, sight, taken) : QRectF();
+        if (at.isNull())
             continue;
         taken.push_back(at);
         painter->fillRect(at, kPaper);

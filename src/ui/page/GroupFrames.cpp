@@ -18,7 +18,7 @@ const QColor kFrame(0, 120, 90);
 }  // namespace
 
 GroupFrames::GroupFrames() {
-    setZValue(-0.5);
+    setZValue(0.5);
     setVisible(false);
 }
 
