@@ -49,6 +49,8 @@ class NoScreen final : public imaging::PageScreen, public profiles::BoxRows {
     void RemoveRect(int /*group*/) override {}
     void ClearRects() override {}
     void Emphasise(int /*group*/) override {}
+    void ShowLarge(int /*group*/) override {}
+    void Mark(std::span<const int> /*groups*/, int /*current*/) override {}
     void SetTool(imaging::BoxTool /*tool*/, int /*nextGroup*/) override {}
     void ClearRows(profiles::BoxColumns /*columns*/) override {}
     void PutRow(int /*number*/, const profiles::BoxRow& /*row*/) override {}

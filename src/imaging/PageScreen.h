@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "imaging/Bitmap.h"
@@ -52,6 +53,10 @@ class PageScreen {
 
     /// The same, and so near that what is in the rectangle can be judged.
     virtual void ShowLarge(int group) = 0;
+
+    /// Makes the rectangles of these groups the only ones that stand out, the current one most. The page
+    /// stays where it is.
+    virtual void Mark(std::span<const int> groups, int current) = 0;
 
     /// Sets what the left button does while boxes can be edited. `nextGroup` is the group of the next
     /// rectangle that is drawn.

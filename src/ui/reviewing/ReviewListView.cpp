@@ -87,8 +87,8 @@ void ReviewListView::SelectLine(std::size_t index) {
 }
 
 std::optional<std::size_t> ReviewListView::LineOf(const std::string& form) const {
-    const QModelIndexList found = lines_->match(lines_->index(0, ReviewTable::kName), Qt::DisplayRole, ToQt(form), 1,
-                                                Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const QModelIndexList found = lines_->match(lines_->index(0, ReviewTable::kName), Qt::DisplayRole,
+                                                ToQt(form), 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
     return found.isEmpty() ? std::nullopt : std::optional(static_cast<std::size_t>(found.front().row()));
 }
 

@@ -24,8 +24,8 @@ struct IntakeContext {
     commands::CommandGate& gate;
 };
 
-/// The commands `BringIn` and `PasteScans` (files, folders or a picture), and files and folders that are dropped
-/// anywhere on the window.
+/// The commands `BringIn` and `PasteScans` (files, folders or a picture), and files and folders that are
+/// dropped anywhere on the window.
 class ScanIntake final : public QObject {
   public:
     ScanIntake(QWidget& window, const IntakeContext& context);
