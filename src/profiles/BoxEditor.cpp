@@ -100,7 +100,8 @@ void BoxEditor::RowClicked(int number, Pick pick) {
         Select(selected.Toggled(number));
     } else {
         std::vector<int> numbers = KeptNumbers(profile_.BoxList);
-        const auto [first, last] = std::minmax(selected.Anchor(), number);
+        const int first = std::min(selected.Anchor(), number);
+        const int last = std::max(selected.Anchor(), number);
         std::erase_if(numbers, [first, last](int other) { return other < first || other > last; });
         Select(selected.Spanning(std::move(numbers), number));
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <utility>
 
 #include "ui/page/CosmeticPen.h"
@@ -11,7 +12,11 @@ namespace tavrene::ui {
 namespace {
 
 // Pixels of the screen.
-constexpr double kStandOff = 7;
+constexpr double kMostStandOff = 7;
+constexpr double kLeastStandOff = 2;
+
+// Boxes that are shown small stand close together, and so do their frames.
+constexpr double kStandOff = 0.2;
 
 const QColor kFrame(0, 120, 90);
 
@@ -43,10 +48,13 @@ void GroupFrames::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWid
     font.setPixelSize(qRound(11 * dots));
     painter->setFont(font);
     painter->setPen(CosmeticPen(kFrame, 1.5 * dots, Qt::DashLine));
-    const double off = kStandOff * dots;
     const double height = QFontMetricsF(font).height();
     for (const GroupFrame& frame : frames_) {
-        const QRectF place = toScreen.mapRect(frame.place).adjusted(-off, -off, off, off);
+        const QRectF boxes = toScreen.mapRect(frame.place);
+        const double off =
+            std::clamp(kStandOff * std::min(boxes.width(), boxes.height()), kLeastStandOff, kMostStandOff) *
+            dots;
+        const QRectF place = boxes.adjusted(-off, -off, off, off);
         painter->drawRect(place);
         const QRectF line(place.right() + 3 * dots, place.center().y() - height / 2, 400 * dots, height);
         painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter, frame.text);
