@@ -165,6 +165,7 @@ std::vector<int> SortByPlace(std::vector<OmrBox>& boxes) {
         return std::pair(a.row, left(a)) < std::pair(b.row, left(b));
     });
     std::vector<int> order;
+    order.reserve(cells.size());
     for (const BoxCell& cell : cells)
         order.push_back(cell.number);
     return Renumbered(boxes, kept, order);

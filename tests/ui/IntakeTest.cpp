@@ -5,6 +5,7 @@
 #include <QTabWidget>
 
 #include "ui/DeskWindow.h"
+#include "ui/page/PageImage.h"
 
 namespace tavrene::ui {
 namespace {
@@ -150,7 +151,7 @@ TEST_F(IntakeTest, TheChooserOfTheBlankFormShowsThePictureOfTheHighlightedFile) 
 
 TEST_F(IntakeTest, APictureThatIsPastedBecomesAPageThatIsRead) {
     form_.SaveScan(outside_.File("one.tif"), {.checked = {2}});
-    const QImage picture(ToQt(outside_.File("one.tif")));
+    const QImage picture = ReadPageImage(files_, outside_.File("one.tif"));
     ASSERT_FALSE(picture.isNull());
     QGuiApplication::clipboard()->setImage(picture);
     Open();

@@ -1,3 +1,4 @@
+#include <QStyle>
 #include <QTreeView>
 #include <map>
 
@@ -18,6 +19,8 @@ QPalette DarkPalette() {
                             QPalette::HighlightedText, QPalette::ToolTipText})
         palette.setColor(role, QColor(252, 252, 252));
     palette.setColor(QPalette::ToolTipBase, QColor(49, 54, 59));
+    // As with the palette of a desktop.
+    QApplication::style()->polish(palette);
     return palette;
 }
 

@@ -30,6 +30,7 @@ CandidatePane::CandidatePane(QWidget* parent)
     list_->installEventFilter(this);
     list_->viewport()->installEventFilter(this);
     unlikely_->setObjectName("chkUnlikely");
+    unlikely_->setAccessibleName("Also shapes that look like print");
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

@@ -189,12 +189,12 @@ bool BoxLayer::HasBoxUnder(const QPointF& point) const {
                        [&point](const auto& box) { return box.second.place.contains(point); });
 }
 
-std::vector<int> BoxLayer::ShownGroups() const {
-    std::vector<int> groups;
-    groups.reserve(boxes_.size());
-    for (const auto& [group, box] : boxes_)
-        groups.push_back(group);
-    return groups;
+std::vector<int> BoxLayer::Numbers() const {
+    std::vector<int> numbers;
+    numbers.reserve(boxes_.size());
+    for (const auto& [number, box] : boxes_)
+        numbers.push_back(number);
+    return numbers;
 }
 
 std::optional<imaging::RectStyle> BoxLayer::StyleOf(int group) const {

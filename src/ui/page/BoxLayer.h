@@ -63,10 +63,10 @@ class BoxLayer final {
     void SetTool(imaging::BoxTool tool, int nextGroup);
     bool IsEmpty() const { return boxes_.empty(); }
 
-    /// The groups that are shown, in their order.
-    std::vector<int> ShownGroups() const;
+    /// The boxes that are shown, in the order of their numbers.
+    std::vector<int> Numbers() const;
 
-    /// How a group is shown; nothing for one that is not there.
+    /// How a box is shown; nothing for one that is not there.
     std::optional<imaging::RectStyle> StyleOf(int group) const;
 
     /// Shows names at their boxes instead of those that are shown; none where it is given none.
@@ -137,8 +137,8 @@ class BoxLayer final {
         QRectF place;
         imaging::RectStyle style;
     };
-    void TellFocus() const;
     void Mark(int group) { Mark({}, group); }
+    void TellFocus() const;
 
     /// Where boxes are put: the page, or every place that a document can hold while there is none.
     QRectF Room() const;

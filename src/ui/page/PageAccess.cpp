@@ -81,10 +81,10 @@ class PageAccess final : public QAccessibleWidget {
     PageAccess(const PageAccess&) = delete;
     PageAccess& operator=(const PageAccess&) = delete;
 
-    int childCount() const override { return static_cast<int>(page_.Boxes().ShownGroups().size()); }
+    int childCount() const override { return static_cast<int>(page_.Boxes().Numbers().size()); }
 
     QAccessibleInterface* child(int index) const override {
-        const std::vector<int> groups = page_.Boxes().ShownGroups();
+        const std::vector<int> groups = page_.Boxes().Numbers();
         const bool isThere = index >= 0 && static_cast<std::size_t>(index) < groups.size();
         return isThere ? OfGroup(groups[static_cast<std::size_t>(index)]) : nullptr;
     }

@@ -1,8 +1,10 @@
 #include "ui/shell/ScanIntake.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QDateTime>
 #include <QDropEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -36,6 +38,20 @@ std::vector<std::string> PathsIn(const QMimeData* data) {
 // A name by which the person knows it again in the lists.
 QString NameOfPicture() {
     return "pasted-" + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".png";
+}
+
+// As a page without a resolution, which is matched pixel by pixel: what the toolkit would write is that of
+// the screen.
+QByteArray PngOf(const QImage& picture) {
+    constexpr int kChunk = 21;
+    constexpr int kBeforeName = 4;
+    QByteArray png;
+    QBuffer buffer(&png);
+    picture.save(&buffer, "PNG");
+    const qsizetype name = png.indexOf("pHYs");
+    if (name > kBeforeName && name < png.indexOf("IDAT"))
+        png.remove(name - kBeforeName, kChunk);
+    return png;
 }
 
 // The dialog takes the screen's events itself while it is modal; what it lets through is its own button.
@@ -100,10 +116,11 @@ void ScanIntake::Paste(const QClipboard& clipboard) {
         return;
     }
     const QTemporaryDir folder;
-    const QString path = folder.filePath(NameOfPicture());
-    if (!picture.save(path))
-        throw app::FileError("Cannot write " + FromQt(path));
-    CopyIn({FromQt(path)});
+    QFile file(folder.filePath(NameOfPicture()));
+    const QByteArray png = PngOf(picture);
+    if (!file.open(QIODevice::WriteOnly) || file.write(png) != png.size() || !file.flush())
+        throw app::FileError("Cannot write " + FromQt(file.fileName()));
+    CopyIn({FromQt(file.fileName())});
 }
 
 void ScanIntake::CopyIn(const std::vector<std::string>& paths) {

@@ -32,6 +32,7 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     setAccessibleName("What became of the files of the last run");
     setFrameShape(QFrame::StyledPanel);
     text_->setObjectName("lblSummary");
+    text_->setAccessibleName("Numbers of the last run, each a link to its files");
     text_->setTextFormat(Qt::RichText);
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
