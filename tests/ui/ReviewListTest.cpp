@@ -49,7 +49,7 @@ class ReviewListTest : public test::DeskWindow {
         return Find<QAction>(*window_, key).isEnabled();
     }
 
-    TestForm form_ = TestForm::Grid(2, 2);
+    test::TestForm form_ = test::TestForm::Grid(2, 2);
 };
 
 TEST_F(ReviewListTest, IsSortedAndFilteredAndCountsDoubtsByItself) {
