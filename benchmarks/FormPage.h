@@ -59,11 +59,13 @@ class Nobody final : public app::Operator,
     void RemoveRect(int) override {}
     void ClearRects() override {}
     void Emphasise(int) override {}
+    void Mark(std::span<const int>, int) override {}
     void SetTool(imaging::BoxTool, int) override {}
     void ClearRows(profiles::BoxColumns) override {}
     void PutRow(int, const profiles::BoxRow&) override {}
     void RemoveRow(int) override {}
     void SelectRow(int) override {}
+    void SelectRows(std::span<const int>, int) override {}
     void RefreshRows() override {}
 };
 

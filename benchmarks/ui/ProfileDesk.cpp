@@ -1,5 +1,8 @@
 #include <benchmark/benchmark.h>
 
+#include <QAction>
+#include <QGraphicsView>
+#include <QKeyEvent>
 #include <QListView>
 #include <QTreeWidget>
 
@@ -74,9 +77,27 @@ void BM_SelectRowAmong1000(benchmark::State& state) {
     }
 }
 
+// All boxes are selected, and a key moves them: one step of the history, and both views are painted.
+void BM_SelectAllAndNudge1000(benchmark::State& state) {
+    Desk& desk = TheDesk();
+    desk.Rows().itemClicked(desk.Rows().topLevelItem(0), 0);
+    auto& page = desk.window.Get<QGraphicsView>("ImgEdit1");
+    Qt::Key key = Qt::Key_Right;
+    for (auto _ : state) {
+        desk.window.Get<QAction>("SelectAllBoxes").trigger();
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&page, &press);
+        QApplication::processEvents();
+        key = key == Qt::Key_Right ? Qt::Key_Left : Qt::Key_Right;
+    }
+    if (desk.Rows().selectedItems().size() != kColumns * kRows)
+        state.SkipWithError("not all boxes are selected");
+}
+
 BENCHMARK(BM_WindowFloor)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenProfileOf1000Boxes)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SelectRowAmong1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SelectAllAndNudge1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tavrene::bench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "imaging/Bitmap.h"
@@ -49,6 +50,10 @@ class PageScreen {
 
     /// Makes the rectangle of a group the only one that stands out and brings it into view; 0 leaves none.
     virtual void Emphasise(int group) = 0;
+
+    /// Makes the rectangles of these groups the only ones that stand out, the current one most. The page
+    /// stays where it is.
+    virtual void Mark(std::span<const int> groups, int current) = 0;
 
     /// Sets what the left button does while boxes can be edited. `nextGroup` is the group of the next
     /// rectangle that is drawn.

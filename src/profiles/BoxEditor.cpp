@@ -1,11 +1,12 @@
 #include "profiles/BoxEditor.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
 #include "app/Numeric.h"
+#include "profiles/BoxArrangement.h"
+#include "profiles/BoxPlace.h"
 #include "profiles/OmrsOfBoxes.h"
 
 namespace tavrene::profiles {
@@ -15,37 +16,6 @@ using imaging::BoxTool;
 using imaging::RectReport;
 
 constexpr int kRowsBetweenRepaints = 50;
-
-// A document written by hand may have the edges of a box in the other order; it stands at the same place.
-imaging::PageRect PlaceOf(const OmrBox& box) {
-    return {static_cast<double>(std::min(box.L, box.R)), static_cast<double>(std::min(box.T, box.B)),
-            std::abs(static_cast<double>(box.R - box.L)), std::abs(static_cast<double>(box.B - box.T))};
-}
-
-bool IsSamePlace(const OmrBox& a, const OmrBox& b) {
-    return PlaceOf(a) == PlaceOf(b);
-}
-
-std::string RowText(const OmrBox& box, int number) {
-    return box.Name.empty() ? UnnamedBox(number) : box.Name;
-}
-
-// Moves two opposite sides, but neither off the page, whose extent is 0 where it is not known. A box that
-// lies beside it can still come back.
-void MoveSides(std::int16_t& a, std::int16_t& b, int by, int extent) {
-    const int last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
-    by = std::clamp(by, std::min(0, -std::min(a, b)), std::max(0, last - std::max(a, b)));
-    a = static_cast<std::int16_t>(a + by);
-    b = static_cast<std::int16_t>(b + by);
-}
-
-// Moves the farther one of two opposite sides.
-void MoveFarSide(std::int16_t& a, std::int16_t& b, int by, int extent) {
-    const int last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
-    std::int16_t& farther = a > b ? a : b;
-    farther =
-        static_cast<std::int16_t>(std::clamp(farther + by, std::min(a, b) + 1, std::max<int>(farther, last)));
-}
 
 // From the top of the page down by the lower edge, and from left to right, as boxes that were found stand.
 bool StandsBefore(const OmrBox& a, const OmrBox& b) {
@@ -66,7 +36,7 @@ void BoxEditor::Clear() {
     screen_.page.ClearRects();
     profile_.BoxList.clear();
     profile_.Count = 0;
-    profile_.CurrentBox = 0;
+    profile_.Selected = {};
     profile_.NextBoxId = 1;
     ClearChanged();
     history_.Clear();
@@ -90,7 +60,7 @@ void BoxEditor::BuildBoxList(const ProfileContent& content) {
 }
 
 void BoxEditor::PutBox(int number) {
-    screen_.rows.PutRow(number, {RowText(Box(number), number)});
+    screen_.rows.PutRow(number, {ShownName(Box(number), number)});
     screen_.page.PutRect(number, PlaceOf(Box(number)), imaging::RectStyle::Editable);
 }
 
@@ -104,24 +74,71 @@ void BoxEditor::SetTool(BoxTool tool) {
     screen_.page.SetTool(tool_, profile_.NextBoxId);
 }
 
-void BoxEditor::Select(int number) {
-    profile_.CurrentBox = number;
-    screen_.page.Emphasise(number);
-    screen_.rows.SelectRow(number);
+void BoxEditor::Select(const BoxSelection& selected) {
+    screen_.page.Emphasise(selected.Current());
+    MarkSelected(selected);
 }
 
-void BoxEditor::RowClicked(int number) {
-    if (IsKept(profile_, number))
+// The page stays where it is under the pointer.
+void BoxEditor::MarkSelected(const BoxSelection& selected) {
+    profile_.Selected = selected;
+    if (selected.HasSeveral()) {
+        screen_.page.Mark(selected.Numbers(), selected.Current());
+        screen_.rows.SelectRows(selected.Numbers(), selected.Current());
+    } else {
+        screen_.rows.SelectRow(selected.Current());
+    }
+}
+
+void BoxEditor::RowClicked(int number, Pick pick) {
+    if (!IsKept(profile_, number))
+        return;
+    const BoxSelection& selected = profile_.Selected;
+    if (pick == Pick::Only || selected.IsEmpty()) {
         Select(number);
+    } else if (pick == Pick::Toggle) {
+        Select(selected.Toggled(number));
+    } else {
+        std::vector<int> numbers = KeptNumbers(profile_.BoxList);
+        const int first = std::min(selected.Anchor(), number);
+        const int last = std::max(selected.Anchor(), number);
+        std::erase_if(numbers, [first, last](int other) { return other < first || other > last; });
+        Select(selected.Spanning(std::move(numbers), number));
+    }
 }
 
+void BoxEditor::RectPicked(int group, Pick pick) {
+    if (!IsKept(profile_, group))
+        return;
+    const BoxSelection& selected = profile_.Selected;
+    if (pick == Pick::Toggle && !selected.IsEmpty())
+        MarkSelected(selected.Toggled(group));
+    else if (pick == Pick::Span && IsKept(profile_, selected.Anchor()))
+        MarkSelected(selected.Spanning(
+            BoxesWithin(profile_.BoxList, SpanOf(Box(selected.Anchor()), Box(group))), group));
+    else
+        MarkSelected(BoxSelection(group));
+    screen_.page.Mark(profile_.Selected.Numbers(), profile_.Selected.Current());
+}
+
+void BoxEditor::AreaPicked(const imaging::PageRect& area, bool isFurther) {
+    const std::vector<int> numbers = BoxesWithin(profile_.BoxList, area);
+    if (numbers.empty())
+        return;
+    MarkSelected(isFurther ? profile_.Selected.With(numbers) : BoxSelection(numbers, numbers.front()));
+    screen_.page.Mark(profile_.Selected.Numbers(), profile_.Selected.Current());
+}
+
+// The row shows the name as it was typed, also an empty one.
 void BoxEditor::RowRenamed(int number, const std::string& name) {
     if (!profile_.IsOpen || !IsKept(profile_, number) || Box(number).Name == name)
         return;
-    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
-    edit.after->Name = name;
+    std::vector<OmrBox> after = profile_.BoxList;
+    after[static_cast<std::size_t>(number) - 1].Name = name;
+    BoxEdit edit = EditTo(after, BoxSelection(number));
+    edit.selectedBefore = edit.selectedAfter;
     Box(number).Name = name;
-    Record(std::move(edit));
+    Remember(std::move(edit));
 }
 
 void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
@@ -133,20 +150,24 @@ void BoxEditor::StoreCoordinates(const RectReport& report, OmrBox& box) const {
     box.B = app::RoundToInt16((scroll.y + report.top + report.height) * scale);
 }
 
+void BoxEditor::Place(OmrBox& box) const {
+    if (placing_)
+        PutAt(box, placing_(PlaceOf(box)));
+}
+
 bool BoxEditor::AddDrawnBox(const RectReport& report) {
     if (!HasSize(report) || profile_.Count == std::numeric_limits<std::int16_t>::max()) {
         screen_.page.RemoveRect(report.group);
         return false;
     }
+    std::vector<OmrBox> after = profile_.BoxList;
     OmrBox box;
     int number = report.group;
-    box.Name = FreeName(number);
+    box.Name = FreeName(after, number);
     StoreCoordinates(report, box);
-    profile_.BoxList.push_back(box);
-    const std::int16_t before = profile_.Count++;
-    PutBox(report.group);
-    SetNextBox(report.group + 1);
-    Record({report.group, std::nullopt, box, before, profile_.Count});
+    Place(box);
+    after.push_back(box);
+    Apply(EditTo(after, BoxSelection(report.group)));
     return true;
 }
 
@@ -157,22 +178,20 @@ void BoxEditor::RectSelected(const RectReport& report) {
         return;
     if (!IsKept(profile_, report.group))
         return;
-    profile_.CurrentBox = report.group;
+    profile_.Selected = BoxSelection(report.group);
     screen_.rows.SelectRow(report.group);
     if (isDrawn || !HasSize(report) || !MayStore())
         return;
-    OmrBox after = Box(report.group);
-    StoreCoordinates(report, after);
-    ChangePlace(report.group, after);
-}
-
-void BoxEditor::ChangePlace(int number, const OmrBox& after) {
-    if (IsSamePlace(Box(number), after))
+    std::vector<OmrBox> after = profile_.BoxList;
+    OmrBox& box = after[static_cast<std::size_t>(report.group) - 1];
+    StoreCoordinates(report, box);
+    if (IsSamePlace(Box(report.group), box))
         return;
-    BoxEdit edit{number, Box(number), after, profile_.Count, profile_.Count};
-    Box(number) = after;
-    screen_.page.PutRect(number, PlaceOf(after), imaging::RectStyle::Editable);
-    Record(std::move(edit));
+    Place(box);
+    // It may have come back to where it was, from where the mouse has shown it.
+    screen_.page.PutRect(report.group, PlaceOf(box), imaging::RectStyle::Editable);
+    if (!IsSamePlace(Box(report.group), box))
+        Apply(EditTo(after, profile_.Selected));
 }
 
 void BoxEditor::DrawBox(const imaging::PageRect& place) {
@@ -182,54 +201,23 @@ void BoxEditor::DrawBox(const imaging::PageRect& place) {
         Select(number);
 }
 
-// Counts `number` up behind the first one that names no box: a saved profile is numbered anew, so a box may
-// have the name of another one's number.
-std::string BoxEditor::FreeName(int& number) const {
-    const auto isTaken = [this](const std::string& name) {
-        return std::any_of(profile_.BoxList.begin(), profile_.BoxList.end(),
-                           [&](const OmrBox& box) { return box.Checked && box.Name == name; });
-    };
-    while (isTaken(UnnamedBox(number)))
-        ++number;
-    return UnnamedBox(number++);
-}
-
 bool BoxEditor::AddBoxes(const std::vector<OmrBox>& boxes) {
-    const std::size_t room =
-        static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max() - profile_.Count);
-    if (!MayStore() || boxes.empty() || boxes.size() > room)
+    if (!MayStore() || boxes.empty() || !HasRoomFor(boxes.size()))
         return false;
-    BoxEdit edit{0, {}, {}, profile_.Count, {}, profile_.BoxList, profile_.BoxList};
-    int number = static_cast<int>(profile_.BoxList.size()) + 1;
+    std::vector<OmrBox> after = profile_.BoxList;
+    int number = static_cast<int>(after.size()) + 1;
     for (OmrBox box : boxes) {
-        box.Name = FreeName(number);
-        const auto place = std::find_if(edit.listAfter.begin(), edit.listAfter.end(),
+        box.Name = FreeName(after, number);
+        const auto place = std::find_if(after.begin(), after.end(),
                                         [&](const OmrBox& other) { return StandsBefore(box, other); });
-        edit.listAfter.insert(place, std::move(box));
+        after.insert(place, std::move(box));
     }
-    edit.countAfter = static_cast<std::int16_t>(profile_.Count + static_cast<int>(boxes.size()));
-    TakeList(edit.listAfter, edit.countAfter);
-    Record(std::move(edit));
-    const auto first = std::find_if(profile_.BoxList.begin(), profile_.BoxList.end(), [&](const OmrBox& box) {
+    const auto first = std::find_if(after.begin(), after.end(), [&](const OmrBox& box) {
         return box.Checked && IsSamePlace(box, boxes.front());
     });
-    Select(static_cast<int>(first - profile_.BoxList.begin()) + 1);
+    Apply(EditTo(after, BoxSelection(static_cast<int>(first - after.begin()) + 1)));
+    Select(profile_.Selected);
     return true;
-}
-
-// The numbers of all boxes may be others then.
-void BoxEditor::TakeList(const std::vector<OmrBox>& list, std::int16_t count) {
-    for (int number = 1; number <= static_cast<int>(profile_.BoxList.size()); ++number)
-        screen_.page.RemoveRect(number);
-    screen_.rows.ClearRows(BoxColumns::Name);
-    profile_.BoxList = list;
-    profile_.Count = count;
-    for (int number = 1; number <= static_cast<int>(profile_.BoxList.size()); ++number) {
-        if (IsKept(profile_, number))
-            PutBox(number);
-    }
-    SetNextBox(static_cast<int>(profile_.BoxList.size()) + 1);
-    Select(NextKept(0));
 }
 
 void BoxEditor::RectMoved(int group) {
@@ -237,104 +225,44 @@ void BoxEditor::RectMoved(int group) {
         profile_.ProfileChanged = true;
 }
 
-int BoxEditor::NextKept(int number) const {
-    const int last = static_cast<int>(profile_.BoxList.size());
-    for (int next = number + 1; next <= last; ++next) {
-        if (IsKept(profile_, next))
-            return next;
-    }
-    for (int next = 1; next <= last; ++next) {
-        if (IsKept(profile_, next))
-            return next;
-    }
-    return 0;
-}
-
 void BoxEditor::DeleteBox() {
-    const int number = profile_.CurrentBox;
-    if (!profile_.IsOpen || !IsKept(profile_, number))
+    const BoxSelection gone = profile_.Selected;
+    if (!profile_.IsOpen || !IsKept(profile_, gone.Current()))
         return;
-    BoxEdit edit{number, Box(number), Box(number), profile_.Count, profile_.Count};
-    edit.after->Checked = false;
-    edit.countAfter = app::Max(0, static_cast<std::int16_t>(profile_.Count - 1));
-    Box(number).Checked = false;
-    profile_.Count = edit.countAfter;
-    Record(std::move(edit));
-    screen_.page.RemoveRect(number);
-    screen_.rows.RemoveRow(number);
-    Select(profile_.Count >= 1 ? NextKept(number) : 0);
+    std::vector<OmrBox> after = profile_.BoxList;
+    for (const int number : gone.Numbers())
+        after[static_cast<std::size_t>(number) - 1].Checked = false;
+    BoxEdit edit = EditTo(after, {});
+    if (edit.countAfter >= 1)
+        edit.selectedAfter = BoxSelection(NextKept(after, gone.Numbers().back()));
+    Apply(std::move(edit));
+    Select(profile_.Selected);
 }
 
-void BoxEditor::Nudge(int dx, int dy) {
-    const int number = profile_.CurrentBox;
-    if (!MayStore() || !IsKept(profile_, number))
+void BoxEditor::Nudge(int dx, int dy, bool isHeld) {
+    ChangeByKey(Move, dx, dy, isHeld);
+}
+
+void BoxEditor::Stretch(int dx, int dy, bool isHeld) {
+    ChangeByKey(profiles::Stretch, dx, dy, isHeld);
+}
+
+void BoxEditor::ChangeByKey(KeyStep step, int dx, int dy, bool isHeld) {
+    const BoxSelection selected = profile_.Selected;
+    if (!MayStore() || !IsKept(profile_, selected.Current()))
         return;
-    OmrBox box = Box(number);
-    MoveSides(box.L, box.R, dx, profile_.ImageWidth);
-    MoveSides(box.T, box.B, dy, profile_.ImageHeight);
-    ChangePlace(number, box);
-    Select(number);
-}
-
-void BoxEditor::Stretch(int dx, int dy) {
-    const int number = profile_.CurrentBox;
-    if (!MayStore() || !IsKept(profile_, number))
+    std::vector<OmrBox> after = profile_.BoxList;
+    step(after, selected, dx, dy, {profile_.ImageWidth, profile_.ImageHeight});
+    BoxEdit edit = EditTo(after, selected);
+    edit.isNudge = true;
+    if (edit.changes.empty())
         return;
-    OmrBox box = Box(number);
-    MoveFarSide(box.L, box.R, dx, profile_.ImageWidth);
-    MoveFarSide(box.T, box.B, dy, profile_.ImageHeight);
-    ChangePlace(number, box);
-    Select(number);
-}
-
-void BoxEditor::Undo() {
-    if (!CanUndo())
-        return;
-    const BoxEdit& edit = *history_.StepBack();
-    if (edit.number == 0)
-        TakeList(edit.listBefore, edit.countBefore);
-    else
-        TakeState(edit.number, edit.before, edit.countBefore);
-    profile_.ProfileChanged = !history_.IsSavedState();
-}
-
-void BoxEditor::Redo() {
-    if (!CanRedo())
-        return;
-    const BoxEdit& edit = *history_.StepForward();
-    if (edit.number == 0)
-        TakeList(edit.listAfter, edit.countAfter);
-    else
-        TakeState(edit.number, edit.after, edit.countAfter);
-    profile_.ProfileChanged = !history_.IsSavedState();
-}
-
-void BoxEditor::Record(BoxEdit edit) {
-    history_.Record(std::move(edit));
-    profile_.ProfileChanged = true;
-}
-
-// Edits are taken back in reverse order, so an added box that goes is the last of the list.
-void BoxEditor::TakeState(int number, const std::optional<OmrBox>& state, std::int16_t count) {
-    profile_.BoxList.resize(std::max(profile_.BoxList.size(), static_cast<std::size_t>(number)));
-    if (state)
-        Box(number) = *state;
-    else
-        profile_.BoxList.pop_back();
-    profile_.Count = count;
-    SetNextBox(static_cast<int>(profile_.BoxList.size()) + 1);
-    ShowBox(number);
-}
-
-void BoxEditor::ShowBox(int number) {
-    if (IsKept(profile_, number)) {
-        PutBox(number);
-        Select(number);
-    } else {
-        screen_.page.RemoveRect(number);
-        screen_.rows.RemoveRow(number);
-        Select(NextKept(number));
-    }
+    Take(edit.changes, true, edit.countAfter);
+    if (!isHeld || !history_.Continue(edit))
+        Remember(std::move(edit));
+    screen_.page.Emphasise(selected.Current());
+    if (selected.HasSeveral())
+        screen_.page.Mark(selected.Numbers(), selected.Current());
 }
 
 void BoxEditor::ClearChanged() {

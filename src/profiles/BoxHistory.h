@@ -5,20 +5,33 @@
 #include <optional>
 #include <vector>
 
+#include "profiles/BoxGroups.h"
+#include "profiles/BoxSelection.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
 
-/// One edit: what box `number` was before and is after it. No box stands for one that is not in the list yet.
-/// An edit of number 0 has put several boxes among the others, which gives boxes other numbers; it holds all.
-struct BoxEdit {
+/// What box `number` was before an edit and is after it. No box stands for one that is not in the list: only
+/// the end of the list comes and goes, for a deleted box keeps its place.
+struct BoxChange {
     int number = 0;
     std::optional<OmrBox> before;
     std::optional<OmrBox> after;
+};
+
+/// The differences between two lists, by ascending numbers.
+std::vector<BoxChange> ChangesBetween(const std::vector<OmrBox>& before, const std::vector<OmrBox>& after);
+
+/// One step that is taken back at once.
+struct BoxEdit {
+    std::vector<BoxChange> changes;
     std::int16_t countBefore = 0;
     std::int16_t countAfter = 0;
-    std::vector<OmrBox> listBefore = {};
-    std::vector<OmrBox> listAfter = {};
+    BoxSelection selectedBefore;
+    BoxSelection selectedAfter;
+    std::optional<std::vector<BoxGroup>> groupsBefore = {};
+    std::optional<std::vector<BoxGroup>> groupsAfter = {};
+    bool isNudge = false;  ///< A key moves the boxes on for as long as it is held.
 };
 
 /// The edits of the open profile, so that they can be taken back and done again one by one.
@@ -29,6 +42,9 @@ class BoxHistory {
 
     /// Adds an edit that was just made; what had been taken back can no longer be done again.
     void Record(BoxEdit edit);
+
+    /// Makes a nudge part of the edit before it, where that is a nudge of the same boxes; false otherwise.
+    bool Continue(const BoxEdit& nudge);
 
     /// The edit to take back, or to do again; none when there is none. The edit stays valid until the next
     /// `Record` or `Clear`.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 namespace tavrene::profiles {
@@ -30,6 +31,9 @@ class BoxRows {
 
     /// Makes the row the only selected one and scrolls it into view; 0 selects none.
     virtual void SelectRow(int number) = 0;
+
+    /// Makes these rows the selected ones, among them the current one, and scrolls that into view.
+    virtual void SelectRows(std::span<const int> numbers, int current) = 0;
 
     /// Paints what has changed now.
     virtual void RefreshRows() = 0;

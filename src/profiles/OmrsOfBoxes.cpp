@@ -1,5 +1,7 @@
 #include "profiles/OmrsOfBoxes.h"
 
+#include <algorithm>
+
 #include "app/Numeric.h"
 #include "imaging/WorkGrid.h"
 
@@ -47,6 +49,20 @@ std::string UnnamedBox(int number) {
 bool IsUnnamed(const std::string& name) {
     return name.starts_with(kUnnamed) &&
            name.find_first_not_of("0123456789", kUnnamed.size()) == std::string::npos;
+}
+
+std::string ShownName(const OmrBox& box, int number) {
+    return box.Name.empty() ? UnnamedBox(number) : box.Name;
+}
+
+std::string FreeName(std::span<const OmrBox> boxes, int& number) {
+    const auto isTaken = [boxes](const std::string& name) {
+        return std::any_of(boxes.begin(), boxes.end(),
+                           [&](const OmrBox& box) { return box.Checked && box.Name == name; });
+    };
+    while (isTaken(UnnamedBox(number)))
+        ++number;
+    return UnnamedBox(number++);
 }
 
 }  // namespace tavrene::profiles

@@ -20,4 +20,11 @@ std::vector<boxes::BoxRect> BoxesOfOmrs(std::span<const OmrBox> omrs, int height
 std::string UnnamedBox(int number);
 bool IsUnnamed(const std::string& name);
 
+/// What a list shows of box `number`: its name, or for an empty one that of a box that nobody named.
+std::string ShownName(const OmrBox& box, int number);
+
+/// Such a name that no kept box of these has, and counts `number` up behind it: a saved profile is numbered
+/// anew, so a box may have the name of another one's number.
+std::string FreeName(std::span<const OmrBox> boxes, int& number);
+
 }  // namespace tavrene::profiles

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <pugixml.hpp>
 #include <string>
 #include <vector>
 
 #include "app/Files.h"
+#include "profiles/BoxGroups.h"
+#include "profiles/BoxSelection.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
@@ -25,9 +28,12 @@ struct OpenProfile {
     /// while the profile is open.
     std::vector<OmrBox> BoxList;
     std::int16_t Count =
-        0;               ///< Goes with every box added and deleted; it starts from the document's attribute.
-    int CurrentBox = 0;  ///< Number of the box last selected or edited; 0 for none.
-    int NextBoxId = 1;   ///< The number that the next drawn rectangle carries.
+        0;  ///< Goes with every box added and deleted; it starts from the document's attribute.
+    BoxSelection Selected;  ///< Its current box is the one last selected or edited.
+    /// Which boxes answer one question together; nothing while their names tell it.
+    std::optional<std::vector<BoxGroup>> Groups;
+    std::optional<std::vector<BoxGroup>> SavedGroups;  ///< As the file beside the document has them.
+    int NextBoxId = 1;                                 ///< The number that the next drawn rectangle carries.
 
     int CurrentProfile = 0;       ///< 1-based place in the thumbnail strip; 0 for none.
     bool ProfileChanged = false;  ///< There are unsaved changes of boxes.

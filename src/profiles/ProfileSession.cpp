@@ -75,6 +75,7 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
         return false;
     Take(path, profiles_.Create(path, {name, image, found->DPI_X, found->DPI_Y, true},
                                 OmrsOfBoxes(found->Boxes, found->Height)));
+    DeleteBoxGroups(context_.files, path);
     const ProfileContent content = ReadProfileContent(profile_.Document);
     Describe(content);
     Note(copyFailure);
@@ -141,6 +142,13 @@ void ProfileSession::Describe(const ProfileContent& content) {
         lasting_.push_back(
             {"The document does not say the resolution of its image (DPI_X, DPI_Y), so runs leave it out."});
     profile_.Active = content.Active;
+    try {
+        profile_.SavedGroups = ReadBoxGroups(context_.files, profile_.Path);
+        profile_.Groups = profile_.SavedGroups;
+    } catch (const DocumentError& error) {
+        lasting_.push_back({"The groups of this profile cannot be read, so names tell them: " +
+                            std::string(error.what()) + "."});
+    }
 }
 
 void ProfileSession::ShowSpecimen(bool isNewProfile) {
@@ -185,12 +193,23 @@ bool ProfileSession::Write() {
     if (const std::optional<int> unwritable = FindUnwritableName(profile_.BoxList))
         editor_.Select(*unwritable);
     profiles_.Save(profile_);
+    SaveGroups();
     if (onDisk.empty())
         Note("The file " + profile_.Path + " had been deleted and was written anew");
     editor_.ClearChanged();
     RebuildStrip();
     context_.person.SetPanel(Panel::Message, "Saved Profile: " + profile_.Name);
     return true;
+}
+
+void ProfileSession::SaveGroups() {
+    if (profile_.Groups == profile_.SavedGroups)
+        return;
+    if (profile_.Groups)
+        WriteBoxGroups(context_.files, profile_.Path, *profile_.Groups);
+    else
+        DeleteBoxGroups(context_.files, profile_.Path);
+    profile_.SavedGroups = profile_.Groups;
 }
 
 bool ProfileSession::MayOverwrite(const std::string& onDisk) {
@@ -208,6 +227,7 @@ void ProfileSession::Delete() {
         return;
     const std::string name = profile_.Name;
     profiles_.Delete(profile_);
+    DeleteBoxGroups(context_.files, profile_.Path);
     Close();
     RebuildStrip();
     ShowPanels();

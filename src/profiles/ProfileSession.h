@@ -99,6 +99,7 @@ class ProfileSession {
     void Describe(const ProfileContent& content);
     void ShowSpecimen(bool isNewProfile);
     bool Write();
+    void SaveGroups();
     bool MayOverwrite(const std::string& onDisk);
     void RebuildStrip();
     void Locate();

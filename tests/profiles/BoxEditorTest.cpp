@@ -1,6 +1,4 @@
-#include "FakeStrip.h"
-#include "profiles/BoxEditor.h"
-#include "support/RunWorld.h"
+#include "EditorWorld.h"
 
 namespace tavrene::profiles {
 namespace {
@@ -8,44 +6,7 @@ namespace {
 using imaging::BoxTool;
 using test::TestForm;
 
-class BoxEditorTest : public test::RunWorld {
-  protected:
-    BoxEditorTest() { Open(TestForm::Grid(3, 2).boxes); }
-
-    void Open(std::vector<OmrBox> boxes) {
-        ProfileContent content;
-        content.Count = static_cast<std::int16_t>(boxes.size());
-        content.Boxes = std::move(boxes);
-        screen_.SetZoom(100);
-        profile_.IsOpen = true;
-        editor_.BuildBoxList(content);
-    }
-
-    void Draw(double left, double top, double width, double height) {
-        editor_.RectSelected({screen_.nextGroup, left, top, width, height});
-    }
-
-    // The row holds the new label before the editor hears of it.
-    void Rename(int number, const std::string& name) {
-        screen_.rows[number] = name;
-        editor_.RowRenamed(number, name);
-    }
-
-    void Delete(int number) {
-        editor_.RowClicked(number);
-        editor_.DeleteBox();
-    }
-
-    OmrBox& Box(int number) { return profile_.BoxList[static_cast<std::size_t>(number) - 1]; }
-
-    std::vector<int> Place(int number) {
-        return {Box(number).L, Box(number).T, Box(number).R, Box(number).B};
-    }
-
-    test::FakeStrip strip_;
-    OpenProfile profile_;
-    BoxEditor editor_{profile_, person_, {screen_, screen_, strip_}};
-};
+using BoxEditorTest = test::EditorWorld;
 
 TEST_F(BoxEditorTest, BuildsBothViewsAndPaintsBoxesOnePixelShort) {
     std::vector<OmrBox> boxes = TestForm::Grid(10, 12).boxes;
@@ -87,11 +48,11 @@ TEST_F(BoxEditorTest, TakesCoordinatesFromViewUnits) {
 TEST_F(BoxEditorTest, DeletingTheLastBoxMakesTheFirstCurrent) {
     Delete(6);
     editor_.RowClicked(6);  // gone
-    EXPECT_EQ(profile_.CurrentBox, 1);
+    EXPECT_EQ(profile_.Selected.Current(), 1);
     EXPECT_EQ(screen_.emphasised, 1);
     for (int k = 0; k < 6; ++k)
         editor_.DeleteBox();
-    EXPECT_EQ(profile_.Count + profile_.CurrentBox, 0);
+    EXPECT_EQ(profile_.Count + profile_.Selected.Current(), 0);
     EXPECT_TRUE(screen_.rows.empty());
     EXPECT_EQ(ComposeOmrs(profile_.BoxList, profile_.Count), "<OMRs Count=\"0\">\r\n</OMRs>\r\n");
 }

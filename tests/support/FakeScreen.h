@@ -3,6 +3,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "imaging/PageScreen.h"
 #include "profiles/BoxRows.h"
@@ -20,6 +21,7 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
     std::map<int, std::string> rows;  ///< Names.
     bool isTurned = false;
     int emphasised = 0;
+    std::vector<int> marked;  ///< Where several stand out.
     int selectedRow = 0;
     int nextGroup = 0;
     imaging::ScrollOffset scroll;
@@ -59,7 +61,12 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
     }
     void Emphasise(int group) override {
         emphasised = group;
+        marked.clear();
         transcript_.Add("look at: " + Text(group));
+    }
+    void Mark(std::span<const int> groups, int current) override {
+        marked.assign(groups.begin(), groups.end());
+        emphasised = current;
     }
     void SetTool(imaging::BoxTool, int next) override { nextGroup = next; }
 
@@ -79,6 +86,10 @@ class FakeScreen final : public imaging::PageScreen, public profiles::BoxRows {
     void SelectRow(int number) override {
         selectedRow = number;
         transcript_.Add("select row: " + Text(number));
+    }
+    void SelectRows(std::span<const int> numbers, int current) override {
+        selectedRow = current;
+        transcript_.Add("select rows: " + Text(static_cast<double>(numbers.size())));
     }
     void RefreshRows() override {}
 

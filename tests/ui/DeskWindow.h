@@ -92,24 +92,25 @@ class DeskWindow : public RunWorld {
     }
 
     /// Mouse events at points of the page frame.
-    void Mouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button = Qt::LeftButton) {
+    void Mouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QWidget& page = *View().viewport();
         const QPointF position = View().viewportTransform().map(point);
         const Qt::MouseButtons down =
             type == QEvent::MouseButtonRelease ? Qt::MouseButtons() : Qt::MouseButtons(button);
         QMouseEvent event(type, position, page.mapToGlobal(position),
-                          type == QEvent::MouseMove ? Qt::NoButton : button, down, Qt::NoModifier);
+                          type == QEvent::MouseMove ? Qt::NoButton : button, down, keys);
         QApplication::sendEvent(&page, &event);
     }
-    void Drag(const QPointF& from, const QPointF& to) {
-        Mouse(QEvent::MouseButtonPress, from);
-        Mouse(QEvent::MouseMove, (from + to) / 2);
-        Mouse(QEvent::MouseMove, to);
-        Mouse(QEvent::MouseButtonRelease, to);
+    void Drag(const QPointF& from, const QPointF& to, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        Mouse(QEvent::MouseButtonPress, from, Qt::LeftButton, keys);
+        Mouse(QEvent::MouseMove, (from + to) / 2, Qt::LeftButton, keys);
+        Mouse(QEvent::MouseMove, to, Qt::LeftButton, keys);
+        Mouse(QEvent::MouseButtonRelease, to, Qt::LeftButton, keys);
     }
-    void ClickPage(const QPointF& point) {
-        Mouse(QEvent::MouseButtonPress, point);
-        Mouse(QEvent::MouseButtonRelease, point);
+    void ClickPage(const QPointF& point, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        Mouse(QEvent::MouseButtonPress, point, Qt::LeftButton, keys);
+        Mouse(QEvent::MouseButtonRelease, point, Qt::LeftButton, keys);
     }
 
     /// The boxes of a profile as its document has them.

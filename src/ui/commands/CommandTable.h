@@ -28,6 +28,30 @@ enum class Command {
     Undo,
     Redo,
     FindMoreBoxes,
+    SelectAllBoxes,
+    SelectSameSize,
+    EqualSize,
+    AlignLeft,
+    AlignRight,
+    AlignTop,
+    AlignBottom,
+    DistributeAcross,
+    DistributeDown,
+    NameBoxes,
+    BoxNames,
+    SortByPlace,
+    MoveRowsUp,
+    MoveRowsDown,
+    DrawGrid,
+    CopyBoxes,
+    PasteBoxes,
+    DuplicateBoxes,
+    SnapToPrint,
+    GroupBoxes,
+    UngroupBoxes,
+    GroupByRows,
+    GroupByNames,
+    GroupFrames,
     OpenForm,
     NextForm,
     PreviousForm,
@@ -67,7 +91,8 @@ enum class Command {
 /// Where a command's button stands; the commands without one are reached through the menu bar alone.
 enum class Toolbar { Main, Cfg, None };
 
-enum class Menu { File, Boxes, View, Process, Review, Help };
+/// `Arrange` and `Groups` open from `Boxes`, the others from the menu bar.
+enum class Menu { File, Boxes, Arrange, Groups, View, Process, Review, Help };
 
 /// The questions about unsaved work that come before a command. Cancel at one of them abandons the command.
 enum class Prompts { None, Profile, Form, ProfileThenForm, FormThenProfile };

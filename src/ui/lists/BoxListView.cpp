@@ -5,12 +5,16 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <utility>
 
 #include "app/ScopedFlag.h"
 #include "ui/base/QtText.h"
 #include "ui/lists/NameRule.h"
 
 namespace tavrene::ui {
+
+using profiles::Pick;
+
 namespace {
 
 constexpr int kValColumn = 1;
@@ -92,8 +96,10 @@ BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     // Whatever makes a row current, be it a button of the mouse, a drag over the rows, the Tab key of the
     // name editor or the focus: it is the one that commands act on. A click on the current row shows its box
     // again.
-    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) { TakeCurrent(row); });
-    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* row) { TakeCurrent(row); });
+    connect(this, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* row) { TakeCurrent(row, isSpanning_ ? Pick::Span : Pick::Only); });
+    connect(this, &QTreeWidget::itemClicked, this,
+            [this](QTreeWidgetItem* row) { TakeCurrent(row, Pick::Only); });
 }
 
 void BoxListView::SetEditable(bool editable) {
@@ -175,6 +181,20 @@ void BoxListView::SelectRow(int number) {
         scrollToItem(row);
 }
 
+void BoxListView::SelectRows(std::span<const int> numbers, int current) {
+    SelectRow(current);
+    // Rows beside each other are one range, so that a thousand take no longer than one.
+    QItemSelection rows;
+    for (const int number : numbers) {
+        const QModelIndex row = indexFromItem(RowOf(number));
+        if (!rows.isEmpty() && rows.last().bottom() + 1 == row.row())
+            rows.last() = {rows.last().topLeft(), row};
+        else
+            rows.append({row, row});
+    }
+    selectionModel()->select(rows, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
 void BoxListView::RefreshRows() {
     viewport()->repaint();
 }
@@ -198,19 +218,55 @@ QTreeWidgetItem* BoxListView::RowOf(int number) const {
     return NumberOf(row) == number ? row : nullptr;
 }
 
-void BoxListView::TakeCurrent(QTreeWidgetItem* row) {
+void BoxListView::TakeCurrent(QTreeWidgetItem* row, Pick pick) {
     if (row == nullptr || isOurs_)
         return;
     selectionModel()->select(indexFromItem(row),
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (listener_.chosen)
-        listener_.chosen(NumberOf(row));
+        listener_.chosen(NumberOf(row), pick);
+}
+
+bool BoxListView::IsFurther(const QMouseEvent& event) const {
+    return editTriggers() != QAbstractItemView::NoEditTriggers && event.button() == Qt::LeftButton &&
+           (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0;
+}
+
+void BoxListView::mousePressEvent(QMouseEvent* event) {
+    isFurther_ = IsFurther(*event);
+    if (!isFurther_) {
+        QTreeWidget::mousePressEvent(event);
+        return;
+    }
+    setFocus(Qt::MouseFocusReason);
+    if (const int number = NumberOf(itemAt(event->position().toPoint())); number != 0 && listener_.chosen)
+        listener_.chosen(number,
+                         event->modifiers().testFlag(Qt::ControlModifier) ? Pick::Toggle : Pick::Span);
+}
+
+void BoxListView::mouseMoveEvent(QMouseEvent* event) {
+    if (!isFurther_)
+        QTreeWidget::mouseMoveEvent(event);
+}
+
+void BoxListView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!std::exchange(isFurther_, false))
+        QTreeWidget::mouseReleaseEvent(event);
+}
+
+void BoxListView::keyPressEvent(QKeyEvent* event) {
+    isSpanning_ =
+        editTriggers() != QAbstractItemView::NoEditTriggers && event->modifiers().testFlag(Qt::ShiftModifier);
+    QTreeWidget::keyPressEvent(event);
+    isSpanning_ = false;
 }
 
 QItemSelectionModel::SelectionFlags BoxListView::selectionCommand(const QModelIndex& index,
                                                                   const QEvent*) const {
-    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
-                           : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+    // Which rows a span takes is told while the key is still at work.
+    return index.isValid() && !isSpanning_
+               ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+               : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }
 
 void BoxListView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "profiles/BoxRows.h"
+#include "profiles/BoxSelection.h"
 
 namespace tavrene::ui {
 
@@ -13,7 +14,8 @@ namespace tavrene::ui {
 class BoxListView final : public QTreeWidget, public profiles::BoxRows {
   public:
     struct Listener {
-        std::function<void(int number)> chosen;  ///< By mouse or keyboard: the row is the current one now.
+        /// By mouse or keyboard: the row is the current one now, or is picked beside others.
+        std::function<void(int number, profiles::Pick pick)> chosen;
         std::function<void(int number, const QString& name)> renamed;
     };
 
@@ -41,12 +43,20 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     void PutRow(int number, const profiles::BoxRow& row) override;
     void RemoveRow(int number) override;
     void SelectRow(int number) override;
+    void SelectRows(std::span<const int> numbers, int current) override;
     void RefreshRows() override;
 
   protected:
     /// The current row is always the selected one: no key takes that away.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
+
+    /// While names can be edited, Ctrl and Shift pick further rows; which ones are selected then is told
+    /// back.
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     /// Of the left button only, as with single clicks.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -57,10 +67,13 @@ class BoxListView final : public QTreeWidget, public profiles::BoxRows {
     QTreeWidgetItem* RowOf(int number) const;
     QTreeWidgetItem& AddRow(int number);
     int PlaceFor(int number) const;
-    void TakeCurrent(QTreeWidgetItem* row);
+    void TakeCurrent(QTreeWidgetItem* row, profiles::Pick pick);
+    bool IsFurther(const QMouseEvent& event) const;
 
     Listener listener_;
-    bool isOurs_ = false;  ///< The current row is changed by the program.
+    bool isOurs_ = false;      ///< The current row is changed by the program.
+    bool isFurther_ = false;   ///< The button that is down picked a row beside others.
+    bool isSpanning_ = false;  ///< The key that is pressed takes the rows on its way with it.
     QPointer<QWidget> nameEditor_;
 };
 

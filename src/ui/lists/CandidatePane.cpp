@@ -87,9 +87,14 @@ bool CandidatePane::eventFilter(QObject* watched, QEvent* event) {
     // Its first click has taken a row and moved the next one under the pointer.
     if (event->type() == QEvent::MouseButtonDblClick)
         return true;
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
         return QFrame::eventFilter(watched, event);
     const auto& press = static_cast<const QKeyEvent&>(*event);
+    // Here Ctrl+A means the candidates, not the boxes of the profile.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->setAccepted(press.key() == Qt::Key_A && press.modifiers() == Qt::ControlModifier);
+        return event->isAccepted();
+    }
     return TakeKey(press.key(), press.modifiers() & ~Qt::KeypadModifier);
 }
 

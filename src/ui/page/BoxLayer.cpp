@@ -8,6 +8,7 @@
 
 #include "ui/page/CosmeticPen.h"
 #include "ui/page/DrawTool.h"
+#include "ui/page/GridTool.h"
 #include "ui/page/ImageView.h"
 #include "ui/page/SelectTool.h"
 
@@ -31,7 +32,13 @@ imaging::PageRect ToPageRect(const QRectF& rect) {
 }  // namespace
 
 BoxLayer::BoxLayer(ImageView& view)
-    : view_(view), items_(new QGraphicsItemGroup), frame_(new HandleFrame), drawn_(new QGraphicsRectItem) {
+    : view_(view),
+      items_(new QGraphicsItemGroup),
+      frame_(new HandleFrame),
+      labels_(new BoxLabels),
+      groups_(new GroupFrames),
+      grid_(std::make_unique<GridTool>(*this)),
+      drawn_(new QGraphicsRectItem) {
     tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
     tools_[imaging::BoxTool::Add] = std::make_unique<DrawTool>(*this);
     drawn_->setPen(CosmeticPen(QColor(213, 94, 0), 1.5, Qt::DashLine));
@@ -40,6 +47,8 @@ BoxLayer::BoxLayer(ImageView& view)
     drawn_->setVisible(false);
     view_.scene()->addItem(items_);
     view_.scene()->addItem(frame_);
+    view_.scene()->addItem(labels_);
+    view_.scene()->addItem(groups_);
     view_.scene()->addItem(drawn_);
 }
 
@@ -59,6 +68,31 @@ void BoxLayer::SetTool(imaging::BoxTool tool, int nextGroup) {
     tool_ = tool;
     if (editable_)
         view_.UseTool(tools_[tool_].get());
+}
+
+void BoxLayer::ShowLabels(std::map<int, BoxLabel> labels) {
+    if (labels.empty() && labels_->IsEmpty())
+        return;
+    std::map<int, QRectF> places;
+    for (const auto& [group, label] : labels)
+        if (const auto box = boxes_.find(group); box != boxes_.end())
+            places[group] = box->second.place;
+    labels_->SetPlaces(std::move(places));
+    labels_->SetLabels(std::move(labels));
+}
+
+void BoxLayer::ShowGroups(std::vector<GroupFrame> frames) {
+    if (!frames.empty() || !groups_->Frames().empty())
+        groups_->SetFrames(std::move(frames));
+}
+
+void BoxLayer::DrawGrid(const std::function<void(const QRectF&, const QRectF&)>& drawn) {
+    view_.UseTool(grid_.get());
+    grid_->Start(drawn);
+}
+
+void BoxLayer::EndGrid() {
+    view_.UseTool(editable_ ? tools_[tool_].get() : nullptr);
 }
 
 void BoxLayer::Clear() {
@@ -86,6 +120,7 @@ void BoxLayer::Remove(int group) {
         return;
     if (group == selected_)
         Mark(0);
+    marked_.erase(group);
     delete box->second.item;
     boxes_.erase(box);
 }
@@ -112,12 +147,12 @@ QPointF BoxLayer::Snapped(const QPointF& point, const QRectF& place) const {
             std::clamp(std::round(point.y()), room.top(), room.bottom())};
 }
 
-QRectF BoxLayer::Moved(const QRectF& place, const QPointF& by) const {
+QPointF BoxLayer::Way(const QRectF& place, const QPointF& by) const {
     const QRectF room = Room();
-    return place.translated(std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
-                                       std::max(0.0, room.right() - place.right())),
-                            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
-                                       std::max(0.0, room.bottom() - place.bottom())));
+    return {std::clamp(std::round(by.x()), std::min(0.0, room.left() - place.left()),
+                       std::max(0.0, room.right() - place.right())),
+            std::clamp(std::round(by.y()), std::min(0.0, room.top() - place.top()),
+                       std::max(0.0, room.bottom() - place.bottom()))};
 }
 
 QRectF BoxLayer::FreePlace(const QPointF& centre, const QSizeF& size) const {
@@ -171,8 +206,20 @@ void BoxLayer::ShowAt(int group, const QRectF& place) {
     const bool isEditable = box->second.style == imaging::RectStyle::Editable;
     const imaging::PageRect rect = ToPageRect(place);
     box->second.item->SetRect(isEditable ? imaging::PaintedPart(rect) : rect);
-    if (group == selected_ && isEditable)
-        frame_->SetRect(place);
+    if (isEditable && IsMarked(group))
+        frame_->SetRect(group, place);
+}
+
+QRectF BoxLayer::PlaceOfMarked() const {
+    QRectF place;
+    for (const int group : marked_)
+        place |= PlaceOf(group);
+    return place;
+}
+
+void BoxLayer::ShowMarkedAt(const QPointF& by) {
+    for (const int group : marked_)
+        ShowAt(group, PlaceOf(group).translated(by));
 }
 
 void BoxLayer::ShowDrawn(const QRectF& rect) {
@@ -191,15 +238,32 @@ void BoxLayer::TellMoved(int group) {
     listener_.moved(group);
 }
 
-void BoxLayer::Mark(int group) {
+void BoxLayer::TellFramed(const QRectF& area, bool isFurther) {
+    listener_.framed(ToPageRect(area), isFurther);
+}
+
+void BoxLayer::TellMovedTogether(const QPointF& by, bool areCopies) {
+    (areCopies ? listener_.copied : listener_.movedTogether)(static_cast<int>(by.x()),
+                                                             static_cast<int>(by.y()));
+}
+
+void BoxLayer::Mark(std::span<const int> groups, int current) {
     if (const auto before = boxes_.find(selected_); before != boxes_.end())
         before->second.item->SetEmphasised(false);
-    const auto box = boxes_.find(group);
-    selected_ = box == boxes_.end() ? 0 : group;
-    const bool isEditable = selected_ != 0 && box->second.style == imaging::RectStyle::Editable;
-    frame_->SetRect(isEditable ? box->second.place : QRectF());
-    if (selected_ != 0)
-        box->second.item->SetEmphasised(!isEditable);
+    const auto box = boxes_.find(current);
+    selected_ = box == boxes_.end() ? 0 : current;
+    marked_.clear();
+    if (groups.size() > 1)
+        marked_.insert(groups.begin(), groups.end());
+    frame_->Clear();
+    if (selected_ == 0)
+        return;
+    const bool isEditable = IsEditable(selected_);
+    box->second.item->SetEmphasised(!isEditable);
+    for (const int group : marked_)
+        frame_->SetRect(group, PlaceOf(group));
+    if (isEditable)
+        frame_->SetCurrent(selected_, PlaceOf(selected_));
 }
 
 }  // namespace tavrene::ui

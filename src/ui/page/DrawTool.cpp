@@ -6,7 +6,7 @@
 #include "ui/page/BoxLayer.h"
 
 namespace tavrene::ui {
-void DrawTool::Press(const QPointF& point) {
+void DrawTool::Press(const QPointF& point, Qt::KeyboardModifiers) {
     from_ = point;
     isDrawing_ = true;
 }
@@ -15,12 +15,12 @@ QRectF DrawTool::Drawn(const QPointF& point) const {
     return QRectF(layer_.Snapped(from_), layer_.Snapped(point)).normalized();
 }
 
-void DrawTool::Drag(const QPointF& point) {
+void DrawTool::Drag(const QPointF& point, Qt::KeyboardModifiers) {
     if (isDrawing_)
         layer_.ShowDrawn(Drawn(point));
 }
 
-void DrawTool::Release(const QPointF& point) {
+void DrawTool::Release(const QPointF& point, Qt::KeyboardModifiers) {
     if (!std::exchange(isDrawing_, false))
         return;
     layer_.ShowDrawn({});

@@ -13,9 +13,9 @@ class DrawTool final : public PageTool {
   public:
     explicit DrawTool(BoxLayer& layer) : layer_(layer) {}
 
-    void Press(const QPointF& point) override;
-    void Drag(const QPointF& point) override;
-    void Release(const QPointF& point) override;
+    void Press(const QPointF& point, Qt::KeyboardModifiers keys) override;
+    void Drag(const QPointF& point, Qt::KeyboardModifiers keys) override;
+    void Release(const QPointF& point, Qt::KeyboardModifiers keys) override;
     bool Cancel() override;
     QCursor CursorAt(const QPointF& point) const override;
 

@@ -64,34 +64,64 @@ HandleFrame::HandleFrame() {
     setVisible(false);
 }
 
-void HandleFrame::SetRect(const QRectF& rect) {
+void HandleFrame::Clear() {
     prepareGeometryChange();
-    rect_ = rect;
-    setVisible(!rect.isNull());
+    rects_.clear();
+    current_ = 0;
+    room_ = {};
+    setVisible(false);
 }
 
-QRectF HandleFrame::boundingRect() const {
+void HandleFrame::SetRect(int group, const QRectF& rect) {
     // Handles keep their size on the screen, which is many image pixels on a page that is shown small.
     constexpr double kRoom = 400;
-    return rect_.isNull() ? rect_ : rect_.adjusted(-kRoom, -kRoom, kRoom, kRoom);
+    const QRectF room = rect.adjusted(-kRoom, -kRoom, kRoom, kRoom);
+    if (!room_.contains(room)) {
+        prepareGeometryChange();
+        room_ |= room;
+    }
+    rects_[group] = rect;
+    setVisible(true);
+    update();
+}
+
+void HandleFrame::SetCurrent(int group, const QRectF& rect) {
+    SetRect(group, rect);
+    current_ = group;
 }
 
 void HandleFrame::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
-    const QTransform toDevice = painter->worldTransform();
     const double dots = painter->device()->devicePixelRatio();
-    const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(toDevice);
     QColor veil = kFrame;
     veil.setAlphaF(0.15F);
-    painter->fillRect(rect_, veil);
+    QList<QRectF> others;
+    for (const auto& [group, rect] : rects_) {
+        painter->fillRect(rect, veil);
+        if (group != current_)
+            others.append(rect);
+    }
+    painter->setPen(CosmeticPen(QColor(255, 255, 255, 220), 4 * dots));
+    painter->drawRects(others);
+    painter->setPen(CosmeticPen(kFrame, 2 * dots));
+    painter->drawRects(others);
+    const auto current = rects_.find(current_);
+    if (current == rects_.end())
+        return;
     painter->setPen(CosmeticPen(QColor(255, 255, 255, 220), 4.5 * dots));
-    painter->drawRect(rect_);
-    painter->setPen(CosmeticPen(kFrame, 2.5 * dots));
-    painter->drawRect(rect_);
-    painter->setPen(CosmeticPen(kFrame, 1.25 * dots));
-    painter->setBrush(Qt::white);
+    painter->drawRect(current->second);
+    painter->setPen(CosmeticPen(kFrame, (others.isEmpty() ? 2.5 : 4) * dots));
+    painter->drawRect(current->second);
+    if (others.isEmpty())
+        PaintHandles(*painter, current->second, dots);
+}
+
+void HandleFrame::PaintHandles(QPainter& painter, const QRectF& rect, double dots) {
+    const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter.worldTransform());
+    painter.setPen(CosmeticPen(kFrame, 1.25 * dots));
+    painter.setBrush(Qt::white);
     const double side = kHandleSide / scale;
-    for (const Handle& handle : HandlesOf(rect_, scale))
-        painter->drawRect(QRectF(handle.centre.x() - side / 2, handle.centre.y() - side / 2, side, side));
+    for (const Handle& handle : HandlesOf(rect, scale))
+        painter.drawRect(QRectF(handle.centre.x() - side / 2, handle.centre.y() - side / 2, side, side));
 }
 
 }  // namespace tavrene::ui

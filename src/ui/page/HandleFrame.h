@@ -2,6 +2,7 @@
 
 #include <QGraphicsItem>
 #include <QRectF>
+#include <map>
 #include <vector>
 
 namespace tavrene::ui {
@@ -25,19 +26,29 @@ unsigned EdgesAt(const QRectF& rect, double scale, const QPointF& point);
 /// The rectangle with these edges put to a point; it keeps a width and height of at least one pixel.
 QRectF WithEdgesAt(QRectF rect, unsigned edges, const QPointF& point);
 
-/// The mark of the selected box: a stronger outline with handles.
+/// The marks of the selected boxes: stronger outlines. One that is alone has handles as well.
 class HandleFrame final : public QGraphicsItem {
   public:
     HandleFrame();
 
-    /// `rect` in the page frame; an empty one hides the mark.
-    void SetRect(const QRectF& rect);
+    /// Marks none.
+    void Clear();
 
-    QRectF boundingRect() const override;
+    /// Marks a box at a place of the page frame, or follows it there.
+    void SetRect(int group, const QRectF& rect);
+
+    /// Marks a box as the one that the others go by.
+    void SetCurrent(int group, const QRectF& rect);
+
+    QRectF boundingRect() const override { return room_; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
   private:
-    QRectF rect_;
+    static void PaintHandles(QPainter& painter, const QRectF& rect, double dots);
+
+    std::map<int, QRectF> rects_;
+    int current_ = 0;
+    QRectF room_;  ///< Grows with the places of the marks.
 };
 
 }  // namespace tavrene::ui

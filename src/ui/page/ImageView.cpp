@@ -240,29 +240,32 @@ QPointF ImageView::PagePoint(const QMouseEvent& event) const {
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (event->button() == Qt::MiddleButton) {
         panFrom_ = event->position().toPoint();
         viewport()->setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::LeftButton && tool_ != nullptr) {
         isToolDown_ = true;
-        tool_->Press(PagePoint(*event));
+        tool_->Press(PagePoint(*event), event->modifiers());
     }
 }
 
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (panFrom_)
         Pan(event->position().toPoint());
     else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
-        tool_->Drag(PagePoint(*event));
+        tool_->Drag(PagePoint(*event), event->modifiers());
     else
         ShowCursorAt(PagePoint(*event));
 }
 
 void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    heldKeys_ = event->modifiers();
     if (event->button() == Qt::MiddleButton)
         panFrom_.reset();
     else if (event->button() == Qt::LeftButton && std::exchange(isToolDown_, false) && tool_ != nullptr)
-        tool_->Release(PagePoint(*event));
+        tool_->Release(PagePoint(*event), event->modifiers());
     ShowCursorAt(PagePoint(*event));
 }
 
@@ -296,6 +299,10 @@ void ImageView::wheelEvent(QWheelEvent* event) {
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(away.y()));
 }
 
+bool ImageView::focusNextPrevChild(bool next) {
+    return (takeTab_ && takeTab_(next)) || QGraphicsView::focusNextPrevChild(next);
+}
+
 void ImageView::keyPressEvent(QKeyEvent* event) {
     static const std::map<int, QPoint> arrows = {
         {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
@@ -307,7 +314,8 @@ void ImageView::keyPressEvent(QKeyEvent* event) {
         if (isToolDown_)
             return;
         const QPoint by = arrow->second * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1);
-        if (takeArrow_(by.x(), by.y(), event->modifiers().testFlag(Qt::ControlModifier)))
+        if (takeArrow_(
+                {by.x(), by.y(), event->modifiers().testFlag(Qt::ControlModifier), event->isAutoRepeat()}))
             return;
     }
     QGraphicsView::keyPressEvent(event);

@@ -17,6 +17,14 @@ namespace tavrene::ui {
 /// What the zoom follows by itself, whatever page is shown and however large the view is.
 enum class ZoomFit { None, Page, Width };
 
+/// An arrow key, in image pixels, x to the right and y down.
+struct ArrowStep {
+    int dx = 0;
+    int dy = 0;
+    bool stretches = false;  ///< With Ctrl: what it moves without it is to become larger or smaller.
+    bool isHeld = false;     ///< The key has been down since the step before.
+};
+
 /// The image view `ImgEdit1`: one page and the rectangles over it. The scene is the page frame in image
 /// pixels. What the left button does there is a tool's business; the wheel with Ctrl zooms around the
 /// pointer, and the page can be dragged by the middle button.
@@ -49,6 +57,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void RemoveRect(int group) override { boxes_->Remove(group); }
     void ClearRects() override { boxes_->Clear(); }
     void Emphasise(int group) override { boxes_->Emphasise(group); }
+    void Mark(std::span<const int> groups, int current) override { boxes_->Mark(groups, current); }
     void SetTool(imaging::BoxTool tool, int nextGroup) override { boxes_->SetTool(tool, nextGroup); }
 
     /// What is said in the place of a page while there is none.
@@ -68,11 +77,15 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// Gives up what the tool is doing; false when it does nothing.
     bool CancelTool();
 
-    /// `handler` is offered the arrow keys as steps in image pixels, x to the right and y down; with Ctrl
-    /// they are to stretch what they move without it. When it does not take one, the view scrolls.
-    void SetArrowHandler(std::function<bool(int dx, int dy, bool stretches)> handler) {
-        takeArrow_ = std::move(handler);
-    }
+    /// `handler` is offered the arrow keys; when it does not take one, the view scrolls.
+    void SetArrowHandler(std::function<bool(const ArrowStep&)> handler) { takeArrow_ = std::move(handler); }
+
+    /// `handler` is offered the Tab key, forwards or with Shift back; when it does not take it, the focus
+    /// goes on.
+    void SetTabHandler(std::function<bool(bool isForward)> handler) { takeTab_ = std::move(handler); }
+
+    /// The keys that were held when a button of the mouse went down, up or moved last.
+    Qt::KeyboardModifiers HeldKeys() const { return heldKeys_; }
 
     /// The middle of what is in sight, in the page frame.
     QPointF Centre() const { return mapToScene(viewport()->rect().center()); }
@@ -101,6 +114,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     bool HasPage() const { return !page_->Size().isEmpty(); }
@@ -119,8 +133,10 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     PageItem* page_;
     std::unique_ptr<BoxLayer> boxes_;
     PageTool* tool_ = nullptr;
-    std::function<bool(int, int, bool)> takeArrow_;
+    std::function<bool(const ArrowStep&)> takeArrow_;
+    std::function<bool(bool)> takeTab_;
     std::function<void(double)> zoomed_;
+    Qt::KeyboardModifiers heldKeys_;
     bool isToolDown_ = false;  ///< The button that the tool works with is pressed.
     std::optional<QPoint> panFrom_;
     QString hint_;

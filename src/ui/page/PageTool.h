@@ -16,9 +16,10 @@ class PageTool {
     PageTool(const PageTool&) = delete;
     PageTool& operator=(const PageTool&) = delete;
 
-    virtual void Press(const QPointF& point) = 0;
-    virtual void Drag(const QPointF& point) = 0;
-    virtual void Release(const QPointF& point) = 0;
+    // `keys` are those that are held meanwhile.
+    virtual void Press(const QPointF& point, Qt::KeyboardModifiers keys) = 0;
+    virtual void Drag(const QPointF& point, Qt::KeyboardModifiers keys) = 0;
+    virtual void Release(const QPointF& point, Qt::KeyboardModifiers keys) = 0;
 
     /// Gives up a drag as if it had never begun; false when none goes on.
     virtual bool Cancel() = 0;

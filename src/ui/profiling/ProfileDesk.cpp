@@ -24,6 +24,11 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                                        [this] { gate_.Run(Command::FindMoreBoxes); }};
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
+      boxes_(context.gate, session_.Profile(), session_.Editor()),
+      names_(context.gate, session_.Profile(), session_.Editor(), controls.view),
+      copies_(context.gate, context.files, context.person, session_.Profile(), session_.Editor(),
+              controls.view),
+      groups_(context.gate, session_.Profile(), session_.Editor(), controls.view),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
             [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
@@ -57,7 +62,7 @@ void ProfileDesk::ConnectBoxCommands() {
     gate_.SetHandler(Command::PutBox, [this] { PutBox(); });
     gate_.SetHandler(Command::DeleteBox, [this] { session_.Editor().DeleteBox(); });
     gate_.SetHandler(
-        Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().CurrentBox); },
+        Command::RenameBox, [this] { controls_.rows.EditName(session_.Profile().Selected.Current()); },
         [this] { return HasBox(); });
     gate_.SetHandler(
         Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
@@ -71,7 +76,7 @@ void ProfileDesk::PutBox() {
     const app::Settings& sizes = state_.settings;
     const QSize usual =
         (QSize(sizes.BoxMinWidth, sizes.BoxMinHeight) + QSize(sizes.BoxMaxWidth, sizes.BoxMaxHeight)) / 2;
-    const QRectF selected = boxes.PlaceOf(session_.Profile().CurrentBox);
+    const QRectF selected = boxes.PlaceOf(session_.Profile().Selected.Current());
     const QRectF place =
         boxes.FreePlace(controls_.view.Centre(), selected.isEmpty() ? QSizeF(usual) : selected.size());
     session_.Editor().DrawBox({place.left(), place.top(), place.width(), place.height()});
@@ -80,8 +85,8 @@ void ProfileDesk::PutBox() {
 
 void ProfileDesk::ConnectControls() {
     controls_.rows.SetListener(
-        {[this](int number) {
-             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowClicked(number); });
+        {[this](int number, profiles::Pick pick) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowClicked(number, pick); });
          },
          [this](int number, const QString& name) {
              gate_.Take(Command::EditBoxes, [&] { session_.Editor().RowRenamed(number, FromQt(name)); });
@@ -93,7 +98,15 @@ void ProfileDesk::ConnectControls() {
                      session_.Editor().RectSelected(report);
              });
          },
-         [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); }});
+         [this](int group) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectMoved(group); }); },
+         [this](int group, profiles::Pick pick) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().RectPicked(group, pick); });
+         },
+         [this](const imaging::PageRect& area, bool isFurther) {
+             gate_.Take(Command::EditBoxes, [&] { session_.Editor().AreaPicked(area, isFurther); });
+         },
+         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); }); },
+         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { copies_.CopyBy(dx, dy); }); }});
     for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
         new QShortcut(
             Qt::Key_Delete, widget,
@@ -102,12 +115,14 @@ void ProfileDesk::ConnectControls() {
                 gate_.Run(Command::DeleteBox);
             },
             Qt::WidgetWithChildrenShortcut);
-    controls_.view.SetArrowHandler([this](int dx, int dy, bool stretches) {
+    controls_.view.SetArrowHandler([this](const ArrowStep& step) {
         profiles::BoxEditor& editor = session_.Editor();
         const bool isTaken = CanEdit() && HasBox();
         if (isTaken)
-            gate_.Take(Command::EditBoxes,
-                       [&] { stretches ? editor.Stretch(dx, dy) : editor.Nudge(dx, dy); });
+            gate_.Take(Command::EditBoxes, [&] {
+                step.stretches ? editor.Stretch(step.dx, step.dy, step.isHeld)
+                               : editor.Nudge(step.dx, step.dy, step.isHeld);
+            });
         return isTaken;
     });
     controls_.pane.Strip().SetListener(
@@ -139,6 +154,8 @@ void ProfileDesk::FinishEdits() {
 
 void ProfileDesk::Update() {
     more_.Update();
+    names_.Update();
+    groups_.Update();
     person_.ShowStandingNotices(session_.Notices());
     BoxLayer& boxes = controls_.view.Boxes();
     boxes.SetEditable(CanEdit());
@@ -148,6 +165,12 @@ void ProfileDesk::Update() {
 }
 
 bool ProfileDesk::Presses(Command command) const {
+    if (command == Command::BoxNames)
+        return names_.ShowsNames();
+    if (command == Command::GroupFrames)
+        return groups_.ShowsFrames();
+    if (command == Command::SnapToPrint)
+        return copies_.SnapsToPrint();
     const BoxTool tool = controls_.view.Boxes().Tool();
     return CanEdit() && ((command == Command::SelectBox && tool == BoxTool::Select) ||
                          (command == Command::AddBox && tool == BoxTool::Add));

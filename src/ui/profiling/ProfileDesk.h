@@ -9,7 +9,11 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
+#include "ui/profiling/BoxCommands.h"
+#include "ui/profiling/CopyCommands.h"
+#include "ui/profiling/GroupCommands.h"
 #include "ui/profiling/MoreBoxes.h"
+#include "ui/profiling/NameCommands.h"
 #include "ui/profiling/ProfilePane.h"
 
 namespace tavrene::ui {
@@ -67,13 +71,17 @@ class ProfileDesk {
     void PutBox();
     void Pick(int thumbnail);
     bool CanEdit() const { return session_.IsOpen(); }
-    bool HasBox() const { return session_.Profile().CurrentBox != 0; }
+    bool HasBox() const { return !session_.Profile().Selected.IsEmpty(); }
 
     commands::AppState& state_;
     app::Operator& person_;
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::ProfileSession session_;
+    BoxCommands boxes_;
+    NameCommands names_;
+    CopyCommands copies_;
+    GroupCommands groups_;
     MoreBoxes more_;
 };
 

@@ -9,7 +9,7 @@ void ReviewMarks::SetActive(bool active) {
     view_.UseTool(active ? this : nullptr);
 }
 
-void ReviewMarks::Release(const QPointF& point) {
+void ReviewMarks::Release(const QPointF& point, Qt::KeyboardModifiers) {
     const int group = std::exchange(pressed_, 0);
     if (group != 0 && group == GroupAt(point) && clicked_)
         clicked_(group);

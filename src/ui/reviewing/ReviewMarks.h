@@ -20,9 +20,9 @@ class ReviewMarks final : public PageTool {
     /// Whether clicks are taken.
     void SetActive(bool active);
 
-    void Press(const QPointF& point) override { pressed_ = GroupAt(point); }
-    void Drag(const QPointF&) override {}
-    void Release(const QPointF& point) override;
+    void Press(const QPointF& point, Qt::KeyboardModifiers) override { pressed_ = GroupAt(point); }
+    void Drag(const QPointF&, Qt::KeyboardModifiers) override {}
+    void Release(const QPointF& point, Qt::KeyboardModifiers) override;
     bool Cancel() override { return std::exchange(pressed_, 0) != 0; }
     QCursor CursorAt(const QPointF& point) const override;
 

@@ -283,7 +283,8 @@ void MainWindow::UpdateCommands() {
     desk_.Update();
     review_.Update();
     ShowTitle();
-    for (const Command command : {Command::SelectBox, Command::AddBox})
+    for (const Command command :
+         {Command::SelectBox, Command::AddBox, Command::BoxNames, Command::GroupFrames, Command::SnapToPrint})
         toolbars_.SetPressed(command, desk_.Presses(command));
     toolbars_.SetPressed(Command::Review, review_.Session().IsOn());
     toolbars_.SetPressed(Command::ToolbarLabels, toolbars_.LabelsShown());

@@ -68,8 +68,16 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
     button->setFocusPolicy(Qt::TabFocus);
 }
 
+// A menu within another one stands where its first command is.
+QMenu* Toolbars::MenuOf(commands::Menu menu) {
+    using commands::Menu;
+    if (!menus_.contains(menu))
+        menus_[menu] = menus_.at(Menu::Boxes)->addMenu(menu == Menu::Arrange ? "Arran&ge" : "Gr&oups");
+    return menus_.at(menu);
+}
+
 void Toolbars::AddToMenu(const commands::CommandInfo& info, QAction* action) {
-    QMenu* const menu = menus_.at(info.menu);
+    QMenu* const menu = MenuOf(info.menu);
     if (info.separatorBefore && !menu->isEmpty())
         menu->addSeparator();
     menu->addAction(action);

@@ -37,6 +37,7 @@ class Toolbars {
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);
+    QMenu* MenuOf(commands::Menu menu);
     void AddToMenu(const commands::CommandInfo& info, QAction* action);
 
     std::function<void(commands::Command)> run_;

@@ -89,16 +89,15 @@ TEST_F(CommandGateTest, ALogThatCannotBeWrittenStopsNoCommand) {
                   "done", "panel Message: The log in the working folder could not be written."}));
 }
 
-TEST(CommandTableTest, KeysAreUniqueInTheirToolbarAndShortcutsEverywhere) {
+TEST(CommandTableTest, KeysAreUniqueInTheirToolbarAndShortcutsInTheirModes) {
     std::set<std::pair<Toolbar, std::string_view>> keys;
-    std::set<std::string_view> shortcuts;
+    std::set<std::pair<std::string_view, char>> shortcuts;
     for (const CommandInfo& info : CommandTable()) {
         EXPECT_TRUE(keys.emplace(info.toolbar, info.key).second) << info.key;
         // A key that only a list takes stands behind a tab in the menu's text.
-        if (info.shortcut.empty())
-            EXPECT_NE(info.menuText.find('\t'), std::string_view::npos) << info.key;
-        else
-            EXPECT_TRUE(shortcuts.insert(info.shortcut).second) << info.shortcut;
+        EXPECT_TRUE(!info.shortcut.empty() || info.menuText.find('\t') != std::string_view::npos) << info.key;
+        for (const char mode : info.shortcut.empty() ? "" : info.rule.acts)
+            EXPECT_TRUE(shortcuts.emplace(info.shortcut, mode).second) << info.shortcut;
     }
 }
 

@@ -37,8 +37,14 @@ Commands AllBut(const Commands& some) {
 
 const Commands kNew = {C::New, C::PickThumbnail};
 const Commands kFile = {C::Save, C::DeleteProfile};
-const Commands kBoxes = {C::SelectBox, C::AddBox, C::PutBox,        C::DeleteBox, C::RenameBox,
-                         C::Undo,      C::Redo,   C::FindMoreBoxes, C::EditBoxes, C::SetActive};
+const Commands kBoxes = {
+    C::SelectBox,      C::AddBox,         C::PutBox,           C::DeleteBox,      C::RenameBox,
+    C::Undo,           C::Redo,           C::FindMoreBoxes,    C::EditBoxes,      C::SetActive,
+    C::SelectAllBoxes, C::SelectSameSize, C::EqualSize,        C::AlignLeft,      C::AlignRight,
+    C::AlignTop,       C::AlignBottom,    C::DistributeAcross, C::DistributeDown, C::NameBoxes,
+    C::BoxNames,       C::SortByPlace,    C::MoveRowsUp,       C::MoveRowsDown,   C::DrawGrid,
+    C::CopyBoxes,      C::PasteBoxes,     C::DuplicateBoxes,   C::SnapToPrint,    C::GroupBoxes,
+    C::UngroupBoxes,   C::GroupByRows,    C::GroupByNames,     C::GroupFrames};
 const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm, C::PickForm,
                          C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};

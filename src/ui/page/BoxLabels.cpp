@@ -1,0 +1,103 @@
+#include "ui/page/BoxLabels.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace tavrene::ui {
+namespace {
+
+// Pixels of the screen.
+constexpr double kLongest = 150;
+constexpr double kPadding = 2;
+constexpr double kGap = 2;
+
+const QColor kInk(0, 70, 120);
+const QColor kBadInk(180, 0, 0);
+const QColor kPaper(255, 255, 255, 225);
+
+// The first place beside the box, in sight and over nothing that is to be seen: above it, below it, at its
+// right or its left. A null rectangle where there is none.
+QRectF LabelPlace(const QRectF& box, const QSizeF& size, const QRectF& sight,
+                  const std::vector<QRectF>& taken) {
+    const double level = box.center().y() - size.height() / 2;
+    const QPointF places[] = {{box.left(), box.top() - size.height() - kGap},
+                              {box.left(), box.bottom() + kGap},
+                              {box.right() + kGap, level},
+                              {box.left() - size.width() - kGap, level}};
+    for (const QPointF& place : places) {
+        const QRectF label(place, size);
+        if (sight.contains(label) && std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) {
+                return other.intersects(label);
+            }))
+            return label;
+    }
+    return {};
+}
+
+}  // namespace
+
+BoxLabels::BoxLabels() {
+    setZValue(1.5);
+    setVisible(false);
+}
+
+void BoxLabels::SetLabels(std::map<int, BoxLabel> labels) {
+    labels_ = std::move(labels);
+    setVisible(!labels_.empty());
+    update();
+}
+
+QString BoxLabels::TextOf(int group) const {
+    const auto label = labels_.find(group);
+    return label == labels_.end() ? QString() : label->second.text;
+}
+
+void BoxLabels::SetPlaces(std::map<int, QRectF> places) {
+    prepareGeometryChange();
+    places_ = std::move(places);
+    // Letters keep their size on the screen, which is many image pixels on a page that is shown small.
+    constexpr double kRoom = 2000;
+    room_ = {};
+    for (const auto& [group, place] : places_)
+        room_ |= place.adjusted(-kRoom, -kRoom, kRoom, kRoom);
+    update();
+}
+
+void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
+    const QTransform toScreen = painter->worldTransform();
+    const double dots = painter->device()->devicePixelRatio();
+    const QRectF sight(painter->viewport());
+    painter->save();
+    painter->resetTransform();
+    QFont font = QApplication::font();
+    font.setPixelSize(qRound(12 * dots));
+    painter->setFont(font);
+    const QFontMetricsF metrics(font);
+    // What is out of sight takes no room.
+    std::vector<QRectF> taken;
+    for (const auto& [group, place] : places_)
+        if (const QRectF box = toScreen.mapRect(place); sight.intersects(box))
+            taken.push_back(box);
+    for (const auto& [group, label] : labels_) {
+        const auto place = places_.find(group);
+        if (place == places_.end() || label.text.isEmpty())
+            continue;
+        const QRectF box = toScreen.mapRect(place->second);
+        const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest * dots);
+        const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding * dots, metrics.height());
+        const QRectF at = sight.intersects(box) ? LabelPlace(box, size, sight, taken) : QRectF();
+        if (at.isNull())
+            continue;
+        taken.push_back(at);
+        painter->fillRect(at, kPaper);
+        painter->setPen(label.isBad ? kBadInk : kInk);
+        painter->drawText(at, Qt::AlignCenter, text);
+    }
+    painter->restore();
+}
+
+}  // namespace tavrene::ui

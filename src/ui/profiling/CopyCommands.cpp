@@ -1,0 +1,205 @@
+#include "ui/profiling/CopyCommands.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QSpinBox>
+#include <algorithm>
+#include <variant>
+
+#include "imaging/PageReader.h"
+#include "profiles/BoxArrangement.h"
+#include "profiles/BoxPlace.h"
+
+namespace tavrene::ui {
+
+using commands::Command;
+using imaging::PageRect;
+using profiles::OmrBox;
+
+namespace {
+
+constexpr int kMostLines = 200;
+
+// Copies go to an outline below that is at most so many heights of a box away.
+constexpr double kReachDown = 3;
+
+PageRect ToPageRect(const QRectF& rect) {
+    return {rect.left(), rect.top(), rect.width(), rect.height()};
+}
+
+QSpinBox* Counter(const char* name, const QString& label, int value) {
+    auto* const counter = new QSpinBox;
+    counter->setObjectName(name);
+    counter->setAccessibleName(label);
+    counter->setRange(1, kMostLines);
+    counter->setValue(value);
+    return counter;
+}
+
+bool IsTaken(const std::vector<OmrBox>& boxes, const PageRect& place) {
+    return std::any_of(boxes.begin(), boxes.end(), [&](const OmrBox& box) {
+        const profiles::BoxMiddle middle = profiles::MiddleOf(box);
+        return box.Checked && std::abs(middle.x - place.left - place.width / 2) < place.width / 2 &&
+               std::abs(middle.y - place.top - place.height / 2) < place.height / 2;
+    });
+}
+
+}  // namespace
+
+CopyCommands::CopyCommands(commands::CommandGate& gate, const app::Files& files, app::Operator& person,
+                           const profiles::OpenProfile& profile, profiles::BoxEditor& editor, ImageView& view)
+    : files_(files), person_(person), profile_(profile), editor_(editor), view_(view) {
+    gate.SetHandler(Command::DrawGrid, [this, &gate] { DrawGrid(gate); });
+    gate.SetHandler(Command::SnapToPrint, [this] { snaps_ = !snaps_; });
+    editor.SetPlacing([this](const PageRect& place) {
+        return snaps_ && !view_.HeldKeys().testFlag(Qt::AltModifier) ? InPrint(place) : place;
+    });
+    ConnectCopies(gate);
+}
+
+void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
+    const auto hasSelected = [this] { return !profile_.Selected.IsEmpty(); };
+    gate.SetHandler(
+        Command::CopyBoxes, [this] { copied_ = SelectedBoxes(); }, hasSelected);
+    gate.SetHandler(
+        Command::PasteBoxes,
+        [this] {
+            const bool areThere = std::all_of(copied_.begin(), copied_.end(), [this](const OmrBox& box) {
+                return IsTaken(profile_.BoxList, profiles::PlaceOf(box));
+            });
+            // In another profile they come to the place where they were.
+            const PageRect first = profiles::PlaceOf(copied_.front());
+            Append(copied_, areThere ? static_cast<int>(first.width) : 0,
+                   areThere ? static_cast<int>(first.height) : 0);
+        },
+        [this] { return !copied_.empty(); });
+    gate.SetHandler(
+        Command::DuplicateBoxes,
+        [this] {
+            const std::vector<OmrBox> boxes = SelectedBoxes();
+            Append(boxes, 0, WayDown(boxes));
+        },
+        hasSelected);
+}
+
+// To the next outline that is printed below the first of them and has no box yet, or else just below them.
+int CopyCommands::WayDown(const std::vector<OmrBox>& boxes) {
+    const PageRect first = profiles::PlaceOf(boxes.front());
+    double bottom = 0;
+    for (const OmrBox& box : boxes)
+        bottom = std::max<double>(bottom, std::max(box.T, box.B));
+    const double below = bottom - first.top;
+    for (double down = below; down < below + kReachDown * first.height; down += 2) {
+        const PageRect place = {first.left, first.top + down, first.width, first.height};
+        const PageRect printed = InPrint(place);
+        if (printed != place && printed.top > bottom && !IsTaken(profile_.BoxList, printed))
+            return static_cast<int>(printed.top - first.top);
+    }
+    return static_cast<int>(below + first.height / 2);
+}
+
+std::vector<OmrBox> CopyCommands::SelectedBoxes() const {
+    std::vector<OmrBox> boxes;
+    for (const int number : profile_.Selected.Numbers())
+        boxes.push_back(profile_.BoxList[static_cast<std::size_t>(number) - 1]);
+    return boxes;
+}
+
+void CopyCommands::CopyBy(int dx, int dy) {
+    Append(SelectedBoxes(), dx, dy);
+}
+
+// All keep their distances: they go as a whole where the first one finds an outline.
+void CopyCommands::Append(const std::vector<OmrBox>& copied, int dx, int dy) {
+    if (copied.empty())
+        return;
+    PageRect place = profiles::PlaceOf(copied.front());
+    place.left += dx;
+    place.top += dy;
+    const PageRect printed = view_.HeldKeys().testFlag(Qt::AltModifier) ? place : InPrint(place);
+    const int moreX = static_cast<int>(printed.left - place.left);
+    const int moreY = static_cast<int>(printed.top - place.top);
+    std::vector<OmrBox> after = profile_.BoxList;
+    const std::vector<int> numbers = profiles::AppendCopies(after, copied);
+    const profiles::BoxSelection selected(numbers, numbers.front());
+    profiles::Move(after, selected, dx + moreX, dy + moreY, {profile_.ImageWidth, profile_.ImageHeight});
+    editor_.Change([&](std::vector<OmrBox>& boxes) { boxes = after; }, selected);
+}
+
+void CopyCommands::DrawGrid(commands::CommandGate& gate) {
+    person_.SetPanel(app::Panel::Message,
+                     "Draw the first box at the upper left, then draw or click the last at the lower right.");
+    // Escape gives it up there, and would close the window elsewhere.
+    view_.setFocus();
+    view_.Boxes().DrawGrid([this, &gate](const QRectF& first, const QRectF& last) {
+        gate.Take(Command::EditBoxes, [&] { AddGrid(ToPageRect(first), ToPageRect(last)); });
+    });
+}
+
+void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast) {
+    const PageRect first = InPrint(drawnFirst);
+    const PageRect last = InPrint(drawnLast);
+    const profiles::GridShape guess =
+        Print() == nullptr ? profiles::GridShape{2, 2} : profiles::ShapeInPrint(*Print(), first, last);
+    const std::optional<profiles::GridShape> shape = AskShape(guess);
+    if (!shape)
+        return;
+    std::vector<OmrBox> added;
+    for (const PageRect& place : profiles::PlacesOfGrid(first, last, *shape)) {
+        OmrBox box;
+        profiles::PutAt(box, InPrint(place));
+        if (!IsTaken(profile_.BoxList, profiles::PlaceOf(box)))
+            added.push_back(box);
+    }
+    if (!editor_.AddBoxes(added)) {
+        person_.SetPanel(app::Panel::Message, "All boxes of this grid are there already.");
+        return;
+    }
+    std::vector<int> numbers = profiles::KeptNumbers(profile_.BoxList);
+    std::erase_if(numbers, [&](int number) {
+        return std::none_of(added.begin(), added.end(), [&](const OmrBox& box) {
+            return profiles::IsSamePlace(box, profile_.BoxList[static_cast<std::size_t>(number) - 1]);
+        });
+    });
+    editor_.Select({numbers, profile_.Selected.Current()});
+    person_.SetPanel(app::Panel::Message, std::to_string(added.size()) + " boxes added.");
+}
+
+std::optional<profiles::GridShape> CopyCommands::AskShape(const profiles::GridShape& guess) const {
+    QDialog dialog(view_.window());
+    dialog.setObjectName("frmGrid");
+    dialog.setWindowTitle("Grid of Boxes");
+    auto* const form = new QFormLayout(&dialog);
+    auto* const rows = Counter("numRows", "Rows", guess.rows);
+    auto* const columns = Counter("numColumns", "Columns", guess.columns);
+    form->addRow("&Rows", rows);
+    form->addRow("&Columns", columns);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    form->addRow(buttons);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    rows->selectAll();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return profiles::GridShape{rows->value(), columns->value()};
+}
+
+PageRect CopyCommands::InPrint(const PageRect& place) {
+    const imaging::WorkGrid* const print = Print();
+    return print == nullptr ? place : profiles::OutlineUnder(*print, place).value_or(place);
+}
+
+// Nothing where the specimen cannot be read.
+const imaging::WorkGrid* CopyCommands::Print() {
+    if (printOf_ != profile_.Image) {
+        printOf_ = profile_.Image;
+        print_.reset();
+        auto read = imaging::ReadSpecimen(files_, profile_.Image);
+        if (auto* const page = std::get_if<imaging::Page>(&read))
+            print_ = std::move(page->grid);
+    }
+    return print_ ? &*print_ : nullptr;
+}
+
+}  // namespace tavrene::ui

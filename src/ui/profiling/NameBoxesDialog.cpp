@@ -1,0 +1,178 @@
+#include "ui/profiling/NameBoxesDialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <stdexcept>
+#include <utility>
+
+#include "profiles/BoxSelection.h"
+#include "ui/base/QtText.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kPatternPage = 0;
+constexpr int kListPage = 1;
+constexpr std::size_t kMostTroubles = 3;
+
+// The first and the last names tell how the others are made.
+QString Outcome(const std::vector<profiles::NewName>& names) {
+    if (names.empty())
+        return "No name changes.";
+    const QString first = ToQt(names.front().name);
+    const QString last = ToQt(names.back().name);
+    return names.size() == 1 ? "One box: " + first
+                             : QString::number(names.size()) + " boxes: " + first + " ... " + last;
+}
+
+}  // namespace
+
+NameBoxesDialog::NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std::vector<int> numbers,
+                                 Preview preview, QWidget* parent)
+    : QDialog(parent),
+      boxes_(boxes),
+      numbers_(std::move(numbers)),
+      preview_(std::move(preview)),
+      ways_(new QTabWidget(this)),
+      outcome_(new QLabel(this)) {
+    setObjectName("frmNameBoxes");
+    setWindowTitle("Name Boxes");
+    Build();
+    Update();
+}
+
+QLineEdit* NameBoxesDialog::Field(const char* name, const QString& label, const QString& text) {
+    auto* const field = new QLineEdit(text, this);
+    field->setObjectName(name);
+    field->setAccessibleName(label);
+    connect(field, &QLineEdit::textChanged, this, [this] { Update(); });
+    return field;
+}
+
+QWidget* NameBoxesDialog::PatternPage() {
+    auto* const page = new QWidget;
+    auto* const form = new QFormLayout(page);
+    pattern_ = Field("txtPattern", "Pattern", "Q{row} {column}");
+    pattern_->setToolTip(
+        "{row} and {column}: where the box stands; {n:02}: its number, with two digits;\n"
+        "{column:A}: a letter; {block}: the block of columns; {name}: the name it has");
+    rows_ = Field("txtRows", "Names of the rows");
+    rows_->setPlaceholderText("1, 2, 3 ...");
+    columns_ = Field("txtColumns", "Names of the columns");
+    columns_->setPlaceholderText("often, rarely, never");
+    first_ = new QSpinBox;
+    first_->setObjectName("numFirst");
+    first_->setAccessibleName("Counted from");
+    first_->setRange(0, 9999);
+    first_->setValue(1);
+    connect(first_, &QSpinBox::valueChanged, this, [this] { Update(); });
+    form->addRow("&Pattern", pattern_);
+    form->addRow("&Counted from", first_);
+    form->addRow("Names of the &rows", rows_);
+    form->addRow("Names of the co&lumns", columns_);
+    return page;
+}
+
+QWidget* NameBoxesDialog::ListPage() {
+    lines_ = new QPlainTextEdit;
+    lines_->setObjectName("txtNames");
+    lines_->setAccessibleName("Names, one a line");
+    lines_->setPlaceholderText("One name a line, as a column of a table is pasted");
+    lines_->setTabChangesFocus(true);
+    connect(lines_, &QPlainTextEdit::textChanged, this, [this] { Update(); });
+    return lines_;
+}
+
+QWidget* NameBoxesDialog::ReplacePage() {
+    auto* const page = new QWidget;
+    auto* const form = new QFormLayout(page);
+    find_ = Field("txtFind", "Find");
+    replace_ = Field("txtReplace", "Replace with");
+    form->addRow("&Find", find_);
+    form->addRow("Replace &with", replace_);
+    return page;
+}
+
+void NameBoxesDialog::Build() {
+    ways_->setObjectName("tabWays");
+    ways_->addTab(PatternPage(), "P&attern");
+    ways_->addTab(ListPage(), "Li&st");
+    ways_->addTab(ReplacePage(), "Find and Repla&ce");
+    connect(ways_, &QTabWidget::currentChanged, this, [this] { Update(); });
+    auto* const across = new QRadioButton("Row &by row");
+    across->setObjectName("optAcross");
+    across->setChecked(true);
+    down_ = new QRadioButton("Column by colu&mn");
+    down_->setObjectName("optDown");
+    connect(down_, &QRadioButton::toggled, this, [this] { Update(); });
+    auto* const order = new QHBoxLayout;
+    order->addWidget(across);
+    order->addWidget(down_);
+    order->addStretch(1);
+    outcome_->setObjectName("lblOutcome");
+    outcome_->setWordWrap(true);
+    outcome_->setMinimumHeight(4 * fontMetrics().height());
+    outcome_->setAlignment(Qt::AlignTop);
+    outcome_->setTextFormat(Qt::PlainText);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    rename_ = buttons->addButton("&Name Them", QDialogButtonBox::AcceptRole);
+    rename_->setObjectName("cmdOK");
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const layout = new QVBoxLayout(this);
+    const bool isAll = numbers_.size() == profiles::KeptNumbers(boxes_).size();
+    layout->addWidget(new QLabel((isAll ? "All " : "The ") + QString::number(numbers_.size()) +
+                                 (isAll ? " boxes" : " selected boxes")));
+    layout->addWidget(ways_);
+    layout->addLayout(order);
+    layout->addWidget(outcome_);
+    layout->addWidget(buttons);
+    // Only a button that is in its dialog can be the one that Enter means.
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    rename_->setDefault(true);
+    pattern_->setFocus();
+    pattern_->selectAll();
+}
+
+std::vector<profiles::NewName> NameBoxesDialog::Asked() const {
+    const auto order = down_->isChecked() ? profiles::CellOrder::Down : profiles::CellOrder::Across;
+    const std::vector<profiles::BoxCell> cells = profiles::CellsOf(boxes_, numbers_, order);
+    const auto words = [](const QLineEdit* field) { return profiles::WordsOf(FromQt(field->text())); };
+    switch (ways_->currentIndex()) {
+        case kPatternPage:
+            return profiles::NamesByPattern(
+                boxes_, cells, {FromQt(pattern_->text()), words(rows_), words(columns_), first_->value()});
+        case kListPage:
+            // A single line is a name, whatever commas it has.
+            return profiles::NamesOfLines(cells, profiles::WordsOf(FromQt(lines_->toPlainText() + '\n')));
+        default:
+            return profiles::NamesReplaced(boxes_, cells, FromQt(find_->text()), FromQt(replace_->text()));
+    }
+}
+
+void NameBoxesDialog::Update() {
+    if (rename_ == nullptr)
+        return;
+    try {
+        names_ = Asked();
+    } catch (const std::invalid_argument& misspelt) {
+        names_.clear();
+        outcome_->setText(ToQt(misspelt.what()));
+        rename_->setEnabled(false);
+        preview_({}, {});
+        return;
+    }
+    const profiles::NameTroubles troubles = profiles::TroublesOf(boxes_, names_);
+    QString text = Outcome(names_);
+    for (std::size_t k = 0; k < std::min(kMostTroubles, troubles.texts.size()); ++k)
+        text += '\n' + ToQt(troubles.texts[k]);
+    if (troubles.texts.size() > kMostTroubles)
+        text += "\n... and " + QString::number(troubles.texts.size() - kMostTroubles) + " more.";
+    outcome_->setText(text);
+    rename_->setEnabled(!names_.empty() && !troubles.mayNotBe);
+    preview_(names_, troubles.numbers);
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,207 @@
+#include <random>
+
+#include "EditorWorld.h"
+#include "profiles/BoxArrangement.h"
+#include "profiles/GroupEdits.h"
+
+namespace tavrene::profiles {
+namespace {
+
+using imaging::BoxTool;
+using imaging::PageRect;
+using Numbers = std::vector<int>;
+
+class SeveralBoxesTest : public test::EditorWorld {
+  protected:
+    Numbers Lefts() const {
+        Numbers lefts;
+        for (const OmrBox& box : profile_.BoxList)
+            lefts.push_back(box.L);
+        return lefts;
+    }
+    void Arrange(const std::function<void(std::vector<OmrBox>&, const BoxSelection&)>& arrange) {
+        editor_.Change([&](std::vector<OmrBox>& boxes) { arrange(boxes, profile_.Selected); });
+    }
+};
+
+// Q1 to Q3 stand at 60, 114 and 168 in the first row, Q4 to Q6 below them.
+TEST_F(SeveralBoxesTest, ArePickedByRowsByBoxesAndByAFrame) {
+    const auto row = [this](int number, Pick pick) {
+        return [=, this] { editor_.RowClicked(number, pick); };
+    };
+    const auto rect = [this](int number, Pick pick) {
+        return [=, this] { editor_.RectPicked(number, pick); };
+    };
+    const auto frame = [this](PageRect area, bool isFurther) {
+        return [=, this] { editor_.AreaPicked(area, isFurther); };
+    };
+    const std::vector<std::pair<std::function<void()>, Numbers>> steps = {
+        {row(2, Pick::Toggle), {2}},
+        {row(5, Pick::Span), {2, 3, 4, 5}},
+        {row(3, Pick::Span), {2, 3}},
+        {row(2, Pick::Toggle), {3}},
+        {row(3, Pick::Toggle), {3}},  // the last one stays
+        {rect(5, Pick::Span), {2, 3, 5, 6}},
+        {rect(2, Pick::Toggle), {3, 5, 6}},
+        {frame({0, 0, 100, 100}, true), {1, 3, 5, 6}},
+        {frame({0, 0, 10, 10}, false), {1, 3, 5, 6}},  // around nothing
+        {frame({0, 0, 130, 100}, false), {1, 2}},
+        {row(4, Pick::Only), {4}},
+    };
+    for (std::size_t step = 0; step < steps.size(); ++step) {
+        steps[step].first();
+        EXPECT_EQ(profile_.Selected.Numbers(), steps[step].second) << step;
+        EXPECT_EQ(screen_.marked, steps[step].second.size() > 1 ? steps[step].second : Numbers{}) << step;
+        EXPECT_TRUE(profile_.Selected.Has(screen_.emphasised)) << step;
+        EXPECT_EQ(screen_.selectedRow, screen_.emphasised) << step;
+    }
+    EXPECT_FALSE(profile_.ProfileChanged);
+    Box(5).R = static_cast<std::int16_t>(Box(5).R + 2);
+    Box(6).R = static_cast<std::int16_t>(Box(6).R + 5);
+    EXPECT_EQ(OfSizeOf(profile_.BoxList, 4).Numbers(), (Numbers{1, 2, 3, 4, 5}));
+}
+
+TEST_F(SeveralBoxesTest, AreArrangedAndMovedTogetherOnThePage) {
+    profile_.ImageWidth = 230;
+    editor_.Select(BoxSelection({1, 2, 3}, 2));
+    editor_.Nudge(100, 0);
+    EXPECT_EQ(Lefts(), (Numbers{98, 152, 206, 60, 114, 168}))
+        << "the right one stops at the edge of the page";
+    editor_.Nudge(-60, 0);
+    Box(2).L = 101;
+    Arrange([](auto& boxes, const auto& selected) { Distribute(boxes, selected, Direction::Across); });
+    EXPECT_EQ(Lefts(), (Numbers{38, 97, 146, 60, 114, 168})) << "the middle of the narrower one";
+    Arrange(MakeEqualSize);
+    EXPECT_EQ(Place(1), (std::vector<int>{42, 70, 57, 94}))
+        << "as narrow as the current one, its middle kept";
+    Arrange([](auto& boxes, const auto& selected) { Align(boxes, selected, Side::Right); });
+    EXPECT_EQ(Lefts(), (Numbers{97, 97, 97, 60, 114, 168}));
+    editor_.DeleteBox();
+    EXPECT_EQ(profile_.Selected.Numbers(), Numbers{4});
+    EXPECT_EQ(profile_.Count, 3);
+    EXPECT_FALSE(editor_.Change([](auto&) {}));
+}
+
+TEST_F(SeveralBoxesTest, AHeldKeyIsOneStep) {
+    editor_.Select(BoxSelection({1, 4}, 1));
+    editor_.Nudge(1, 0);
+    for (int k = 0; k < 9; ++k)
+        editor_.Nudge(1, 0, true);
+    editor_.Nudge(0, 1);
+    editor_.ClearChanged();  // saved
+    editor_.Nudge(0, 1, true);
+    EXPECT_EQ(Place(4), (std::vector<int>{70, 126, 94, 150}));
+    editor_.Undo();
+    EXPECT_FALSE(profile_.ProfileChanged);
+    editor_.Undo();
+    EXPECT_EQ(Place(4), (std::vector<int>{70, 124, 94, 148}));
+    editor_.Undo();
+    EXPECT_EQ(Place(4), (std::vector<int>{60, 124, 84, 148}));
+    EXPECT_FALSE(editor_.CanUndo());
+}
+
+TEST_F(SeveralBoxesTest, GroupsFollowTheirBoxesThroughEveryEdit) {
+    const auto groups = [this] {
+        std::string text;
+        for (const BoxGroup& group : profile_.Groups.value_or(std::vector<BoxGroup>())) {
+            text += group.Name + ":";
+            for (const std::string& box : group.Boxes)
+                text += " " + box;
+            text += "; ";
+        }
+        return text;
+    };
+    editor_.SetGroups(GroupsByRow(profile_.BoxList, KeptNumbers(profile_.BoxList)));
+    EXPECT_EQ(groups(), "Q1: Q1 Q2 Q3; Q4: Q4 Q5 Q6; ");
+    editor_.SetGroups(WithGroup(*profile_.Groups, {"hand", {"Q3", "Q4"}, Takes::AtLeastOne}));
+    const std::vector<std::pair<std::function<void()>, std::string>> steps = {
+        {[this] { Rename(4, "yes"); }, "Q1: Q1 Q2; Q4: Q5 Q6; hand: Q3 yes; "},
+        {[this] {
+             editor_.Change([](std::vector<OmrBox>& boxes) { std::swap(boxes[0].Name, boxes[4].Name); });
+         },
+         "Q1: Q5 Q2; Q4: Q1 Q6; hand: Q3 yes; "},
+        {[this] { editor_.Change([](std::vector<OmrBox>& boxes) { std::swap(boxes[0], boxes[3]); }); },
+         "Q1: Q5 Q2; Q4: Q1 Q6; hand: Q3 yes; "},
+        {[this] {
+             editor_.Select(BoxSelection({1, 3}, 1));
+             editor_.DeleteBox();
+         },
+         "Q1: Q5 Q2; Q4: Q1 Q6; "},
+        {[this] { editor_.SetGroups(std::nullopt); }, ""},
+    };
+    for (const auto& [act, wanted] : steps) {
+        act();
+        EXPECT_EQ(groups(), wanted);
+    }
+    for (std::size_t step = steps.size(); step-- > 0;) {
+        editor_.Undo();
+        EXPECT_EQ(groups(), step > 0 ? steps[step - 1].second : "Q1: Q1 Q2; Q4: Q5 Q6; hand: Q3 Q4; ");
+    }
+    editor_.Redo();
+    EXPECT_EQ(groups(), steps[0].second);
+    const std::string words[] = {"Sex of child male", "Sex of child mixed"};
+    EXPECT_EQ(NameForGroup(words), "Sex of child");
+}
+
+// Whatever was done, and however often it goes back and forth, the way back ends where it began.
+TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
+    const auto state = [this] {
+        EXPECT_EQ(KeptNumbers(profile_.BoxList).size(), screen_.rows.size());
+        for (const int number : KeptNumbers(profile_.BoxList)) {
+            const PageRect& drawn = screen_.rects.at(number);
+            EXPECT_EQ((std::vector<int>{int(drawn.left), int(drawn.top), int(drawn.left + drawn.width),
+                                        int(drawn.top + drawn.height)}),
+                      Place(number));
+            EXPECT_EQ(screen_.rows.at(number), Box(number).Name);
+        }
+        EXPECT_EQ(screen_.rects.size(), screen_.rows.size());
+        return std::tuple(profile_.BoxList, profile_.Count, profile_.NextBoxId);
+    };
+    std::mt19937 random(15);  // NOLINT(cert-msc51-cpp): the same sequence in every run
+    const auto any = [&](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
+    editor_.SetTool(BoxTool::Add);
+    const std::vector<std::function<void()>> actions = {
+        [&] { editor_.Nudge(any(-9, 9), any(-9, 9), any(0, 1) == 1); },
+        [&] { Draw(any(0, 500), any(0, 400), any(5, 40), any(5, 40)); },
+        [&] {
+            editor_.AddBoxes({{"a", 10, 10, 30, 30}, {"b", 300, 90, 320, 110}});
+        },
+        [&] { editor_.DeleteBox(); },
+        [&] { Arrange(MakeEqualSize); },
+        [&] { Arrange([&](auto& boxes, auto& on) { Align(boxes, on, static_cast<Side>(any(0, 3))); }); },
+        [&] {
+            Arrange([&](auto& boxes, auto& on) { Distribute(boxes, on, static_cast<Direction>(any(0, 1))); });
+        },
+        [&] { Rename(profile_.Selected.Current(), "name " + std::to_string(any(1, 99))); },
+    };
+    const auto began = state();
+    for (int k = 0; k < 60; ++k) {
+        const Numbers kept = KeptNumbers(profile_.BoxList);
+        if (kept.empty())
+            break;
+        editor_.Select(
+            BoxSelection(kept[static_cast<std::size_t>(any(0, static_cast<int>(kept.size()) - 1))]));
+        for (const int number : kept)
+            if (any(0, 3) == 0)
+                editor_.RowClicked(number, Pick::Toggle);
+        actions[static_cast<std::size_t>(k) % actions.size()]();
+    }
+    const auto ended = state();
+    for (int k = 0; k < 100; ++k) {
+        for (int steps = any(1, 70); steps > 0; --steps)
+            editor_.Undo();
+        state();
+        for (int steps = any(1, 70); steps > 0; --steps)
+            editor_.Redo();
+    }
+    while (editor_.CanRedo())
+        editor_.Redo();
+    EXPECT_EQ(state(), ended);
+    while (editor_.CanUndo())
+        editor_.Undo();
+    EXPECT_EQ(state(), began);
+    EXPECT_FALSE(profile_.ProfileChanged);
+}
+
+}  // namespace
+}  // namespace tavrene::profiles
