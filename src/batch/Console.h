@@ -56,6 +56,7 @@ class NoScreen final : public imaging::PageScreen, public profiles::BoxRows {
     void PutRow(int /*number*/, const profiles::BoxRow& /*row*/) override {}
     void RemoveRow(int /*number*/) override {}
     void SelectRow(int /*number*/) override {}
+    void SelectRows(std::span<const int> /*numbers*/, int /*current*/) override {}
     void RefreshRows() override {}
 };
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ui/base/EmptyHint.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
