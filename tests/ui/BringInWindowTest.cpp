@@ -1,6 +1,4 @@
 #include <QAction>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 
@@ -19,17 +17,6 @@ using Names = std::vector<std::string>;
 class BringInWindowTest : public test::DeskWindow {
   protected:
     BringInWindowTest() { AddProfile("Form", form_); }
-
-    void Drop(const Names& paths) {
-        QMimeData data;
-        QList<QUrl> urls;
-        for (const std::string& path : paths)
-            urls += QUrl::fromLocalFile(ToQt(path));
-        data.setUrls(urls);
-        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window_.get(), &drop);
-        QApplication::processEvents();
-    }
 
     imaging::Bitmap Scan(int number) const { return samples::ToBilevel(form_.Paint({.checked = {number}})); }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QDropEvent>
 #include <QGraphicsView>
 #include <QListView>
+#include <QMimeData>
 #include <QTest>
 #include <QTreeWidget>
 #include <memory>
@@ -46,6 +48,27 @@ class DeskWindow : public RunWorld {
         widget.activateWindow();
         QApplication::processEvents();
         QTest::keyClick(&widget, key, modifiers);
+    }
+
+    static void Fill(QMimeData& data, const std::vector<std::string>& paths) {
+        QList<QUrl> urls;
+        for (const std::string& path : paths)
+            urls += QUrl::fromLocalFile(ui::ToQt(path));
+        data.setUrls(urls);
+    }
+
+    /// Files over the page, as from a file manager.
+    bool Drop(const std::vector<std::string>& paths) {
+        QMimeData data;
+        Fill(data, paths);
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window_.get(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window_.get(), &drop);
+        QApplication::processEvents();
+        return true;
     }
 
     ui::ImageView& View() { return dynamic_cast<ui::ImageView&>(Find<QGraphicsView>(*window_, "ImgEdit1")); }

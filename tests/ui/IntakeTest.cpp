@@ -1,7 +1,5 @@
 #include <QClipboard>
-#include <QDropEvent>
 #include <QFileDialog>
-#include <QMimeData>
 #include <QTabWidget>
 
 #include "ui/DeskWindow.h"
@@ -17,27 +15,6 @@ using Names = std::vector<std::string>;
 class IntakeTest : public test::DeskWindow {
   protected:
     IntakeTest() { AddProfile("Form", form_); }
-
-    static void Fill(QMimeData& data, const Names& paths) {
-        QList<QUrl> urls;
-        for (const std::string& path : paths)
-            urls += QUrl::fromLocalFile(ToQt(path));
-        data.setUrls(urls);
-    }
-
-    /// Over the page, as from a file manager.
-    bool Drop(const Names& paths) {
-        QMimeData data;
-        Fill(data, paths);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window_.get(), &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window_.get(), &drop);
-        QApplication::processEvents();
-        return true;
-    }
 
     test::TestForm form_ = test::TestForm::Grid(2, 2);
     test::TempFolder outside_;

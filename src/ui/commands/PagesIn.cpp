@@ -29,7 +29,8 @@ std::string BringPagesIn(std::span<const intake::Source> sources, app::Files& fi
             person.ReportFile(app::FileName(file.path), file.reason);
     }
     return Counted(pages, "page", "pages") + " of " + Counted(taken, "file", "files") +
-           " brought in to ProcessIn." + (report.isCancelled ? " The rest was cancelled." : "");
+           (pages == 1 ? " was" : " were") + " brought in to ProcessIn." +
+           (report.isCancelled ? " The rest was cancelled." : "");
 }
 
 std::vector<intake::Source> FurtherPagesOf(const recognition::RunSummary& summary, const app::Files& files,

@@ -7,6 +7,8 @@
 namespace tavrene::ui {
 
 ShownLines::ShownLines(QObject* parent, ReviewTable& table) : QSortFilterProxyModel(parent), table_(table) {
+    // A session without a language compares bytes and knows no numbers.
+    order_.setLocale(QLocale(QLocale::English));
     order_.setNumericMode(true);
     order_.setCaseSensitivity(Qt::CaseInsensitive);
     setSourceModel(&table);
