@@ -7,8 +7,20 @@
 
 namespace tavrene::app {
 
+namespace {
+
+std::filesystem::path WhereTemporaryFilesLie() {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    if (error)
+        throw FileError("There is no folder for temporary files: " + error.message());
+    return folder;
+}
+
+}  // namespace
+
 TemporaryFolder::TemporaryFolder(std::string_view name)
-    : path_(FromPath(std::filesystem::temp_directory_path() / name) + "-XXXXXX") {
+    : path_(FromPath(WhereTemporaryFilesLie() / name) + "-XXXXXX") {
     if (::mkdtemp(path_.data()) == nullptr)
         throw FileError("Cannot create the folder " + path_);
 }

@@ -102,6 +102,9 @@ bool Claims::OthersHold(const std::string& name) const {
 // A new scan of a name that is being worked on has to wait: their images and results would meet. The other
 // claim was there before the new scan could come, so looking afterwards is early enough.
 bool Claims::Claim(const std::string& name) {
+    // An earlier scan of that name may lie in the own folder still, because it could not be moved on.
+    if (files_.FileExists(own_ + name))
+        return false;
     std::error_code error;
     fs::rename(app::ToPath(folder_ + name), app::ToPath(own_ + name), error);
     if (error || !OthersHold(name))

@@ -68,9 +68,11 @@ Exit FolderWork::Share() {
     Claims claims(files_, folders_.ProcessIn, std::chrono::seconds(options_.patience));
     Exit exit = Exit::Done;
     while (!surroundings_.stop && exit != Exit::Failed) {
+        // Asked before, for what another gives back while this one looks is there for the next look.
+        const bool othersWork = claims.OthersWork();
         if (ShareNext(claims, exit))
             continue;
-        if (!options_.watch && !claims.OthersWork())
+        if (!othersWork)
             break;
         std::this_thread::sleep_for(kPause);
     }

@@ -79,13 +79,13 @@ no meaning here.
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
   --claim[=SEC]    share FOLDER with other tavrene-batch --claim, on this machine or others: each takes some
                    files at a time, and those of one that has not been heard of for SEC seconds (60) are
-                   taken over
+                   taken over; for scans that are there already, so not together with --watch
   --watch          go on with what comes to ProcessIn, once nobody writes to it any more, until a signal
   --json           tell of each file on the standard output, one JSON object a line
   --help           show this text
   --version        show the version
 
-SIGINT and SIGTERM end the work after the page at hand. The program does not work on a folder that the window has
+SIGINT and SIGTERM end the work after the page at hand; with --watch that is its usual end, with status 0. The program does not work on a folder that the window has
 open; with --watch it waits. Messages go to the standard error; questions have no one to answer them, so nothing
 is replaced or lost for their sake.
 
@@ -113,6 +113,11 @@ std::optional<Options> ReadOptions(std::span<char* const> arguments) {
         return options;
     if (::optind + 1 != count) {
         std::cerr << "tavrene-batch: one working folder is needed; see tavrene-batch --help\n";
+        return std::nullopt;
+    }
+    // Claims are taken at once, and what is still being written may not be.
+    if (options.watch && options.patience > 0) {
+        std::cerr << "tavrene-batch: --watch and --claim do not go together; see tavrene-batch --help\n";
         return std::nullopt;
     }
     options.folder = WholePath(arguments[static_cast<std::size_t>(::optind)]);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/Reason.h"
 #include "boxes/ProfileImagePipeline.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "profiles/XmlFile.h"
@@ -145,9 +146,9 @@ void ProfileSession::Describe(const ProfileContent& content) {
     try {
         profile_.SavedGroups = ReadBoxGroups(context_.files, profile_.Path);
         profile_.Groups = profile_.SavedGroups;
-    } catch (const DocumentError& error) {
-        lasting_.push_back({"The groups of this profile cannot be read, so names tell them: " +
-                            std::string(error.what()) + "."});
+    } catch (const std::exception& error) {
+        lasting_.push_back(
+            {"The groups of this profile cannot be read, so names tell them: " + app::ReasonOf(error) + "."});
     }
 }
 

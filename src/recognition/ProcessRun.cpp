@@ -68,6 +68,8 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     filesDone_ = 0;
     currentName_.clear();
     opinions_ = {};
+    if (context_.precise != nullptr)
+        context_.precise->TakeFaults();  // what review has met is no matter of this run
     summary_ = {};
     const double start = context_.clock.Seconds();
     context_.person.SetPanel(Panel::ElapsedTime, "");
@@ -221,7 +223,8 @@ void ProcessRun::NoteSecondOpinion(const FileOutcome& outcome) {
     if (!outcome.reading.opinionFailure.empty())
         LogAbout(outcome.report.name, outcome.reading.opinionFailure);
     SpecimenFaults faults = context_.precise->TakeFaults();
-    opinions_.specimens.replaced.merge(faults.replaced);
+    if (context_.precise->Reads() || context_.precise->GivesSecondOpinion())
+        opinions_.specimens.replaced.merge(faults.replaced);
     // The described rules need no specimen.
     if (context_.precise->Reads())
         opinions_.specimens.unreadable.merge(faults.unreadable);

@@ -25,6 +25,7 @@ void DoubtFinder::Begin() {
     cache_.Save();
     cache_.Load();
     rules_.clear();
+    way_ = WayOfReading();
 }
 
 const ProfileRecord* DoubtFinder::ProfileOf(const FormOnDisk& form) const {
@@ -36,9 +37,7 @@ const std::string& DoubtFinder::RulesFor(const ProfileRecord& profile) {
     std::string& rules = rules_[profile.Name];
     if (rules.empty()) {
         const std::string path = folders_.Profiles + profile.FileName;
-        const bool isPrecise = precise_ != nullptr && precise_->Reads();
-        rules = std::to_string(settings_.FillThreshold) + (isPrecise ? "p " : "d ") +
-                files_.Fingerprint(path) + " " + files_.Fingerprint(profiles::BoxGroupsPath(path)) + " " +
+        rules = files_.Fingerprint(path) + " " + files_.Fingerprint(profiles::BoxGroupsPath(path)) + " " +
                 files_.Fingerprint(profile.Image);
     }
     return rules;
@@ -46,9 +45,22 @@ const std::string& DoubtFinder::RulesFor(const ProfileRecord& profile) {
 
 std::string DoubtFinder::StampOf(const FormOnDisk& form) {
     const ProfileRecord* const profile = ProfileOf(form);
-    return profile == nullptr
-               ? std::string()
-               : form.Fingerprint + " " + files_.Fingerprint(form.Image) + " " + RulesFor(*profile);
+    return profile == nullptr ? std::string()
+                              : form.Fingerprint + " " + files_.Fingerprint(form.Image) + " " +
+                                    WayOfReading() + " " + RulesFor(*profile);
+}
+
+std::string DoubtFinder::WayOfReading() const {
+    const char* const way = precise_ == nullptr              ? "n"
+                            : precise_->Reads()              ? "p"
+                            : precise_->GivesSecondOpinion() ? "d"
+                                                             : "n";
+    return std::to_string(settings_.FillThreshold) + way;
+}
+
+bool DoubtFinder::HaveRulesChanged() {
+    const std::string now = WayOfReading();
+    return std::exchange(way_, now) != now;
 }
 
 const FormDoubts* DoubtFinder::Known(const FormOnDisk& form) {

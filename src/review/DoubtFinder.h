@@ -33,6 +33,9 @@ class DoubtFinder {
     /// The profiles, their groups or the way of reading may have changed.
     void Begin();
 
+    /// Whether the fill threshold or the way of reading is another one than at the last call.
+    bool HaveRulesChanged();
+
     /// Null while it is not known.
     const FormDoubts* Known(const FormOnDisk& form);
 
@@ -44,6 +47,7 @@ class DoubtFinder {
 
   private:
     std::string StampOf(const FormOnDisk& form);
+    std::string WayOfReading() const;
     const std::string& RulesFor(const profiles::ProfileRecord& profile);
     const profiles::ProfileRecord* ProfileOf(const FormOnDisk& form) const;
     std::optional<FormDoubts> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile);
@@ -54,6 +58,7 @@ class DoubtFinder {
     const std::vector<profiles::ProfileRecord>& profiles_;
     recognition::PreciseReader* precise_;
     DoubtCache cache_;
+    std::string way_;
     std::map<std::string, std::string> rules_;  ///< By profile: what the doubts of its forms depend on.
 };
 

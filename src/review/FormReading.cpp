@@ -103,7 +103,7 @@ std::vector<recognition::MarkReading> ReadingsOf(std::span<const recognition::Bo
 recognition::SecondOpinion OpinionOn(const OpenForm& form, const imaging::Page& page,
                                      std::span<const recognition::BoxMeasure> measures,
                                      std::int16_t fillThreshold, recognition::PreciseReader* precise) {
-    if (precise == nullptr || precise->Reads())
+    if (precise == nullptr || !precise->GivesSecondOpinion())
         return {};
     return precise->OpinionOn(page, form.Profile, ReadingsOf(measures, fillThreshold), fillThreshold);
 }
@@ -131,7 +131,7 @@ std::vector<recognition::MarkReading> ReadFormPrecisely(const OpenForm& form, co
                                                         recognition::PreciseReader* precise) {
     if (!IsReadPrecisely(form, precise))
         return {};
-    if (profile.Name == form.SavedProfile) {
+    if (profile.Name == form.OpenedProfile.Name) {
         auto readings = precise->ReadAt(page, profile, KnownShifts(profile, form.Opened), fillThreshold);
         if (!readings.empty())
             return readings;

@@ -45,6 +45,7 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
 
 ReviewList::Entry ReviewList::Read(const std::string& document) {
     const std::string path = folders_.ProcessOut + document;
+    uncountable_.erase(document);
     Entry entry{document, context_.files.Fingerprint(path), {}, std::nullopt};
     try {
         const auto result = recognition::ResultDocument::Load(context_.files, path);
@@ -121,7 +122,20 @@ bool ReviewList::IsCurrent(const Entry& entry) const {
     return entry.image.empty() || context_.files.FileExists(entry.image) == entry.line.has_value();
 }
 
+// Counts of another threshold or way of reading are none.
+void ReviewList::FollowRules() {
+    if (!doubts_.HaveRulesChanged())
+        return;
+    uncountable_.clear();
+    for (std::size_t line = 0; line < lines_.size(); ++line) {
+        Entry& entry = EntryOf(lines_[line]);
+        lines_[line].Doubts = entry.line->Doubts = KnownDoubts(entry);
+        context_.side.lines.ChangeLine(line, lines_[line]);
+    }
+}
+
 void ReviewList::Follow() {
+    FollowRules();
     // A form is opened within a frame's time, and a folder of thousands is not listed in one.
     const std::string folder = context_.files.Fingerprint(folders_.ProcessOut);
     if (folder == folder_)

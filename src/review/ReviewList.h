@@ -46,6 +46,9 @@ class ReviewList {
     /// read.
     bool CountNext();
 
+    /// Keeps what was counted for the next start.
+    void KeepCounts() { doubts_.Keep(); }
+
     /// Whether the doubts of a line's form are not known, but can be.
     bool IsUncounted(const ReviewLine& line) const;
 
@@ -63,6 +66,7 @@ class ReviewList {
     void ShowCounts() const;
 
   private:
+    void FollowRules();
     // A document of the folder as it was when it was last read.
     struct Entry {
         std::string document;

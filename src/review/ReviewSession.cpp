@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "app/Reason.h"
 #include "profiles/ProfileLoader.h"
 #include "review/FormReading.h"
 
@@ -322,7 +323,7 @@ void ReviewSession::TrySettle() {
     try {
         SettleInterrupted();
     } catch (const std::exception& error) {
-        context_.person.ShowMessage("", error.what());
+        context_.person.ShowMessage("", app::ReasonOf(error));
     }
 }
 

@@ -71,6 +71,7 @@ class ReviewSession {
     const std::vector<ReviewLine>& Lines() const { return list_.Lines(); }
 
     /// Counts the doubts of one form of which they are not known yet; false when there is none left.
+    void KeepCounts() { list_.KeepCounts(); }
     bool CountNextDoubts() { return IsOn() && list_.CountNext(); }
 
     /// What is in doubt of the form of a line; null while it is not known.

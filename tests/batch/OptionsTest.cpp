@@ -20,19 +20,20 @@ std::optional<Options> Read(std::vector<std::string> words) {
 
 TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
     const auto read = Read({"--settings", "s.ini", "forms/.//", "--export=/x/../tables/", "--jobs", "12",
-                            "--precise", "--watch", "--json", "--claim=5"});
+                            "--precise", "--watch", "--json"});
     ASSERT_TRUE(read);
     const std::string here = std::filesystem::current_path().string() + "/";
     EXPECT_EQ(read->folder + "|" + read->settings + "|" + read->exportTo,
               here + "forms|" + here + "s.ini|/tables");
     EXPECT_EQ(read->jobs, 12);
-    EXPECT_EQ(read->patience, 5);
+    EXPECT_EQ(Read({"forms", "--claim=5"})->patience, 5);
     EXPECT_EQ(Read({"forms", "--claim"})->patience, 60);
     EXPECT_TRUE(read->precise && read->watch && read->json);
     EXPECT_TRUE(Read({"--help"})->help);
     EXPECT_TRUE(Read({"--version", "a", "b"})->version);
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{},
                                                   {"a", "b"},
+                                                  {"a", "--watch", "--claim"},
                                                   {"a", "--nonsense"},
                                                   {"a", "--settings"},
                                                   {"a", "--settings="},

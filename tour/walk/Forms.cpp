@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 
 #include "painter/ImageFiles.h"
@@ -50,11 +51,12 @@ void SaveProfile(const BlankForm& form, app::Files& files, const app::WorkingFol
                                       profiles::ComposeOmrs(boxes, static_cast<std::int16_t>(boxes.size()))));
 }
 
-// A dot of half the threshold's ink where the person meant a mark, and one of a little more where not.
+// A dot of a little less than the threshold's ink where the person meant a mark, of a little more where not.
 bool PaintMisread(Canvas& page, const MarkArea& area, bool isMeant) {
-    const auto x = static_cast<int>(area.x + area.width / 2);
-    const auto y = static_cast<int>(area.y + area.height / 2);
-    isMeant ? page.FillRect(x - 3, y - 2, 6, 4) : page.FillRect(x - 4, y - 3, 8, 7);
+    const double side = std::sqrt((isMeant ? 0.05 : 0.075) * area.width * area.height);
+    const auto pixels = static_cast<int>(std::lround(side));
+    page.FillRect(static_cast<int>(area.x + (area.width - side) / 2),
+                  static_cast<int>(area.y + (area.height - side) / 2), pixels, pixels);
     return isMeant;
 }
 
@@ -86,7 +88,7 @@ std::vector<std::string> Checked(const recognition::ResultDocument& document) {
 }  // namespace
 
 FormTruth PaintForms(app::Files& files, const app::WorkingFolders& folders) {
-    const FormDesign design{FormKind::Survey, 4711};
+    const FormDesign design{FormKind::Survey, 4713};
     SaveProfile(PaintBlank(design, kDpi), files, folders);
     Random dice(20);
     FormTruth truth;

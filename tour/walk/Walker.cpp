@@ -35,24 +35,26 @@ bool Walker::IsWrong(const QTreeWidgetItem& row) const {
     return isMeant != (row.text(1) == "1");
 }
 
-int Walker::WrongRows() {
-    int wrong = 0;
+const QTreeWidgetItem* Walker::FirstWrongRow() {
     for (int row = 0; row < Boxes().topLevelItemCount(); ++row)
-        wrong += IsWrong(*Boxes().topLevelItem(row)) ? 1 : 0;
-    return wrong;
+        if (IsWrong(*Boxes().topLevelItem(row)))
+            return Boxes().topLevelItem(row);
+    return nullptr;
 }
 
 // What is in doubt is looked at box by box, until all is as it was meant.
 void Walker::CorrectForm() {
     const int most = keys_ + 2 * Boxes().topLevelItemCount();
-    while (WrongRows() > 0) {
+    while (const QTreeWidgetItem* const wrong = FirstWrongRow()) {
         const QTreeWidgetItem* const row = Boxes().currentItem();
         if (row != nullptr && Boxes().hasFocus() && IsWrong(*row))
             Press(Qt::Key_Space);
         else
             Press(Qt::Key_D, Qt::ControlModifier);
         if (keys_ > most)
-            throw std::runtime_error("No doubt leads to what is misread in " + OpenForm() + ".");
+            throw std::runtime_error("No doubt leads to " +
+                                     ui::FromQt(wrong->text(0) + " (ink " + wrong->text(2)) +
+                                     "), misread in " + OpenForm() + ".");
     }
 }
 

@@ -23,7 +23,7 @@ class Walker {
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     QTreeWidget& Boxes();
     std::string OpenForm() const;
-    int WrongRows();
+    const QTreeWidgetItem* FirstWrongRow();
     bool IsWrong(const QTreeWidgetItem& row) const;
     void CorrectForm();
 

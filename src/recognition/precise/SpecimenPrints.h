@@ -1,11 +1,11 @@
 #pragma once
 
-#include <list>
 #include <map>
+#include <memory>
 #include <mutex>
-#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/Files.h"
@@ -38,13 +38,15 @@ class SpecimenPrints {
         std::string image;
         std::string fingerprint;
         std::vector<profiles::PrintedBox> boxes;
-        std::optional<SpecimenPrint> print;
+        int dpiX = 0;
+        int dpiY = 0;
+        std::shared_ptr<const SpecimenPrint> print;
     };
 
     const app::Files& files_;
     std::mutex mutex_;
-    std::map<std::string, Known> known_;  // by profile name
-    std::list<SpecimenPrint> former_;     // of images that have changed, for who still reads by them
+    std::map<std::pair<std::string, std::string>, Known> known_;  // by profile name and file
+    std::vector<std::shared_ptr<const SpecimenPrint>> former_;    // for who still reads by them
     SpecimenFaults faults_;
 };
 

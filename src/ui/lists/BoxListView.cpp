@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "app/ScopedFlag.h"
@@ -284,8 +286,12 @@ void BoxListView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BoxListView::keyPressEvent(QKeyEvent* event) {
-    isSpanning_ =
-        editTriggers() != QAbstractItemView::NoEditTriggers && event->modifiers().testFlag(Qt::ShiftModifier);
+    // A letter with Shift is a search for a name.
+    constexpr std::array kSteps = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                   Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    isSpanning_ = editTriggers() != QAbstractItemView::NoEditTriggers &&
+                  event->modifiers().testFlag(Qt::ShiftModifier) &&
+                  std::ranges::find(kSteps, event->key()) != kSteps.end();
     QTreeWidget::keyPressEvent(event);
     isSpanning_ = false;
 }

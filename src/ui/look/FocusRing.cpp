@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
+#include <algorithm>
+#include <array>
 
 namespace tavrene::ui {
 
@@ -11,8 +14,11 @@ FocusRing::FocusRing(QObject* parent) : QObject(parent) {
 }
 
 bool FocusRing::eventFilter(QObject*, QEvent* event) {
+    // Keys that are held for a click say nothing yet.
+    constexpr std::array kHeld = {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta};
     if (event->type() == QEvent::KeyPress)
-        SetByKeys(true);
+        SetByKeys(isByKeys_ ||
+                  std::ranges::find(kHeld, static_cast<QKeyEvent*>(event)->key()) == kHeld.end());
     else if (event->type() == QEvent::MouseButtonPress)
         SetByKeys(false);
     return false;

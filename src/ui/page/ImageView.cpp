@@ -317,7 +317,8 @@ void ImageView::wheelEvent(QWheelEvent* event) {
 }
 
 bool ImageView::focusNextPrevChild(bool next) {
-    return (takeTab_ && takeTab_(next)) || QGraphicsView::focusNextPrevChild(next);
+    // What a drag holds stays the selected one.
+    return isToolDown_ || (takeTab_ && takeTab_(next)) || QGraphicsView::focusNextPrevChild(next);
 }
 
 void ImageView::keyPressEvent(QKeyEvent* event) {

@@ -65,13 +65,20 @@ void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
     gate.SetHandler(
         Command::PasteBoxes,
         [this] {
-            const bool areThere = std::all_of(copied_.begin(), copied_.end(), [this](const OmrBox& box) {
-                return IsTaken(profile_.BoxList, profiles::PlaceOf(box));
-            });
-            // In another profile they come to the place where they were.
+            // In another profile they come to the place where they were, where boxes are to the next free
+            // one.
             const PageRect first = profiles::PlaceOf(copied_.front());
-            Append(copied_, areThere ? static_cast<int>(first.width) : 0,
-                   areThere ? static_cast<int>(first.height) : 0);
+            constexpr int kMost = 100;
+            int step = 0;
+            const auto meetsOthers = [&](const OmrBox& box) {
+                PageRect place = profiles::PlaceOf(box);
+                place.left += step * first.width;
+                place.top += step * first.height;
+                return IsTaken(profile_.BoxList, place);
+            };
+            while (step < kMost && std::ranges::any_of(copied_, meetsOthers))
+                ++step;
+            Append(copied_, step * static_cast<int>(first.width), step * static_cast<int>(first.height));
         },
         [this] { return !copied_.empty(); });
     gate.SetHandler(

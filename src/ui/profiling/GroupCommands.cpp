@@ -119,7 +119,9 @@ void GroupCommands::Update() {
             GroupFrame frame{{}, ToQt(group.Name) + ": " + TextOf(group.Marks)};
             for (const std::string& name : group.Boxes)
                 frame.place |= places[name];
-            frames.push_back(std::move(frame));
+            // One whose boxes have all gone has no place.
+            if (!frame.place.isNull())
+                frames.push_back(std::move(frame));
         }
     }
     view_.Boxes().ShowGroups(std::move(frames));

@@ -134,6 +134,7 @@ void ProfileDesk::ConnectControls() {
 
 // A save that comes first may change the order of the strip, so the profile goes by its path.
 void ProfileDesk::Pick(int thumbnail) {
+    FinishEdits();
     const std::string path = session_.PathOf(thumbnail);
     gate_.Take(Command::PickThumbnail, [&] {
         const BusyCursor busy;

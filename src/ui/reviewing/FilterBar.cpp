@@ -1,8 +1,11 @@
 #include "ui/reviewing/FilterBar.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <array>
+
+#include "ui/base/CalmWheel.h"
 
 namespace tavrene::ui {
 namespace {
@@ -27,6 +30,7 @@ FilterBar::FilterBar(QWidget* parent)
     layout->setContentsMargins(6, 4, 6, 4);
     layout->addWidget(kind_, 1);
     layout->addWidget(text_, 1);
+    new CalmWheel(*kind_);
     connect(kind_, &QComboBox::currentIndexChanged, this, [this] { Tell(); });
     connect(text_, &QLineEdit::textChanged, this, [this] { Tell(); });
 }
@@ -43,6 +47,17 @@ void FilterBar::OfferProfiles(const QStringList& names) {
     }
     if (kind_->currentText() != chosen)
         Tell();
+}
+
+// Otherwise it would close the window.
+void FilterBar::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    text_->clear();
+    if (left_)
+        left_();
 }
 
 void FilterBar::Tell() {

@@ -14,8 +14,11 @@ class FilterBar final : public QWidget {
   public:
     explicit FilterBar(QWidget* parent);
 
-    /// `changed` is told what is wanted now.
-    void SetListener(std::function<void(FormFilter)> changed) { changed_ = std::move(changed); }
+    /// `changed` is told what is wanted now, `left` that Escape gives the keys back to the list.
+    void SetListener(std::function<void(FormFilter)> changed, std::function<void()> left) {
+        changed_ = std::move(changed);
+        left_ = std::move(left);
+    }
 
     /// Offers the profiles for choice; what is chosen stays where it is still offered.
     void OfferProfiles(const QStringList& names);
@@ -23,12 +26,16 @@ class FilterBar final : public QWidget {
     /// Gives the choice the focus.
     void TakeFocus() { kind_->setFocus(Qt::ShortcutFocusReason); }
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void Tell();
 
     QComboBox* kind_;
     QLineEdit* text_;
     std::function<void(FormFilter)> changed_;
+    std::function<void()> left_;
 };
 
 }  // namespace tavrene::ui

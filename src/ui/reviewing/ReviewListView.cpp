@@ -104,6 +104,9 @@ void ReviewListView::MarkOpen(std::optional<std::size_t> line) {
         return;
     lines_->MarkOpen(row);
     shown_->FollowOpen();
+    // One that the filter has hidden until now is not selected yet.
+    if (line && !currentIndex().isValid())
+        SelectLine(*line);
 }
 
 void ReviewListView::TellOpened(const QModelIndex& index) {

@@ -98,7 +98,7 @@ void ReviewMode::ConnectNeighbour(Command command, int step) {
 void ReviewMode::ConnectDecisions() {
     const auto isHighlighted = [this] {
         const std::optional<std::size_t> selected = controls_.pane.List().SelectedLine();
-        return !selected || selected == session_.OpenLine();
+        return !selected || !session_.OpenLine() || selected == session_.OpenLine();
     };
     gate_.SetHandler(
         Command::Okay, [this] { Save(); }, isHighlighted);
@@ -107,7 +107,7 @@ void ReviewMode::ConnectDecisions() {
     gate_.SetHandler(
         Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); }, isHighlighted);
     const auto followSelection = [this] {
-        if (!gate_.IsBusy() && session_.HasForm())
+        if (!gate_.IsBusy() && session_.IsOn())
             gate_.Guard([] {});  // what is offered follows every event
     };
     // Not at once, for the list itself is brought up to date then.
@@ -198,7 +198,8 @@ void ReviewMode::CountDoubtsInIdleTime() {
     constexpr int kPause = 20;  // milliseconds
     idle_.setSingleShot(true);
     connect(&idle_, &QTimer::timeout, this, [this] {
-        if (gate_.IsBusy() || gate_.CurrentMode() == commands::Mode::Run)
+        const bool isInUse = QApplication::activePopupWidget() != nullptr;
+        if (gate_.IsBusy() || isInUse || gate_.CurrentMode() == commands::Mode::Run)
             idle_.start(kCountAfter);
         else if (session_.CountNextDoubts())
             idle_.start(kPause);
@@ -267,6 +268,16 @@ void ReviewMode::Update() {
         controls_.pane.List().setFocus();
 }
 
+// Who types a name in the list looks for a box; blanks and digits belong to the name then.
+bool ReviewMode::IsTyping(const QKeyEvent& key) {
+    const QString text = key.text();
+    const bool goesOn = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+    const bool isName = !text.isEmpty() && (text[0].isLetter() || (goesOn && text[0].isPrint()));
+    if (isName)
+        typed_.start();
+    return isName;
+}
+
 // The digits turn the boxes of a question round.
 bool ReviewMode::TakeDigit(const QKeyEvent& key) {
     const int n = key.key() - Qt::Key_0;
@@ -281,6 +292,8 @@ bool ReviewMode::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !session_.IsOn())
         return false;
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+    if (watched == &controls_.boxes && IsTyping(key))
+        return false;
     const std::optional<Command> command = CommandOf(key, watched == &controls_.boxes && session_.HasForm());
     if (!command)
         return watched == &controls_.boxes && TakeDigit(key);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QFileSystemWatcher>
 #include <QKeyEvent>
 #include <QObject>
@@ -60,6 +61,9 @@ class ReviewMode final : public QObject {
     /// is open come before.
     bool OpenFormOf(const std::string& image);
 
+    /// The window closes: what was counted is kept for the next start.
+    void KeepCounts() { session_.KeepCounts(); }
+
     const review::ReviewSession& Session() const { return session_; }
 
     /// Whether the next form opens after a decision.
@@ -84,6 +88,7 @@ class ReviewMode final : public QObject {
     void GoOn();
     void Save();
     void NextDoubt();
+    bool IsTyping(const QKeyEvent& key);
     bool TakeDigit(const QKeyEvent& key);
     void RectClicked(int group);
     void WatchFolder();
@@ -99,6 +104,7 @@ class ReviewMode final : public QObject {
     QTimer folderChanged_;  ///< Waits until a burst of changes is over.
     QTimer idle_;           ///< Counts the doubts of a form while nobody waits.
     bool goesOn_;
+    QElapsedTimer typed_;   ///< Since the last letter in the box list.
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
 

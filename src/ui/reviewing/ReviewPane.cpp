@@ -68,7 +68,8 @@ ReviewPane::ReviewPane(QWidget* parent)
     tabs_->setDocumentMode(true);
     auto* const forms = new QWidget;
     QVBoxLayout* const below = ControlsBelow(forms, list_, filter_);
-    filter_->SetListener([this](FormFilter filter) { list_->SetFilter(std::move(filter)); });
+    filter_->SetListener([this](FormFilter filter) { list_->SetFilter(std::move(filter)); },
+                         [this] { list_->setFocus(); });
     auto* const title = new QLabel("Read a&gainst profile:", this);
     title->setBuddy(choice_);
     below->addWidget(title);

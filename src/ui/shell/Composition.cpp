@@ -42,7 +42,7 @@ bool Composition::Start() {
         store_, files_, [this] { return instance_.Become(); },
         [this](app::Settings& settings) { SettingsDialog(settings, store_, files_, nullptr).exec(); },
         [this] {
-            if (!HasFolderAlone())
+            if (!MayUseFolder())
                 return;
             window_ = std::make_unique<MainWindow>(settings_, WindowContext{store_, files_, clock_});
             window_->Load();
@@ -53,14 +53,13 @@ bool Composition::Start() {
 }
 
 // What a window settles at its start would be what another program is in the middle of.
-bool Composition::HasFolderAlone() {
+bool Composition::MayUseFolder() {
     folder_.emplace(settings_.WorkDir);
-    const bool isAlone = folder_->Take(app::FolderLock::Use::Alone);
-    if (!isAlone)
-        QMessageBox::information(nullptr, ToQt(app::kApplicationName),
+    return folder_->Take(app::FolderLock::Use::Alone) ||
+           QMessageBox::question(nullptr, ToQt(app::kApplicationName),
                                  ToQt("Another program, tavrene-batch for one, is working on the forms in " +
-                                      settings_.WorkDir + ". Please start again when it has ended."));
-    return isAlone;
+                                      settings_.WorkDir + ".\nOpen the window all the same?"),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 }  // namespace tavrene::ui

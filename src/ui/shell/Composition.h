@@ -32,7 +32,7 @@ class Composition {
     MainWindow& Window() { return *window_; }
 
   private:
-    bool HasFolderAlone();
+    bool MayUseFolder();
 
     QtSettingsStore store_;
     SingleInstance instance_;

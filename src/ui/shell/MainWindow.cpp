@@ -336,6 +336,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         if (!runs_.MayClose())
             return;
         shape_.Remember();
+        review_.KeepCounts();
         event->accept();
     });
 }

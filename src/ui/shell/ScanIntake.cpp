@@ -158,8 +158,8 @@ void ScanIntake::Choose() {
 
 void ScanIntake::BringInFurtherPages(recognition::ProcessRun& run) {
     const auto sources = commands::FurtherPagesOf(run.Summary(), context_.files, context_.state.folders);
-    run.ForgetFurtherPages();
     BringIn(sources);
+    run.ForgetFurtherPages();
 }
 
 void ScanIntake::BringIn(const std::vector<intake::Source>& sources, const std::string& told) {
