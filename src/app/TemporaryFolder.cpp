@@ -11,7 +11,7 @@ namespace {
 
 std::filesystem::path WhereTemporaryFilesLie() {
     std::error_code error;
-    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    std::filesystem::path folder = std::filesystem::temp_directory_path(error);
     if (error)
         throw FileError("There is no folder for temporary files: " + error.message());
     return folder;

@@ -121,7 +121,7 @@ std::vector<std::string> Claims::Take(std::size_t count) {
         // Many who begin at one end would all try for the same files.
         if (!waiting_.empty()) {
             const auto first = static_cast<std::ptrdiff_t>(std::random_device()() % waiting_.size());
-            std::ranges::rotate(waiting_, waiting_.begin() + first);
+            std::rotate(waiting_.begin(), waiting_.begin() + first, waiting_.end());
         }
     }
     if (!waiting_.empty())
@@ -165,8 +165,11 @@ void Claims::GiveBackFile(const std::string& path) {
     const std::string stem = folder_ + app::BaseName(path);
     const std::string ending = app::FileName(path).substr(app::BaseName(path).size());
     std::string place = stem + ending;
-    for (int k = 2; k < kMost && !MoveUnlessThere(app::ToPath(path), app::ToPath(place)); ++k)
-        place = stem + "-" + std::to_string(k) + ending;
+    for (int k = 2; k < kMost && !MoveUnlessThere(app::ToPath(path), app::ToPath(place)); ++k) {
+        place = stem;
+        place += "-" + std::to_string(k);
+        place += ending;
+    }
 }
 
 void Claims::GiveBack(const std::string& claim) {

@@ -17,7 +17,7 @@ std::string Trimmed(const std::string& text) {
     return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::string Padded(std::string digits, std::size_t width) {
+std::string Padded(const std::string& digits, std::size_t width) {
     return std::string(width > digits.size() ? width - digits.size() : 0, '0') + digits;
 }
 
@@ -174,7 +174,9 @@ std::string NextName(std::span<const OmrBox> boxes, const std::string& name) {
     // More digits than a number has are no count.
     long long count = digits.empty() || digits.size() > 15 ? 1 : std::stoll(digits);
     for (;;) {
-        const std::string next = head + Padded(std::to_string(++count), digits.size()) + tail;
+        std::string next = head;
+        next += Padded(std::to_string(++count), digits.size());
+        next += tail;
         if (std::none_of(boxes.begin(), boxes.end(),
                          [&](const OmrBox& box) { return box.Checked && box.Name == next; }))
             return next;

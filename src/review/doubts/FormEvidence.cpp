@@ -35,7 +35,7 @@ bool Overlap(const GridRect& a, const GridRect& b) {
 // On a page that lies upside down left is right, and above is below.
 SideInk Printed(SideInk beside, bool turned) {
     if (turned)
-        std::ranges::rotate(beside, beside.begin() + 2);
+        std::rotate(beside.begin(), beside.begin() + 2, beside.end());
     return beside;
 }
 
