@@ -52,6 +52,7 @@ std::vector<SideInk> BeyondPrint(const MeasuredForm& form, std::span<const GridR
     }
     for (std::size_t side = 0; side < kSides; ++side) {
         std::vector<double> all;
+        all.reserve(beyond.size());
         for (const SideInk& ink : beyond)
             all.push_back(ink[side]);
         const auto middle = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 2);

@@ -1,7 +1,6 @@
 #include "ui/shell/ScanIntake.h"
 
 #include <QBuffer>
-#include <QClipboard>
 #include <QDateTime>
 #include <QDropEvent>
 #include <QFile>

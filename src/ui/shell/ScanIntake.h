@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QClipboard>
 #include <QObject>
 #include <QWidget>
 #include <string>
@@ -11,8 +12,6 @@
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/PagesIn.h"
-
-class QClipboard;
 
 namespace tavrene::ui {
 
