@@ -26,6 +26,15 @@ inline QVBoxLayout* ControlsBelow(QWidget* pane, QWidget* list, QWidget* above =
     return below;
 }
 
+/// A pane in which a strip takes room of its own, so that it hides nothing of the view below it.
+inline QWidget* StripAbove(QWidget& strip, QWidget& view) {
+    auto* const pane = new QWidget;
+    QVBoxLayout* const column = FillingColumn(pane);
+    column->addWidget(&strip);
+    column->addWidget(&view, 1);
+    return pane;
+}
+
 /// The cross that closes a part of the window.
 inline QToolButton* CloseButton(QWidget* parent, const char* name, const QString& toolTip) {
     auto* const close = new QToolButton(parent);

@@ -24,15 +24,6 @@ namespace {
 
 using commands::Command;
 
-// The strip takes room of its own, so that it hides no box.
-QWidget* WithStripAbove(QWidget& strip, QWidget& view) {
-    auto* const pane = new QWidget;
-    QVBoxLayout* const layout = FillingColumn(pane);
-    layout->addWidget(&strip);
-    layout->addWidget(&view, 1);
-    return pane;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(const app::Settings& settings, const WindowContext& context)
@@ -106,7 +97,7 @@ void MainWindow::BuildLayout() {
     view_->setMinimumWidth(300);
     view_->SetNames([boxes = boxes_](int number) { return boxes->NameOf(number); });
     splitter_->addWidget(side_);
-    splitter_->addWidget(WithStripAbove(*strip_, *view_));
+    splitter_->addWidget(StripAbove(*strip_, *view_));
     splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({264, 726, 290});
