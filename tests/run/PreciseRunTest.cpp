@@ -8,7 +8,7 @@ namespace {
 
 using test::TestForm;
 
-// Runs over a form that lies farther off its place than the described rules look.
+// Runs over a form that lies farther off its place than the plain reading looks.
 class PreciseRunTest : public test::RunWorld {
   protected:
     void RunWith(const ReadingOptions& options) {
