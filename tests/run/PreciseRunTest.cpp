@@ -106,6 +106,15 @@ TEST_F(PreciseRunTest, ASpecimenThatCannotHelpIsToldInEveryRun) {
         "The specimen image of profile Form is missing or cannot be read: Precise Alignment knows its forms "
         "by "
         "their boxes alone.";
+    AddSpecimenProfile("Form", form_);
+    files_.refuse = [](const std::string& operation, const std::string& path) {
+        return operation == "read" && path.find("Form.tif") != std::string::npos;
+    };
+    RunWith({.preciseAlignment = true});
+    EXPECT_EQ(TextOf(run_.Opinions()), unreadable);
+    files_.refuse = {};
+    RunWith({.preciseAlignment = true});
+    EXPECT_EQ(TextOf(run_.Opinions()), "") << "it was away for a moment";
     TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
     RunWith({.preciseAlignment = true});
     EXPECT_EQ(TextOf(run_.Opinions()),
