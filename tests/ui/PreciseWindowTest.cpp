@@ -11,7 +11,6 @@ namespace tavrene::ui {
 namespace {
 
 using test::Find;
-using test::ReadText;
 using test::TestForm;
 
 // The commands about precise alignment in the real window.
