@@ -58,20 +58,39 @@ bool IsAlike(double a, double b) {
 
 }  // namespace
 
-void Move(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int dy, PageExtent page) {
-    const std::vector<OmrBox*> picked = Picked(boxes, selected);
+PixelWay HeldOnPage(PixelWay wanted, std::span<const OmrBox> boxes, PageExtent page) {
     Leeway across;
     Leeway down;
-    for (const OmrBox* const box : picked) {
-        across.Narrow(box->L, box->R, page.width);
-        down.Narrow(box->T, box->B, page.height);
+    for (const OmrBox& box : boxes) {
+        across.Narrow(box.L, box.R, page.width);
+        down.Narrow(box.T, box.B, page.height);
     }
+    return {across.Held(wanted.dx), down.Held(wanted.dy)};
+}
+
+PageRect OntoPage(PageRect place, PageExtent page) {
+    const auto held = [](double start, double length, int extent) {
+        const double last = extent > 0 ? extent : std::numeric_limits<std::int16_t>::max();
+        return std::max(0.0, std::min(start, last - length));
+    };
+    place.left = held(place.left, place.width, page.width);
+    place.top = held(place.top, place.height, page.height);
+    return place;
+}
+
+void Move(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, int dy, PageExtent page) {
+    const std::vector<OmrBox*> picked = Picked(boxes, selected);
+    std::vector<OmrBox> before;
+    before.reserve(picked.size());
+    for (const OmrBox* const box : picked)
+        before.push_back(*box);
+    const PixelWay way = HeldOnPage({dx, dy}, before, page);
     const auto shift = [](std::int16_t& edge, int by) { edge = static_cast<std::int16_t>(edge + by); };
     for (OmrBox* const box : picked) {
-        shift(box->L, across.Held(dx));
-        shift(box->R, across.Held(dx));
-        shift(box->T, down.Held(dy));
-        shift(box->B, down.Held(dy));
+        shift(box->L, way.dx);
+        shift(box->R, way.dx);
+        shift(box->T, way.dy);
+        shift(box->B, way.dy);
     }
 }
 
@@ -82,19 +101,22 @@ void Stretch(std::vector<OmrBox>& boxes, const BoxSelection& selected, int dx, i
     }
 }
 
-void MakeEqualSize(std::vector<OmrBox>& boxes, const BoxSelection& selected) {
+void MakeEqualSize(std::vector<OmrBox>& boxes, const BoxSelection& selected, PageExtent page) {
     const PageRect size = PlaceOf(CurrentOf(boxes, selected));
     for (OmrBox* const box : Picked(boxes, selected)) {
         const PageRect place = PlaceOf(*box);
+        if (place.width == size.width && place.height == size.height)
+            continue;
         const auto start = [](double from, double length, double wanted) {
-            return std::max(0.0, std::floor(from + (length - wanted) / 2));
+            return std::floor(from + (length - wanted) / 2);
         };
-        PutAt(*box, {start(place.left, place.width, size.width), start(place.top, place.height, size.height),
-                     size.width, size.height});
+        PutAt(*box, OntoPage({start(place.left, place.width, size.width),
+                              start(place.top, place.height, size.height), size.width, size.height},
+                             page));
     }
 }
 
-void Align(std::vector<OmrBox>& boxes, const BoxSelection& selected, Side side) {
+void Align(std::vector<OmrBox>& boxes, const BoxSelection& selected, Side side, PageExtent page) {
     const PageRect to = PlaceOf(CurrentOf(boxes, selected));
     for (OmrBox* const box : Picked(boxes, selected)) {
         PageRect place = PlaceOf(*box);
@@ -112,7 +134,8 @@ void Align(std::vector<OmrBox>& boxes, const BoxSelection& selected, Side side) 
                 place.top = to.top + to.height - place.height;
                 break;
         }
-        PutAt(*box, place);
+        if (place != PlaceOf(*box))
+            PutAt(*box, OntoPage(place, page));
     }
 }
 

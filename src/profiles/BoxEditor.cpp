@@ -162,8 +162,7 @@ bool BoxEditor::AddDrawnBox(const RectReport& report) {
     }
     std::vector<OmrBox> after = profile_.BoxList;
     OmrBox box;
-    int number = report.group;
-    box.Name = FreeName(after, number);
+    box.Name = UnnamedBox(report.group);
     StoreCoordinates(report, box);
     Place(box);
     after.push_back(box);
@@ -252,7 +251,7 @@ void BoxEditor::ChangeByKey(KeyStep step, int dx, int dy, bool isHeld) {
     if (!MayStore() || !IsKept(profile_, selected.Current()))
         return;
     std::vector<OmrBox> after = profile_.BoxList;
-    step(after, selected, dx, dy, {profile_.ImageWidth, profile_.ImageHeight});
+    step(after, selected, dx, dy, ExtentOf(profile_));
     BoxEdit edit = EditTo(after, selected);
     edit.isNudge = true;
     if (edit.changes.empty())

@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "profiles/NameCleaning.h"
 #include "profiles/ProfileDocument.h"
 
 namespace tavrene::profiles {
@@ -77,7 +78,7 @@ std::string NameBy(const NamePattern& pattern, const BoxCell& cell, int n, const
         name += Filled(text.substr(open + 1, close - open - 1), cell, n, pattern, before);
         at = close + 1;
     }
-    return Trimmed(name);
+    return Trimmed(WithoutControls(name));
 }
 
 const std::string& NameOf(const std::vector<OmrBox>& boxes, int number) {
@@ -113,7 +114,7 @@ std::vector<NewName> NamesReplaced(const std::vector<OmrBox>& boxes, std::span<c
             continue;
         for (; at != std::string::npos; at = name.find(find, at + replace.size()))
             name.replace(at, find.size(), replace);
-        names.push_back({cell.number, name});
+        names.push_back({cell.number, WithoutControls(name)});
     }
     return names;
 }
@@ -123,7 +124,7 @@ std::vector<std::string> WordsOf(const std::string& text) {
     std::vector<std::string> words;
     for (std::size_t at = 0; at < text.size();) {
         const auto end = std::min(text.find(parting, at), text.size());
-        words.push_back(Trimmed(text.substr(at, end - at)));
+        words.push_back(Trimmed(CleanedName(text.substr(at, end - at))));
         at = end + 1;
     }
     return words;

@@ -39,7 +39,7 @@ std::vector<NewName> NamesReplaced(const std::vector<OmrBox>& boxes, std::span<c
                                    const std::string& find, const std::string& replace);
 
 /// The cells of a pasted column, or the words of a list: parted by line breaks, or by commas where there is
-/// no line break; blanks around them are dropped.
+/// no line break; blanks around them and what no name can hold are dropped.
 std::vector<std::string> WordsOf(const std::string& text);
 
 /// What is wrong with new names, before anything is changed.

@@ -2,13 +2,44 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
+#include <utility>
 
 #include "profiles/BoxCells.h"
 #include "profiles/BoxPlace.h"
 
 namespace tavrene::profiles {
 namespace {
+
+using Names = std::vector<std::string>;
+
+// What the boxes of each name are called now. Of two boxes with one name a group has both, so it keeps both
+// when one of them gets a name of its own.
+std::map<std::string, Names> FollowersOf(const std::vector<BoxChange>& changes,
+                                         const std::vector<OmrBox>& boxes) {
+    std::map<std::string, int> before;  // how many there were of a name that is still in use
+    std::map<std::string, Names> renamed;
+    for (const OmrBox& box : boxes)
+        if (box.Checked)
+            ++before[box.Name];
+    const std::map<std::string, int> after = before;
+    for (const BoxChange& change : changes) {
+        const bool wasKept = change.before && change.before->Checked;
+        const bool isKept = change.after && change.after->Checked;
+        if (isKept)
+            --before[change.after->Name];
+        if (wasKept)
+            ++before[change.before->Name];
+        if (wasKept && isKept && IsSamePlace(*change.before, *change.after) &&
+            change.before->Name != change.after->Name)
+            renamed[change.before->Name].push_back(change.after->Name);
+    }
+    std::map<std::string, Names> followers = renamed;
+    for (const auto& [name, count] : after)
+        if (const auto gone = renamed.find(name);
+            gone == renamed.end() || static_cast<int>(gone->second.size()) < before[name])
+            followers[name].insert(followers[name].begin(), name);
+    return followers;
+}
 
 void DropEmpty(std::vector<BoxGroup>& groups) {
     std::erase_if(groups, [](const BoxGroup& group) { return group.Boxes.empty(); });
@@ -18,20 +49,15 @@ void DropEmpty(std::vector<BoxGroup>& groups) {
 
 std::vector<BoxGroup> GroupsAfter(std::vector<BoxGroup> groups, const std::vector<BoxChange>& changes,
                                   const std::vector<OmrBox>& boxes) {
-    std::map<std::string, std::string> renamed;
-    for (const BoxChange& change : changes)
-        if (change.before && change.after && change.before->Checked && change.after->Checked &&
-            IsSamePlace(*change.before, *change.after) && change.before->Name != change.after->Name)
-            renamed[change.before->Name] = change.after->Name;
-    std::set<std::string> names;
-    for (const OmrBox& box : boxes)
-        if (box.Checked)
-            names.insert(box.Name);
+    const std::map<std::string, Names> followers = FollowersOf(changes, boxes);
     for (BoxGroup& group : groups) {
-        for (std::string& name : group.Boxes)
-            if (const auto now = renamed.find(name); now != renamed.end())
-                name = now->second;
-        std::erase_if(group.Boxes, [&](const std::string& name) { return !names.contains(name); });
+        Names after;
+        for (const std::string& name : group.Boxes)
+            if (const auto now = followers.find(name); now != followers.end())
+                for (const std::string& follower : now->second)
+                    if (std::ranges::find(after, follower) == after.end())
+                        after.push_back(follower);
+        group.Boxes = std::move(after);
     }
     DropEmpty(groups);
     return groups;

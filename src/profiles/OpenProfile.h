@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Files.h"
+#include "profiles/BoxArrangement.h"
 #include "profiles/BoxGroups.h"
 #include "profiles/BoxSelection.h"
 #include "profiles/ProfileRecord.h"
@@ -43,6 +44,11 @@ struct OpenProfile {
     int ImageWidth = 0;  ///< Pixels of the specimen; 0 when it cannot be read.
     int ImageHeight = 0;
 };
+
+/// Where its boxes are to stay.
+inline PageExtent ExtentOf(const OpenProfile& profile) {
+    return {profile.ImageWidth, profile.ImageHeight};
+}
 
 /// Whether box `number` has a place in the list and is not deleted.
 inline bool IsKept(const OpenProfile& profile, int number) {

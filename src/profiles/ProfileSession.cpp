@@ -17,6 +17,7 @@ using app::Panel;
 
 constexpr const char* kProfileFilter = "Tavrene Profiles (*.Tvp)|*.Tvp";
 constexpr const char* kSpecimen = "specimen";
+constexpr const char* kGroups = "groups";
 constexpr const char* kImageFilter = "Image Files (*.Tif;*.Jpg;*.Png)|*.Tif;*.Jpg;*.Png";
 
 }  // namespace
@@ -147,16 +148,20 @@ void ProfileSession::Describe(const ProfileContent& content) {
         profile_.SavedGroups = ReadBoxGroups(context_.files, profile_.Path);
         profile_.Groups = profile_.SavedGroups;
     } catch (const std::exception& error) {
-        lasting_.push_back(
-            {"The groups of this profile cannot be read, so names tell them: " + app::ReasonOf(error) + "."});
+        lasting_.push_back({.text = "The groups of this profile cannot be read, so names tell them: " +
+                                    app::ReasonOf(error) + ". Setting groups and saving writes them anew.",
+                            .topic = kGroups});
     }
 }
 
 void ProfileSession::ShowSpecimen(bool isNewProfile) {
-    const SpecimenShown shown = specimen_.Show(profile_.Image, isNewProfile);
+    TakeShown(specimen_.Show(profile_.Image, isNewProfile));
+}
+
+void ProfileSession::TakeShown(const SpecimenShown& shown) {
     profile_.ImageWidth = shown.width;
     profile_.ImageHeight = shown.height;
-    std::erase_if(lasting_, [](const app::Notice& notice) { return notice.topic == kSpecimen; });
+    DropLasting(kSpecimen);
     if (!shown.missing.empty())
         lasting_.push_back({shown.missing, "Locate...", [this] { Locate(); }, kSpecimen});
     Note(shown.copyFailure);
@@ -166,7 +171,16 @@ void ProfileSession::ShowSpecimen(bool isNewProfile) {
 void ProfileSession::Locate() {
     const std::optional<std::string> image = context_.dialogs.AskOpenFile(
         {"Image of the Blank Form", context_.folders.ProfileImages, "", kImageFilter});
-    if (!image || !MayOverwrite(context_.files.Fingerprint(profile_.Path)))
+    if (!image)
+        return;
+    const std::string onDisk = context_.files.Fingerprint(profile_.Path);
+    if (onDisk.empty()) {
+        context_.person.ShowMessage("", "The file " + profile_.Path +
+                                            " is not there any more. Save the profile, which writes it "
+                                            "anew, and then locate its image.");
+        return;
+    }
+    if (!MayOverwrite(onDisk))
         return;
     const auto read = imaging::ReadSpecimen(context_.files, *image);
     if (const auto* const error = std::get_if<imaging::PageError>(&read)) {
@@ -174,7 +188,7 @@ void ProfileSession::Locate() {
         return;
     }
     profiles_.ChangeImage(profile_, *image);
-    ShowSpecimen(false);
+    TakeShown(specimen_.Show(std::get<imaging::Page>(read), false));
     specimen_.Fit(profile_.ImageWidth);
     RebuildStrip();
     ShowPanels();
@@ -204,13 +218,21 @@ bool ProfileSession::Write() {
 }
 
 void ProfileSession::SaveGroups() {
-    if (profile_.Groups == profile_.SavedGroups)
-        return;
-    if (profile_.Groups)
+    const bool isChanged = profile_.Groups != profile_.SavedGroups;
+    if (profile_.Groups) {
+        // Somebody may have deleted the file together with the document.
+        if (!isChanged && context_.files.FileExists(BoxGroupsPath(profile_.Path)))
+            return;
         WriteBoxGroups(context_.files, profile_.Path, *profile_.Groups);
-    else
+        DropLasting(kGroups);
+    } else if (isChanged) {
         DeleteBoxGroups(context_.files, profile_.Path);
+    }
     profile_.SavedGroups = profile_.Groups;
+}
+
+void ProfileSession::DropLasting(const std::string& topic) {
+    std::erase_if(lasting_, [&topic](const app::Notice& notice) { return notice.topic == topic; });
 }
 
 bool ProfileSession::MayOverwrite(const std::string& onDisk) {
@@ -250,7 +272,6 @@ void ProfileSession::RebuildStrip() {
 }
 
 void ProfileSession::Close() {
-    context_.person.ShowStandingNotices(notes_);
     lasting_.clear();
     editor_.Clear();
     screen_.page.Clear();

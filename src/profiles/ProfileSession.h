@@ -98,6 +98,8 @@ class ProfileSession {
     void Take(const std::string& path, pugi::xml_document document);
     void Describe(const ProfileContent& content);
     void ShowSpecimen(bool isNewProfile);
+    void TakeShown(const SpecimenShown& shown);
+    void DropLasting(const std::string& topic);
     bool Write();
     void SaveGroups();
     bool MayOverwrite(const std::string& onDisk);

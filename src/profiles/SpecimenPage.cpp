@@ -29,13 +29,13 @@ std::string SpecimenPage::KeepOriginal(const std::string& image) {
 }
 
 SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
-    SpecimenShown shown;
     const auto read = imaging::ReadSpecimen(files_, image);
-    page_.SetZoom(100);
     const PageError* const error = std::get_if<PageError>(&read);
-    if (error == nullptr) {
-        ShowPage(std::get<imaging::Page>(read), isNewProfile, shown);
-    } else if (*error == PageError::TooManyColors) {
+    if (error == nullptr)
+        return Show(std::get<imaging::Page>(read), isNewProfile);
+    SpecimenShown shown;
+    page_.SetZoom(100);
+    if (*error == PageError::TooManyColors) {
         KeepSize(imaging::DecodeImage(files_.Read(image), imaging::SpecimenFormat(image),
                                       imaging::Decode::HeaderOnly),
                  shown);
@@ -51,11 +51,14 @@ SpecimenShown SpecimenPage::Show(const std::string& image, bool isNewProfile) {
     return shown;
 }
 
-void SpecimenPage::ShowPage(const imaging::Page& page, bool isNewProfile, SpecimenShown& shown) {
+SpecimenShown SpecimenPage::Show(const imaging::Page& page, bool isNewProfile) {
+    SpecimenShown shown;
+    page_.SetZoom(100);
     KeepSize(page.bitmap, shown);
     page_.ShowPicture(page.bitmap);
     if (page.format != ImageFormat::Tiff || (isNewProfile && page.inverted))
         shown.copyFailure = scratch_.WriteConverted(page);
+    return shown;
 }
 
 // The zoom is kept here: a view may have a smallest zoom, at which a very wide image would never fit.

@@ -31,12 +31,13 @@ class SpecimenPage {
     /// be inverted.
     SpecimenShown Show(const std::string& image, bool isNewProfile);
 
+    /// The same with an image that has been read.
+    SpecimenShown Show(const imaging::Page& page, bool isNewProfile);
+
     /// Makes the zoom smaller by steps until a page of that width fits.
     void Fit(int width);
 
   private:
-    void ShowPage(const imaging::Page& page, bool isNewProfile, SpecimenShown& shown);
-
     app::Files& files_;
     imaging::PageScreen& page_;
     imaging::ScratchImages scratch_;

@@ -85,6 +85,8 @@ TEST(BoxNamingTest, ListsAndReplacementsNameOnlyWhatTheyReach) {
     EXPECT_EQ(boxes[static_cast<std::size_t>(listed[1].number) - 1].Name, "3/1")
         << "the empty line is passed over";
     EXPECT_EQ(WordsOf("often, rarely,never"), (Names{"often", "rarely", "never"}));
+    EXPECT_EQ(WordsOf("1\toften\t\r\n\"a & b\"\xC2\x85\n"), (Names{"1 often", "a  b"}))
+        << "cells of a table, and what no document can hold";
     EXPECT_EQ(Texts(NamesReplaced(boxes, down, "1", "11")).front(), "11/11");
     EXPECT_TRUE(NamesReplaced(boxes, down, "", "x").empty());
 }

@@ -262,6 +262,51 @@ TEST_F(ProfileSessionTest, MindsWhatOthersDoToTheFile) {
     EXPECT_FALSE(Profile().IsOpen);
 }
 
+TEST_F(ProfileSessionTest, GroupsComeBackWithADocumentThatOthersDeletedAndDamageIsTold) {
+    AddProfiles({"A"});
+    const std::string groups = BoxGroupsPath(PathOf("A"));
+    WriteText(groups, "<BoxGr");
+    OpenAndEdit(1);
+    EXPECT_PRED2(Has, session_.Notices().at(0).text, "The groups of this profile cannot be read");
+    EXPECT_TRUE(session_.Save());
+    EXPECT_EQ(ReadText(groups), "<BoxGr") << "nobody has set others";
+    session_.Editor().SetGroups({{{"Q", {"Q2", "Q3"}, Takes::One}}});
+    EXPECT_TRUE(session_.Save());
+    EXPECT_TRUE(session_.Notices().empty());
+    const std::string written = ReadText(groups);
+    files_.Delete(groups);
+    files_.Delete(PathOf("A"));
+    EXPECT_TRUE(session_.Save());
+    EXPECT_EQ(ReadText(groups), written);
+}
+
+TEST_F(ProfileSessionTest, LocatingASpecimenBringsNoDeletedDocumentBack) {
+    AddProfiles({"A"});
+    const std::string moved = folders_.ProfileImages + "moved.tif";
+    files_.Move(folders_.ProfileImages + "A.tif", moved);
+    OpenAndEdit(1);
+    const app::Notice lost = session_.Notices().at(0);
+    const std::string document = ReadText(PathOf("A"));
+    files_.Delete(PathOf("A"));
+    dialogs_.answers = {moved};
+    lost.act();
+    EXPECT_PRED2(Has, transcript_.Joined(), "Save the profile, which");
+    EXPECT_FALSE(files_.FileExists(PathOf("A")));
+    WriteText(PathOf("A"), document);
+    session_.Open(PathOf("A"));
+    int reads = 0;
+    files_.refuse = [&](const std::string& name, const std::string& target) {
+        reads += name == "read" && target == moved ? 1 : 0;
+        return false;
+    };
+    dialogs_.answers = {moved};
+    session_.Notices().at(0).act();
+    files_.refuse = nullptr;
+    EXPECT_EQ(reads, 2) << "for the page and for the strip";
+    EXPECT_TRUE(session_.Notices().empty());
+    EXPECT_PRED2(Has, ReadText(PathOf("A")), moved);
+}
+
 // Each write of a save in turn is cut off, once refused and once as if the program had died in it, with half
 // of the neighbour written.
 TEST_F(ProfileSessionTest, ASaveThatIsCutOffLeavesAWholeDocument) {

@@ -2,6 +2,9 @@
 
 #include "EditorWorld.h"
 #include "profiles/BoxArrangement.h"
+#include "profiles/BoxGrid.h"
+#include "profiles/BoxNaming.h"
+#include "profiles/BoxPlace.h"
 #include "profiles/GroupEdits.h"
 
 namespace tavrene::profiles {
@@ -19,8 +22,12 @@ class SeveralBoxesTest : public test::EditorWorld {
             lefts.push_back(box.L);
         return lefts;
     }
-    void Arrange(const std::function<void(std::vector<OmrBox>&, const BoxSelection&)>& arrange) {
-        editor_.Change([&](std::vector<OmrBox>& boxes) { arrange(boxes, profile_.Selected); });
+    void Arrange(const std::function<void(std::vector<OmrBox>&, const BoxSelection&, PageExtent)>& arrange) {
+        editor_.Change(
+            [&](std::vector<OmrBox>& boxes) { arrange(boxes, profile_.Selected, ExtentOf(profile_)); });
+    }
+    static void AlignRight(std::vector<OmrBox>& boxes, const BoxSelection& selected, PageExtent page) {
+        Align(boxes, selected, Side::Right, page);
     }
 };
 
@@ -69,13 +76,21 @@ TEST_F(SeveralBoxesTest, AreArrangedAndMovedTogetherOnThePage) {
         << "the right one stops at the edge of the page";
     editor_.Nudge(-60, 0);
     Box(2).L = 101;
-    Arrange([](auto& boxes, const auto& selected) { Distribute(boxes, selected, Direction::Across); });
+    Arrange([](auto& boxes, const auto& selected, auto) { Distribute(boxes, selected, Direction::Across); });
     EXPECT_EQ(Lefts(), (Numbers{38, 97, 146, 60, 114, 168})) << "the middle of the narrower one";
     Arrange(MakeEqualSize);
     EXPECT_EQ(Place(1), (std::vector<int>{42, 70, 57, 94}))
         << "as narrow as the current one, its middle kept";
-    Arrange([](auto& boxes, const auto& selected) { Align(boxes, selected, Side::Right); });
+    Arrange(AlignRight);
     EXPECT_EQ(Lefts(), (Numbers{97, 97, 97, 60, 114, 168}));
+    Box(1) = {"wide", 0, 70, 120, 94};
+    Arrange([](auto& boxes, const auto& selected, auto page) { Align(boxes, selected, Side::Left, page); });
+    Arrange(AlignRight);
+    EXPECT_EQ(Lefts(), (Numbers{0, 97, 97, 60, 114, 168})) << "not off the left of the page";
+    editor_.Select(BoxSelection({1, 6}, 1));
+    Arrange(MakeEqualSize);
+    EXPECT_EQ(Place(6), (std::vector<int>{110, 124, 230, 148})) << "nor off its right";
+    editor_.Select(BoxSelection({1, 2, 3}, 2));
     editor_.DeleteBox();
     EXPECT_EQ(profile_.Selected.Numbers(), Numbers{4});
     EXPECT_EQ(profile_.Count, 3);
@@ -127,6 +142,9 @@ TEST_F(SeveralBoxesTest, GroupsFollowTheirBoxesThroughEveryEdit) {
              editor_.DeleteBox();
          },
          "Q1: Q5 Q2; Q4: Q1 Q6; "},
+        {[this] { editor_.Change([](std::vector<OmrBox>& boxes) { boxes[1].Name = "Q1"; }); },
+         "Q1: Q5 Q1; Q4: Q1 Q6; "},
+        {[this] { Rename(5, "one of two"); }, "Q1: Q5 Q1 one of two; Q4: Q1 one of two Q6; "},
         {[this] { editor_.SetGroups(std::nullopt); }, ""},
     };
     for (const auto& [act, wanted] : steps) {
@@ -153,29 +171,67 @@ TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
                                         int(drawn.top + drawn.height)}),
                       Place(number));
             EXPECT_EQ(screen_.rows.at(number), Box(number).Name);
+            EXPECT_GE(Box(number).L, 0);
+            EXPECT_LE(Box(number).R, profile_.ImageWidth);
         }
         EXPECT_EQ(screen_.rects.size(), screen_.rows.size());
-        return std::tuple(profile_.BoxList, profile_.Count, profile_.NextBoxId);
+        return std::tuple(profile_.BoxList, profile_.Count, profile_.NextBoxId, profile_.Groups);
     };
+    profile_.ImageWidth = 560;
+    profile_.ImageHeight = 460;
     std::mt19937 random(15);  // NOLINT(cert-msc51-cpp): the same sequence in every run
     const auto any = [&](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
     editor_.SetTool(BoxTool::Add);
+    const auto change = [this](auto&& how) { editor_.Change(how); };
     const std::vector<std::function<void()>> actions = {
         [&] { editor_.Nudge(any(-9, 9), any(-9, 9), any(0, 1) == 1); },
+        [&] { editor_.Stretch(any(-9, 9), any(-9, 9)); },
         [&] { Draw(any(0, 500), any(0, 400), any(5, 40), any(5, 40)); },
         [&] {
-            editor_.AddBoxes({{"a", 10, 10, 30, 30}, {"b", 300, 90, 320, 110}});
+            std::vector<OmrBox> grid(6);
+            const auto places = PlacesOfGrid({40, 60, 20, 20}, {400.0 + any(0, 90), 300, 20, 20}, {2, 3});
+            for (std::size_t k = 0; k < grid.size(); ++k)
+                PutAt(grid[k], places[k]);
+            editor_.AddBoxes(grid);
         },
         [&] { editor_.DeleteBox(); },
         [&] { Arrange(MakeEqualSize); },
-        [&] { Arrange([&](auto& boxes, auto& on) { Align(boxes, on, static_cast<Side>(any(0, 3))); }); },
         [&] {
-            Arrange([&](auto& boxes, auto& on) { Distribute(boxes, on, static_cast<Direction>(any(0, 1))); });
+            Arrange([&](auto& boxes, auto& on, auto page) {
+                Align(boxes, on, static_cast<Side>(any(0, 3)), page);
+            });
+        },
+        [&] {
+            Arrange([&](auto& boxes, auto& on, auto) {
+                Distribute(boxes, on, static_cast<Direction>(any(0, 1)));
+            });
         },
         [&] { Rename(profile_.Selected.Current(), "name " + std::to_string(any(1, 99))); },
+        [&] {
+            change([&](std::vector<OmrBox>& boxes) {
+                const auto cells = CellsOf(boxes, profile_.Selected.Numbers(), CellOrder::Across);
+                for (const NewName& name : NamesByPattern(boxes, cells, {"Q{row} {column:A}"}))
+                    boxes[static_cast<std::size_t>(name.number) - 1].Name = name.name;
+            });
+        },
+        [&] { change([](std::vector<OmrBox>& boxes) { SortByPlace(boxes); }); },
+        [&] {
+            change([&](std::vector<OmrBox>& boxes) {
+                MoveInList(boxes, profile_.Selected.Numbers(), any(0, 1) == 1 ? 1 : -1);
+            });
+        },
+        [&] {
+            change([&](std::vector<OmrBox>& boxes) {
+                const std::vector<OmrBox> copied = {
+                    boxes[static_cast<std::size_t>(profile_.Selected.Current()) - 1]};
+                const Numbers copies = AppendCopies(boxes, copied);
+                Move(boxes, BoxSelection(copies, copies.front()), any(9, 50), any(9, 50), ExtentOf(profile_));
+            });
+        },
+        [&] { editor_.SetGroups(GroupsByRow(profile_.BoxList, profile_.Selected.Numbers())); },
     };
     const auto began = state();
-    for (int k = 0; k < 60; ++k) {
+    for (int k = 0; k < 140; ++k) {
         const Numbers kept = KeptNumbers(profile_.BoxList);
         if (kept.empty())
             break;
@@ -188,10 +244,10 @@ TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
     }
     const auto ended = state();
     for (int k = 0; k < 100; ++k) {
-        for (int steps = any(1, 70); steps > 0; --steps)
+        for (int steps = any(1, 160); steps > 0; --steps)
             editor_.Undo();
         state();
-        for (int steps = any(1, 70); steps > 0; --steps)
+        for (int steps = any(1, 160); steps > 0; --steps)
             editor_.Redo();
     }
     while (editor_.CanRedo())

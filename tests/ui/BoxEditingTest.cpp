@@ -3,7 +3,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "ui/DeskWindow.h"
+#include "ui/FormWindow.h"
 
 namespace tavrene::ui {
 namespace {
@@ -14,19 +14,10 @@ using test::Find;
 using test::TestForm;
 using Names = std::vector<std::string>;
 
-QRectF PlaceOf(const OmrBox& box) {
-    return {QPointF(box.L, box.T), QPointF(box.R, box.B)};
-}
-
-class BoxEditingTest : public test::DeskWindow {
+class BoxEditingTest : public test::FormWindow {
   protected:
     BoxEditingTest() { AddSpecimenProfile("Form", form_); }
 
-    void OpenForm() {
-        Open();
-        ClickThumbnail(1);
-        ASSERT_EQ(Rows().topLevelItemCount(), static_cast<int>(form_.boxes.size()));
-    }
     OmrBox SavedBox(int number) {
         Click("Save");
         return Saved("Form")[static_cast<std::size_t>(number) - 1];
@@ -54,7 +45,6 @@ class BoxEditingTest : public test::DeskWindow {
         QApplication::processEvents();
     }
 
-    TestForm form_ = TestForm::Grid(3, 2);
     const QRectF first_ = PlaceOf(form_.boxes[0]);
     const std::string document_ = folders_.Profiles + "Form.Tvp";
 };

@@ -131,6 +131,10 @@ class DeskWindow : public RunWorld {
         Mouse(QEvent::MouseButtonRelease, point, Qt::LeftButton, keys);
     }
 
+    static QRectF PlaceOf(const profiles::OmrBox& box) {
+        return {QPointF(box.L, box.T), QPointF(box.R, box.B)};
+    }
+
     /// The boxes of a profile as its document has them.
     std::vector<profiles::OmrBox> Saved(const std::string& name) const {
         return profiles::ReadProfileContent(

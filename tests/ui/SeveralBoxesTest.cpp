@@ -1,8 +1,11 @@
+#include <QAccessible>
+#include <QClipboard>
+#include <QMenu>
 #include <filesystem>
 
 #include "profiles/OmrsOfBoxes.h"
 #include "support/SourceFolder.h"
-#include "ui/DeskWindow.h"
+#include "ui/FormWindow.h"
 
 namespace tavrene::ui {
 namespace {
@@ -13,23 +16,16 @@ using test::Find;
 using test::TestForm;
 using Names = std::vector<std::string>;
 
-QRectF PlaceOf(const OmrBox& box) {
-    return {QPointF(box.L, box.T), QPointF(box.R, box.B)};
-}
-
-class SeveralBoxesWindowTest : public test::DeskWindow {
+class SeveralBoxesWindowTest : public test::FormWindow {
   protected:
     void OpenForm() {
         AddSpecimenProfile("Form", form_);
-        Open();
-        ClickThumbnail(1);
-        ASSERT_EQ(Rows().topLevelItemCount(), static_cast<int>(form_.boxes.size()));
+        FormWindow::OpenForm();
         View().SetZoom(100);
     }
     QPointF Middle(int number) const {
         return PlaceOf(form_.boxes[static_cast<std::size_t>(number) - 1]).center();
     }
-    void Trigger(const char* command) { Find<QAction>(*window_, command).trigger(); }
     int SelectedRows() { return static_cast<int>(Rows().selectedItems().size()); }
     void HoldKey(Qt::Key key, int repeats) {
         Press(View(), key);
@@ -45,8 +41,6 @@ class SeveralBoxesWindowTest : public test::DeskWindow {
             corners.emplace_back(box.L, box.T);
         return corners;
     }
-
-    TestForm form_ = TestForm::Grid(3, 2);
 };
 
 TEST_F(SeveralBoxesWindowTest, MouseAndKeysSelectMoveAndDeleteThemTogether) {
@@ -94,6 +88,11 @@ TEST_F(SeveralBoxesWindowTest, NamesAreShownOnThePageBeforeTheyAreTaken) {
         EXPECT_FALSE(take.isEnabled());
         EXPECT_PRED2(test::Has, FromQt(Find<QLabel>(dialog, "lblOutcome").text()), "\"1 & 1\" holds");
         EXPECT_EQ(FromQt(View().Boxes().LabelOf(6)), "2 & 3");
+        Find<QTabWidget>(dialog, "tabWays").setCurrentIndex(1);
+        Find<QPlainTextEdit>(dialog, "txtNames").setPlainText("1\toften\n\"rarely\"");
+        EXPECT_EQ(FromQt(View().Boxes().LabelOf(1) + '|' + View().Boxes().LabelOf(2)), "1 often|rarely");
+        EXPECT_PRED2(test::Has, FromQt(Find<QLabel>(dialog, "lblOutcome").text()), "are left out");
+        Find<QTabWidget>(dialog, "tabWays").setCurrentIndex(0);
         pattern.setText("Q{row} {column}");
         Find<QLineEdit>(dialog, "txtColumns").setText("often, rarely, never");
         EXPECT_TRUE(take.isEnabled());
@@ -148,15 +147,21 @@ TEST_F(SeveralBoxesWindowTest, AGridIsDrawnAndCopiesSnapToThePrint) {
     Press(*window_, Qt::Key_Z, Qt::ControlModifier);
     ClickRow(0);
     Press(*window_, Qt::Key_D, Qt::ControlModifier);
+    const QPointF off(3, 2);
+    Drag(PlaceOf(whole.boxes[12]).center(), PlaceOf(whole.boxes[13]).center() + off, Qt::ControlModifier);
+    Click("Save");
+    EXPECT_EQ(PlaceOf(Saved("Form").at(2)), PlaceOf(whole.boxes[13]).translated(off));
+    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
+    Trigger("SnapToPrint");
     Drag(PlaceOf(whole.boxes[12]).center(), PlaceOf(whole.boxes[13]).center() + QPointF(3, 2),
          Qt::ControlModifier);
     Press(*window_, Qt::Key_C, Qt::ControlModifier);
-    Press(*window_, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    Press(*window_, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Panel("Message"), "1 box added.");
     EXPECT_EQ(RowTexts(), (Names{"Q8", "Q9", "Q10", "Q11"}));
     Click("Save");
     EXPECT_EQ(PlaceOf(Saved("Form").at(2)), PlaceOf(whole.boxes[13]));
 
-    Trigger("SnapToPrint");
     const QPointF free = PlaceOf(whole.boxes[20]).topLeft() + QPointF(2, 2);
     Click("Add", "CfgToolbar");
     Drag(free, free + QPointF(22, 22));
@@ -197,6 +202,51 @@ TEST_F(SeveralBoxesWindowTest, GroupsAreFramedAndKeptBesideTheProfile) {
     dialogs.Press(QMessageBox::Yes);
     Click("Delete");
     EXPECT_FALSE(files_.FileExists(profiles::BoxGroupsPath(folders_.Profiles + "Form.Tvp")));
+}
+
+TEST_F(SeveralBoxesWindowTest, MenusAndSpaceLeaveThemSelectedAndReadersHearOfAll) {
+    OpenForm();
+    Press(*window_, Qt::Key_A, Qt::ControlModifier);
+    Press(Rows(), Qt::Key_Space);
+    EXPECT_EQ(SelectedRows(), 6);
+    const auto ask = [this](QAbstractScrollArea& area, const QPoint& place) {
+        QTest::mouseClick(area.viewport(), Qt::RightButton, {}, place);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, area.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(area.viewport(), &asked);
+        delete area.findChild<QMenu*>("ContextMenu");
+        return SelectedRows();
+    };
+    EXPECT_EQ(ask(Rows(), Rows().visualItemRect(Rows().topLevelItem(3)).center()), 6);
+    const auto onScreen = [this](const QPointF& point) {
+        return View().viewportTransform().map(point).toPoint();
+    };
+    EXPECT_EQ(ask(View(), onScreen(Middle(2))), 6);
+    for (int box = 0; box < 6; ++box)
+        EXPECT_TRUE(QAccessible::queryAccessibleInterface(&View())->child(box)->state().selected);
+    ClickPage(Middle(1));
+    ClickPage(Middle(2), Qt::ControlModifier);
+    EXPECT_EQ(ask(View(), onScreen(Middle(5))), 1) << "that of another box means this one";
+}
+
+// At its edges they would lie over those that they are copies of.
+TEST_F(SeveralBoxesWindowTest, CopiesStayOnThePageAndTheClipboardTellsWhatIsPasted) {
+    form_.height = 150;
+    OpenForm();
+    Press(*window_, Qt::Key_A, Qt::ControlModifier);
+    Press(*window_, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(RowTexts().size(), 6U);
+    EXPECT_EQ(Panel("Message"), "There is no room on the page for the copies there.");
+    ClickRow(0);
+    Press(*window_, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(Panel("Message"), "1 box copied; Ctrl+V adds it to a profile.");
+    Press(*window_, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(RowTexts().size(), 7U);
+    QGuiApplication::clipboard()->setText("something else");
+    Press(*window_, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(RowTexts().size(), 7U);
+    EXPECT_PRED2(test::Has, Panel("Message"), "holds no files");
+    Press(*window_, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(RowTexts().size(), 8U);
 }
 
 // Keystrokes and clicks from New to a profile whose boxes are all there and named.

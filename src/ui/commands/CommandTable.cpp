@@ -175,7 +175,7 @@ constexpr std::array kCommands = {
                 "Make an image in ProcessIn of each page of PDFs and TIFFs; scans of one page are copied",
                 M::File, "&Bring In Scans...", "Ctrl+I", "", false, true, kIdle},
     CommandInfo{C::PasteScans, T::None, "PasteScans",
-                "The same with the files and folders of the clipboard; dropping them on the window does it, too",
+                "The same with the files and folders of the clipboard, or dropped on the window; boxes that were copied last are added to the profile",
                 M::File, "&Paste Scans", "Ctrl+V", "", false, false, kIdle},
     CommandInfo{C::Settings, T::None, "Settings", "Folder, box sizes and processing options",
                 M::File, "Se&ttings...", "Ctrl+,", "", false, true, kIdle},

@@ -264,6 +264,12 @@ bool BoxListView::IsFurther(const QMouseEvent& event) const {
 }
 
 void BoxListView::mousePressEvent(QMouseEvent* event) {
+    // The menu of a row among several that are selected means all of them.
+    const QModelIndex row = indexAt(event->position().toPoint());
+    if (event->button() == Qt::RightButton && selectionModel()->isSelected(row)) {
+        setFocus(Qt::MouseFocusReason);
+        return;
+    }
     isFurther_ = IsFurther(*event);
     if (!isFurther_) {
         QTreeWidget::mousePressEvent(event);
@@ -297,9 +303,12 @@ void BoxListView::keyPressEvent(QKeyEvent* event) {
 }
 
 QItemSelectionModel::SelectionFlags BoxListView::selectionCommand(const QModelIndex& index,
-                                                                  const QEvent*) const {
+                                                                  const QEvent* event) const {
+    // Space would select the current row, which is among the selected ones already.
+    const bool isSpace = event != nullptr && event->type() == QEvent::KeyPress &&
+                         dynamic_cast<const QKeyEvent&>(*event).key() == Qt::Key_Space;
     // Which rows a span takes is told while the key is still at work.
-    return index.isValid() && !isSpanning_
+    return index.isValid() && !isSpanning_ && !isSpace
                ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
                : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }

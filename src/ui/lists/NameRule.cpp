@@ -1,38 +1,21 @@
 #include "ui/lists/NameRule.h"
 
 #include <QToolTip>
-#include <algorithm>
+
+#include "profiles/NameCleaning.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
 
-const QString kForbidden = "\"<&";
-
-bool IsControl(QChar c) {
-    return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-           c == QChar::ParagraphSeparator;
-}
-
-// A name that was copied from a table ends in a line break, which leaves nothing.
 QString Cleaned(const QString& text) {
-    QString cleaned;
-    bool isParted = false;
-    for (const QChar c : text) {
-        if (IsControl(c)) {
-            isParted = !cleaned.isEmpty();
-        } else if (!kForbidden.contains(c)) {
-            cleaned += isParted ? QString(' ') + c : QString(c);
-            isParted = false;
-        }
-    }
-    return cleaned;
+    return ToQt(profiles::CleanedName(FromQt(text)));
 }
 
 }  // namespace
 
 QValidator::State NameRule::validate(QString& text, int& cursor) const {
-    const auto isForbidden = [](QChar c) { return kForbidden.contains(c); };
-    if (std::any_of(text.begin(), text.end(), isForbidden))
+    if (FromQt(text).find_first_of(profiles::kForbiddenInNames) != std::string::npos)
         QToolTip::showText(field_.mapToGlobal(QPoint(0, field_.height())),
                            "The name of a box cannot hold a double quote, < or &.", &field_);
     cursor = static_cast<int>(Cleaned(text.left(cursor)).size());

@@ -34,6 +34,19 @@ void PaintNoPage(QPainter& painter, const QRect& area, const QPalette& palette, 
                      hint);
 }
 
+// What was held during an event of the mouse may be let go while another window has the keyboard, of which
+// nothing is heard.
+class HeldMeanwhile {
+  public:
+    HeldMeanwhile(Qt::KeyboardModifiers& keys, Qt::KeyboardModifiers held) : keys_(keys) { keys_ = held; }
+    ~HeldMeanwhile() { keys_ = {}; }
+    HeldMeanwhile(const HeldMeanwhile&) = delete;
+    HeldMeanwhile& operator=(const HeldMeanwhile&) = delete;
+
+  private:
+    Qt::KeyboardModifiers& keys_;
+};
+
 // Before the first place of either bar, which is not 0 where the page is smaller than the view.
 constexpr QPoint kTopLeft(std::numeric_limits<int>::min(), std::numeric_limits<int>::min());
 
@@ -257,7 +270,7 @@ QPointF ImageView::PagePoint(const QMouseEvent& event) const {
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
-    heldKeys_ = event->modifiers();
+    const HeldMeanwhile held(heldKeys_, event->modifiers());
     if (event->button() == Qt::MiddleButton) {
         panFrom_ = event->position().toPoint();
         viewport()->setCursor(Qt::ClosedHandCursor);
@@ -268,7 +281,7 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
 }
 
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
-    heldKeys_ = event->modifiers();
+    const HeldMeanwhile held(heldKeys_, event->modifiers());
     if (panFrom_)
         Pan(event->position().toPoint());
     else if (tool_ != nullptr && event->buttons().testFlag(Qt::LeftButton))
@@ -278,7 +291,7 @@ void ImageView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ImageView::mouseReleaseEvent(QMouseEvent* event) {
-    heldKeys_ = event->modifiers();
+    const HeldMeanwhile held(heldKeys_, event->modifiers());
     if (event->button() == Qt::MiddleButton)
         panFrom_.reset();
     else if (event->button() == Qt::LeftButton && std::exchange(isToolDown_, false) && tool_ != nullptr)

@@ -89,7 +89,7 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// goes on.
     void SetTabHandler(std::function<bool(bool isForward)> handler) { takeTab_ = std::move(handler); }
 
-    /// The keys that were held when a button of the mouse went down, up or moved last.
+    /// The keys that are held while the mouse is at work on the page; none at any other time.
     Qt::KeyboardModifiers HeldKeys() const { return heldKeys_; }
 
     /// The middle of what is in sight, in the page frame.

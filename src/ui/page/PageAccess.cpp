@@ -53,9 +53,10 @@ class BoxAccess final : public QAccessibleInterface {
         state.disabled = Style() == RectStyle::Skipped;
         state.movable = Style() == RectStyle::Editable;
         state.selectable = true;
-        state.selected = page_->Boxes().SelectedBox() == group_;
+        state.selected = page_->Boxes().IsMarked(group_);
+        state.extSelectable = state.movable;
         state.focusable = true;
-        state.focused = state.selected && page_->hasFocus();
+        state.focused = page_->Boxes().SelectedBox() == group_ && page_->hasFocus();
         const QRect sight(page_->viewport()->mapToGlobal(QPoint()), page_->viewport()->size());
         state.offscreen = !sight.intersects(rect());
         return state;

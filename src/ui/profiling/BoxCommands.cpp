@@ -34,9 +34,9 @@ void BoxCommands::ConnectSelecting(commands::CommandGate& gate) {
 
 void BoxCommands::ConnectArranging(commands::CommandGate& gate) {
     using Arrange = std::function<void(std::vector<OmrBox>&, const BoxSelection&)>;
-    const auto aligned = [](Side side) {
-        return [side](std::vector<OmrBox>& boxes, const BoxSelection& selected) {
-            profiles::Align(boxes, selected, side);
+    const auto aligned = [this](Side side) {
+        return [this, side](std::vector<OmrBox>& boxes, const BoxSelection& selected) {
+            profiles::Align(boxes, selected, side, ExtentOf(profile_));
         };
     };
     const auto distributed = [](Direction direction) {
@@ -45,7 +45,10 @@ void BoxCommands::ConnectArranging(commands::CommandGate& gate) {
         };
     };
     const std::pair<Command, Arrange> ways[] = {
-        {Command::EqualSize, profiles::MakeEqualSize},
+        {Command::EqualSize,
+         [this](std::vector<OmrBox>& boxes, const BoxSelection& selected) {
+             profiles::MakeEqualSize(boxes, selected, ExtentOf(profile_));
+         }},
         {Command::AlignLeft, aligned(Side::Left)},
         {Command::AlignRight, aligned(Side::Right)},
         {Command::AlignTop, aligned(Side::Top)},

@@ -1,8 +1,11 @@
 #include "ui/profiling/CopyCommands.h"
 
+#include <QClipboard>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QSpinBox>
 #include <algorithm>
 #include <variant>
@@ -10,6 +13,8 @@
 #include "imaging/PageReader.h"
 #include "profiles/BoxArrangement.h"
 #include "profiles/BoxPlace.h"
+#include "ui/base/QtText.h"
+#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 
@@ -20,6 +25,8 @@ using profiles::OmrBox;
 namespace {
 
 constexpr int kMostLines = 200;
+
+constexpr const char* kBoxesFormat = "application/x-tavrene-boxes";
 
 // Copies go to an outline below that is at most so many heights of a box away.
 constexpr double kReachDown = 3;
@@ -52,42 +59,60 @@ CopyCommands::CopyCommands(commands::CommandGate& gate, const app::Files& files,
     : files_(files), person_(person), profile_(profile), editor_(editor), view_(view) {
     gate.SetHandler(Command::DrawGrid, [this, &gate] { DrawGrid(gate); });
     gate.SetHandler(Command::SnapToPrint, [this] { snaps_ = !snaps_; });
-    editor.SetPlacing([this](const PageRect& place) {
-        return snaps_ && !view_.HeldKeys().testFlag(Qt::AltModifier) ? InPrint(place) : place;
-    });
+    editor.SetPlacing([this](const PageRect& place) { return Placed(place); });
     ConnectCopies(gate);
 }
 
 void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
     const auto hasSelected = [this] { return !profile_.Selected.IsEmpty(); };
     gate.SetHandler(
-        Command::CopyBoxes, [this] { copied_ = SelectedBoxes(); }, hasSelected);
+        Command::CopyBoxes, [this] { Copy(); }, hasSelected);
     gate.SetHandler(
-        Command::PasteBoxes,
-        [this] {
-            // In another profile they come to the place where they were, where boxes are to the next free
-            // one.
-            const PageRect first = profiles::PlaceOf(copied_.front());
-            constexpr int kMost = 100;
-            int step = 0;
-            const auto meetsOthers = [&](const OmrBox& box) {
-                PageRect place = profiles::PlaceOf(box);
-                place.left += step * first.width;
-                place.top += step * first.height;
-                return IsTaken(profile_.BoxList, place);
-            };
-            while (step < kMost && std::ranges::any_of(copied_, meetsOthers))
-                ++step;
-            Append(copied_, step * static_cast<int>(first.width), step * static_cast<int>(first.height));
-        },
-        [this] { return !copied_.empty(); });
+        Command::PasteBoxes, [this] { Paste(); }, [this] { return !copied_.empty(); });
     gate.SetHandler(
         Command::DuplicateBoxes,
         [this] {
             const std::vector<OmrBox> boxes = SelectedBoxes();
-            Append(boxes, 0, WayDown(boxes));
+            Append(boxes, {0, WayDown(boxes)});
         },
         hasSelected);
+}
+
+// What is copied in another program afterwards takes the clipboard from them. There, their names are a column
+// of cells.
+void CopyCommands::Copy() {
+    copied_ = SelectedBoxes();
+    QStringList names;
+    for (const OmrBox& box : copied_)
+        names += ToQt(box.Name);
+    auto* const data = new QMimeData;
+    data->setText(names.join('\n'));
+    data->setData(kBoxesFormat, "1");
+    QGuiApplication::clipboard()->setMimeData(data);
+    person_.SetPanel(app::Panel::Message, commands::Counted(copied_.size(), "box", "boxes") +
+                                              " copied; Ctrl+V adds " +
+                                              (copied_.size() == 1 ? "it" : "them") + " to a profile.");
+}
+
+bool CopyCommands::AreBoxesOnClipboard() {
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    return data != nullptr && data->hasFormat(kBoxesFormat);
+}
+
+// In another profile they come to the place where they were, where boxes are to the next free one.
+void CopyCommands::Paste() {
+    const PageRect first = profiles::PlaceOf(copied_.front());
+    constexpr int kMost = 100;
+    int step = 0;
+    const auto meetsOthers = [&](const OmrBox& box) {
+        PageRect place = profiles::PlaceOf(box);
+        place.left += step * first.width;
+        place.top += step * first.height;
+        return IsTaken(profile_.BoxList, place);
+    };
+    while (step < kMost && std::ranges::any_of(copied_, meetsOthers))
+        ++step;
+    Append(copied_, {step * static_cast<int>(first.width), step * static_cast<int>(first.height)});
 }
 
 // To the next outline that is printed below the first of them and has no box yet, or else just below them.
@@ -114,24 +139,40 @@ std::vector<OmrBox> CopyCommands::SelectedBoxes() const {
 }
 
 void CopyCommands::CopyBy(int dx, int dy) {
-    Append(SelectedBoxes(), dx, dy);
+    Append(SelectedBoxes(), {dx, dy});
 }
 
-// All keep their distances: they go as a whole where the first one finds an outline.
-void CopyCommands::Append(const std::vector<OmrBox>& copied, int dx, int dy) {
+// All keep their distances: they go as a whole where the first one finds an outline. Copies that the edge of
+// the page holds back would lie over what is there.
+void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay way) {
     if (copied.empty())
         return;
-    PageRect place = profiles::PlaceOf(copied.front());
-    place.left += dx;
-    place.top += dy;
-    const PageRect printed = view_.HeldKeys().testFlag(Qt::AltModifier) ? place : InPrint(place);
-    const int moreX = static_cast<int>(printed.left - place.left);
-    const int moreY = static_cast<int>(printed.top - place.top);
+    const PageRect first = profiles::PlaceOf(copied.front());
+    const PageRect place{first.left + way.dx, first.top + way.dy, first.width, first.height};
+    const PageRect printed = Placed(place);
+    const profiles::PixelWay wanted{way.dx + static_cast<int>(printed.left - place.left),
+                                    way.dy + static_cast<int>(printed.top - place.top)};
+    const profiles::PixelWay held = profiles::HeldOnPage(wanted, copied, ExtentOf(profile_));
+    const auto meetsOthers = [&](const OmrBox& box) {
+        const PageRect before = profiles::PlaceOf(box);
+        return IsTaken(profile_.BoxList,
+                       {before.left + held.dx, before.top + held.dy, before.width, before.height});
+    };
+    if (held != wanted && std::ranges::any_of(copied, meetsOthers)) {
+        person_.SetPanel(app::Panel::Message, "There is no room on the page for the copies there.");
+        return;
+    }
     std::vector<OmrBox> after = profile_.BoxList;
     const std::vector<int> numbers = profiles::AppendCopies(after, copied);
     const profiles::BoxSelection selected(numbers, numbers.front());
-    profiles::Move(after, selected, dx + moreX, dy + moreY, {profile_.ImageWidth, profile_.ImageHeight});
-    editor_.Change([&](std::vector<OmrBox>& boxes) { boxes = after; }, selected);
+    profiles::Move(after, selected, held.dx, held.dy, ExtentOf(profile_));
+    if (editor_.Change([&](std::vector<OmrBox>& boxes) { boxes = after; }, selected))
+        person_.SetPanel(app::Panel::Message, commands::Counted(copied.size(), "box", "boxes") + " added.");
+}
+
+// Where a box goes that the person puts at a place.
+PageRect CopyCommands::Placed(const PageRect& place) {
+    return snaps_ && !view_.HeldKeys().testFlag(Qt::AltModifier) ? InPrint(place) : place;
 }
 
 void CopyCommands::DrawGrid(commands::CommandGate& gate) {
@@ -155,7 +196,7 @@ void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast
     std::vector<OmrBox> added;
     for (const PageRect& place : profiles::PlacesOfGrid(first, last, *shape)) {
         OmrBox box;
-        profiles::PutAt(box, InPrint(place));
+        profiles::PutAt(box, profiles::OntoPage(InPrint(place), ExtentOf(profile_)));
         if (!IsTaken(profile_.BoxList, profiles::PlaceOf(box)))
             added.push_back(box);
     }

@@ -27,12 +27,18 @@ class CopyCommands {
     /// Puts copies of the selected boxes that far away.
     void CopyBy(int dx, int dy);
 
+    /// What was copied last, in whatever program, are boxes.
+    static bool AreBoxesOnClipboard();
+
   private:
     void ConnectCopies(commands::CommandGate& gate);
     void DrawGrid(commands::CommandGate& gate);
     void AddGrid(const imaging::PageRect& first, const imaging::PageRect& last);
     std::optional<profiles::GridShape> AskShape(const profiles::GridShape& guess) const;
-    void Append(const std::vector<profiles::OmrBox>& copied, int dx, int dy);
+    void Copy();
+    void Paste();
+    void Append(const std::vector<profiles::OmrBox>& copied, profiles::PixelWay way);
+    imaging::PageRect Placed(const imaging::PageRect& place);
     std::vector<profiles::OmrBox> SelectedBoxes() const;
     int WayDown(const std::vector<profiles::OmrBox>& boxes);
     imaging::PageRect InPrint(const imaging::PageRect& place);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "profiles/BoxSelection.h"
+#include "profiles/NameCleaning.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
@@ -152,6 +153,14 @@ std::vector<profiles::NewName> NameBoxesDialog::Asked() const {
     }
 }
 
+// Of the lists, as they come out of tables. What is typed into a pattern is told as a fault.
+bool NameBoxesDialog::LosesCharacters() const {
+    const QString listed = ways_->currentIndex() == kListPage      ? lines_->toPlainText()
+                           : ways_->currentIndex() == kPatternPage ? rows_->text() + columns_->text()
+                                                                   : QString();
+    return FromQt(listed).find_first_of(profiles::kForbiddenInNames) != std::string::npos;
+}
+
 void NameBoxesDialog::Update() {
     if (rename_ == nullptr)
         return;
@@ -170,6 +179,8 @@ void NameBoxesDialog::Update() {
         text += '\n' + ToQt(troubles.texts[k]);
     if (troubles.texts.size() > kMostTroubles)
         text += "\n... and " + QString::number(troubles.texts.size() - kMostTroubles) + " more.";
+    if (LosesCharacters())
+        text += "\nDouble quotes, < and & are left out: no profile can hold them.";
     outcome_->setText(text);
     rename_->setEnabled(!names_.empty() && !troubles.mayNotBe);
     preview_(names_, troubles.numbers);

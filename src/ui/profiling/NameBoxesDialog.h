@@ -38,6 +38,7 @@ class NameBoxesDialog final : public QDialog {
     void Build();
     QLineEdit* Field(const char* name, const QString& label, const QString& text = {});
     std::vector<profiles::NewName> Asked() const;
+    bool LosesCharacters() const;
     void Update();
 
     const std::vector<profiles::OmrBox>& boxes_;

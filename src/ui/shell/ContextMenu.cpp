@@ -79,7 +79,9 @@ ContextMenu::Target BoxOnPage(ImageView& page, BoxListView& rows) {
         const int number = IsByKey(asked)
                                ? boxes.SelectedBox()
                                : boxes.BoxAt(page.viewportTransform().inverted().map(QPointF(asked.pos())));
-        if (number == 0 || !rows.MakeCurrent(number))
+        // Of several that are selected the menu means all.
+        const bool isOfSeveral = number != 0 && boxes.HasSeveral() && boxes.IsMarked(number);
+        if (number == 0 || (!isOfSeveral && !rows.MakeCurrent(number)))
             return std::nullopt;
         const QPointF middle = page.viewportTransform().map(boxes.PlaceOf(number).center());
         return IsByKey(asked) ? page.viewport()->mapToGlobal(middle.toPoint()) : asked.globalPos();

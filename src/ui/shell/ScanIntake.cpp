@@ -19,6 +19,7 @@
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/ScansIn.h"
+#include "ui/profiling/CopyCommands.h"
 
 namespace tavrene::ui {
 namespace {
@@ -81,7 +82,13 @@ ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context)
     window.setAcceptDrops(true);
     window.installEventFilter(this);
     context_.gate.SetHandler(Command::BringIn, [this] { Choose(); });
-    context_.gate.SetHandler(Command::PasteScans, [this] { Paste(*QGuiApplication::clipboard()); });
+    context_.gate.SetHandler(Command::PasteScans, [this] {
+        // One key for whatever was copied last.
+        if (CopyCommands::AreBoxesOnClipboard() && context_.gate.Offers(Command::PasteBoxes))
+            context_.gate.Run(Command::PasteBoxes);
+        else
+            Paste(*QGuiApplication::clipboard());
+    });
 }
 
 bool ScanIntake::eventFilter(QObject* watched, QEvent* event) {
@@ -127,7 +134,9 @@ void ScanIntake::CopyIn(const std::vector<std::string>& paths) {
     if (paths.empty())
         context_.person.SetPanel(
             app::Panel::Message,
-            "The clipboard holds no files. Copy scans or folders in a file manager first.");
+            CopyCommands::AreBoxesOnClipboard()
+                ? "The clipboard holds boxes. Open a profile to add them to it."
+                : "The clipboard holds no files. Copy scans or folders in a file manager first.");
     else
         TakeIn(paths);
 }
