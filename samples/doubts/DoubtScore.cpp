@@ -46,8 +46,8 @@ std::optional<Judged> Judge(const DoubtPage& page) {
 std::string LineOf(const review::BoxEvidence& box, bool marked, std::optional<review::DoubtReason> doubt) {
     std::ostringstream line;
     line << marked << '\t' << box.isChecked << '\t' << box.fill.value_or(-1) << '\t' << box.isReadOtherwise
-         << '\t' << box.isOtherForm << '\t' << box.inkBeside << '\t'
-         << (doubt ? review::TextOf(*doubt) : std::string_view("-"));
+         << '\t' << box.isOtherForm << '\t' << box.inkBeside << '\t' << box.least.value_or(-1) << '\t'
+         << box.full << '\t' << (doubt ? review::TextOf(*doubt) : std::string_view("-"));
     return line.str();
 }
 

@@ -1,6 +1,7 @@
 #include "review/DoubtFinder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <utility>
 #include <variant>
@@ -70,34 +71,53 @@ const FormDoubts* DoubtFinder::Known(const FormOnDisk& form) {
 
 const FormDoubts* DoubtFinder::Find(const FormOnDisk& form) {
     const std::string stamp = StampOf(form);
-    if (stamp.empty())
+    const std::optional<LookedAt> found = LookAt(form);
+    if (!found)
         return nullptr;
-    try {
-        if (std::optional<FormDoubts> found = Read(form, *ProfileOf(form)))
-            cache_.Put(form.Document, stamp, *std::move(found));
-    } catch (const std::exception&) {
-        return nullptr;  // opening the form tells what is wrong with it
+    FormDoubts doubts;
+    for (std::size_t k = 0; k < found->form.Boxes.size(); ++k) {
+        const FormBox& box = found->form.Boxes[k];
+        if (box.doubt)
+            doubts.push_back({static_cast<int>(k) + 1, *box.doubt, found->form.Marks[k].Checked,
+                              static_cast<int>(std::lround(10 * box.ink.value_or(0)))});
     }
+    cache_.Put(form.Document, stamp, std::move(doubts));
     return cache_.Find(form.Document, stamp);
 }
 
-std::optional<FormDoubts> DoubtFinder::Read(const FormOnDisk& form, const ProfileRecord& profile) {
-    const auto read = imaging::ReadPage(files_, form.Image);
-    const auto* const page = std::get_if<imaging::Page>(&read);
+void DoubtFinder::Set(const FormOnDisk& form, FormDoubts doubts) {
+    if (const std::string stamp = StampOf(form); !stamp.empty())
+        cache_.Put(form.Document, stamp, std::move(doubts));
+}
+
+std::optional<LookedAt> DoubtFinder::LookAt(const FormOnDisk& form) {
+    const ProfileRecord* const profile = ProfileOf(form);
+    if (profile == nullptr)
+        return std::nullopt;
+    try {
+        return Read(form, *profile);
+    } catch (const std::exception&) {
+        return std::nullopt;  // opening the form tells what is wrong with it
+    }
+}
+
+std::optional<LookedAt> DoubtFinder::Read(const FormOnDisk& form, const ProfileRecord& profile) {
+    auto read = imaging::ReadPage(files_, form.Image);
+    auto* const page = std::get_if<imaging::Page>(&read);
     if (page == nullptr)
         return std::nullopt;
-    OpenForm open;
+    LookedAt found{{}, std::move(*page)};
+    OpenForm& open = found.form;
+    open.Name = app::BaseName(form.Document);
+    open.Document = form.Document;
+    open.Fingerprint = form.Fingerprint;
     open.Result = recognition::ResultDocument::Load(files_, folders_.ProcessOut + form.Document);
     TakeDocument(
         open, profile,
         profiles::GroupsOrNone(files_, folders_.Profiles + profile.FileName, profiles::NamesOf(profile)));
-    FindLostShifts(open, *page, settings_.FillThreshold, precise_);
-    MeasureForm(open, page, settings_.FillThreshold, precise_);
-    FormDoubts doubts;
-    for (std::size_t k = 0; k < open.Boxes.size(); ++k)
-        if (const auto& reason = open.Boxes[k].doubt)
-            doubts.push_back({static_cast<int>(k) + 1, *reason});
-    return doubts;
+    FindLostShifts(open, found.page, settings_.FillThreshold, precise_);
+    MeasureForm(open, &found.page, settings_.FillThreshold, precise_);
+    return found;
 }
 
 }  // namespace tavrene::review

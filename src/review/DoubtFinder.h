@@ -7,8 +7,10 @@
 
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
+#include "imaging/PageReader.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/precise/PreciseReader.h"
+#include "review/OpenForm.h"
 #include "review/doubts/DoubtCache.h"
 
 namespace tavrene::review {
@@ -19,6 +21,12 @@ struct FormOnDisk {
     std::string Fingerprint;  ///< Of the document.
     std::string Image;        ///< Path.
     std::string Profile;      ///< Name.
+};
+
+/// A form that was read again, and its page.
+struct LookedAt {
+    OpenForm form;
+    imaging::Page page;
 };
 
 /// What is in doubt of the forms that wait in `ProcessOut`: as far as it is known already, or found by
@@ -42,6 +50,13 @@ class DoubtFinder {
     /// Reads the form, and keeps what is found. Null when it cannot be read, or belongs to no profile.
     const FormDoubts* Find(const FormOnDisk& form);
 
+    /// Keeps what a person has left in doubt of a form.
+    void Set(const FormOnDisk& form, FormDoubts doubts);
+
+    /// Reads the form again: its marks, and where its boxes lie on the page. Nothing when it cannot be read,
+    /// or belongs to no profile.
+    std::optional<LookedAt> LookAt(const FormOnDisk& form);
+
     /// Writes what was found where the next start finds it.
     void Keep() { cache_.Save(); }
 
@@ -50,7 +65,7 @@ class DoubtFinder {
     std::string WayOfReading() const;
     const std::string& RulesFor(const profiles::ProfileRecord& profile);
     const profiles::ProfileRecord* ProfileOf(const FormOnDisk& form) const;
-    std::optional<FormDoubts> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile);
+    std::optional<LookedAt> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile);
 
     app::Files& files_;
     const app::Settings& settings_;

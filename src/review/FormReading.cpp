@@ -70,21 +70,26 @@ bool IsReadPrecisely(const OpenForm& form, const recognition::PreciseReader* pre
     return precise != nullptr && (precise->Reads() || form.IsUpsideDown);
 }
 
-std::vector<recognition::BoxMeasure> MeasureBoxes(const OpenForm& form, const imaging::Page& page,
-                                                  std::span<const std::optional<BoxShift>> known,
-                                                  std::int16_t fillThreshold,
-                                                  recognition::PreciseReader* precise) {
-    std::vector<recognition::BoxMeasure> measures;
+struct Measures {
+    std::vector<recognition::BoxMeasure> boxes;
+    bool precise = false;
+};
+
+Measures MeasureBoxes(const OpenForm& form, const imaging::Page& page,
+                      std::span<const std::optional<BoxShift>> known, std::int16_t fillThreshold,
+                      recognition::PreciseReader* precise) {
+    Measures measures;
     if (IsReadPrecisely(form, precise)) {
         for (const recognition::MarkReading& reading :
              precise->ReadAt(page, form.Profile, known, fillThreshold))
-            measures.push_back({reading.rect, reading.fill});
+            measures.boxes.push_back({reading.rect, reading.fill});
     }
-    if (!measures.empty())
+    measures.precise = !measures.boxes.empty();
+    if (measures.precise)
         return measures;
     const std::vector<BoxShift> shifts = ShiftsOfBoxes(form.Profile, {}, form.Marks);
     for (std::size_t k = 0; k < shifts.size(); ++k)
-        measures.push_back(MeasureBox(page, form.Profile, k, shifts[k]));
+        measures.boxes.push_back(MeasureBox(page, form.Profile, k, shifts[k]));
     return measures;
 }
 
@@ -109,15 +114,14 @@ recognition::SecondOpinion OpinionOn(const OpenForm& form, const imaging::Page& 
 }
 
 // In the order of the profile's boxes; `marks` are theirs in the document.
-BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page,
-                      std::span<const recognition::BoxMeasure> measures,
+BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page, const Measures& measures,
                       std::span<const std::optional<std::size_t>> marks, std::int16_t fillThreshold,
                       recognition::PreciseReader* precise) {
-    MeasuredForm measured{page, measures, {}, form.IsUpsideDown};
+    MeasuredForm measured{page, measures.boxes, {}, form.IsUpsideDown, measures.precise};
     for (const std::optional<std::size_t>& mark : marks)
         measured.checked.push_back(mark ? std::optional(form.Marks[*mark].Checked) : std::nullopt);
     const std::vector<BoxEvidence> evidence =
-        EvidenceOf(measured, OpinionOn(form, page, measures, fillThreshold, precise),
+        EvidenceOf(measured, OpinionOn(form, page, measures.boxes, fillThreshold, precise),
                    precise != nullptr ? precise->PrintOf(form.Profile) : nullptr);
     BoxDoubts doubts = DoubtsOf(evidence, fillThreshold);
     AddGroupDoubts(doubts, evidence, profiles::NamesOf(form.Profile), form.Groups);
@@ -160,9 +164,9 @@ void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThr
         return;
     const std::vector<std::optional<BoxShift>> known = KnownShifts(form.Profile, form.Marks);
     form.IsUpsideDown = LiesUpsideDown(*page, form.Profile, known);
-    const std::vector<recognition::BoxMeasure> measures =
-        MeasureBoxes(form, *page, known, fillThreshold, precise);
-    const BoxDoubts doubts = DoubtsAbout(form, *page, measures, marks, fillThreshold, precise);
+    const Measures measured = MeasureBoxes(form, *page, known, fillThreshold, precise);
+    const std::vector<recognition::BoxMeasure>& measures = measured.boxes;
+    const BoxDoubts doubts = DoubtsAbout(form, *page, measured, marks, fillThreshold, precise);
     for (std::size_t k = 0; k < marks.size(); ++k) {
         if (marks[k])
             form.Boxes[*marks[k]] = {

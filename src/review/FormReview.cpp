@@ -20,6 +20,7 @@ FormReview::FormReview(const ReviewContext& context, const app::Settings& settin
       profiles_(profiles),
       list_(list),
       screen_(context),
+      saver_(context, folders, list),
       scratch_(context.files, folders.Temp) {}
 
 const ProfileRecord* FormReview::FindProfile(const std::string& name) const {
@@ -188,19 +189,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
 bool FormReview::Save() {
     if (!MayOverwrite(*form_))
         return false;
-    recognition::ResultDocument saved = form_->Result.Clone();
-    saved.SetReviewed(true);
-    saved.SetProfile(form_->Profile.Name);
-    if (form_->Profile.Name == form_->SavedProfile)
-        saved.SetChecked(form_->Marks);
-    else
-        saved.ReplaceMarks(form_->Marks);
-    saved.Save(context_.files, PathOf(*form_));
-    form_->Result = std::move(saved);
-    form_->Fingerprint = context_.files.Fingerprint(PathOf(*form_));
-    form_->SavedProfile = form_->Profile.Name;
-    form_->Before.reset();
-    form_->Changed = false;
+    saver_.SaveReviewed(*form_);
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "app/WorkingFolders.h"
 #include "imaging/ScratchImages.h"
 #include "profiles/ProfileRecord.h"
+#include "review/FormSaver.h"
 #include "review/FormScreen.h"
 #include "review/OpenForm.h"
 #include "review/ReviewList.h"
@@ -46,16 +47,15 @@ class FormReview {
     /// nothing. Throws as `Open` does; the form is then as it was before.
     void ReadAgainst(const std::string& profileName);
 
-    /// Writes the open form's marks as reviewed. False when the person would rather keep what somebody else
-    /// has written in the meantime. Throws `app::FileError`; all is then as it was before.
+    /// Writes the open form's marks as reviewed, and tells of it. False when the person would rather keep
+    /// what somebody else has written in the meantime. Throws `app::FileError`; all is then as it was before.
     bool Save();
 
     /// Puts the document back that reading against another profile has replaced; the form is about to be
     /// left.
     void DropChanges();
 
-    /// The next row after `number` whose ink is so near to the threshold that the mark is open to doubt,
-    /// round the end of the list; 0 without one.
+    /// The next row after `number` that is in doubt, round the end of the list; 0 without one.
     int NextDoubtful(int number) const;
 
   private:
@@ -82,6 +82,7 @@ class FormReview {
     const std::vector<profiles::ProfileRecord>& profiles_;
     ReviewList& list_;
     FormScreen screen_;
+    FormSaver saver_;
     imaging::ScratchImages scratch_;
     std::optional<imaging::Page> page_;
     std::optional<OpenForm> form_;

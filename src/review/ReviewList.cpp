@@ -72,12 +72,41 @@ std::optional<int> ReviewList::KnownDoubts(const Entry& entry) {
     return known == nullptr ? std::nullopt : std::optional(static_cast<int>(known->size()));
 }
 
-ReviewList::Entry& ReviewList::EntryOf(const ReviewLine& line) {
-    return *std::ranges::find(entries_, line.Document, &Entry::document);
+ReviewList::Entry& ReviewList::EntryOf(const std::string& document) {
+    return *std::ranges::find(entries_, document, &Entry::document);
 }
 
-const FormDoubts* ReviewList::DoubtsOf(std::size_t line) {
-    return doubts_.Known(OnDisk(EntryOf(lines_.at(line))));
+FormOnDisk ReviewList::FormOf(const std::string& document) const {
+    return OnDisk(*std::ranges::find(entries_, document, &Entry::document));
+}
+
+bool ReviewList::IsAsItWas(const std::string& document) const {
+    const auto entry = std::ranges::find(entries_, document, &Entry::document);
+    return entry != entries_.end() && entry->line && IsCurrent(*entry);
+}
+
+std::vector<std::pair<std::string, FormDoubts>> ReviewList::InDoubt() {
+    std::vector<std::pair<std::string, FormDoubts>> forms;
+    for (const Entry& entry : entries_) {
+        if (!entry.line || entry.line->Doubts.value_or(0) == 0)
+            continue;
+        if (const FormDoubts* const doubts = doubts_.Known(OnDisk(entry)))
+            forms.emplace_back(entry.document, *doubts);
+    }
+    return forms;
+}
+
+void ReviewList::SetDoubts(const std::string& document, FormDoubts doubts) {
+    const std::optional<std::size_t> index = IndexOf(document);
+    if (!index)
+        return;
+    Entry& entry = EntryOf(document);
+    entry.fingerprint = context_.files.Fingerprint(folders_.ProcessOut + document);
+    ReviewLine& line = lines_[*index];
+    line.Doubts = line.Reviewed ? std::nullopt : std::optional(static_cast<int>(doubts.size()));
+    entry.line = line;
+    doubts_.Set(OnDisk(entry), std::move(doubts));
+    context_.side.lines.ChangeLine(*index, line);
 }
 
 bool ReviewList::CountNext() {
@@ -91,8 +120,9 @@ bool ReviewList::CountNext() {
     return false;
 }
 
-bool ReviewList::IsCounted() const {
-    return std::ranges::none_of(lines_, [this](const ReviewLine& line) { return IsUncounted(line); });
+std::size_t ReviewList::Uncounted() const {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(lines_, [this](const ReviewLine& line) { return IsUncounted(line); }));
 }
 
 int ReviewList::CountOf(std::size_t line) {
@@ -106,7 +136,7 @@ bool ReviewList::IsUncounted(const ReviewLine& line) const {
 }
 
 void ReviewList::Count(std::size_t line) {
-    Entry& entry = EntryOf(lines_[line]);
+    Entry& entry = EntryOf(lines_[line].Document);
     const FormDoubts* const found = doubts_.Find(OnDisk(entry));
     if (found == nullptr) {
         uncountable_.insert(entry.document);
@@ -128,7 +158,7 @@ void ReviewList::FollowRules() {
         return;
     uncountable_.clear();
     for (std::size_t line = 0; line < lines_.size(); ++line) {
-        Entry& entry = EntryOf(lines_[line]);
+        Entry& entry = EntryOf(lines_[line].Document);
         lines_[line].Doubts = entry.line->Doubts = KnownDoubts(entry);
         context_.side.lines.ChangeLine(line, lines_[line]);
     }

@@ -5,6 +5,7 @@
 #include <set>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/WorkingFolders.h"
@@ -52,15 +53,27 @@ class ReviewList {
     /// Whether the doubts of a line's form are not known, but can be.
     bool IsUncounted(const ReviewLine& line) const;
 
-    /// Whether there is no such form.
-    bool IsCounted() const;
-
     /// The number of boxes in doubt of the form of a line, which is read when that is not known; 0 of a
     /// reviewed form, and of one that cannot be read.
     int CountOf(std::size_t line);
 
-    /// What is in doubt of the form of a line; null while it is not known.
-    const FormDoubts* DoubtsOf(std::size_t line);
+    /// The number of forms whose doubts are not known, but can be.
+    std::size_t Uncounted() const;
+
+    /// The forms of which something is known to be in doubt, with that, in the order of the lines.
+    std::vector<std::pair<std::string, FormDoubts>> InDoubt();
+
+    /// What is in doubt of a listed document's form; null while it is not known.
+    const FormDoubts* DoubtsOf(const std::string& document) { return doubts_.Known(FormOf(document)); }
+
+    /// A person has saved the form, or has left so much of it in doubt.
+    void SetDoubts(const std::string& document, FormDoubts doubts);
+
+    /// The form of a document that is listed, as it was when it was last looked at.
+    FormOnDisk FormOf(const std::string& document) const;
+
+    /// Whether the document is still as it was when it was last looked at.
+    bool IsAsItWas(const std::string& document) const;
 
     /// Puts "Reviewed: 2 of 5" into the `File` panel.
     void ShowCounts() const;
@@ -81,7 +94,7 @@ class ReviewList {
     void RemoveAt(std::size_t index);
     void Count(std::size_t line);
     std::optional<int> KnownDoubts(const Entry& entry);
-    Entry& EntryOf(const ReviewLine& line);
+    Entry& EntryOf(const std::string& document);
     FormOnDisk OnDisk(const Entry& entry) const;
 
     ReviewContext context_;

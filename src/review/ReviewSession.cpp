@@ -21,7 +21,8 @@ ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& 
       doubts_(context.files, settings, folders, profiles, context.precise),
       list_(context, folders, doubts_),
       form_(context, settings, folders, profiles, list_),
-      mover_(context.files, folders),
+      decisions_(context.files, context.log, folders),
+      sheet_(context, folders, profiles, list_, doubts_),
       unread_(context.files, context.log, folders) {}
 
 void ReviewSession::Begin() {
@@ -152,22 +153,21 @@ void ReviewSession::BoxSelected(int row) {
         context_.page.Emphasise(row);
 }
 
-bool ReviewSession::NextDoubt(int row) {
+bool ReviewSession::NextDoubt(int row, const WorkWatch& goesOn) {
     int next = form_.NextDoubtful(row);
     if (next <= row || next == 0) {  // none, or one before: the other forms come first
-        const std::optional<std::size_t> line = NextInDoubt();
-        if (line) {
+        const NextInDoubt found = FindNextInDoubt(
+            list_, context_.side.lines, OpenLine(), [this](std::size_t line) { return MayOpen(line); },
+            goesOn);
+        if (found.line) {
             if (!MayLeave())
                 return false;
-            Open(*line);
+            Open(*found.line);
             next = form_.NextDoubtful(0);
+        } else if (next == 0) {
+            context_.person.SetPanel(Panel::Message, TextOfNone(found));
         }
     }
-    if (next == 0)
-        context_.person.SetPanel(Panel::Message,
-                                 list_.IsCounted()
-                                     ? "No form of the list has a box in doubt."
-                                     : "No box in doubt was found yet; forms are still being looked at.");
     return ShowDoubt(next);
 }
 
@@ -179,24 +179,31 @@ bool ReviewSession::ShowDoubt(int row) {
     return true;
 }
 
-// From below the open form round the end of the list. So many forms that are not counted are read on the way
-// that the person need not wait long; the others are being counted meanwhile.
-std::optional<std::size_t> ReviewSession::NextInDoubt() {
-    constexpr int kMostCounted = 100;
-    const std::optional<std::size_t> open = OpenLine();
-    std::optional<std::size_t> line = context_.side.lines.Beside(open, 1);
-    int counted = 0;
-    for (std::size_t tries = 0; tries < list_.Lines().size() && counted < kMostCounted; ++tries) {
-        if (!line)
-            line = context_.side.lines.Beside(std::nullopt, 1);
-        if (!line || line == open)
-            return std::nullopt;
-        counted += list_.IsUncounted(list_.Lines()[*line]) ? 1 : 0;
-        if (list_.CountOf(*line) > 0 && form_.OpensUnasked(list_.Lines()[*line].Document))
-            return line;
-        line = context_.side.lines.Beside(line, 1);
+// A document that has gone or is damaged by now must not keep the person from the others.
+bool ReviewSession::MayOpen(std::size_t line) const {
+    try {
+        return form_.OpensUnasked(list_.Lines()[line].Document);
+    } catch (const std::exception&) {
+        return false;
     }
-    return std::nullopt;
+}
+
+void ReviewSession::CountAllDoubts(const WorkWatch& goesOn) {
+    const std::size_t total = list_.Uncounted();
+    for (std::size_t done = 0; done < total && goesOn(done, total) && list_.CountNext(); ++done) {
+    }
+}
+
+void ReviewSession::OpenAt(const std::string& document, int row) {
+    const std::optional<std::size_t> line = list_.IndexOf(document);
+    if (!line)
+        return;
+    if (row == 0)
+        OpenUnasked(*line);
+    else
+        Open(*line);
+    if (OpenLine() == line)
+        ShowDoubt(row);
 }
 
 bool ReviewSession::MayLeave() {
@@ -227,20 +234,6 @@ void ReviewSession::SelectOpenLine() {
         context_.side.lines.SelectLine(*line);
 }
 
-bool ReviewSession::Save() {
-    const std::vector<std::string> corrections = CorrectionsOf(*form_.Form());
-    if (!form_.Save())
-        return false;
-    for (const std::string& correction : corrections)
-        context_.log.LogProcessEvent(correction);
-    const OpenForm& form = *form_.Form();
-    list_.Change(form.Document, true, form.Result.Confidence());
-    context_.log.LogProcessEvent("Reviewed & Saved [" + form.Name + "]");
-    context_.person.SetPanel(Panel::Message, "Saved Form: " + form.Name);
-    list_.ShowCounts();
-    return true;
-}
-
 void ReviewSession::FollowFolder() {
     if (!IsOn())
         return;
@@ -248,48 +241,65 @@ void ReviewSession::FollowFolder() {
     FollowUnread();
 }
 
-// What an earlier decision left half done is settled first, since there is one note for all moves.
 void ReviewSession::Decide(Decision decision) {
-    SettleInterrupted();
-    const FormMove move{decision, form_.Form()->Result.Image(), form_.Form()->Document};
-    mover_.Move(move);
-    decided_.push_back(Remembered(move));
+    const std::string document = form_.Form()->Document;
+    decisions_.Begin();
+    decisions_.Move({decision, form_.Form()->Result.Image(), document});
     const std::size_t line = OpenLine().value_or(0);
     below_ = DocumentBeside(line, 1);
     const std::string near = DocumentNear(line);
-    list_.Remove(move.Document);
+    list_.Remove(document);
     form_.Close();
     SelectDocument(near);
-    LogDecision(move);
     list_.ShowCounts();
 }
 
-ReviewSession::Decided ReviewSession::Remembered(const FormMove& move) const {
-    const std::string& folder = mover_.FolderOf(move.decision);
-    return {move, context_.files.Fingerprint(folder + move.Image),
-            context_.files.Fingerprint(folder + move.Document)};
+ClearForms ReviewSession::FindClear() const {
+    ClearForms found;
+    std::size_t shown = 0;
+    for (auto at = context_.side.lines.Beside(std::nullopt, 1); at; at = context_.side.lines.Beside(at, 1)) {
+        found.Add(list_.Lines()[*at]);
+        ++shown;
+    }
+    found.hidden = list_.Lines().size() - shown;
+    return found;
 }
 
-void ReviewSession::UndoDecision() {
-    SettleInterrupted();
-    const Decided last = decided_.back();
-    const Decided now = Remembered(last.move);
-    FormMove back = last.move;
-    back.isBack = true;
-    if (now.image != last.image || now.document != last.document) {
-        decided_.pop_back();
-        throw app::FileError("Form [" + app::BaseName(back.Document) + "] stays in " +
-                             mover_.FolderOf(back.decision) + ": it was changed there or is gone");
+std::vector<std::string> ReviewSession::AcceptAll(const ClearForms& forms, const WorkWatch& goesOn) {
+    decisions_.Begin();
+    std::vector<std::string> failures;
+    const std::size_t total = forms.documents.size();
+    for (std::size_t done = 0; done < total && goesOn(done, total); ++done) {
+        const std::string& document = forms.documents[done];
+        try {
+            if (!list_.IsAsItWas(document))
+                throw app::FileError("Form [" + app::BaseName(document) +
+                                     "] stays: it was changed by somebody else, or is gone");
+            decisions_.Move({Decision::Accept, app::FileName(list_.FormOf(document).Image), document});
+            if (HasForm() && form_.Form()->Document == document)
+                form_.Close();
+            list_.Remove(document);
+        } catch (const app::FileError& error) {
+            failures.emplace_back(error.what());
+        }
     }
-    mover_.Move(back);
-    decided_.pop_back();
-    form_.Close();
-    LogDecision(back);
-    list_.Follow();
-    if (const std::optional<std::size_t> line = list_.IndexOf(back.Document)) {
-        SelectDocument(back.Document);
-        OpenUnasked(*line);
+    list_.ShowCounts();
+    return failures;
+}
+
+void ReviewSession::UndoDecision(const WorkWatch& goesOn) {
+    const Decisions::TakenBack back = decisions_.TakeBack(goesOn);
+    if (!back.documents.empty()) {
+        form_.Close();
+        list_.Follow();
+        if (const std::optional<std::size_t> line = list_.IndexOf(back.documents.front())) {
+            SelectDocument(back.documents.front());
+            if (back.documents.size() == 1)
+                OpenUnasked(*line);
+        }
     }
+    if (!back.failures.empty())
+        throw app::FileError(TextOfFailures(back.failures));
 }
 
 bool ReviewSession::GoOn() {
@@ -304,18 +314,6 @@ bool ReviewSession::GoOn() {
 void ReviewSession::OpenUnasked(std::size_t line) {
     if (form_.OpensUnasked(list_.Lines()[line].Document))
         Open(line);
-}
-
-void ReviewSession::LogDecision(const FormMove& move) {
-    const char* const word = move.decision == Decision::Accept ? "accepted." : "rejected.";
-    context_.log.LogProcessEvent("Form [" + app::BaseName(move.Document) +
-                                 (move.isBack ? "] brought back, no longer " : "] ") + word);
-    mover_.Forget();
-}
-
-void ReviewSession::SettleInterrupted() {
-    if (const std::optional<FormMove> done = mover_.Settle())
-        LogDecision(*done);
 }
 
 // A decision that still cannot be settled must not keep the other forms away.

@@ -9,8 +9,11 @@
 #include "app/Settings.h"
 #include "app/WorkingFolders.h"
 #include "profiles/ProfileRecord.h"
-#include "review/FormMover.h"
+#include "review/ClearForms.h"
+#include "review/Decisions.h"
+#include "review/DoubtSheet.h"
 #include "review/FormReview.h"
+#include "review/NextInDoubt.h"
 #include "review/ReviewList.h"
 #include "review/ReviewScreen.h"
 #include "review/UnreadPages.h"
@@ -26,10 +29,8 @@ class ReviewSession {
     ReviewSession(const ReviewContext& context, const app::Settings& settings,
                   const app::WorkingFolders& folders, const std::vector<profiles::ProfileRecord>& profiles);
 
-    /// Settles a decision that an earlier start of the program did not live to end: its files are together
-    /// again in `ProcessOut`, or it was done and is logged now. Throws `app::FileError` when that has to
-    /// wait.
-    void SettleInterrupted();
+    /// As `Decisions::Settle`.
+    void SettleInterrupted() { decisions_.Settle(); }
 
     /// Fills the list on an empty screen; the person enters review.
     void Begin();
@@ -74,8 +75,18 @@ class ReviewSession {
     void KeepCounts() { list_.KeepCounts(); }
     bool CountNextDoubts() { return IsOn() && list_.CountNext(); }
 
-    /// What is in doubt of the form of a line; null while it is not known.
-    const FormDoubts* DoubtsOf(std::size_t line) { return list_.DoubtsOf(line); }
+    /// Counts all doubts that are not known yet.
+    void CountAllDoubts(const WorkWatch& goesOn);
+
+    /// Boxes in doubt of many forms, to be judged together. While it is worked on no form is to be open.
+    DoubtSheet& Sheet() { return sheet_; }
+
+    /// Takes the open form from the screen. Unsaved changes are lost: the prompt comes before.
+    void CloseForm() { form_.Close(); }
+
+    /// Opens a document's form at a row (from 1) and shows that box large; at row 0, where opening it asks
+    /// nothing, as it is.
+    void OpenAt(const std::string& document, int row);
 
     /// The prompt before the open form is left, which saves it on Yes; false when the command at hand is to
     /// be abandoned. Where the form stays open, its line is selected.
@@ -99,15 +110,16 @@ class ReviewSession {
     void BoxSelected(int row);
 
     /// Makes the next box in doubt behind `row` of the open form the current one and shows it large enough to
-    /// judge; behind the last one of the form, the first one of the next form that has any and is not
-    /// reviewed, which is opened. False when there is none, or the open form is not left.
-    bool NextDoubt(int row);
+    /// judge; behind the last one of the form, the first one of the next form shown that has any and is not
+    /// reviewed, which is opened. Forms whose doubts are not known are read on the way. False when there is
+    /// none, the person will not wait, or the open form is not left.
+    bool NextDoubt(int row, const WorkWatch& goesOn = GoesOnAlways);
 
     void ReadAgainst(const std::string& profileName) { form_.ReadAgainst(profileName); }
 
     /// Marks the open form as reviewed and writes its marks; counts it when it was not reviewed before. False
     /// when the person would rather keep what somebody else has written in the meantime.
-    bool Save();
+    bool Save() { return form_.Save(); }
 
     /// Moves image and document of the open form out of `ProcessOut` and selects the next line.
     void Accept() { Decide(Decision::Accept); }
@@ -120,21 +132,23 @@ class ReviewSession {
     /// The first line shown that is not reviewed, or else the first one; none in an empty list.
     std::optional<std::size_t> FirstToDo() const;
 
-    /// Whether there is a decision to take back: they are kept while the program runs.
-    bool HasDecided() const { return !decided_.empty(); }
+    /// The forms of the list as it is shown that nothing is in doubt of, as far as is known.
+    ClearForms FindClear() const;
 
-    /// Takes the last decision back: image and document lie in `ProcessOut` again, and the form is opened
-    /// unless that would ask something. Unsaved changes of the open form are lost: the prompt comes before.
-    /// Throws `app::FileError` when one of the files has changed since, which gives that decision up, or
-    /// cannot be moved.
-    void UndoDecision();
+    /// Accepts these forms as one decision; the open form goes from the screen when it is one of them. Gives
+    /// a sentence for each that stays though there was time for it.
+    std::vector<std::string> AcceptAll(const ClearForms& forms, const WorkWatch& goesOn);
+
+    /// Whether there is a decision to take back: they are kept while the program runs.
+    bool HasDecided() const { return decisions_.HasAny(); }
+
+    /// Takes the last decision back: image and document of each of its forms lie in `ProcessOut` again, and a
+    /// single form is opened unless that would ask something. Unsaved changes of the open form are lost: the
+    /// prompt comes before. Throws `app::FileError` when files have changed since, which gives the decision
+    /// about them up, or cannot be moved.
+    void UndoDecision(const WorkWatch& goesOn = GoesOnAlways);
 
   private:
-    struct Decided {
-        FormMove move;
-        std::string image, document;  // fingerprints after the move
-    };
-
     enum class Stage { NotYet, On, Over };
 
     void TrySettle();
@@ -147,10 +161,8 @@ class ReviewSession {
     void SelectDocument(const std::string& document);
     void OpenUnasked(std::size_t line);
     bool ShowDoubt(int row);
-    std::optional<std::size_t> NextInDoubt();
+    bool MayOpen(std::size_t line) const;
     void Decide(Decision decision);
-    void LogDecision(const FormMove& move);
-    Decided Remembered(const FormMove& move) const;
 
     ReviewContext context_;
     const app::WorkingFolders& folders_;
@@ -158,11 +170,11 @@ class ReviewSession {
     DoubtFinder doubts_;
     ReviewList list_;
     FormReview form_;
-    FormMover mover_;
+    Decisions decisions_;
+    DoubtSheet sheet_;
     UnreadPages unread_;
     std::string unreadIn_;  ///< Fingerprint of the folder when the unread images were looked for.
     Stage stage_ = Stage::NotYet;
-    std::vector<Decided> decided_;
     std::string below_;  ///< The document below the one that was decided about last.
     std::string tried_;  ///< The document that was opened last, or could not be opened.
 };

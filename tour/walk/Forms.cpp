@@ -101,10 +101,14 @@ FormTruth PaintForms(app::Files& files, const app::WorkingFolders& folders) {
 }
 
 std::vector<std::string> DifferencesFrom(const FormTruth& truth, const app::Files& files,
-                                         const app::WorkingFolders& folders, bool reviewed) {
+                                         const std::string& folder, bool reviewed) {
     std::vector<std::string> differences;
     for (const auto& [form, meant] : truth) {
-        const auto document = recognition::ResultDocument::Load(files, folders.ProcessOut + form + ".xml");
+        if (!files.FileExists(folder + form + ".xml")) {
+            differences.push_back(form + ": no document");
+            continue;
+        }
+        const auto document = recognition::ResultDocument::Load(files, folder + form + ".xml");
         if (reviewed && !document.IsReviewed())
             differences.push_back(form + ": not reviewed");
         std::vector<std::string> read = Checked(document);

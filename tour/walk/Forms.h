@@ -16,9 +16,9 @@ using FormTruth = std::map<std::string, std::vector<std::string>>;
 /// so that counting their ink misreads them: marks that are too small, and places where the pen rested.
 FormTruth PaintForms(app::Files& files, const app::WorkingFolders& folders);
 
-/// The boxes of which the result documents of `ProcessOut` say otherwise, as "form: box", and all forms that
-/// have none or are not reviewed when `reviewed` is asked for.
+/// The boxes of which the result documents of a folder say otherwise, as "form: box", and all forms that have
+/// none or are not reviewed when `reviewed` is asked for.
 std::vector<std::string> DifferencesFrom(const FormTruth& truth, const app::Files& files,
-                                         const app::WorkingFolders& folders, bool reviewed);
+                                         const std::string& folder, bool reviewed);
 
 }  // namespace tavrene::tour

@@ -2,13 +2,18 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <algorithm>
+#include <exception>
 #include <stdexcept>
 
 #include "driving/Controls.h"
 #include "ui/base/QtText.h"
+#include "ui/reviewing/ReviewTable.h"
+#include "ui/reviewing/SheetView.h"
 
 namespace tavrene::tour {
 
@@ -69,6 +74,103 @@ void Walker::GoOnThroughAll() {
         Press(Qt::Key_Return, Qt::ControlModifier);
         last = form;
     }
+}
+
+// Nobody presses a key for it: the doubts are counted while the person is away.
+void Walker::WaitForCounts() {
+    const QAbstractItemModel& lines = *driving::Find<QTreeView>(window_, "lvwReview").model();
+    constexpr int kLongest = 300'000;  // milliseconds
+    const bool isCounted = QTest::qWaitFor(
+        [&lines] {
+            for (int row = 0; row < lines.rowCount(); ++row)
+                if (lines.index(row, ui::ReviewTable::kDoubts).data().toString().isEmpty())
+                    return false;
+            return true;
+        },
+        kLongest);
+    if (!isCounted)
+        throw std::runtime_error("The doubts of the forms are not counted.");
+}
+
+bool Walker::IsWrongPicture(const QModelIndex& box) const {
+    const auto role = [&box](int which) { return box.data(which); };
+    const std::vector<std::string>& meant = truth_.at(ui::FromQt(role(ui::SheetModel::kForm).toString()));
+    const std::string name = ui::FromQt(role(ui::SheetModel::kBox).toString());
+    return role(ui::SheetModel::kChecked).toBool() != (std::ranges::find(meant, name) != meant.end());
+}
+
+void Walker::MoveTo(const QListView& view, int row) {
+    constexpr int kColumns = ui::SheetView::kColumns;
+    for (int at = view.currentIndex().row(); at != row; at = view.currentIndex().row())
+        Press(row - at >= kColumns  ? Qt::Key_Down
+              : row > at            ? Qt::Key_Right
+              : at - row > kColumns ? Qt::Key_Up
+                                    : Qt::Key_Left);
+}
+
+void Walker::ExtendTo(const QListView& view, int row) {
+    for (int at = view.currentIndex().row(); at < row; at = view.currentIndex().row())
+        Press(row - at >= ui::SheetView::kColumns ? Qt::Key_Down : Qt::Key_Right, Qt::ShiftModifier);
+}
+
+// Runs of misread boxes are selected and turned round together.
+void Walker::JudgeScreen(const QListView& view) {
+    const QAbstractItemModel& boxes = *view.model();
+    const int first = view.verticalScrollBar()->value() * ui::SheetView::kColumns;
+    const int end = std::min(first + ui::SheetView::kScreen, boxes.rowCount());
+    const auto isReady = [&boxes](int row) {
+        return !boxes.index(row, 0).data(ui::SheetModel::kBox).toString().isEmpty();
+    };
+    for (int row = first; row < end; ++row)
+        if (!QTest::qWaitFor([&] { return isReady(row); }, 60'000))
+            throw std::runtime_error("The sheet shows no picture.");
+    for (int row = first; row < end; ++row) {
+        if (!IsWrongPicture(boxes.index(row, 0)))
+            continue;
+        int last = row;
+        while (last + 1 < end && IsWrongPicture(boxes.index(last + 1, 0)))
+            ++last;
+        MoveTo(view, row);
+        ExtendTo(view, last);
+        Press(Qt::Key_Space);
+        row = last;
+    }
+}
+
+void Walker::WorkThroughSheet(const QDialog& sheet) {
+    constexpr int kMostScreens = 50;
+    for (int screens = 0; sheet.isVisible() && screens < kMostScreens; ++screens) {
+        JudgeScreen(driving::Find<QListView>(sheet, "lvwSheet"));
+        Press(Qt::Key_Return, Qt::ControlModifier);
+    }
+}
+
+void Walker::SheetAndAcceptAll() {
+    Press(Qt::Key_F6);
+    WaitForCounts();
+    std::exception_ptr failure;
+    // The dialogs take the keys while the key that has opened them is still being worked on.
+    QTimer::singleShot(0, &window_, [&] {
+        auto* const sheet = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        try {
+            if (sheet == nullptr)
+                throw std::runtime_error("No sheet has opened.");
+            static_cast<void>(QTest::qWaitForWindowActive(sheet));
+            WorkThroughSheet(*sheet);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        if (sheet != nullptr)
+            sheet->hide();
+    });
+    Press(Qt::Key_F9);
+    if (failure)
+        std::rethrow_exception(failure);
+    QTimer::singleShot(0, &window_, [this] {
+        static_cast<void>(QTest::qWaitForWindowActive(QApplication::activeModalWidget()));
+        Press(Qt::Key_Return);
+    });
+    Press(Qt::Key_F9, Qt::ShiftModifier);
 }
 
 }  // namespace tavrene::tour

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDialog>
 #include <QKeySequence>
+#include <QListView>
 #include <QTreeWidget>
 
 #include "tour/walk/Forms.h"
@@ -17,6 +19,10 @@ class Walker {
     /// Looks at every form, turns round what was misread and saves each as reviewed; going on opens the next.
     void GoOnThroughAll();
 
+    /// Judges the boxes in doubt of all forms on the sheet of doubts, turns round what was misread, and
+    /// accepts all forms without doubt.
+    void SheetAndAcceptAll();
+
     int Keys() const { return keys_; }
 
   private:
@@ -26,6 +32,12 @@ class Walker {
     const QTreeWidgetItem* FirstWrongRow();
     bool IsWrong(const QTreeWidgetItem& row) const;
     void CorrectForm();
+    void WaitForCounts();
+    void WorkThroughSheet(const QDialog& sheet);
+    void JudgeScreen(const QListView& view);
+    bool IsWrongPicture(const QModelIndex& box) const;
+    void MoveTo(const QListView& view, int row);
+    void ExtendTo(const QListView& view, int row);
 
     ui::MainWindow& window_;
     const FormTruth& truth_;

@@ -1,7 +1,10 @@
 #include "review/doubts/DoubtCache.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstdint>
+#include <cstdio>
 #include <string_view>
 #include <utility>
 
@@ -9,7 +12,7 @@ namespace tavrene::review {
 namespace {
 
 // The first line; a file of another version holds nothing.
-constexpr std::string_view kTitle = "Doubts about processed forms, 1";
+constexpr std::string_view kTitle = "Doubts about processed forms, 2";
 
 // One letter a reason, in their order.
 constexpr std::string_view kLetters = "CORTFBNM";
@@ -23,23 +26,62 @@ std::string_view TakeUpTo(std::string_view& text, char end) {
 std::string TextOf(const FormDoubts& doubts) {
     std::string text;
     for (const DoubtfulBox& box : doubts)
-        text += std::to_string(box.row) + kLetters[static_cast<std::size_t>(box.reason)];
+        text += std::to_string(box.row) + kLetters[static_cast<std::size_t>(box.reason)] +
+                (box.isChecked ? '+' : '-') + std::to_string(box.ink) + ' ';
     return text;
 }
 
-// "3T17F"; nothing for any other text.
+std::optional<int> NumberFrom(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+// "3T-75"; nothing for any other text.
+std::optional<DoubtfulBox> DoubtFrom(std::string_view text) {
+    const std::size_t at = std::min(text.find_first_of(kLetters), text.size());
+    const std::optional<int> row = NumberFrom(text.substr(0, at));
+    const std::string_view rest = text.substr(at);
+    if (!row || *row < 1 || rest.size() < 3 || (rest[1] != '+' && rest[1] != '-'))
+        return std::nullopt;
+    const std::optional<int> ink = NumberFrom(rest.substr(2));
+    if (!ink)
+        return std::nullopt;
+    return DoubtfulBox{*row, static_cast<DoubtReason>(kLetters.find(rest[0])), rest[1] == '+', *ink};
+}
+
 std::optional<FormDoubts> DoubtsFrom(std::string_view text) {
     FormDoubts doubts;
     while (!text.empty()) {
-        int row = 0;
-        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), row);
-        if (error != std::errc() || row < 1 || end == text.data() + text.size() ||
-            kLetters.find(*end) == std::string_view::npos)
+        const std::optional<DoubtfulBox> doubt = DoubtFrom(TakeUpTo(text, ' '));
+        if (!doubt)
             return std::nullopt;
-        doubts.push_back({row, static_cast<DoubtReason>(kLetters.find(*end))});
-        text.remove_prefix(static_cast<std::size_t>(end - text.data()) + 1);
+        doubts.push_back(*doubt);
     }
     return doubts;
+}
+
+// The last line: a file that was cut short, or mended by hand, is not believed. FNV-1a of 64 bits
+// (datatracker.ietf.org/doc/html/draft-eastlake-fnv).
+std::string EndOf(std::string_view text) {
+    std::uint64_t sum = 0xcbf29ce484222325U;
+    for (const char each : text)
+        sum = (sum ^ static_cast<unsigned char>(each)) * 0x100000001b3U;
+    std::array<char, 24> end{};
+    std::snprintf(end.data(), end.size(), "end %016llx\n", static_cast<unsigned long long>(sum));
+    return end.data();
+}
+
+// What stands between title and end; nothing when the text is not whole.
+std::string_view BodyOf(std::string_view text) {
+    const std::size_t endSize = EndOf({}).size();
+    if (text.size() < endSize)
+        return {};
+    const std::string_view signedText = text.substr(0, text.size() - endSize);
+    if (text.substr(signedText.size()) != EndOf(signedText))
+        return {};
+    std::string_view body = signedText;
+    return TakeUpTo(body, '\n') == kTitle ? body : std::string_view();
 }
 
 bool FitsOnALine(const std::string& text) {
@@ -61,9 +103,7 @@ void DoubtCache::Load() {
     }
     std::string content(bytes.size(), ' ');
     std::ranges::transform(bytes, content.begin(), [](std::byte byte) { return static_cast<char>(byte); });
-    std::string_view text = content;
-    if (TakeUpTo(text, '\n') != kTitle)
-        return;
+    std::string_view text = BodyOf(content);
     while (!text.empty()) {
         std::string_view line = TakeUpTo(text, '\n');
         const std::string form(TakeUpTo(line, '\t'));
@@ -94,6 +134,7 @@ void DoubtCache::Save() {
     for (const auto& [form, entry] : entries_)
         if (entry.isAlive && FitsOnALine(form) && FitsOnALine(entry.stamp))
             text += form + '\t' + entry.stamp + '\t' + TextOf(entry.doubts) + '\n';
+    text += EndOf(text);
     try {
         files_.Write(path_, app::AsBytes(text), app::Keep::AsScratch);
     } catch (const app::FileError&) {

@@ -15,6 +15,8 @@ namespace tavrene::review {
 struct DoubtfulBox {
     int row = 0;  ///< Its place in the document, from 1.
     DoubtReason reason = DoubtReason::NearThreshold;
+    bool isChecked = false;  ///< In the document.
+    int ink = 0;             ///< Tenths of a percent.
     bool operator==(const DoubtfulBox&) const = default;
 };
 
@@ -26,7 +28,7 @@ class DoubtCache {
     /// `files` must outlive the cache.
     DoubtCache(app::Files& files, std::string path) : files_(files), path_(std::move(path)) {}
 
-    /// Takes over what the file holds; one that cannot be read holds nothing.
+    /// Takes over what the file holds; one that cannot be read, or is not whole, holds nothing.
     void Load();
 
     /// What is known of a form (the name of its document) as it was when it had this stamp; else null.

@@ -18,16 +18,14 @@ constexpr double kBold = 0.3;
 // Percent of a strip beside an empty box; a word that the scan has moved a little makes less.
 constexpr double kStray = 12;
 
+// Shares of what a blackened box comes to: black all over, and by far not.
+constexpr double kBlack = 0.92;
+constexpr double kLighter = 0.82;
+
 double Median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
-}
-
-double SpreadAround(double median, std::vector<double> values) {
-    for (double& value : values)
-        value = std::abs(value - median);
-    return Median(std::move(values));
 }
 
 // Faint marks among the empty boxes lie above the middle.
@@ -39,6 +37,10 @@ double SpreadBelow(double median, const std::vector<double>& values) {
     return Median(std::move(below));
 }
 
+double InkOf(const BoxEvidence& box) {
+    return box.least.value_or(*box.fill);
+}
+
 std::optional<DoubtReason> DoubtOf(const BoxEvidence& box, const FillBand& band, double fillThreshold) {
     if (!box.fill)
         return std::nullopt;
@@ -46,11 +48,12 @@ std::optional<DoubtReason> DoubtOf(const BoxEvidence& box, const FillBand& band,
         return DoubtReason::Contradiction;
     if (box.isOtherForm)
         return DoubtReason::OtherForm;
-    if (box.isReadOtherwise)
+    const double ink = InkOf(box);
+    if (box.isReadOtherwise || (box.isChecked && ink <= band.low))
         return DoubtReason::ReadOtherwise;
-    if (*box.fill > band.low && *box.fill < band.high)
+    if (ink > band.low && ink < band.high)
         return DoubtReason::NearThreshold;
-    if (*box.fill > band.most)
+    if (ink > kBlack * box.full && band.mark < kLighter * box.full)
         return DoubtReason::OverFull;
     if (!box.isChecked && box.inkBeside > kStray)
         return DoubtReason::InkBeside;
@@ -86,18 +89,17 @@ FillBand BandOf(std::span<const double> fills, double fillThreshold) {
     std::vector<double> marked;
     for (const double fill : fills)
         (fill < fillThreshold ? empty : marked).push_back(fill);
-    FillBand band{fillThreshold * 2 / 3, fillThreshold * 4 / 3, 101};
-    const double mark = marked.size() >= kEnough ? Median(marked) : 2 * fillThreshold;
+    FillBand band{fillThreshold * 2 / 3, fillThreshold * 4 / 3, marked.empty() ? 0 : Median(marked)};
+    const bool isUsualMark = marked.size() >= kEnough;
+    const double mark = isUsualMark ? band.mark : 2 * fillThreshold;
     if (empty.size() >= kEnough) {
         const double usual = Median(empty);
         band.low =
             std::min(fillThreshold,
                      usual + std::max({kLeast, 4 * SpreadBelow(usual, empty), kTouch * (mark - usual)}));
     }
-    if (marked.size() >= kEnough) {
+    if (isUsualMark)
         band.high = std::max(fillThreshold, band.low + kBold * (mark - band.low));
-        band.most = mark + std::max(0.4 * mark, 4 * SpreadAround(mark, marked));
-    }
     return band;
 }
 
@@ -105,7 +107,7 @@ BoxDoubts DoubtsOf(std::span<const BoxEvidence> boxes, double fillThreshold) {
     std::vector<double> fills;
     for (const BoxEvidence& box : boxes)
         if (box.fill)
-            fills.push_back(*box.fill);
+            fills.push_back(InkOf(box));
     const FillBand band = BandOf(fills, fillThreshold);
     BoxDoubts doubts;
     for (const BoxEvidence& box : boxes)

@@ -26,6 +26,10 @@ std::string_view TextOf(DoubtReason reason);
 struct BoxEvidence {
     bool isChecked = false;      ///< In the document.
     std::optional<double> fill;  ///< Percent of ink; none for a box that the page does not tell of.
+    /// The least that it comes to a pixel or two aside, where the printed line stays out of it; none where it
+    /// was not looked for.
+    std::optional<double> least = std::nullopt;
+    double full = 100;  ///< What a blackened box comes to.
     bool isOtherForm = false;
     bool isReadOtherwise = false;
     double inkBeside = 0;  ///< Percent of a strip close outside that is inked beyond what is printed there.
@@ -41,7 +45,7 @@ BoxDoubts DoubtsOf(std::span<const BoxEvidence> boxes, double fillThreshold);
 struct FillBand {
     double low = 0;   ///< Emptier boxes are empty,
     double high = 0;  ///< fuller ones are marked,
-    double most = 0;  ///< but those above are too full.
+    double mark = 0;  ///< The usual mark; a box that is black all over beside much lighter ones is too full.
 };
 
 /// The band of a page whose boxes have these fills. It follows them: a page of clean empty boxes makes a

@@ -89,6 +89,35 @@ void AddStrayInk(std::vector<BoxEvidence>& boxes, const MeasuredForm& form,
             boxes[k].inkBeside = StrayInk(places[k], beyond[k], marks);
 }
 
+// What counting leaves out of a box on every side, and how far aside it may lie.
+constexpr int kBorder = 4;
+constexpr int kAside = 2;
+
+double AreaOf(const GridRect& place) {
+    return (place.col1 - place.col0 - 1) * (place.row1 - place.row0 - 1);
+}
+
+GridRect Counted(const GridRect& place) {
+    return {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder};
+}
+
+// The printed line of a box that lies a little aside is counted with what is in it; a mark stays in it.
+double LeastFill(const imaging::WorkGrid& grid, const GridRect& place, double fill) {
+    const GridRect counted = Counted(place);
+    for (int dx = -kAside; dx <= kAside; ++dx)
+        for (int dy = -kAside; dy <= kAside; ++dy)
+            fill = std::min(fill, 100 * recognition::CountInk(grid, recognition::Shifted(counted, dx, dy)) /
+                                      AreaOf(place));
+    return fill;
+}
+
+double BlackenedFill(const GridRect& place) {
+    const GridRect counted = Counted(place);
+    const int cells =
+        std::max(0, counted.col1 - counted.col0 + 1) * std::max(0, counted.row1 - counted.row0 + 1);
+    return 100 * cells / AreaOf(place);
+}
+
 }  // namespace
 
 std::vector<BoxEvidence> EvidenceOf(const MeasuredForm& form, const recognition::SecondOpinion& opinion,
@@ -99,8 +128,17 @@ std::vector<BoxEvidence> EvidenceOf(const MeasuredForm& form, const recognition:
             continue;
         boxes[k].isChecked = *form.checked[k];
         boxes[k].fill = form.measures[k].fill;
-        boxes[k].isOtherForm = opinion.otherProfile;
+        if (form.precise || !boxes[k].fill)
+            continue;
+        const GridRect place = OnGrid(form.page.grid, form.measures[k].rect);
+        boxes[k].least = LeastFill(form.page.grid, place, *boxes[k].fill);
+        boxes[k].full = BlackenedFill(place);
     }
+    // One doubt of the form is enough: it is the form that somebody has to look at.
+    const auto first =
+        std::ranges::find_if(boxes, [](const BoxEvidence& box) { return box.fill.has_value(); });
+    if (first != boxes.end())
+        first->isOtherForm = opinion.otherProfile;
     for (const std::size_t k : opinion.boxes)
         boxes[k].isReadOtherwise = true;
     if (print != nullptr && !boxes.empty())

@@ -17,6 +17,7 @@ struct MeasuredForm {
     std::span<const recognition::BoxMeasure> measures;
     std::vector<std::optional<bool>> checked;  ///< In the document; none for a box that it lacks.
     bool turned = false;                       ///< The page lies upside down.
+    bool precise = false;                      ///< The boxes were found to the pixel.
 };
 
 /// What the page tells of each box. `opinion` is the second look's, `print` what is printed on the form's

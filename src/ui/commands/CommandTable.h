@@ -57,6 +57,8 @@ enum class Command {
     PreviousForm,
     FlipBox,
     NextDoubt,
+    DoubtSheet,
+    AcceptAllClear,
     FilterForms,
     GoOn,
     UndoDecision,

@@ -74,10 +74,16 @@ ImageView::ImageView(const app::Files& files, QWidget* parent)
 void ImageView::SetPage(const QImage& image) {
     if (HasPage()) {
         lastSize_ = page_->Size().toSize();
-        lastScroll_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+        lastScroll_ =
+            own_ ? own_->scroll : QPoint{horizontalScrollBar()->value(), verticalScrollBar()->value()};
     }
     page_->SetImage(image);
-    isTurned_ = isLarge_ = false;
+    isTurned_ = false;
+    if (own_) {
+        const double zoom = own_->zoom;
+        own_.reset();
+        ApplyZoom(zoom);
+    }
     Transform();
     // Without a rectangle of its own the scene would keep the room that earlier pages took.
     scene()->setSceneRect(HasPage() ? page_->boundingRect() : QRectF(0, 0, 1, 1));
@@ -181,7 +187,8 @@ void ImageView::ShowLarge(int group) {
     const double side = std::min(box.width(), box.height());
     if (side <= 0)
         return;
-    isLarge_ = true;
+    if (!own_)
+        own_ = {zoom_, {horizontalScrollBar()->value(), verticalScrollBar()->value()}};
     if (side * zoom_ / 100 < kLegible)
         ApplyZoom(100 * kLegible / side);
     isUnseen_ = false;
@@ -190,6 +197,7 @@ void ImageView::ShowLarge(int group) {
 
 void ImageView::ZoomTo(double percent) {
     fit_ = ZoomFit::None;
+    own_.reset();
     ApplyZoom(percent);
 }
 
@@ -209,12 +217,12 @@ void ImageView::ZoomToOriginal() {
 
 void ImageView::KeepFit(ZoomFit fit) {
     fit_ = fit;
-    isLarge_ = false;
+    own_.reset();
     Refit();
 }
 
 void ImageView::Refit() {
-    if (isLarge_)
+    if (own_)
         return;
     if (fit_ == ZoomFit::Page)
         FitPage();

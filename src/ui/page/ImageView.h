@@ -149,7 +149,12 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     double zoom_ = 100;
     ZoomFit fit_ = ZoomFit::None;
     bool isTurned_ = false;
-    bool isLarge_ = false;  ///< A box is shown large, and the zoom waits for the next page to fit again.
+    /// How the person had the page before a box was shown large: so the next page is shown again.
+    struct OwnView {
+        double zoom;
+        QPoint scroll;
+    };
+    std::optional<OwnView> own_;
     QSize lastSize_;        ///< Of the page shown last,
     QPoint lastScroll_;     ///< and how far it was scrolled when it was taken away.
     int pushedDown_ = 0;    ///< By what came to stand above the view, until the view has its new size.

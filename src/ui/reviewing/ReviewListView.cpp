@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <array>
 #include <utility>
 
 #include "ui/base/EmptyHint.h"
@@ -11,8 +12,12 @@ namespace tavrene::ui {
 namespace {
 
 constexpr int kRowMargin = 6;
-constexpr int kHeaderMargin = 20;
-constexpr int kNameWidth = 130;
+constexpr int kHeaderMargin = 16;
+constexpr int kNameWidth = 150;
+constexpr int kTickMargin = 6;  // pixels before the tick
+
+// What a person needs least comes last: the tick says it already.
+constexpr std::array kWhereThereIsRoom = {ReviewTable::kProfile, ReviewTable::kReviewed};
 
 }  // namespace
 
@@ -23,7 +28,9 @@ ReviewListView::ReviewListView(QWidget* parent)
     setObjectName("lvwReview");
     setAccessibleName("Processed forms");
     setFrameShape(QFrame::NoFrame);
-    setRootIsDecorated(false);
+    setIndentation(kTickMargin);
+    setItemsExpandable(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUniformRowHeights(true);
     setTextElideMode(Qt::ElideMiddle);
     setAlternatingRowColors(true);
@@ -36,16 +43,35 @@ ReviewListView::ReviewListView(QWidget* parent)
 
 // What a person looks for first stands first; the order is the folder's until a header is clicked.
 void ReviewListView::LayOutColumns() {
-    header()->setStretchLastSection(true);
+    header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setSortIndicatorClearable(true);
     header()->setSortIndicator(-1, Qt::AscendingOrder);
     header()->moveSection(header()->visualIndex(ReviewTable::kDoubts), 1);
-    header()->resizeSection(ReviewTable::kName, kNameWidth);
-    for (const int column : {ReviewTable::kConfidence, ReviewTable::kProfile, ReviewTable::kDoubts}) {
+    header()->setMinimumSectionSize(20);
+    header()->setSectionResizeMode(ReviewTable::kName, QHeaderView::Stretch);
+    for (int column = ReviewTable::kName + 1; column < ReviewTable::kColumns; ++column) {
         const QString title = lines_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         header()->resizeSection(column, header()->fontMetrics().horizontalAdvance(title) + kHeaderMargin);
     }
+    header()->resizeSection(ReviewTable::kProfile, 2 * header()->sectionSize(ReviewTable::kProfile));
+}
+
+// A column that would take the room from the names is not shown until the list is made wider.
+void ReviewListView::ShowColumnsWithRoom() {
+    int room = viewport()->width() - kNameWidth - header()->sectionSize(ReviewTable::kDoubts) -
+               header()->sectionSize(ReviewTable::kConfidence);
+    for (const int column : kWhereThereIsRoom) {
+        // A hidden one tells no size.
+        header()->setSectionHidden(column, false);
+        room -= header()->sectionSize(column);
+        header()->setSectionHidden(column, room < 0);
+    }
+}
+
+void ReviewListView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    ShowColumnsWithRoom();
 }
 
 void ReviewListView::SetFilter(FormFilter filter) {

@@ -50,9 +50,11 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
 
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void LayOutColumns();
+    void ShowColumnsWithRoom();
     void TellOpened(const QModelIndex& index);
 
     ReviewTable* lines_;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view kGoOn = "GoOn";
 
-// Milliseconds of quiet after a command.
+// Milliseconds of quiet after a command, a key or a click.
 constexpr int kCountAfter = 400;
 
 // What a key in one of the lists means; `canFlip` in a list of boxes that can be flipped.
@@ -54,6 +54,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
                 {controls.pane.List(), controls.pane.Choice()},
                 &context.precise},
                state.settings, state.folders, state.profiles),
+      doubts_(session_, {context.person, gate_, controls_.boxes, *controls_.view.window()}),
       goesOn_(app::ReadWindowFlag(context.store, kGoOn, true)) {
     gate_.SetHandler(Command::GoOn, [this, &store = context.store] {
         goesOn_ = !goesOn_;
@@ -63,6 +64,7 @@ ReviewMode::ReviewMode(const commands::AppState& state, const ReviewModeContext&
     ConnectFormCommands();
     ConnectDecisions();
     ConnectControls();
+    FollowList();
     WatchFolder();
     CountDoubtsInIdleTime();
 }
@@ -106,20 +108,26 @@ void ReviewMode::ConnectDecisions() {
         Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); }, isHighlighted);
     gate_.SetHandler(
         Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); }, isHighlighted);
-    const auto followSelection = [this] {
+}
+
+// Another selected line, or others that the filter shows. Not at once, for the list itself is brought up to
+// date then, and once for all the lines that come and go together.
+void ReviewMode::FollowList() {
+    offer_.setSingleShot(true);
+    offer_.setInterval(0);
+    connect(&offer_, &QTimer::timeout, this, [this] {
         if (!gate_.IsBusy() && session_.IsOn())
             gate_.Guard([] {});  // what is offered follows every event
-    };
-    // Not at once, for the list itself is brought up to date then.
-    connect(controls_.pane.List().selectionModel(), &QItemSelectionModel::currentChanged, this,
-            followSelection, Qt::QueuedConnection);
+    });
+    const auto follow = [this] { offer_.start(); };
+    const ReviewListView& list = controls_.pane.List();
+    connect(list.selectionModel(), &QItemSelectionModel::currentChanged, this, follow);
+    connect(list.model(), &QAbstractItemModel::rowsInserted, this, follow);
+    connect(list.model(), &QAbstractItemModel::rowsRemoved, this, follow);
 }
 
 void ReviewMode::ConnectFormCommands() {
-    gate_.SetHandler(
-        Command::UndoDecision, [this] { session_.UndoDecision(); }, [this] { return session_.HasDecided(); });
     gate_.SetHandler(Command::FlipBox, [this] { session_.FlipBox(controls_.boxes.CurrentNumber()); });
-    gate_.SetHandler(Command::NextDoubt, [this] { NextDoubt(); });
     gate_.SetHandler(Command::FilterForms, [this] { controls_.pane.ShowFilter(); });
 }
 
@@ -201,6 +209,8 @@ void ReviewMode::CountDoubtsInIdleTime() {
         const bool isInUse = QApplication::activePopupWidget() != nullptr;
         if (gate_.IsBusy() || isInUse || gate_.CurrentMode() == commands::Mode::Run)
             idle_.start(kCountAfter);
+        else if (const int left = input_.LeftOf(kCountAfter); left > 0)
+            idle_.start(left);
         else if (session_.CountNextDoubts())
             idle_.start(kPause);
     });
@@ -226,12 +236,6 @@ void ReviewMode::Save() {
         GoOn();
 }
 
-void ReviewMode::NextDoubt() {
-    const BusyCursor busy;
-    if (session_.NextDoubt(session_.HasForm() ? controls_.boxes.CurrentNumber() : 0))
-        controls_.boxes.setFocus();
-}
-
 void ReviewMode::RectClicked(int group) {
     // A box without a row leaves none selected, so that no key means another one.
     controls_.boxes.SelectRow(group);
@@ -250,7 +254,7 @@ void ReviewMode::Update() {
     if (gate_.CurrentMode() != commands::Mode::Run)
         session_.FollowFolder();
     const bool inReview = session_.IsOn();
-    if (inReview)
+    if (inReview && !idle_.isActive())
         idle_.start(kCountAfter);
     controls_.side.setCurrentIndex(inReview ? controls_.side.indexOf(&controls_.pane) : 0);
     controls_.pane.ShowUnread(session_.Unread());

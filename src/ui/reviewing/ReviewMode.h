@@ -10,10 +10,12 @@
 
 #include "app/SettingsStore.h"
 #include "review/ReviewSession.h"
+#include "ui/base/InputWatch.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
 #include "ui/page/ImageView.h"
+#include "ui/reviewing/DoubtCommands.h"
 #include "ui/reviewing/ReviewMarks.h"
 #include "ui/reviewing/ReviewPane.h"
 
@@ -87,12 +89,12 @@ class ReviewMode final : public QObject {
     void Decide(const std::function<void()>& decide);
     void GoOn();
     void Save();
-    void NextDoubt();
     bool IsTyping(const QKeyEvent& key);
     bool TakeDigit(const QKeyEvent& key);
     void RectClicked(int group);
     void WatchFolder();
     void CountDoubtsInIdleTime();
+    void FollowList();
 
     const commands::AppState& state_;
     commands::CommandGate& gate_;
@@ -100,9 +102,12 @@ class ReviewMode final : public QObject {
     ReviewControls controls_;
     ReviewMarks marks_;
     review::ReviewSession session_;
+    DoubtCommands doubts_;
     QFileSystemWatcher watcher_;
     QTimer folderChanged_;  ///< Waits until a burst of changes is over.
     QTimer idle_;           ///< Counts the doubts of a form while nobody waits.
+    QTimer offer_;          ///< The list shows other lines: what can be done is to be shown.
+    InputWatch input_;
     bool goesOn_;
     QElapsedTimer typed_;   ///< Since the last letter in the box list.
     bool hadForm_ = false;  ///< A form was open after the last command.

@@ -101,7 +101,7 @@ void MainWindow::BuildLayout() {
     splitter_->addWidget(StripAbove(*strip_, *view_));
     splitter_->addWidget(lists);
     splitter_->setStretchFactor(1, 1);
-    splitter_->setSizes({264, 726, 290});
+    splitter_->setSizes({300, 690, 290});
     auto* const middle = new QWidget(this);
     QVBoxLayout* const column = FillingColumn(middle);
     column->addWidget(splitter_, 1);

@@ -45,9 +45,9 @@ const Commands kBoxes = {
     C::BoxNames,       C::SortByPlace,    C::MoveRowsUp,       C::MoveRowsDown,   C::DrawGrid,
     C::CopyBoxes,      C::PasteBoxes,     C::DuplicateBoxes,   C::SnapToPrint,    C::GroupBoxes,
     C::UngroupBoxes,   C::GroupByRows,    C::GroupByNames,     C::GroupFrames};
-const Commands kForms = {C::OpenForm,     C::NextForm,        C::PreviousForm,
-                         C::PickForm,     C::BackToProcessIn, C::AllBackToProcessIn,
-                         C::UndoDecision, C::NextDoubt,       C::FilterForms};
+const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm,  C::PickForm,
+                         C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision,  C::NextDoubt,
+                         C::FilterForms,     C::DoubtSheet,         C::AcceptAllClear};
 const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
 const Commands kForm = {C::FlipBox, C::PickProfile, C::PickMark};
 const Commands kReview = AllBut(kNew + kFile + kBoxes + kDecisions + kForm);
@@ -74,6 +74,8 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::Review, Prompts::ProfileThenForm},
                                                 {C::AcceptForm, Prompts::Form},
                                                 {C::UndoDecision, Prompts::Form},
+                                                {C::DoubtSheet, Prompts::Form},
+                                                {C::AcceptAllClear, Prompts::Form},
                                                 {C::OpenForm, Prompts::Form},
                                                 {C::NextForm, Prompts::Form},
                                                 {C::PreviousForm, Prompts::Form},

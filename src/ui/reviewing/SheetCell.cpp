@@ -1,0 +1,74 @@
+#include "ui/reviewing/SheetCell.h"
+
+#include <QListView>
+#include <QPainter>
+
+#include "ui/reviewing/SheetModel.h"
+
+namespace tavrene::ui {
+namespace {
+
+constexpr int kMargin = 3;
+constexpr int kSign = 18;  // pixels of the square that stands for the mark
+
+// The colours that marks have on the page.
+const QColor kMarked(0, 114, 178);
+const QColor kEmpty(213, 94, 0);
+const QColor kByHand(240, 228, 66);
+
+void PaintPicture(QPainter& painter, const QRect& room, const QImage& picture) {
+    if (picture.isNull())
+        return;
+    const QSize size = picture.size().scaled(room.size(), Qt::KeepAspectRatio);
+    QRect place({}, size);
+    place.moveCenter(room.center());
+    painter.drawImage(place, picture);
+}
+
+void PaintSign(QPainter& painter, const QRect& room, bool isMarked, bool isTurned) {
+    const QRectF sign = QRectF(room.left() + 2, room.top() + 2, kSign, kSign).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(QPen(isMarked ? kMarked : kEmpty, 2));
+    painter.setBrush(isTurned ? kByHand : Qt::white);
+    painter.drawRoundedRect(sign, 3, 3);
+    if (!isMarked)
+        return;
+    painter.setPen(QPen(kMarked, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{sign.topLeft() + QPointF(4, 9), sign.topLeft() + QPointF(7.5, 12.5),
+                                   sign.topLeft() + QPointF(13, 4.5)});
+}
+
+}  // namespace
+
+void SheetCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QRect cell = option.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    const int line = option.fontMetrics.height();
+    const QRect room = cell.adjusted(0, 0, 0, -line - 2);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    if (isSelected)
+        painter->fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.highlight());
+    painter->fillRect(room, Qt::white);
+    PaintPicture(*painter, room, index.data(SheetModel::kPicture).value<QImage>());
+    PaintSign(*painter, room, index.data(SheetModel::kChecked).toBool(),
+              index.data(SheetModel::kTurned).toBool());
+    const QRect caption(cell.left(), room.bottom() + 2, cell.width(), line);
+    const QString box = index.data(SheetModel::kBox).toString();
+    const QString text = index.data(SheetModel::kForm).toString() + (box.isEmpty() ? "" : " · " + box);
+    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(caption, Qt::AlignCenter,
+                      option.fontMetrics.elidedText(text, Qt::ElideMiddle, caption.width()));
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter->setPen(QPen(option.palette.color(QPalette::Text), 2, Qt::DotLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+    }
+    painter->restore();
+}
+
+QSize SheetCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    const auto* const view = dynamic_cast<const QListView*>(option.widget);
+    return view == nullptr ? QSize(96, 96) : view->gridSize();
+}
+
+}  // namespace tavrene::ui

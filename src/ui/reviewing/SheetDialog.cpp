@@ -1,0 +1,245 @@
+#include "ui/reviewing/SheetDialog.h"
+
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QScrollBar>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include "review/ClearForms.h"
+#include "ui/base/BusyCursor.h"
+#include "ui/base/CalmWheel.h"
+#include "ui/base/FitToScreen.h"
+#include "ui/base/QtText.h"
+#include "ui/commands/Counted.h"
+
+namespace tavrene::ui {
+
+using commands::Counted;
+
+SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidget* parent)
+    : QDialog(parent),
+      sheet_(sheet),
+      person_(person),
+      crops_(sheet),
+      parts_({new SheetModel(crops_, this), new SheetModel(crops_, this)}),
+      subject_(new QComboBox(this)),
+      tabs_(new QTabBar(this)),
+      view_(new SheetView(this)),
+      about_(new QLabel(this)),
+      progress_(new QLabel(this)),
+      confirm_(new QPushButton("&Confirm Screen", this)) {
+    setObjectName("frmSheet");
+    setWindowTitle("Sheet of Doubts");
+    LayOut();
+    view_->SetListener({[this](int row) { Open(row); }, [this] { Update(); }});
+    connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Update(); });
+    connect(subject_, &QComboBox::currentIndexChanged, this, [this] { Begin(); });
+    connect(tabs_, &QTabBar::currentChanged, this, [this] { ShowPart(); });
+    connect(confirm_, &QPushButton::clicked, this, [this] { Confirm(); });
+    idle_.setSingleShot(true);
+    connect(&idle_, &QTimer::timeout, this, [this] { Work(); });
+    if (parent != nullptr)
+        ResizeWithinScreen(*this, parent->size() - QSize(60, 60));
+    Begin();
+}
+
+void SheetDialog::LayOut() {
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(12, 12, 12, 12);
+    column->addWidget(Head());
+    column->addWidget(view_, 1);
+    column->addWidget(Foot());
+    view_->setFocus();
+}
+
+QWidget* SheetDialog::Head() {
+    auto* const head = new QWidget(this);
+    auto* const row = new QHBoxLayout(head);
+    row->setContentsMargins(0, 0, 0, 0);
+    subject_->setObjectName("cboSheet");
+    subject_->setAccessibleName("Which boxes the sheet shows");
+    subject_->setToolTip("The boxes in doubt, or those of one name of all forms");
+    subject_->addItem("Boxes in doubt");
+    for (const std::string& name : sheet_.BoxNames())
+        subject_->addItem("Box " + ToQt(name), ToQt(name));
+    new CalmWheel(*subject_);
+    tabs_->setObjectName("tabSheet");
+    tabs_->addTab({});
+    tabs_->addTab({});
+    tabs_->setDrawBase(false);
+    row->addWidget(tabs_);
+    row->addStretch(1);
+    row->addWidget(progress_);
+    row->addWidget(subject_);
+    return head;
+}
+
+QWidget* SheetDialog::Foot() {
+    auto* const foot = new QWidget(this);
+    auto* const row = new QHBoxLayout(foot);
+    row->setContentsMargins(0, 0, 0, 0);
+    about_->setObjectName("lblSheet");
+    about_->setTextFormat(Qt::PlainText);
+    about_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    confirm_->setObjectName("cmdConfirm");
+    confirm_->setShortcut(QKeySequence("Ctrl+Return"));
+    confirm_->setToolTip("What is on the screen is as it is shown now: save it (Ctrl+Enter)");
+    confirm_->setAutoDefault(false);
+    auto* const close = new QPushButton("Close", this);
+    close->setAutoDefault(false);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    row->addWidget(about_, 1);
+    row->addWidget(confirm_);
+    row->addWidget(close);
+    return foot;
+}
+
+void SheetDialog::Begin() {
+    for (SheetModel* const part : parts_)
+        part->Clear();
+    Add(sheet_.Begin(FromQt(subject_->currentData().toString())));
+    tabs_->setCurrentIndex(parts_[0]->rowCount() > 0 ? 0 : 1);
+    ShowPart();
+    idle_.start(0);
+}
+
+void SheetDialog::Add(const std::vector<review::SheetBox>& boxes) {
+    for (const bool isMarked : {true, false}) {
+        std::vector<review::SheetBox> part;
+        std::ranges::copy_if(boxes, std::back_inserter(part),
+                             [isMarked](const review::SheetBox& box) { return box.IsChecked == isMarked; });
+        parts_[isMarked ? 0 : 1]->Add(part);
+    }
+    if (!view_->currentIndex().isValid() && view_->model() != nullptr && Part().rowCount() > 0)
+        view_->setCurrentIndex(Part().index(0));
+}
+
+void SheetDialog::ShowPart() {
+    view_->Show(Part());
+    Update();
+}
+
+void SheetDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    Update();
+}
+
+void SheetDialog::Confirm() {
+    const BusyCursor busy;
+    const int first = view_->FirstOnScreen();
+    std::vector<review::SheetBox> judged;
+    for (int row = first; row < std::min(first + SheetView::kScreen, Part().rowCount()); ++row)
+        judged.push_back(Part().At(row));
+    const review::DoubtSheet::Outcome outcome = sheet_.Confirm(judged);
+    reviewed_ += outcome.reviewed;
+    corrected_ += outcome.corrected;
+    Part().Remove(first, static_cast<int>(judged.size()), outcome.done);
+    if (!outcome.failures.empty())
+        person_.ShowMessage("", review::TextOfFailures(outcome.failures));
+    GoOn();
+}
+
+// To what is left, of the other part perhaps; when nothing is, the sheet has done its work.
+void SheetDialog::GoOn() {
+    if (Part().rowCount() == 0)
+        tabs_->setCurrentIndex(parts_[0]->rowCount() > 0 ? 0 : 1);
+    if (Part().rowCount() == 0 && sheet_.FormsLeft() == 0) {
+        accept();
+        return;
+    }
+    if (Part().rowCount() > 0)
+        view_->setCurrentIndex(Part().index(std::min(view_->FirstOnScreen(), Part().rowCount() - 1)));
+    Update();
+}
+
+void SheetDialog::Open(int row) {
+    chosen_ = Part().At(row);
+    accept();
+    if (result() != QDialog::Accepted)
+        chosen_ = {};
+}
+
+std::string SheetDialog::Report() const {
+    if (reviewed_ + corrected_ == 0)
+        return {};
+    return Counted(reviewed_, "form", "forms") + " reviewed, " + Counted(corrected_, "box", "boxes") +
+           " corrected on the sheet.";
+}
+
+void SheetDialog::Update() {
+    static constexpr std::array kTitles = {"Marked (%1)", "Not marked (%1)"};
+    for (std::size_t k = 0; k < parts_.size(); ++k)
+        tabs_->setTabText(static_cast<int>(k), QString(kTitles[k]).arg(parts_[k]->rowCount()));
+    const QModelIndex current = view_->currentIndex();
+    const bool isEmpty = Part().rowCount() == 0;
+    const QString about = current.data(SheetModel::kForm).toString() + "  " +
+                          current.data(SheetModel::kBox).toString() + "  " +
+                          current.data(SheetModel::kReason).toString();
+    about_->setText(isEmpty ? "Nothing is in doubt here."
+                            : about.trimmed() + "   Space turns the mark round, Enter opens the form.");
+    const auto left = sheet_.FormsLeft();
+    progress_->setText(left == 0 ? QString()
+                                 : ToQt(Counted(left, "form", "forms") + " still to be looked at"));
+    confirm_->setEnabled(!isEmpty);
+    if (view_->model() != nullptr)
+        view_->WantPictures();
+    if (!idle_.isActive())
+        idle_.start(0);
+}
+
+// What is in sight is waited for; other forms are looked at once the person is not doing anything.
+void SheetDialog::Work() {
+    constexpr int kQuiet = 150;  // milliseconds
+    const std::string made = crops_.MakeNext();
+    for (SheetModel* const part : parts_)
+        if (!made.empty())
+            part->TellMade(made);
+    if (!made.empty())
+        idle_.start(0);
+    else if (input_.LeftOf(kQuiet) > 0)
+        idle_.start(input_.LeftOf(kQuiet));
+    else if (LookAtForms())
+        idle_.start(0);
+}
+
+// For so long as a person does not notice; false when there is none left.
+bool SheetDialog::LookAtForms() {
+    constexpr int kUnnoticed = 12;  // milliseconds
+    QElapsedTimer since;
+    since.start();
+    std::vector<review::SheetBox> found;
+    bool isAny = false;
+    while (since.elapsed() < kUnnoticed) {
+        const auto boxes = sheet_.LookAtNext();
+        if (!boxes)
+            break;
+        isAny = true;
+        std::ranges::copy(*boxes, std::back_inserter(found));
+    }
+    if (isAny) {
+        Add(found);
+        Update();
+    }
+    return isAny;
+}
+
+int SheetDialog::TurnedCount() const {
+    return parts_[0]->TurnedCount() + parts_[1]->TurnedCount();
+}
+
+// Turned marks that nobody has confirmed are not saved.
+bool SheetDialog::MayDropTurned() {
+    const int turned = TurnedCount();
+    return turned == 0 ||
+           person_.AskYesNo(Counted(turned, "mark was", "marks were") +
+                                " turned round and not confirmed. Leave the sheet without them?",
+                            app::Answer::No) == app::Answer::Yes;
+}
+
+void SheetDialog::done(int result) {
+    if (MayDropTurned())
+        QDialog::done(result);
+}
+
+}  // namespace tavrene::ui

@@ -1,0 +1,116 @@
+#include <QListView>
+#include <QTreeView>
+
+#include "painter/ImageFiles.h"
+#include "ui/DeskWindow.h"
+#include "ui/reviewing/SheetModel.h"
+
+namespace tavrene::ui {
+namespace {
+
+using test::DialogScript;
+using test::Find;
+using Names = std::vector<std::string>;
+using Box = QMessageBox;
+
+// Sixty forms with a faint dot in their third box, and one without.
+class DoubtSheetWindowTest : public test::DeskWindow {
+  protected:
+    DoubtSheetWindowTest() {
+        AddProfile("Form", form_);
+        samples::Canvas page = form_.Paint({.checked = {1}});
+        page.FillRect(form_.boxes[2].L + 6, form_.boxes[2].T + 6, 8, 4);
+        const imaging::Bitmap scan = samples::ToBilevel(page);
+        for (int k = 10; k < 70; ++k)
+            samples::SaveImage(scan, imaging::ImageFormat::Tiff,
+                               folders_.ProcessIn + "form" + std::to_string(k) + ".tif");
+        form_.SaveScan(folders_.ProcessIn + "plain.tif", {.checked = {1}});
+        Open();
+        Click("Process");
+        Click("Review");
+    }
+
+    static QListView& Sheet(const QDialog& dialog) { return Find<QListView>(dialog, "lvwSheet"); }
+
+    static int Count(const QDialog& dialog) { return Sheet(dialog).model()->rowCount(); }
+
+    static void WaitUntilAllAreFound(const QDialog& dialog) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Count(dialog) == 60; }, 60'000));
+    }
+
+    test::TestForm form_ = test::TestForm::Grid(2, 2);
+};
+
+TEST_F(DoubtSheetWindowTest, IsJudgedScreenByScreenByKeys) {
+    DialogScript script;
+    script.Do([](QDialog& dialog) {
+        WaitUntilAllAreFound(dialog);
+        QListView& sheet = Sheet(dialog);
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&sheet] { return sheet.model()->index(39, 0).data(SheetModel::kBox).toString() == "Q3"; },
+            60'000))
+            << "pictures come by themselves";
+        Press(sheet, Qt::Key_Right);
+        Press(sheet, Qt::Key_Down);
+        EXPECT_EQ(sheet.currentIndex().row(), 9);
+        Press(sheet, Qt::Key_Left, Qt::ShiftModifier);
+        Press(sheet, Qt::Key_Space);
+        const auto isChecked = [&sheet](int row) {
+            return sheet.model()->index(row, 0).data(SheetModel::kChecked).toBool();
+        };
+        EXPECT_TRUE(isChecked(8) && isChecked(9) && !isChecked(7) && !isChecked(10));
+        Press(sheet, Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_EQ(Count(dialog), 20) << "forty to a screen";
+        Press(sheet, Qt::Key_A, Qt::ControlModifier);
+        Press(sheet, Qt::Key_Space);
+        Press(sheet, Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_FALSE(dialog.isVisible()) << "nothing is left to judge";
+    });
+    Press(*window_, Qt::Key_F9);
+    EXPECT_EQ(Panel("Message"), "60 forms reviewed, 22 boxes corrected on the sheet.");
+    EXPECT_EQ(Panel("File"), "Reviewed: 60 of 61");
+    const std::string document = test::ReadText(folders_.ProcessOut + "form69.xml");
+    EXPECT_PRED2(test::Has, document, "Name=\"Q3\" Shift=\"0,0\" Checked=\"1\"");
+
+    script.Press(Box::No).PressEnter();
+    Press(*window_, Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_EQ(In(folders_.ProcessFinal), Names());
+    Press(*window_, Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_EQ(In(folders_.ProcessFinal).size(), 122U);
+    EXPECT_EQ(script.shown.back().substr(0, 31), "Accept 61 forms without doubt?\n");
+    Press(*window_, Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(In(folders_.ProcessFinal), Names());
+    EXPECT_EQ(Panel("File"), "Reviewed: 60 of 61");
+}
+
+TEST_F(DoubtSheetWindowTest, LeadsToAFormAndAsksAboutWhatIsNotSaved) {
+    ClickOn(Find<QTreeView>(*window_, "lvwReview"), 0);
+    ClickRow(0);
+    DialogScript script;
+    script.Press(Box::Cancel).Press(Box::No);
+    Press(*window_, Qt::Key_F9);
+    EXPECT_EQ(script.shown, Names{"Save changes to Form <form10>?"});
+    script
+        .Do([](QDialog& dialog) {
+            WaitUntilAllAreFound(dialog);
+            QListView& sheet = Sheet(dialog);
+            Press(sheet, Qt::Key_Space);
+            Press(sheet, Qt::Key_Escape);
+            EXPECT_TRUE(dialog.isVisible());
+            Press(sheet, Qt::Key_Space);
+            Press(sheet, Qt::Key_Down);
+            Press(sheet, Qt::Key_Return);
+        })
+        .Press(Box::No);
+    Press(*window_, Qt::Key_F9);
+    EXPECT_EQ(script.shown.back(),
+              "1 mark was turned round and not confirmed. Leave the sheet without them?");
+    EXPECT_EQ(Panel("Message"), "Image [form18.tif], Profile [Form]");
+    EXPECT_EQ(Rows().currentItem()->text(0) + Rows().currentItem()->text(1), "Q30");
+    const double large = View().Zoom();
+    Press(Rows(), Qt::Key_PageDown);
+    EXPECT_LT(View().Zoom(), large) << "the zoom is the person's own again";
+}
+
+}  // namespace
+}  // namespace tavrene::ui
