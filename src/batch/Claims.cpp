@@ -4,26 +4,38 @@
 
 #include <algorithm>
 #include <array>
-#include <condition_variable>
+#include <charconv>
 #include <random>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "app/Reason.h"
+#include "recognition/ResultDocument.h"
 
 namespace tavrene::batch {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kPrefix = ".claim-";
+// What could not be given back; nobody works on it.
+constexpr std::string_view kLeft = "left-";
 
-std::string OwnName() {
+// Who watches a claim goes by the patience that its owner counts on, not by its own.
+std::string OwnName(std::chrono::seconds patience) {
     std::array<char, 256> host{};
     ::gethostname(host.data(), host.size() - 1);
     // A process of the same number may have died on this machine before.
-    return std::string(kPrefix) + host.data() + "-" + std::to_string(::getpid()) + "-" +
+    return std::to_string(patience.count()) + "s-" + host.data() + "-" + std::to_string(::getpid()) + "-" +
            std::to_string(std::random_device()() % 100'000);
+}
+
+std::optional<std::chrono::seconds> PatienceOf(std::string_view claim) {
+    int seconds = 0;
+    const auto [end, error] = std::from_chars(claim.data(), claim.data() + claim.size(), seconds);
+    if (error != std::errc() || !std::string_view(end).starts_with("s-"))
+        return std::nullopt;
+    return std::chrono::seconds(seconds);
 }
 
 // False when `to` is there, or `from` is not. Where files cannot have two names, what comes to `to` in the
@@ -40,155 +52,239 @@ bool MoveUnlessThere(const fs::path& from, const fs::path& to) {
     return !error;
 }
 
+std::vector<fs::path> EntriesOf(const std::string& folder, std::error_code& error) {
+    std::vector<fs::path> entries;
+    for (fs::directory_iterator entry(app::ToPath(folder), error), end; !error && entry != end;
+         entry.increment(error))
+        entries.push_back(entry->path());
+    return entries;
+}
+
 }  // namespace
 
 Claims::Claims(const app::Files& files, std::string folder, std::chrono::seconds patience)
     : files_(files),
       folder_(std::move(folder)),
+      claims_(folder_ + ".claims/"),
       patience_(patience),
-      own_(folder_ + OwnName() + "/"),
-      heart_([this](const std::stop_token& stop) { ShowLife(stop); }) {}
+      own_(claims_ + OwnName(patience) + "/"),
+      heart_(patience) {}
 
 Claims::~Claims() {
-    std::set<std::string> own;
-    {
-        const std::scoped_lock lock(mutex_);
-        own = alive_;
-    }
-    for (const std::string& claim : own)
+    for (const std::string& claim : heart_.Kept())
         app::FailureOf([&] { GiveBack(claim); });
-}
-
-// Several times within the patience of others, for a machine can be slow.
-void Claims::ShowLife(const std::stop_token& stop) {
-    std::condition_variable_any never;
-    std::unique_lock lock(mutex_);
-    while (!stop.stop_requested()) {
-        for (const std::string& claim : alive_) {
-            std::error_code gone;
-            fs::last_write_time(app::ToPath(claim), fs::file_time_type::clock::now(), gone);
-        }
-        never.wait_for(lock, stop, std::chrono::milliseconds(patience_) / 5, [] { return false; });
-    }
 }
 
 std::vector<std::string> Claims::Others() const {
     std::vector<std::string> claims;
-    std::error_code error;
-    const std::scoped_lock lock(mutex_);
-    for (fs::directory_iterator entry(app::ToPath(folder_), error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = app::FromPath(entry->path().filename());
-        const std::string claim = folder_ + name + "/";
-        if (name.starts_with(kPrefix) && !alive_.contains(claim) && !left_.contains(claim))
-            claims.push_back(name);
+    std::error_code none;
+    for (const fs::path& entry : EntriesOf(claims_, none)) {
+        std::string name = app::FromPath(entry.filename());
+        if (!name.starts_with(kLeft) && !hopeless_.contains(name) && !heart_.Keeps(claims_ + name + "/"))
+            claims.push_back(std::move(name));
     }
     return claims;
 }
 
+// The base names of what others are working on, and of images that came to their place without their results.
+std::set<std::string> Claims::HeldByOthers() const {
+    constexpr int kMostLooks = 10;
+    std::set<std::string> held;
+    // A folder that has another owner meanwhile has another name, too.
+    std::error_code moved;
+    for (int look = 0; look == 0 || (moved && look < kMostLooks); ++look) {
+        moved.clear();
+        for (const std::string& other : Others())
+            for (const fs::path& entry : EntriesOf(claims_ + other, moved)) {
+                const std::string path = app::FromPath(entry);
+                const bool isNote = app::FileName(path).starts_with('.');
+                held.insert(app::BaseName(isNote ? recognition::ImageOfResult(files_, path) : path));
+            }
+    }
+    return held;
+}
+
+void Claims::ListWaiting() {
+    std::map<std::string, std::string> tried;
+    std::map<std::string, std::size_t> groups;
+    for (const std::string& name : files_.List(folder_, "*")) {
+        const auto before = tried_.find(name);
+        if (before != tried_.end() && before->second == files_.Fingerprint(folder_ + name)) {
+            tried.insert(*before);
+            continue;
+        }
+        const auto [group, isNew] = groups.emplace(app::BaseName(name), waiting_.size());
+        if (isNew)
+            waiting_.emplace_back();
+        waiting_[group->second].push_back(name);
+    }
+    tried_ = std::move(tried);
+    // Many who begin at one end would all try for the same files.
+    if (!waiting_.empty())
+        std::ranges::rotate(waiting_, waiting_.begin() + static_cast<std::ptrdiff_t>(std::random_device()() %
+                                                                                     waiting_.size()));
+}
+
 void Claims::MakeFolder() {
+    constexpr int kMostTries = 10;
     std::error_code error;
-    fs::create_directory(app::ToPath(own_), error);
-    const std::scoped_lock lock(mutex_);
-    alive_.insert(own_);
+    // Another one may just remove the folder of all claims as the last one to leave.
+    for (int k = 0; k < kMostTries && !fs::is_directory(app::ToPath(own_), error); ++k)
+        fs::create_directories(app::ToPath(own_), error);
+    heart_.Keep(own_);
 }
 
-bool Claims::OthersHold(const std::string& name) const {
-    const std::vector<std::string> others = Others();
-    return std::ranges::any_of(
-        others, [&](const std::string& other) { return files_.FileExists(folder_ + other + "/" + name); });
+// Two folders deeper, what a link says of its own place is no longer true.
+void Claims::MakeLinkWhole(const fs::path& path) const {
+    std::error_code error;
+    const fs::path target = fs::read_symlink(path, error);
+    if (error || target.is_absolute())
+        return;
+    const fs::path whole = path.parent_path() / ".whole-link.tmp";
+    fs::remove(whole, error);
+    fs::create_symlink(app::ToPath(folder_) / target, whole, error);
+    fs::rename(whole, path, error);
 }
 
-// A new scan of a name that is being worked on has to wait: their images and results would meet. The other
-// claim was there before the new scan could come, so looking afterwards is early enough.
 bool Claims::Claim(const std::string& name) {
     // An earlier scan of that name may lie in the own folder still, because it could not be moved on.
     if (files_.FileExists(own_ + name))
         return false;
     std::error_code error;
     fs::rename(app::ToPath(folder_ + name), app::ToPath(own_ + name), error);
-    if (error || !OthersHold(name))
-        return !error;
-    MoveUnlessThere(app::ToPath(own_ + name), app::ToPath(folder_ + name));
-    return false;
+    if (!error)
+        MakeLinkWhole(app::ToPath(own_ + name));
+    return !error;
 }
 
-std::vector<std::string> Claims::Take(std::size_t count) {
-    if (waiting_.empty()) {
-        waiting_ = files_.List(folder_, "*");
-        std::erase_if(waiting_, [this](const std::string& name) { return tried_.contains(name); });
-        std::ranges::reverse(waiting_);
-        // Many who begin at one end would all try for the same files.
-        if (!waiting_.empty()) {
-            const auto first = static_cast<std::ptrdiff_t>(std::random_device()() % waiting_.size());
-            std::rotate(waiting_.begin(), waiting_.begin() + first, waiting_.end());
-        }
-    }
-    if (!waiting_.empty())
-        MakeFolder();
+// Behind one that somebody else has got, those of its name have to wait.
+std::vector<std::string> Claims::ClaimGroups(std::size_t count) {
     std::vector<std::string> taken;
-    for (; taken.size() < count && !waiting_.empty(); waiting_.pop_back())
-        if (Claim(waiting_.back()))
-            taken.push_back(waiting_.back());
+    for (; taken.size() < count && !waiting_.empty(); waiting_.pop_front())
+        for (const std::string& name : waiting_.front()) {
+            if (!Claim(name))
+                break;
+            taken.push_back(name);
+        }
     return taken;
 }
 
-std::optional<std::string> Claims::TakeOver(Moment now) {
+// A new scan of a name that is being worked on has to wait: their results would meet, and perhaps their
+// images. The other claim was there before the new scan could come, so looking afterwards is early enough.
+std::vector<std::string> Claims::Take(std::size_t count) {
+    if (waiting_.empty())
+        ListWaiting();
+    if (!waiting_.empty())
+        MakeFolder();
+    std::vector<std::string> taken;
+    while (taken.empty() && !waiting_.empty()) {
+        taken = ClaimGroups(count);
+        const std::set<std::string> held = taken.empty() ? std::set<std::string>() : HeldByOthers();
+        std::erase_if(taken, [&](const std::string& name) {
+            if (!held.contains(app::BaseName(name)))
+                return false;
+            MoveUnlessThere(app::ToPath(own_ + name), app::ToPath(folder_ + name));
+            return true;
+        });
+    }
+    return taken;
+}
+
+void Claims::Look(Moment now) {
     std::map<std::string, Seen> seen;
     for (const std::string& name : Others()) {
         std::error_code error;
-        Seen state{fs::last_write_time(app::ToPath(folder_ + name), error), now};
+        Seen state{fs::last_write_time(app::ToPath(claims_ + name), error), now};
         if (const auto before = seen_.find(name);
             before != seen_.end() && before->second.change == state.change)
             state = before->second;
         seen[name] = state;
     }
     seen_ = std::move(seen);
-    for (const auto& [name, state] : seen_) {
-        if (now - state.since < patience_)
-            continue;
-        std::string mine = own_.substr(0, own_.size() - 1) + "-" + std::to_string(++takenOver_) + "/";
-        std::error_code error;
-        const std::scoped_lock lock(mutex_);
-        fs::rename(app::ToPath(folder_ + name), app::ToPath(mine), error);
-        if (error)
-            continue;
-        fs::last_write_time(app::ToPath(mine), fs::file_time_type::clock::now(), error);
-        alive_.insert(mine);
-        return mine;
+}
+
+std::optional<std::string> Claims::Seize(const std::string& name) {
+    std::string mine = own_.substr(0, own_.size() - 1) + "-" + std::to_string(++takenOver_) + "/";
+    std::error_code error;
+    // Kept before it is there, or it would seem to be another's.
+    heart_.Keep(mine);
+    fs::rename(app::ToPath(claims_ + name), app::ToPath(mine), error);
+    if (error) {
+        heart_.Drop(mine);
+        hopeless_.insert(name);
+        return std::nullopt;
     }
+    fs::last_write_time(app::ToPath(mine), fs::file_time_type::clock::now(), error);
+    for (const fs::path& entry : EntriesOf(mine, error))
+        MakeLinkWhole(entry);
+    names_[mine] = name;
+    return mine;
+}
+
+std::optional<std::string> Claims::TakeOver(Moment now) {
+    Look(now);
+    std::vector<std::string> ownerless;
+    for (const auto& [name, state] : seen_)
+        if (now - state.since >= PatienceOf(name).value_or(patience_))
+            ownerless.push_back(name);
+    std::error_code none;
+    for (const fs::path& entry : EntriesOf(claims_, none))
+        if (const std::string name = app::FromPath(entry.filename());
+            name.starts_with(kLeft) && !hopeless_.contains(name))
+            ownerless.push_back(name);
+    for (const std::string& name : ownerless)
+        if (auto mine = Seize(name))
+            return mine;
     return std::nullopt;
 }
 
-void Claims::GiveBackFile(const std::string& path) {
+// Gives the name that it has got.
+std::string Claims::GiveBackFile(const std::string& path) {
     constexpr int kMost = 1000;
-    const std::string stem = folder_ + app::BaseName(path);
-    const std::string ending = app::FileName(path).substr(app::BaseName(path).size());
-    std::string place = stem + ending;
-    for (int k = 2; k < kMost && !MoveUnlessThere(app::ToPath(path), app::ToPath(place)); ++k) {
-        place = stem;
-        place += "-" + std::to_string(k);
-        place += ending;
+    const std::string stem = app::BaseName(path);
+    const std::string ending = app::FileName(path).substr(stem.size());
+    std::string name = stem + ending;
+    for (int k = 2; k < kMost && !MoveUnlessThere(app::ToPath(path), app::ToPath(folder_ + name)); ++k) {
+        name = stem;
+        name += "-" + std::to_string(k);
+        name += ending;
     }
+    return name;
 }
 
-void Claims::GiveBack(const std::string& claim) {
+std::string Claims::GiveBack(const std::string& claim) {
     std::error_code error;
     if (!files_.FolderExists(claim))
-        return;
+        return {};
     for (const std::string& name : files_.List(claim, "*")) {
-        tried_.insert(name);
-        GiveBackFile(claim + name);
+        const std::string place = GiveBackFile(claim + name);
+        tried_[place] = files_.Fingerprint(folder_ + place);
     }
     // Half-written documents of an owner that died.
     for (const std::string& name : files_.List(claim, ".*.tmp"))
         fs::remove(app::ToPath(claim + name), error);
     // Only an empty folder goes.
     fs::remove(app::ToPath(claim), error);
-    const std::scoped_lock lock(mutex_);
-    alive_.erase(claim);
-    if (fs::exists(app::ToPath(claim), error))
-        left_.insert(claim);
+    const std::string rest = fs::exists(app::ToPath(claim), error) ? Leave(claim) : std::string();
+    heart_.Drop(claim);
+    names_.erase(claim);
+    fs::remove(app::ToPath(claims_), error);
+    return rest;
+}
+
+// Under a name by which nobody waits for it, and which stays the same whoever tries again in vain: each does
+// so once.
+std::string Claims::Leave(const std::string& claim) {
+    const auto before = names_.find(claim);
+    const std::string last = app::FileName(claim.substr(0, claim.size() - 1));
+    std::string name = before == names_.end() ? last : before->second;
+    if (!name.starts_with(kLeft))
+        name.insert(0, kLeft);
+    std::error_code error;
+    fs::rename(app::ToPath(claim), app::ToPath(claims_ + name), error);
+    hopeless_.insert(name);
+    hopeless_.insert(last);
+    return error ? claim : claims_ + name;
 }
 
 }  // namespace tavrene::batch

@@ -41,7 +41,12 @@ Exit FolderWork::Do() {
 }
 
 Exit FolderWork::ProcessOnce() {
-    return LockOrTell(FolderLock::Use::Alone) ? Process(folders_, {}, {}) : Exit::InUse;
+    if (!LockOrTell(FolderLock::Use::Alone))
+        return Exit::InUse;
+    const Exit exit = Process(folders_, {}, {});
+    if (exit != Exit::Failed)
+        Export();
+    return exit;
 }
 
 // A signal is the only way to end this, so it ends well.
@@ -52,8 +57,11 @@ Exit FolderWork::Watch() {
             continue;
         std::vector<std::string> ready = watch.Take(steady_clock::now());
         const auto incoming = [&ready] { return std::exchange(ready, {}); };
-        if (!ready.empty() && Process(folders_, {}, incoming) == Exit::Failed)
-            return Exit::Failed;
+        if (!ready.empty()) {
+            if (Process(folders_, {}, incoming) == Exit::Failed)
+                return Exit::Failed;
+            Export();
+        }
         // Between two lots the window may have the folder.
         lock_.Release();
     }
@@ -76,7 +84,12 @@ Exit FolderWork::Share() {
             break;
         std::this_thread::sleep_for(kPause);
     }
-    return surroundings_.stop ? Exit::Stopped : exit;
+    if (surroundings_.stop)
+        return Exit::Stopped;
+    // Only now all documents are there; one that is stopped leaves the tables to those that go on.
+    if (exit != Exit::Failed)
+        Export();
+    return exit;
 }
 
 // False when there is nothing to do at the moment.
@@ -99,7 +112,10 @@ bool FolderWork::ShareNext(Claims& claims, Exit& exit) {
     }
     const Exit one = Process(folders, folders.ProcessIn, incoming);
     exit = one == Exit::Done ? exit : one;
-    claims.GiveBack(folders.ProcessIn);
+    if (const std::string rest = claims.GiveBack(folders.ProcessIn); !rest.empty()) {
+        person_.ShowMessage("", "Something that cannot be given back is left in " + rest);
+        exit = exit == Exit::Done ? Exit::SomeLeft : exit;
+    }
     return true;
 }
 
@@ -136,8 +152,6 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
         return Exit::Failed;
     run.Run(profiles_);
     progress_.End(run.Summary(), surroundings_.stop);
-    if (!options_.exportTo.empty())
-        Export();
     if (surroundings_.stop)
         return Exit::Stopped;
     const std::size_t left = run.Summary().Count(FileEnd::Refused) + run.Summary().Count(FileEnd::NotWritten);
@@ -145,6 +159,8 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
 }
 
 void FolderWork::Export() {
+    if (options_.exportTo.empty())
+        return;
     const std::string folder = options_.exportTo + "/";
     if (!files_.FolderExists(folder))
         files_.CreateFolder(folder);
@@ -152,7 +168,10 @@ void FolderWork::Export() {
     const auto found = results::ReadResults(files_, folders_.ProcessOut, goOn);
     for (const results::LeftOut& document : found->Damaged)
         person_.ReportFile(document.Document, document.Reason);
-    results::ExportCsv(files_, found->Tables, {}, folder, {}, goOn);
+    const results::GroupsOfProfiles groups = options_.groups
+                                                 ? results::GroupsIn(files_, found->Tables, folders_.Profiles)
+                                                 : results::GroupsOfProfiles();
+    results::ExportCsv(files_, found->Tables, groups, folder, {}, goOn);
 }
 
 }  // namespace tavrene::batch

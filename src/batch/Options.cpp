@@ -12,12 +12,17 @@
 namespace tavrene::batch {
 namespace {
 
-constexpr ::option kOptions[] = {
-    {"settings", required_argument, nullptr, 's'}, {"jobs", required_argument, nullptr, 'n'},
-    {"precise", no_argument, nullptr, 'p'},        {"export", required_argument, nullptr, 'e'},
-    {"claim", optional_argument, nullptr, 'c'},    {"watch", no_argument, nullptr, 'w'},
-    {"json", no_argument, nullptr, 'j'},           {"help", no_argument, nullptr, 'h'},
-    {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
+constexpr ::option kOptions[] = {{"settings", required_argument, nullptr, 's'},
+                                 {"jobs", required_argument, nullptr, 'n'},
+                                 {"precise", no_argument, nullptr, 'p'},
+                                 {"export", required_argument, nullptr, 'e'},
+                                 {"groups", no_argument, nullptr, 'g'},
+                                 {"claim", optional_argument, nullptr, 'c'},
+                                 {"watch", no_argument, nullptr, 'w'},
+                                 {"json", no_argument, nullptr, 'j'},
+                                 {"help", no_argument, nullptr, 'h'},
+                                 {"version", no_argument, nullptr, 'v'},
+                                 {nullptr, 0, nullptr, 0}};
 
 // Whole, so that a message names it wherever the program was started. Empty stays empty.
 std::string WholePath(const std::string& path) {
@@ -50,6 +55,8 @@ bool Note(Options& options, int option) {
         case 'e':
             options.exportTo = WholePath(::optarg);
             return !options.exportTo.empty();
+        case 'g':
+            return options.groups = true;
         case 'w':
             return options.watch = true;
         case 'j':
@@ -77,17 +84,18 @@ no meaning here.
   --jobs N         read N pages side by side; the outcome is the same as with one
   --precise        read by precise alignment
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
+  --groups         with --export: one column a group of boxes instead of one a box
   --claim[=SEC]    share FOLDER with other tavrene-batch --claim, on this machine or others: each takes some
-                   files at a time, and those of one that has not been heard of for SEC seconds (60) are
-                   taken over; for scans that are there already, so not together with --watch
+                   files at a time; when it has not been heard of for SEC seconds (60), the others take over
+                   what it has; for scans that are there already, so not together with --watch
   --watch          go on with what comes to ProcessIn, once nobody writes to it any more, until a signal
   --json           tell of each file on the standard output, one JSON object a line
   --help           show this text
   --version        show the version
 
-SIGINT and SIGTERM end the work after the page at hand; with --watch that is its usual end, with status 0. The program does not work on a folder that the window has
-open; with --watch it waits. Messages go to the standard error; questions have no one to answer them, so nothing
-is replaced or lost for their sake.
+SIGINT and SIGTERM end the work after the page at hand; with --watch that is its usual end, with
+status 0. The program does not work on a folder that the window has open; with --watch it waits. Messages go to
+the standard error; questions have no one to answer them, so nothing is replaced or lost for their sake.
 
 Exit status:
   0  all files were taken
@@ -113,6 +121,10 @@ std::optional<Options> ReadOptions(std::span<char* const> arguments) {
         return options;
     if (::optind + 1 != count) {
         std::cerr << "tavrene-batch: one working folder is needed; see tavrene-batch --help\n";
+        return std::nullopt;
+    }
+    if (options.groups && options.exportTo.empty()) {
+        std::cerr << "tavrene-batch: --groups needs --export; see tavrene-batch --help\n";
         return std::nullopt;
     }
     // Claims are taken at once, and what is still being written may not be.

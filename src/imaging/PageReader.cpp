@@ -7,6 +7,7 @@
 #include "app/Numeric.h"
 #include "imaging/ImageHeader.h"
 #include "imaging/ImageLibrary.h"
+#include "imaging/TiffHeader.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -146,6 +147,8 @@ std::variant<Page, PageError> PageOf(std::span<const std::byte> content, ImageFo
         return PageError::TooManyColors;
     page.inverted = MakeInkSetBits(page.bitmap);
     page.grid = Unpacked(page.bitmap);
+    if (format == ImageFormat::Tiff)
+        page.furtherPages = CountTiffPictures(content) - 1;
     return page;
 }
 

@@ -21,6 +21,7 @@ struct Page {
     std::int16_t DPI_Y = 0;
     ImageFormat format = ImageFormat::Tiff;  ///< Of the file that it was read from.
     bool inverted = false;                   ///< The file's bits were the other way round.
+    int furtherPages = 0;                    ///< How many more the file has, if it is a TIFF.
 };
 
 /// Why a file is no page: its extension stands for no file type, no bitmap could be had of it (damaged,

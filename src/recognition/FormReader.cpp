@@ -4,7 +4,6 @@
 #include <variant>
 
 #include "app/Reason.h"
-#include "imaging/TiffHeader.h"
 #include "recognition/Classification.h"
 
 namespace tavrene::recognition {
@@ -34,10 +33,7 @@ void FormReader::Recognise(const std::string& name, std::span<const ProfileRecor
         return;
     }
     reading.page = std::get<imaging::Page>(std::move(read));
-    if (reading.page->format == imaging::ImageFormat::Tiff)
-        // The page is there, whatever becomes of the file meanwhile.
-        app::FailureOf(
-            [&] { reading.furtherPages = imaging::CountTiffPictures(files_.Read(folder_ + name)) - 1; });
+    reading.furtherPages = reading.page->furtherPages;
     reading.copy = imaging::CopyOf(*reading.page);
     if (precise_ != nullptr && precise_->Reads())
         return RecognisePrecisely(name, profiles, reading);

@@ -85,9 +85,10 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     Finish(start);
 }
 
-void ProcessRun::ForgetFurtherPages() {
+void ProcessRun::ForgetFurtherPages(const std::string& name) {
     for (FileReport& file : summary_.files)
-        file.furtherPages = 0;
+        if (file.name == name)
+            file.furtherPages = 0;
 }
 
 void ProcessRun::Settle() {

@@ -67,8 +67,8 @@ class ProcessRun {
     /// What became of the files of the last run.
     const RunSummary& Summary() const { return summary_; }
 
-    /// The further pages of the last run's files have become files of their own.
-    void ForgetFurtherPages();
+    /// The further pages of a file of the last run have become files of their own.
+    void ForgetFurtherPages(const std::string& name);
 
     /// What the second opinion on the forms of the last run has come to.
     const OpinionTally& Opinions() const { return opinions_; }

@@ -1,7 +1,10 @@
 #include "recognition/ReadAhead.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
+
+#include "app/Reason.h"
 
 namespace tavrene::recognition {
 
@@ -10,10 +13,21 @@ ReadAhead::ReadAhead(std::size_t first, std::size_t end, int jobs, Read read)
       room_(2 * static_cast<std::size_t>(jobs)),
       read_(std::move(read)),
       next_(first),
-      taken_(first) {
-    const std::size_t useful = std::min(static_cast<std::size_t>(jobs), end - std::min(first, end));
-    for (std::size_t k = 0; jobs > 1 && k < useful; ++k)
-        workers_.emplace_back([this](const std::stop_token& stop) { Work(stop); });
+      taken_(first),
+      ready_(room_) {
+    if (jobs > 1)
+        StartWorkers(std::min(static_cast<std::size_t>(jobs), end - std::min(first, end)));
+}
+
+// A system that has no more threads gives fewer jobs, in the end the one that needs none.
+void ReadAhead::StartWorkers(std::size_t count) {
+    try {
+        workers_.reserve(count);
+        while (workers_.size() < count)
+            workers_.emplace_back([this](const std::stop_token& stop) { Work(stop); });
+    } catch (const std::system_error&) {
+        return;
+    }
 }
 
 ReadAhead::~ReadAhead() {
@@ -23,24 +37,36 @@ ReadAhead::~ReadAhead() {
     workers_.clear();
 }
 
+FormReading ReadAhead::ReadOrFail(std::size_t index) const {
+    FormReading reading;
+    try {
+        reading = read_(index);
+    } catch (const std::exception& error) {
+        reading.failure = app::ReasonOf(error);
+    }
+    return reading;
+}
+
+// Between the locks nothing is allocated: where memory ran out, what is left is the reason of one form.
 void ReadAhead::Work(const std::stop_token& stop) {
     std::unique_lock lock(mutex_);
     while (changed_.wait(lock, stop, [this] { return HasRoom(); }) && !stop.stop_requested()) {
         const std::size_t index = next_++;
         lock.unlock();
-        FormReading reading = read_(index);
+        FormReading reading = ReadOrFail(index);
         lock.lock();
-        ready_.emplace(index, std::move(reading));
+        ready_[index % room_] = std::move(reading);
         changed_.notify_all();
     }
 }
 
 FormReading ReadAhead::Take() {
     if (workers_.empty())
-        return read_(taken_++);
+        return ReadOrFail(taken_++);
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return ready_.contains(taken_); });
-    FormReading reading = std::move(ready_.extract(taken_).mapped());
+    std::optional<FormReading>& place = ready_[taken_ % room_];
+    changed_.wait(lock, [&place] { return place.has_value(); });
+    FormReading reading = *std::exchange(place, std::nullopt);
     ++taken_;
     changed_.notify_all();
     return reading;

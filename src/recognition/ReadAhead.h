@@ -3,8 +3,8 @@
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -19,7 +19,8 @@ class ReadAhead {
     using Read = std::function<FormReading(std::size_t index)>;
 
     /// Forms `first` to `end` - 1. With one job each is read when it is asked for, and there is no thread
-    /// beside the caller's; otherwise `read` is called by several threads and throws nothing.
+    /// beside the caller's; otherwise `read` is called by several threads. What it throws is the failure of
+    /// that form alone.
     ReadAhead(std::size_t first, std::size_t end, int jobs, Read read);
 
     /// Forms that nobody has taken are dropped; those under way are finished first.
@@ -31,6 +32,8 @@ class ReadAhead {
     FormReading Take();
 
   private:
+    void StartWorkers(std::size_t count);
+    FormReading ReadOrFail(std::size_t index) const;
     void Work(const std::stop_token& stop);
     bool HasRoom() const { return next_ < end_ && next_ < taken_ + room_; }
 
@@ -39,9 +42,9 @@ class ReadAhead {
     const Read read_;
     std::mutex mutex_;
     std::condition_variable_any changed_;
-    std::size_t next_;   // the form that is read next
-    std::size_t taken_;  // the form that is taken next
-    std::map<std::size_t, FormReading> ready_;
+    std::size_t next_;                               // the form that is read next
+    std::size_t taken_;                              // the form that is taken next
+    std::vector<std::optional<FormReading>> ready_;  // form k at place k % `room_`
     std::vector<std::jthread> workers_;
 };
 

@@ -155,6 +155,18 @@ void PutSummary(std::span<const ResultTable> tables, const GroupsOfProfiles& gro
     }
 }
 
+GroupsOfProfiles GroupsIn(const app::Files& files, std::span<const ResultTable> tables,
+                          const std::string& folder) {
+    GroupsOfProfiles groups;
+    for (const ResultTable& table : tables) {
+        std::vector<std::string> names;
+        for (const BoxColumn& box : table.Boxes)
+            names.push_back(box.Name);
+        groups[table.Profile] = profiles::GroupsOrNone(files, folder + table.Profile + ".Tvp", names);
+    }
+    return groups;
+}
+
 std::span<const BoxGroup> GroupsOf(const GroupsOfProfiles& groups, const std::string& profile) {
     const auto found = groups.find(profile);
     return found == groups.end() ? std::span<const BoxGroup>() : std::span<const BoxGroup>(found->second);

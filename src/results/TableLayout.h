@@ -51,6 +51,11 @@ bool PutTable(const ResultTable& table, std::span<const BoxGroup> groups, CellSi
 /// it checked, how many have it empty.
 void PutSummary(std::span<const ResultTable> tables, const GroupsOfProfiles& groups, CellSink& sink);
 
+/// The groups that the profile documents in `folder` (path ending in a separator) have for these tables; of
+/// one that is not there, those that the names of the boxes tell.
+GroupsOfProfiles GroupsIn(const app::Files& files, std::span<const ResultTable> tables,
+                          const std::string& folder);
+
 /// The groups of one profile.
 std::span<const BoxGroup> GroupsOf(const GroupsOfProfiles& groups, const std::string& profile);
 

@@ -1,5 +1,8 @@
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
+#include <regex>
 #include <sstream>
 #include <thread>
 
@@ -8,6 +11,7 @@
 #include "batch/FolderContent.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
+#include "support/SourceFolder.h"
 
 namespace tavrene::batch {
 namespace {
@@ -148,6 +152,50 @@ TEST_F(BatchTest, FinishesThePageAtHandWhenItIsStopped) {
     stop_ = false;
     Run();
     EXPECT_EQ(files_.List(other_.File("ProcessIn"), "*"), std::vector<std::string>());
+}
+
+// Profiles and scans of many kinds, two of which share one result.
+TEST_F(BatchTest, EightClaimersMakeTheDocumentsOfOneProgram) {
+    const std::filesystem::path samples = test::SourceFolder() + "/samples";
+    for (const test::TempFolder* const folder : {&work_, &other_}) {
+        ASSERT_TRUE(app::CreateWorkingFolders(files_, folder->Path()));
+        for (const auto& [from, to] : {std::pair{"profiles", "Profiles"}, {"scans", "ProcessIn"}})
+            std::filesystem::copy(samples / from, folder->File(to), std::filesystem::copy_options::recursive);
+        std::filesystem::copy(samples / "scans/staff-02-dots.png", folder->File("ProcessIn/twin.png"));
+        std::filesystem::copy(samples / "scans/patient-01.tif", folder->File("ProcessIn/twin.tif"));
+    }
+    options_.groups = true;
+    options_.folder = work_.Path();
+    options_.exportTo = home_.File("tables of one");
+    EXPECT_EQ(Run(), Exit::SomeLeft) << "one has more than two colours, one has another extension";
+
+    options_.folder = other_.Path();
+    options_.exportTo = home_.File("tables");
+    options_.patience = 60;
+    std::array<std::ostringstream, 8> told;
+    {
+        std::vector<std::jthread> claimers;
+        for (std::ostringstream& out : told)
+            claimers.emplace_back([&] { RunBatch(options_, {out, out, stop_}); });
+    }
+    auto expected = ContentOf(work_.Path());
+    auto content = ContentOf(other_.Path());
+    for (auto* const each : {&expected, &content})
+        std::erase_if(*each, [](const auto& file) {
+            return file.first.starts_with("/Log/") || file.first.starts_with("/Temp/");
+        });
+    EXPECT_EQ(content, expected);
+    EXPECT_PRED2(Has, content["/ProcessOut/twin.xml"], "Image=\"twin.tif\"");
+    EXPECT_EQ(content.size(), 60U) << "33 scans, 25 results, 2 profiles";
+    EXPECT_FALSE(files_.FolderExists(other_.File("ProcessIn/.claims")));
+    for (const char* const name : {"PatientQuestionnaire.csv", "StaffSurvey.csv"}) {
+        const std::regex date("[-0-9]+ [0-9:]{8}");
+        const auto tableIn = [&](const std::string& folder) {
+            return std::regex_replace(ReadText(home_.File(folder + "/" + name)), date, "");
+        };
+        EXPECT_EQ(tableIn("tables"), tableIn("tables of one"));
+        EXPECT_PRED2(Has, tableIn("tables"), "|") << "several boxes of a group in one cell";
+    }
 }
 
 // Only the waiting itself needs the clock; which files it takes is tested below.

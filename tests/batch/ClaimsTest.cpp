@@ -60,15 +60,98 @@ TEST_F(ClaimsTest, EachFileIsTakenOnceAndWhatIsLeftComesBack) {
         << "no claim is left";
 }
 
+TEST_F(ClaimsTest, FilesThatShareAResultAreTakenByOneInTheirOrder) {
+    Put({"a.jpg", "a.tif", "b.tif", "c.tif"});
+    Claims one(files_, path_, kPatience);
+    Claims other(files_, path_, kPatience);
+    while (!files_.FileExists(one.Folder() + "a.tif")) {
+        const Names taken = one.Take(1);
+        EXPECT_TRUE(taken.size() == 1 || taken == (Names{"a.jpg", "a.tif"}));
+        ASSERT_FALSE(taken.empty());
+    }
+    Put({"a.png"});
+    for (const std::string& name : other.Take(9))
+        EXPECT_NE(name, "a.png");
+    EXPECT_TRUE(files_.FileExists(folder_.File("a.png")));
+    one.GiveBack(one.Folder());
+    other.Take(9);
+    EXPECT_TRUE(files_.FileExists(other.Folder() + "a.png")) << "now nobody holds one of them";
+
+    // An image has arrived, and its result waits in the claim of one that died.
+    std::filesystem::create_directories(folder_.File(".claims/dead"));
+    test::WriteText(folder_.File(".claims/dead/.delivery-new-1-.xml"), "<Tavrene Image=\"d.tif\"/>");
+    Put({"d.jpg"});
+    EXPECT_EQ(one.Take(9), Names());
+}
+
+TEST_F(ClaimsTest, WhatWasGivenBackIsTakenAgainWhenItHasChanged) {
+    Put({"a.tif"});
+    Claims one(files_, path_, kPatience);
+    for (const char* const content : {"a.tif", "another scan"}) {
+        test::WriteText(folder_.File("a.tif"), content);
+        EXPECT_EQ(one.Take(9), Names{"a.tif"});
+        EXPECT_EQ(one.GiveBack(one.Folder()), "");
+        EXPECT_EQ(one.Take(9), Names());
+    }
+}
+
+TEST_F(ClaimsTest, ALinkToSomewhereElseStillLeadsThere) {
+    test::WriteText(folder_.File("store"), "the scan");
+    std::filesystem::create_directories(folder_.File("in/.claims/dead"));
+    std::filesystem::create_symlink("../store", folder_.File("in/a.tif"));
+    std::filesystem::create_symlink("../store", folder_.File("in/.claims/dead/b.tif"));
+    Claims one(files_, folder_.File("in/"), kPatience);
+    EXPECT_EQ(one.Take(9), Names{"a.tif"});
+    EXPECT_EQ(test::ReadText(one.Folder() + "a.tif"), "the scan");
+    EXPECT_FALSE(one.TakeOver({}));
+    const auto dead = one.TakeOver(Claims::Moment{} + kPatience);
+    ASSERT_TRUE(dead);
+    EXPECT_EQ(test::ReadText(*dead + "b.tif"), "the scan");
+}
+
+TEST_F(ClaimsTest, AnOwnerHasThePatienceThatItsClaimStates) {
+    for (const seconds own : {seconds(1), kPatience}) {
+        for (const char* const name : {"5s-quick-1-1", "100s-slow-1-1"})
+            std::filesystem::create_directories(folder_.File(".claims/" + std::string(name)));
+        Claims::Moment now{};
+        Claims one(files_, path_, own);
+        EXPECT_FALSE(one.TakeOver(now) || one.TakeOver(now + seconds(4)));
+        EXPECT_TRUE(one.TakeOver(now + seconds(5)));
+        EXPECT_FALSE(one.TakeOver(now + seconds(99)));
+        EXPECT_TRUE(one.TakeOver(now + seconds(100)));
+        EXPECT_FALSE(one.OthersWork());
+    }
+}
+
+TEST_F(ClaimsTest, WhatCannotBeGivenBackIsTriedOnceByEachAndNobodyWaitsForIt) {
+    std::filesystem::create_directories(folder_.File(".claims/dead/a folder"));
+    Put({".claims/dead/a.tif"});
+    const auto later = Claims::Moment{} + 9 * kPatience;
+    const std::string left = folder_.File(".claims/left-dead");
+    Claims one(files_, path_, kPatience);
+    Claims other(files_, path_, kPatience);
+    EXPECT_FALSE(one.TakeOver({}));
+    const auto dead = one.TakeOver(Claims::Moment{} + kPatience);
+    ASSERT_TRUE(dead);
+    EXPECT_EQ(one.GiveBack(*dead), left);
+    EXPECT_FALSE(one.OthersWork() || one.TakeOver(later));
+    const auto again = other.TakeOver({});
+    ASSERT_TRUE(again);
+    EXPECT_EQ(other.GiveBack(*again), left);
+    EXPECT_FALSE(other.OthersWork() || other.TakeOver(later) || one.TakeOver(later));
+    EXPECT_TRUE(files_.FolderExists(left + "/a folder"));
+    EXPECT_EQ(Waiting(), Names{"a.tif"});
+}
+
 TEST_F(ClaimsTest, OnlyAClaimThatStandsStillIsTakenOverAndByOneAlone) {
-    std::filesystem::create_directory(folder_.File(".claim-dead"));
-    Put({".claim-dead/a.tif", ".claim-dead/.note", ".claim-dead/.tavrene-1-1.tmp"});
+    std::filesystem::create_directories(folder_.File(".claims/dead"));
+    Put({".claims/dead/a.tif", ".claims/dead/.note", ".claims/dead/.tavrene-1-1.tmp"});
     Claims one(files_, path_, seconds(60));
     Claims other(files_, path_, seconds(60));
     Claims::Moment now{};
     EXPECT_FALSE(one.TakeOver(now) || other.TakeOver(now));
     EXPECT_FALSE(one.TakeOver(now + seconds(59)));
-    std::filesystem::last_write_time(folder_.File(".claim-dead"),
+    std::filesystem::last_write_time(folder_.File(".claims/dead"),
                                      std::filesystem::file_time_type::clock::now() - seconds(9));
     EXPECT_FALSE(one.TakeOver(now += seconds(61))) << "its owner lives";
     const auto taken = one.TakeOver(now += seconds(60));

@@ -34,6 +34,7 @@ TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{},
                                                   {"a", "b"},
                                                   {"a", "--watch", "--claim"},
+                                                  {"a", "--groups"},
                                                   {"a", "--nonsense"},
                                                   {"a", "--settings"},
                                                   {"a", "--settings="},

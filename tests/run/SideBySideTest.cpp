@@ -1,6 +1,8 @@
 #include <filesystem>
 #include <map>
+#include <new>
 
+#include "recognition/ReadAhead.h"
 #include "support/Kill.h"
 #include "support/RunWorld.h"
 
@@ -120,6 +122,23 @@ TEST_F(SideBySideTest, KilledAndStartedAgainTheOutcomeIsThatOfOneJob) {
         EXPECT_EQ(Folders(), one);
     }
     EXPECT_GT(kill, 55);
+}
+
+TEST(ReadAheadTest, AFormThatThereIsNoMemoryForFailsAlone) {
+    for (const int jobs : {1, 3}) {
+        recognition::ReadAhead forms(1, 6, jobs, [](std::size_t index) {
+            if (index == 3)
+                throw std::bad_alloc();
+            recognition::FormReading reading;
+            reading.winner = static_cast<int>(index);
+            return reading;
+        });
+        for (int index = 1; index < 6; ++index) {
+            const recognition::FormReading form = forms.Take();
+            EXPECT_EQ(form.winner, index == 3 ? -1 : index);
+            EXPECT_EQ(form.failure, index == 3 ? "there is not enough memory for it" : "");
+        }
+    }
 }
 
 }  // namespace

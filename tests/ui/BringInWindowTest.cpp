@@ -77,6 +77,13 @@ TEST_F(BringInWindowTest, TheSummaryTellsOfPagesNotLookedAtAndBringsThemIn) {
     Click("Process");
     auto& summary = Find<QLabel>(*window_, "lblSummary");
     EXPECT_TRUE(test::Has(FromQt(summary.text()), "3 further pages were not looked at"));
+    // What did not come in is offered again.
+    files_.refuse = [](const std::string& operation, const std::string& path) {
+        return operation == "write" && test::Has(path, "incoming-");
+    };
+    Q_EMIT summary.linkActivated("split");
+    files_.refuse = nullptr;
+    EXPECT_TRUE(test::Has(FromQt(summary.text()), "3 further pages were not looked at"));
     Q_EMIT summary.linkActivated("split");
     EXPECT_EQ(In(folders_.ProcessIn), (Names{"fax-p002.tif", "fax-p003.tif", "fax-p004.tif"}));
     EXPECT_FALSE(test::Has(FromQt(summary.text()), "further"));

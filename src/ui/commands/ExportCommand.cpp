@@ -42,18 +42,6 @@ bool MayReplace(const ExportContext& context, const std::vector<std::string>& na
                                                  app::Answer::No) == app::Answer::Yes;
 }
 
-results::GroupsOfProfiles GroupsOf(const app::Files& files, const std::vector<results::ResultTable>& tables,
-                                   const std::string& folder) {
-    results::GroupsOfProfiles groups;
-    for (const results::ResultTable& table : tables) {
-        std::vector<std::string> names;
-        for (const results::BoxColumn& box : table.Boxes)
-            names.push_back(box.Name);
-        groups[table.Profile] = profiles::GroupsOrNone(files, folder + table.Profile + ".Tvp", names);
-    }
-    return groups;
-}
-
 std::optional<std::string> AskTarget(const ExportContext& context, const ExportChoice& choice,
                                      const std::string& startFolder) {
     if (choice.workbook)
@@ -94,8 +82,9 @@ std::optional<std::string> WriteExport(const ExportContext& context, const Expor
     if (!choice.workbook && !MayReplace(context, results::CsvNames(found.Tables), folder))
         return std::nullopt;
     const results::Progress progress = context.progress("Writing the tables");
-    const results::GroupsOfProfiles groups =
-        choice.perGroup ? GroupsOf(context.files, found.Tables, profiles) : results::GroupsOfProfiles();
+    const results::GroupsOfProfiles groups = choice.perGroup
+                                                 ? results::GroupsIn(context.files, found.Tables, profiles)
+                                                 : results::GroupsOfProfiles();
     const bool isWritten =
         choice.workbook
             ? results::ExportXlsx(context.files, found.Tables, groups, *target, progress)

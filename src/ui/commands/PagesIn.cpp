@@ -16,21 +16,22 @@ bool HoldsPages(const app::Files& files, const std::string& path) {
     return pages > 1;
 }
 
-std::string BringPagesIn(std::span<const intake::Source> sources, app::Files& files, app::Operator& person,
-                         const app::WorkingFolders& folders, const intake::Watch& watch) {
+PagesBroughtIn BringPagesIn(std::span<const intake::Source> sources, app::Files& files, app::Operator& person,
+                            const app::WorkingFolders& folders, const intake::Watch& watch) {
     const intake::Report report = intake::BringIn(files, folders, sources, watch);
+    PagesBroughtIn in;
     std::size_t pages = 0;
-    std::size_t taken = 0;
     for (const intake::Outcome& file : report.files) {
         pages += file.images.size();
         if (!file.images.empty())
-            ++taken;
+            in.paths.push_back(file.path);
         if (!file.reason.empty())
             person.ReportFile(app::FileName(file.path), file.reason);
     }
-    return Counted(pages, "page", "pages") + " of " + Counted(taken, "file", "files") +
-           (pages == 1 ? " was" : " were") + " brought in to ProcessIn." +
-           (report.isCancelled ? " The rest was cancelled." : "");
+    in.told = Counted(pages, "page", "pages") + " of " + Counted(in.paths.size(), "file", "files") +
+              (pages == 1 ? " was" : " were") + " brought in to ProcessIn." +
+              (report.isCancelled ? " The rest was cancelled." : "");
+    return in;
 }
 
 std::vector<intake::Source> FurtherPagesOf(const recognition::RunSummary& summary, const app::Files& files,

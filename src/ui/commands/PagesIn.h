@@ -15,10 +15,16 @@ namespace tavrene::commands {
 /// Whether a file is one of pages, a PDF or a TIFF of several, and no scan that is copied as it is.
 bool HoldsPages(const app::Files& files, const std::string& path);
 
-/// Makes an image in `ProcessIn` of each page of the sources. Gives what came of it in a sentence; files that
-/// could not be brought in are told one by one. Throws as `intake::BringIn` does.
-std::string BringPagesIn(std::span<const intake::Source> sources, app::Files& files, app::Operator& person,
-                         const app::WorkingFolders& folders, const intake::Watch& watch);
+/// What came of bringing in.
+struct PagesBroughtIn {
+    std::string told;                ///< In a sentence.
+    std::vector<std::string> paths;  ///< The files whose pages came in.
+};
+
+/// Makes an image in `ProcessIn` of each page of the sources. Files that could not be brought in are told one
+/// by one. Throws as `intake::BringIn` does.
+PagesBroughtIn BringPagesIn(std::span<const intake::Source> sources, app::Files& files, app::Operator& person,
+                            const app::WorkingFolders& folders, const intake::Watch& watch);
 
 /// The files of a run of which only the first page was looked at, from their second page on, where they lie
 /// now.

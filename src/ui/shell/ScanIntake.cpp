@@ -166,15 +166,17 @@ void ScanIntake::Choose() {
 
 void ScanIntake::BringInFurtherPages(recognition::ProcessRun& run) {
     const auto sources = commands::FurtherPagesOf(run.Summary(), context_.files, context_.state.folders);
-    BringIn(sources);
-    run.ForgetFurtherPages();
+    for (const std::string& path : BringIn(sources))
+        run.ForgetFurtherPages(app::FileName(path));
 }
 
-void ScanIntake::BringIn(const std::vector<intake::Source>& sources, const std::string& told) {
+std::vector<std::string> ScanIntake::BringIn(const std::vector<intake::Source>& sources,
+                                             const std::string& told) {
     const BusyCursor busy;
-    const std::string text = commands::BringPagesIn(sources, context_.files, context_.person,
-                                                    context_.state.folders, ProgressBox(window_));
-    context_.person.SetPanel(app::Panel::Message, told.empty() ? text : told + " " + text);
+    commands::PagesBroughtIn in = commands::BringPagesIn(sources, context_.files, context_.person,
+                                                         context_.state.folders, ProgressBox(window_));
+    context_.person.SetPanel(app::Panel::Message, told.empty() ? in.told : told + " " + in.told);
+    return std::move(in.paths);
 }
 
 }  // namespace tavrene::ui

@@ -30,10 +30,11 @@ class ScanIntake final : public QObject {
     ScanIntake(QWidget& window, const IntakeContext& context);
 
     /// Brings in pages of files, with a box that tells how far it is and can be cancelled. `told` stands
-    /// before what came of it.
-    void BringIn(const std::vector<intake::Source>& sources, const std::string& told = {});
+    /// before what came of it. Gives the files whose pages came in.
+    std::vector<std::string> BringIn(const std::vector<intake::Source>& sources,
+                                     const std::string& told = {});
 
-    /// The same with the pages that the last run did not look at.
+    /// The same with the pages that the last run did not look at; those that did not come in stay known.
     void BringInFurtherPages(recognition::ProcessRun& run);
 
   protected:
