@@ -1,9 +1,15 @@
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <QAction>
+#include <QComboBox>
+#include <QListView>
+#include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <filesystem>
+#include <fstream>
 #include <utility>
 
 #include "Floor.h"
@@ -110,9 +116,42 @@ void BM_SelectLine(benchmark::State& state) {
     }
 }
 
+double ResidentMegabytes() {
+    std::ifstream statm("/proc/self/statm");
+    long pages = 0;
+    statm >> pages >> pages;
+    return static_cast<double>(pages * sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+// One box of all forms on the sheet, a screen of forty further with each key, painted.
+void ScrollSheet(benchmark::State& state, QWidget& sheet) {
+    auto& view = *sheet.findChild<QListView*>("lvwSheet");
+    sheet.findChild<QComboBox*>("cboSheet")->setCurrentIndex(1);
+    while (view.model()->rowCount() < state.range(0))
+        QApplication::processEvents();
+    state.counters["MB before"] = ResidentMegabytes();
+    for (auto _ : state) {
+        const bool isAtEnd = view.currentIndex().row() == view.model()->rowCount() - 1;
+        QTest::keyClick(&view, isAtEnd ? Qt::Key_Home : Qt::Key_PageDown);
+        QApplication::processEvents();
+    }
+    state.counters["MB after"] = ResidentMegabytes();
+}
+
+void BM_ScrollSheet(benchmark::State& state) {
+    ReviewDesk& desk = DeskOf(static_cast<int>(state.range(0)));
+    QTimer::singleShot(0, &desk.List(), [&] {
+        QWidget& sheet = *QApplication::activeModalWidget();
+        ScrollSheet(state, sheet);
+        sheet.close();
+    });
+    desk.window.Get<QAction>("DoubtSheet").trigger();
+}
+
 BENCHMARK(BM_EnterReview)->Arg(5)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenForm)->Arg(5)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenFormAsWideAsTheView)->Arg(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ScrollSheet)->Arg(5)->Arg(5000)->Iterations(250)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SelectLine)->Arg(5)->Arg(5000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

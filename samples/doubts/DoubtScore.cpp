@@ -16,7 +16,7 @@ struct Judged {
 };
 
 // Nothing when the form is not recognised.
-std::optional<Judged> Judge(const DoubtPage& page) {
+std::optional<Judged> Judge(const DoubtPage& page, bool secondOpinion) {
     const profiles::ProfileRecord& profile = page.Form.Profile;
     recognition::Classification found = recognition::ClassifyImage(page.Scan, {&profile, 1});
     if (found.winner < 0)
@@ -28,17 +28,21 @@ std::optional<Judged> Judge(const DoubtPage& page) {
     } catch (const recognition::ReadingError&) {
         return std::nullopt;  // the form fails: no result
     }
-    const recognition::PreciseReading precise = recognition::ReadPrecisely(
-        page.Scan, {&profile, 1}, [&page](std::size_t) { return &page.Form.Print; }, kThreshold);
     std::vector<recognition::BoxMeasure> measures;
     std::vector<std::optional<bool>> checked;
     for (const recognition::MarkReading& mark : marks) {
         measures.push_back({mark.rect, mark.fill});
         checked.emplace_back(mark.Checked);
     }
+    recognition::SecondOpinion opinion;
+    if (secondOpinion)
+        opinion = recognition::CompareReadings(
+            0, marks,
+            recognition::ReadPrecisely(
+                page.Scan, {&profile, 1}, [&page](std::size_t) { return &page.Form.Print; }, kThreshold));
     Judged judged;
-    judged.evidence = review::EvidenceOf({page.Scan, measures, std::move(checked)},
-                                         recognition::CompareReadings(0, marks, precise), &page.Form.Print);
+    judged.evidence =
+        review::EvidenceOf({page.Scan, measures, std::move(checked)}, opinion, &page.Form.Print);
     judged.doubts = review::DoubtsOf(judged.evidence, kThreshold);
     return judged;
 }
@@ -53,13 +57,13 @@ std::string LineOf(const review::BoxEvidence& box, bool marked, std::optional<re
 
 }  // namespace
 
-DoubtTally ScoreDoubts(const DoubtClass& kind, std::size_t pages, std::uint64_t first,
+DoubtTally ScoreDoubts(const DoubtClass& kind, const ScoreWish& wish,
                        const std::function<void(const std::string&)>& tell) {
     DoubtTally tally;
-    for (std::size_t k = 0; k < pages; ++k) {
-        const std::uint64_t seed = first + k;
+    for (std::size_t k = 0; k < wish.Pages; ++k) {
+        const std::uint64_t seed = wish.First + k * wish.Step;
         const DoubtPage page = PaintDoubtPage(kind, seed);
-        const std::optional<Judged> judged = Judge(page);
+        const std::optional<Judged> judged = Judge(page, wish.SecondOpinion);
         if (!judged)
             continue;
         ++tally.Forms;

@@ -20,10 +20,17 @@ struct DoubtTally {
     std::map<review::DoubtReason, std::size_t> Reasons;
 };
 
-/// Reads `pages` pages of a class by the plain reading, and doubts. Forms that it does not recognise
-/// are left out: nobody is shown their boxes. `tell`, if there is one, hears of every box that is misread or
-/// in doubt, one line of fields parted by tabs.
-DoubtTally ScoreDoubts(const DoubtClass& kind, std::size_t pages, std::uint64_t first,
+/// Which pages of a class are read, and how.
+struct ScoreWish {
+    std::size_t Pages = 20;
+    std::uint64_t First = 1;    ///< Seed of the first page,
+    std::uint64_t Step = 1;     ///< and what the next one has more.
+    bool SecondOpinion = true;  ///< Precise alignment looks, too.
+};
+
+/// Reads pages of a class by the plain reading, and doubts. Forms that it does not recognise are left out:
+/// nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted by tabs.
+DoubtTally ScoreDoubts(const DoubtClass& kind, const ScoreWish& wish,
                        const std::function<void(const std::string&)>& tell = {});
 
 }  // namespace tavrene::samples

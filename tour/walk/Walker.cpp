@@ -18,6 +18,9 @@
 namespace tavrene::tour {
 
 void Walker::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (!QTest::qWaitForWindowActive(dialog != nullptr ? dialog : &window_))
+        throw std::runtime_error("The window does not get the keys.");
     QWidget* const focus = QApplication::focusWidget();
     QTest::keyClick(focus != nullptr ? focus : &window_, key, modifiers);
     QApplication::processEvents();
@@ -145,32 +148,37 @@ void Walker::WorkThroughSheet(const QDialog& sheet) {
     }
 }
 
+// The dialog takes the keys while the key that opens it is still being worked on.
+void Walker::InNextDialog(const std::function<void(QDialog& dialog)>& act) {
+    constexpr int kTryAgain = 10;  // milliseconds
+    QTimer::singleShot(kTryAgain, &window_, [this, act] {
+        auto* const dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            InNextDialog(act);
+            return;
+        }
+        try {
+            act(*dialog);
+        } catch (...) {
+            failure_ = std::current_exception();
+            dialog->hide();
+        }
+    });
+}
+
+void Walker::PressWithDialog(Qt::Key key, Qt::KeyboardModifiers modifiers,
+                             const std::function<void(QDialog& dialog)>& act) {
+    InNextDialog(act);
+    Press(key, modifiers);
+    if (failure_)
+        std::rethrow_exception(failure_);
+}
+
 void Walker::SheetAndAcceptAll() {
     Press(Qt::Key_F6);
     WaitForCounts();
-    std::exception_ptr failure;
-    // The dialogs take the keys while the key that has opened them is still being worked on.
-    QTimer::singleShot(0, &window_, [&] {
-        auto* const sheet = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-        try {
-            if (sheet == nullptr)
-                throw std::runtime_error("No sheet has opened.");
-            static_cast<void>(QTest::qWaitForWindowActive(sheet));
-            WorkThroughSheet(*sheet);
-        } catch (...) {
-            failure = std::current_exception();
-        }
-        if (sheet != nullptr)
-            sheet->hide();
-    });
-    Press(Qt::Key_F9);
-    if (failure)
-        std::rethrow_exception(failure);
-    QTimer::singleShot(0, &window_, [this] {
-        static_cast<void>(QTest::qWaitForWindowActive(QApplication::activeModalWidget()));
-        Press(Qt::Key_Return);
-    });
-    Press(Qt::Key_F9, Qt::ShiftModifier);
+    PressWithDialog(Qt::Key_F9, Qt::NoModifier, [this](const QDialog& sheet) { WorkThroughSheet(sheet); });
+    PressWithDialog(Qt::Key_F9, Qt::ShiftModifier, [this](const QDialog&) { Press(Qt::Key_Return); });
 }
 
 }  // namespace tavrene::tour

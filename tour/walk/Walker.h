@@ -4,6 +4,8 @@
 #include <QKeySequence>
 #include <QListView>
 #include <QTreeWidget>
+#include <exception>
+#include <functional>
 
 #include "tour/walk/Forms.h"
 #include "ui/shell/MainWindow.h"
@@ -33,6 +35,9 @@ class Walker {
     bool IsWrong(const QTreeWidgetItem& row) const;
     void CorrectForm();
     void WaitForCounts();
+    void InNextDialog(const std::function<void(QDialog& dialog)>& act);
+    void PressWithDialog(Qt::Key key, Qt::KeyboardModifiers modifiers,
+                         const std::function<void(QDialog& dialog)>& act);
     void WorkThroughSheet(const QDialog& sheet);
     void JudgeScreen(const QListView& view);
     bool IsWrongPicture(const QModelIndex& box) const;
@@ -42,6 +47,7 @@ class Walker {
     ui::MainWindow& window_;
     const FormTruth& truth_;
     int keys_ = 0;
+    std::exception_ptr failure_;  ///< Of what was done in a dialog.
 };
 
 }  // namespace tavrene::tour

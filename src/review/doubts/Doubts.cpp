@@ -12,11 +12,11 @@ constexpr std::size_t kEnough = 5;
 // Percent of ink that a clean empty box may have; and the shares of a usual mark that are no more than a
 // touch of the pen, and no less than a mark.
 constexpr double kLeast = 1.5;
-constexpr double kTouch = 0.12;
+constexpr double kTouch = 0.1;
 constexpr double kBold = 0.3;
 
 // Percent of a strip beside an empty box; a word that the scan has moved a little makes less.
-constexpr double kStray = 12;
+constexpr double kStray = 19;
 
 // Shares of what a blackened box comes to: black all over, and by far not.
 constexpr double kBlack = 0.92;

@@ -1,5 +1,6 @@
 #include "ui/reviewing/SheetDialog.h"
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QScrollBar>
@@ -83,7 +84,11 @@ QWidget* SheetDialog::Foot() {
     about_->setTextFormat(Qt::PlainText);
     about_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     confirm_->setObjectName("cmdConfirm");
-    confirm_->setShortcut(QKeySequence("Ctrl+Return"));
+    // Of its own, for a button takes a tenth of a second to answer its shortcut.
+    auto* const confirm = new QAction(this);
+    confirm->setShortcuts({QKeySequence("Ctrl+Return"), QKeySequence("Ctrl+Enter")});
+    connect(confirm, &QAction::triggered, this, [this] { Confirm(); });
+    addAction(confirm);
     confirm_->setToolTip("What is on the screen is as it is shown now: save it (Ctrl+Enter)");
     confirm_->setAutoDefault(false);
     auto* const close = new QPushButton("Close", this);
@@ -111,6 +116,8 @@ void SheetDialog::Add(const std::vector<review::SheetBox>& boxes) {
                              [isMarked](const review::SheetBox& box) { return box.IsChecked == isMarked; });
         parts_[isMarked ? 0 : 1]->Add(part);
     }
+    if (Part().rowCount() == 0)
+        tabs_->setCurrentIndex(parts_[0]->rowCount() > 0 ? 0 : 1);
     if (!view_->currentIndex().isValid() && view_->model() != nullptr && Part().rowCount() > 0)
         view_->setCurrentIndex(Part().index(0));
 }
@@ -126,6 +133,8 @@ void SheetDialog::showEvent(QShowEvent* event) {
 }
 
 void SheetDialog::Confirm() {
+    if (Part().rowCount() == 0)
+        return;
     const BusyCursor busy;
     const int first = view_->FirstOnScreen();
     std::vector<review::SheetBox> judged;
