@@ -20,6 +20,9 @@ namespace {
 using imaging::RectStyle;
 using recognition::MarkReading;
 
+// Zeros at all empty boxes would cover what is printed beside them.
+constexpr double kLeastShown = 0.5;
+
 constexpr const char* kScanFilter = "Scans (*.tif *.jpg *.png *.gif *.pcx *.bmp);;All Files (*)";
 
 template <typename Control>
@@ -113,9 +116,7 @@ QWidget* TestProfileDialog::ScanColumn() {
     other->setAutoDefault(false);
     connect(other, &QPushButton::clicked, this, [this] { ChooseScans(); });
     column->addWidget(other);
-    auto* const keys = new QLabel("PgUp, PgDn: other scans");
-    keys->setEnabled(false);
-    column->addWidget(keys);
+    column->addWidget(new QLabel("PgUp, PgDown: other scans"));
     return pane;
 }
 
@@ -243,7 +244,8 @@ void TestProfileDialog::ShowMarks() {
         const QString ink = QString::number(mark.fill, 'f', 1) + '%';
         page_->PutRect(number, mark.rect, StyleOf(trial_.isRead, isTicked));
         boxes_->PutRow(number, {mark.Name, trial_.isRead ? (isTicked ? "1" : "0") : "", FromQt(ink)});
-        labels[number] = {QString::number(mark.fill, 'f', 0)};
+        if (mark.fill >= kLeastShown)
+            labels[number] = {QString::number(mark.fill, 'f', 0) + '%'};
     }
     page_->Boxes().ShowLabels(std::move(labels));
     counts_->setText(trial_.isRead ? ToQt(recognition::CountsOf(trial_.marks, threshold)) : QString());
