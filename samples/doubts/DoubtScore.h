@@ -29,7 +29,8 @@ struct ScoreWish {
 };
 
 /// Reads pages of a class by the plain reading, and doubts. Forms that it does not recognise are left out:
-/// nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted by tabs.
+/// nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted by
+/// tabs.
 DoubtTally ScoreDoubts(const DoubtClass& kind, const ScoreWish& wish,
                        const std::function<void(const std::string&)>& tell = {});
 

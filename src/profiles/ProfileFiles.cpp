@@ -2,10 +2,23 @@
 
 #include <utility>
 
+#include "profiles/BoxGroups.h"
 #include "profiles/ProfileLoader.h"
 #include "profiles/XmlFile.h"
 
 namespace tavrene::profiles {
+
+namespace {
+
+void SetRoot(pugi::xml_document& document, const char* name, const std::string& value) {
+    pugi::xml_node root = document.first_child();
+    pugi::xml_attribute attribute = root.attribute(name);
+    if (!attribute)
+        attribute = root.append_attribute(name);
+    attribute.set_value(value.c_str());
+}
+
+}  // namespace
 
 void RefuseToOpen(const std::string& path, const std::exception& error) {
     throw DocumentError("The profile " + path + " cannot be opened: " + error.what() + ".");
@@ -48,11 +61,7 @@ void ProfileFiles::Save(OpenProfile& profile) {
 void ProfileFiles::ChangeImage(OpenProfile& profile, const std::string& image) {
     pugi::xml_document document;
     document.reset(profile.Document);
-    pugi::xml_node root = document.first_child();
-    pugi::xml_attribute attribute = root.attribute("Image");
-    if (!attribute)
-        attribute = root.append_attribute("Image");
-    attribute.set_value(image.c_str());
+    SetRoot(document, "Image", image);
     Write(profile, std::move(document));
     profile.Image = image;
 }
@@ -62,6 +71,31 @@ void ProfileFiles::Write(OpenProfile& profile, pugi::xml_document document) {
     profile.Document = std::move(document);
     profile.Fingerprint = files_.Fingerprint(profile.Path);
     log_.LogProfileEvent("Saved Profile: " + profile.Name);
+}
+
+// Groups come before their document, and go after it: those of a profile that is not there are nobody's, but
+// a profile never lacks its own.
+void ProfileFiles::CopyGroups(const std::string& from, const std::string& to) {
+    if (files_.FileExists(BoxGroupsPath(from)))
+        files_.Write(BoxGroupsPath(to), files_.Read(BoxGroupsPath(from)));
+    else
+        DeleteBoxGroups(files_, to);
+}
+
+void ProfileFiles::Duplicate(const OpenProfile& profile, const std::string& path) {
+    pugi::xml_document document = LoadProfileDocument(files_, profile.Path);
+    SetRoot(document, "Profile", app::BaseName(path));
+    SetRoot(document, "Active", "0");
+    CopyGroups(profile.Path, path);
+    SaveProfileDocument(files_, path, document);
+    log_.LogProfileEvent("Created Profile: " + app::BaseName(path));
+}
+
+void ProfileFiles::Rename(const OpenProfile& profile, const std::string& path) {
+    CopyGroups(profile.Path, path);
+    files_.Move(profile.Path, path);
+    DeleteBoxGroups(files_, profile.Path);
+    log_.LogProfileEvent("Renamed Profile: " + profile.Name + " to " + app::BaseName(path));
 }
 
 void ProfileFiles::Delete(const OpenProfile& profile) {

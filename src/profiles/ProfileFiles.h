@@ -35,6 +35,12 @@ class ProfileFiles {
     /// Writes the path of another specimen image into the profile's document, which else is as it was.
     void ChangeImage(OpenProfile& profile, const std::string& image);
 
+    /// Writes a profile of that path with the same boxes, groups and image, which is not active.
+    void Duplicate(const OpenProfile& profile, const std::string& path);
+
+    /// Gives document and groups another path. The specimen image stays where it lies.
+    void Rename(const OpenProfile& profile, const std::string& path);
+
     /// One that has vanished already is deleted, too.
     void Delete(const OpenProfile& profile);
 
@@ -49,6 +55,7 @@ class ProfileFiles {
     int NumberOf(const std::string& path) const;
 
   private:
+    void CopyGroups(const std::string& from, const std::string& to);
     void Write(OpenProfile& profile, pugi::xml_document document);
 
     app::Files& files_;

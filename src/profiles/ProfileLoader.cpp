@@ -88,6 +88,21 @@ std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::Acti
     return profiles;
 }
 
+ProfileRecord RecordOf(const OpenProfile& profile) {
+    ProfileRecord record;
+    record.Name = profile.Name;
+    record.FileName = app::FileName(profile.Path);
+    record.Image = profile.Image;
+    record.Active = profile.Active;
+    record.DPI_X = profile.DPI_X;
+    record.DPI_Y = profile.DPI_Y;
+    for (const OmrBox& box : profile.BoxList)
+        if (box.Checked)
+            record.Boxes.push_back(PrintedBoxOf(box));
+    record.Extent = ExtentOf(record.Boxes);
+    return record;
+}
+
 int CountActive(std::span<const ProfileRecord> profiles) {
     return static_cast<int>(std::count_if(profiles.begin(), profiles.end(),
                                           [](const ProfileRecord& profile) { return profile.Active; }));

@@ -7,6 +7,7 @@
 #include "app/ActivityLog.h"
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "profiles/OpenProfile.h"
 #include "profiles/ProfileRecord.h"
 
 namespace tavrene::profiles {
@@ -16,6 +17,9 @@ namespace tavrene::profiles {
 /// out with one line in the profile log.
 std::vector<ProfileRecord> LoadActiveProfiles(const app::Files& files, app::ActivityLog& log,
                                               app::Operator& person, const std::string& profilesFolder);
+
+/// The profile at the desk as a run would load it once it is saved.
+ProfileRecord RecordOf(const OpenProfile& profile);
 
 int CountActive(std::span<const ProfileRecord> profiles);
 

@@ -15,7 +15,6 @@ namespace {
 using app::Answer;
 using app::Panel;
 
-constexpr const char* kProfileFilter = "Tavrene Profiles (*.Tvp)|*.Tvp";
 constexpr const char* kSpecimen = "specimen";
 constexpr const char* kGroups = "groups";
 constexpr const char* kImageFilter = "Image Files (*.Tif;*.Jpg;*.Png)|*.Tif;*.Jpg;*.Png";
@@ -88,9 +87,13 @@ bool ProfileSession::Create(const std::string& path, const std::string& image, c
     context_.person.SetPanel(Panel::Message, std::to_string(content.Count) + " OMR Boxes identified");
     if (app::Notice offer = context_.offerMore ? context_.offerMore() : app::Notice(); !offer.text.empty())
         notes_.push_back(std::move(offer));
+    TellIfOutside();
+    return true;
+}
+
+void ProfileSession::TellIfOutside() {
     if (profile_.CurrentProfile == 0)
         lasting_.push_back({"The new profile lies outside the Profiles folder, so no run will use it."});
-    return true;
 }
 
 void ProfileSession::Open(const std::string& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@
 
 namespace tavrene::profiles {
 
+inline constexpr const char* kProfileFilter = "Tavrene Profiles (*.Tvp)|*.Tvp";
+
 /// What the session needs of the world; everything must outlive it.
 struct ProfileContext {
     app::Files& files;
@@ -34,6 +37,9 @@ struct ProfileContext {
 
     /// What is to be said of boxes that a new profile may lack; without a text for nothing.
     std::function<app::Notice()> offerMore = {};
+
+    /// How many results know a profile by its name.
+    std::function<int(const std::string& name)> resultsOf = {};
 };
 
 /// The profile at the desk from its making or opening until it is closed: what the person is asked and told
@@ -73,6 +79,13 @@ class ProfileSession {
     /// Deletes the profile at the desk, after a question.
     void Delete();
 
+    /// Makes another profile of the saved boxes of this one, under a name that is asked for, and opens it. It
+    /// is not active, for both would match the same forms.
+    void Duplicate();
+
+    /// Gives the profile another name, which is asked for. Names that are in use are refused.
+    void Rename();
+
     /// The profile's state as the check box has it; reaches the file with the next save.
     void SetActive(bool active);
 
@@ -105,6 +118,9 @@ class ProfileSession {
     bool MayOverwrite(const std::string& onDisk);
     void RebuildStrip();
     void Locate();
+    std::optional<std::string> AskNewName(const std::string& title, const std::string& proposed);
+    void OpenUnderName(const std::string& path);
+    void TellIfOutside();
     void ShowPanels();
     void Note(const std::string& failure);
 

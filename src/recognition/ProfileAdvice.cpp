@@ -75,6 +75,12 @@ std::string SteepSlope(const std::string& line) {
         .append(". Add or delete boxes so that others are chosen.");
 }
 
+// Boxes whose edges lie nearer to each other than that are in one line, as a scan has it.
+int HalfABox(const Boxes& boxes) {
+    const OmrBox& box = boxes.front();
+    return std::min(std::abs(box.R - box.L), std::abs(box.B - box.T)) / 2;
+}
+
 void AdviseOnSpread(const Boxes& boxes, Advice& advice) {
     const Boxes sampled = SampledBoxes(boxes);
     const std::pair<Ordinate, std::string> axes[] = {{Left, "column"}, {Lower, "row"}};
@@ -84,6 +90,11 @@ void AdviseOnSpread(const Boxes& boxes, Advice& advice) {
             Add(advice, "no slope in one " + line, NoSlope(line, sampled.size(), boxes.size()));
         else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
             Add(advice, "near one " + line, SteepSlope(line));
+        if (spread > 0 && SpreadOf(boxes, ordinate) < HalfABox(boxes))
+            Add(advice, "one " + line,
+                "All boxes lie in one " + line +
+                    ", so this profile may match forms that are not its own. Add a box in another " + line +
+                    ".");
     }
 }
 

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "app/Reason.h"
 #include "profiles/XmlFile.h"
 
 namespace tavrene::recognition {
@@ -112,6 +113,14 @@ void SaveResultDocument(app::Files& files, const std::string& path, const Result
 
 std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::string& path) {
     return MarksIn(profiles::ReadXml(files, path, Declaration::Allowed).document_element());
+}
+
+int CountResultsOf(const app::Files& files, const std::string& folder, const std::string& profile) {
+    int count = 0;
+    for (const std::string& name : files.List(folder, "*.xml"))
+        app::FailureOf(
+            [&] { count += ResultDocument::Load(files, folder + name).Profile() == profile ? 1 : 0; });
+    return count;
 }
 
 std::string ImageOfResult(const app::Files& files, const std::string& path) {

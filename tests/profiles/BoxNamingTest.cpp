@@ -7,6 +7,7 @@
 #include "profiles/BoxNaming.h"
 #include "profiles/BoxPlace.h"
 #include "profiles/BoxSelection.h"
+#include "profiles/PrintedNames.h"
 #include "support/TestForm.h"
 
 namespace tavrene::profiles {
@@ -164,6 +165,31 @@ TEST(BoxGridTest, TheShapeOfAGridAndItsOutlinesAreFoundInThePrint) {
         EXPECT_EQ(OutlineUnder(page.grid, rough), PlaceOf(form.boxes[k])) << k;
     }
     EXPECT_FALSE(OutlineUnder(page.grid, {300, 30, 24, 24})) << "nothing is printed there";
+}
+
+// As a reader of print writes it: of the cells only place, confidence and text matter.
+TEST(PrintedNamesTest, TheWordsBesideBoxesAreTheirNames) {
+    const auto line = [](const char* text, int left, int top, const char* confidence = "91.5") {
+        return "5\t1\t1\t1\t1\t1\t" + std::to_string(left) + "\t" + std::to_string(top) + "\t40\t20\t" +
+               confidence + "\t" + text + "\n";
+    };
+    const std::string table =
+        "level\tpage_num\tblock_num\tpar_num\tline_num\tword_num\tleft\ttop\twidth\t"
+        "height\tconf\ttext\n" +
+        line("Sex:", 20, 102) + line("fe\"male", 132, 101) + line("not", 180, 99) + line("male", 332, 102) +
+        line("|", 380, 102) + line("D", 290, 100) + line("noise", 332, 202, "12") + line("far", 500, 200) +
+        line("below", 132, 140) + "5\t1\tbroken\n";
+    const std::vector<OmrBox> right = {
+        {"a", 100, 100, 124, 124}, {"b", 300, 100, 324, 124}, {"c", 300, 200, 324, 224}};
+    const auto names = [&](std::vector<OmrBox> boxes) {
+        const std::vector<int> numbers = KeptNumbers(boxes);
+        return NamesFromPrint(boxes, CellsOf(boxes, numbers, CellOrder::Across), WordsOfTable(table));
+    };
+    EXPECT_EQ(names(right), (std::vector<NewName>{{1, "female not"}, {2, "male"}}));
+    // At the left of the boxes: in reading order, and not beyond the next box.
+    EXPECT_EQ(names({{"a", 230, 100, 254, 124}, {"b", 550, 200, 574, 224}}),
+              (std::vector<NewName>{{1, "female not"}, {2, "far"}}));
+    EXPECT_TRUE(names({{"a", 800, 800, 824, 824}}).empty());
 }
 
 }  // namespace

@@ -70,9 +70,16 @@ class ProfileSessionTest : public test::RunWorld {
     TestForm form_ = TestForm::Grid(3, 2);
     test::FakeStrip strip_;
     test::FakeFileDialogs dialogs_;
-    ProfileContext context_{files_, person_, dialogs_, log_, clock_, folders_, [](const OpenProfile&) {
-                                return std::vector<app::Notice>();
-                            }};
+    int resultsOf_ = 0;
+    ProfileContext context_{files_,
+                            person_,
+                            dialogs_,
+                            log_,
+                            clock_,
+                            folders_,
+                            [](const OpenProfile&) { return std::vector<app::Notice>(); },
+                            {},
+                            [this](const std::string&) { return resultsOf_; }};
     ProfileSession session_{context_, profiles_, {screen_, screen_, strip_}};
 };
 
@@ -305,6 +312,43 @@ TEST_F(ProfileSessionTest, LocatingASpecimenBringsNoDeletedDocumentBack) {
     EXPECT_EQ(reads, 2) << "for the page and for the strip";
     EXPECT_TRUE(session_.Notices().empty());
     EXPECT_PRED2(Has, ReadText(PathOf("A")), moved);
+}
+
+TEST_F(ProfileSessionTest, IsDuplicatedAndRenamedWithItsGroupsUnderFreeNames) {
+    AddProfiles({"A", "B"});
+    ASSERT_TRUE(Pick(1));
+    session_.Editor().SetGroups({{{"Q", {"Q2", "Q3"}, Takes::One}}});
+    ASSERT_TRUE(session_.Save());
+    const std::string groups = ReadText(BoxGroupsPath(PathOf("A")));
+    const auto files = [this] { return In(folders_.Profiles); };
+    dialogs_.answers = {PathOf("B"), std::nullopt, PathOf("C")};
+    const Names before = files();
+    session_.Duplicate();
+    EXPECT_PRED2(Has, transcript_.Joined(), "There is a profile " + PathOf("B") + " already");
+    session_.Rename();
+    EXPECT_EQ(files(), before);
+    session_.Duplicate();
+    EXPECT_EQ(Profile().Name, "C");
+    EXPECT_FALSE(Profile().Active);
+    EXPECT_EQ(Profile().BoxList, form_.boxes);
+    EXPECT_PRED2(Has, ReadText(PathOf("C")), "Profile=\"C\"");
+    EXPECT_EQ(ReadText(BoxGroupsPath(PathOf("C"))), groups);
+    EXPECT_PRED2(Has, session_.Notices().at(0).text, "This copy is not active");
+
+    const std::string document = ReadText(PathOf("C"));
+    resultsOf_ = 3;
+    person_.answers = {Answer::No, Answer::Yes};
+    dialogs_.answers = {PathOf("D"), PathOf("D")};
+    session_.Rename();
+    EXPECT_EQ(person_.lastPreset, Answer::No);
+    EXPECT_TRUE(files_.FileExists(PathOf("C")));
+    session_.Rename();
+    EXPECT_EQ(ReadText(PathOf("D")), document);
+    EXPECT_EQ(ReadText(BoxGroupsPath(PathOf("D"))), groups);
+    EXPECT_EQ(files(),
+              (Names{"A.groups.xml", "A.Tvp", "B.Tvp", "D.groups.xml", "D.Tvp", "Tavrene_Profiles.tif"}));
+    EXPECT_EQ(Profile().CurrentProfile, 3);
+    EXPECT_EQ(Logged().back(), "Renamed Profile: C to D");
 }
 
 // Each write of a save in turn is cut off, once refused and once as if the program had died in it, with half

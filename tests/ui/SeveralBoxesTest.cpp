@@ -1,11 +1,13 @@
 #include <QAccessible>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QMenu>
 #include <filesystem>
 
 #include "profiles/OmrsOfBoxes.h"
 #include "support/SourceFolder.h"
 #include "ui/FormWindow.h"
+#include "ui/profiling/PrintReader.h"
 
 namespace tavrene::ui {
 namespace {
@@ -247,6 +249,52 @@ TEST_F(SeveralBoxesWindowTest, CopiesStayOnThePageAndTheClipboardTellsWhatIsPast
     EXPECT_PRED2(test::Has, Panel("Message"), "holds no files");
     Press(*window_, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(RowTexts().size(), 8U);
+}
+
+// A stand-in takes the place of the reader, which need not be there.
+TEST_F(SeveralBoxesWindowTest, NamesAreSuggestedFromThePrintWhereItCanBeRead) {
+    OpenForm();
+    const std::string reader = config_.Path() + "/tesseract";
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(config_.Path()));
+    const auto suggest = [this](const std::function<void(QDialog&, QPushButton&)>& look) {
+        DialogScript dialogs;
+        dialogs.Do([&](QDialog& dialog) {
+            Find<QTabWidget>(dialog, "tabWays").setCurrentIndex(1);
+            look(dialog, Find<QPushButton>(dialog, "cmdSuggest"));
+            dialog.reject();
+        });
+        Press(*window_, Qt::Key_F2, Qt::ControlModifier);
+    };
+    suggest([](QDialog&, QPushButton& button) {
+        EXPECT_FALSE(button.isEnabled());
+        EXPECT_PRED2(test::Has, FromQt(button.toolTip()), "not installed");
+    });
+    const auto install = [&](const std::string& does) {
+        test::WriteText(reader, "#!/bin/sh\n" + does);
+        std::filesystem::permissions(reader, std::filesystem::perms::owner_all);
+    };
+    install("[ \"$2\" = stdout ] && printf '5\\t1\\t1\\t1\\t1\\t1\\t90\\t72\\t16\\t18\\t95\\tyes\\n'\n");
+    suggest([this](QDialog&, QPushButton& button) {
+        button.click();
+        EXPECT_EQ(FromQt(View().Boxes().LabelOf(1)), "yes");
+        EXPECT_EQ(FromQt(View().Boxes().LabelOf(2)), "");
+    });
+    install("exit 3\n");
+    suggest([](QDialog& dialog, QPushButton& button) {
+        button.click();
+        EXPECT_PRED2(test::Has, FromQt(Find<QLabel>(dialog, "lblOutcome").text()), "could not read");
+    });
+    install("exec /bin/sleep 60\n");
+    QElapsedTimer time;
+    time.start();
+    EXPECT_PRED2(test::Has, FromQt(ReadPrintOf("x", *window_, 50).failure), "too long");
+    QTimer::singleShot(100, window_.get(), [] { QApplication::activeModalWidget()->close(); });
+    const ReadPrint cancelled = ReadPrintOf("x", *window_);
+    EXPECT_TRUE(cancelled.table.empty() && cancelled.failure.isEmpty());
+    EXPECT_LT(time.elapsed(), 30000);
+    EXPECT_EQ(RowTexts().front(), "Q1") << "nothing is taken unasked";
+    qputenv("PATH", path);
 }
 
 // Keystrokes and clicks from New to a profile whose boxes are all there and named.

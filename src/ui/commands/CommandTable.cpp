@@ -18,6 +18,7 @@ constexpr Rule kLeavesProfile = {"SDUP", P::Profile};
 constexpr Rule kLeavesAll = {"SDUPRF", P::ProfileThenForm};
 constexpr Rule kOfProfile = {"UP", P::None, "S"};
 constexpr Rule kOfBoxes = {"P"};
+constexpr Rule kOfSavedProfile = {"P", P::Profile};
 constexpr Rule kOfReview = {"RF"};
 constexpr Rule kToAnotherForm = {"RF", P::Form};
 constexpr Rule kOfForm = {"F"};
@@ -35,6 +36,12 @@ constexpr std::array kCommands = {
                 M::File, "&Save Profile", "Ctrl+S", "Save", false, false, kOfProfile},
     CommandInfo{C::DeleteProfile, T::Main, "Delete", "Delete Current Profile",
                 M::File, "&Delete Profile...", "Ctrl+Shift+Del", "Delete", false, false, kOfProfile},
+    CommandInfo{C::DuplicateProfile, T::None, "DuplicateProfile", "Make another profile of the same boxes, groups and image",
+                M::File, "D&uplicate Profile...", "Ctrl+Shift+S", "", false, false, kOfSavedProfile},
+    CommandInfo{C::RenameProfile, T::None, "RenameProfile", "Give the profile and its groups another name",
+                M::File, "Rena&me Profile...", "Shift+F2", "", false, false, kOfSavedProfile},
+    CommandInfo{C::TestProfile, T::None, "TestProfile", "See how scans are read with this profile as it stands; nothing is written",
+                M::File, "Test P&rofile...", "F9", "", false, false, kOfBoxes},
     CommandInfo{C::ZoomToOrig, T::Main, "ZoomToOrig", "Zoom To Original",
                 M::View, "Zoom To &Original", "Ctrl+1", "ZoomToOrig", false, true, kIdle},
     CommandInfo{C::ZoomIn, T::Main, "ZoomIn", "Zoom In",

@@ -4,12 +4,15 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <map>
 #include <stdexcept>
 #include <utility>
 
 #include "profiles/BoxSelection.h"
 #include "profiles/NameCleaning.h"
+#include "profiles/PrintedNames.h"
 #include "ui/base/QtText.h"
+#include "ui/profiling/PrintReader.h"
 
 namespace tavrene::ui {
 namespace {
@@ -31,10 +34,11 @@ QString Outcome(const std::vector<profiles::NewName>& names) {
 }  // namespace
 
 NameBoxesDialog::NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std::vector<int> numbers,
-                                 Preview preview, QWidget* parent)
+                                 QString image, Preview preview, QWidget* parent)
     : QDialog(parent),
       boxes_(boxes),
       numbers_(std::move(numbers)),
+      image_(std::move(image)),
       preview_(std::move(preview)),
       ways_(new QTabWidget(this)),
       outcome_(new QLabel(this)) {
@@ -83,7 +87,19 @@ QWidget* NameBoxesDialog::ListPage() {
     lines_->setPlaceholderText("One name a line, as a column of a table is pasted");
     lines_->setTabChangesFocus(true);
     connect(lines_, &QPlainTextEdit::textChanged, this, [this] { Update(); });
-    return lines_;
+    auto* const suggest = new QPushButton("Su&ggest From Print");
+    suggest->setObjectName("cmdSuggest");
+    suggest->setAutoDefault(false);
+    const QString whyNot = WhyNoPrintIsRead();
+    suggest->setEnabled(whyNot.isEmpty());
+    suggest->setToolTip(whyNot.isEmpty() ? "Fills the list with the words that are printed beside the boxes"
+                                         : whyNot);
+    connect(suggest, &QPushButton::clicked, this, [this] { SuggestFromPrint(); });
+    auto* const page = new QWidget;
+    auto* const column = new QVBoxLayout(page);
+    column->addWidget(lines_, 1);
+    column->addWidget(suggest, 0, Qt::AlignLeft);
+    return page;
 }
 
 QWidget* NameBoxesDialog::ReplacePage() {
@@ -137,9 +153,36 @@ void NameBoxesDialog::Build() {
     pattern_->selectAll();
 }
 
-std::vector<profiles::NewName> NameBoxesDialog::Asked() const {
+std::vector<profiles::BoxCell> NameBoxesDialog::Cells() const {
     const auto order = down_->isChecked() ? profiles::CellOrder::Down : profiles::CellOrder::Across;
-    const std::vector<profiles::BoxCell> cells = profiles::CellsOf(boxes_, numbers_, order);
+    return profiles::CellsOf(boxes_, numbers_, order);
+}
+
+// One line a box; boxes beside which nothing was read keep their names.
+void NameBoxesDialog::SuggestFromPrint() {
+    const ReadPrint read = ReadPrintOf(image_, *this);
+    if (read.table.empty()) {
+        if (!read.failure.isEmpty())
+            outcome_->setText(read.failure);
+        return;
+    }
+    const std::vector<profiles::BoxCell> cells = Cells();
+    const std::vector<profiles::PrintedWord> words = profiles::WordsOfTable(read.table);
+    std::map<int, QString> names;
+    for (const profiles::NewName& name : profiles::NamesFromPrint(boxes_, cells, words))
+        names[name.number] = ToQt(name.name);
+    if (names.empty()) {
+        outcome_->setText("No print was found beside the boxes.");
+        return;
+    }
+    QStringList lines;
+    for (const profiles::BoxCell& cell : cells)
+        lines += names[cell.number];
+    lines_->setPlainText(lines.join('\n'));
+}
+
+std::vector<profiles::NewName> NameBoxesDialog::Asked() const {
+    const std::vector<profiles::BoxCell> cells = Cells();
     const auto words = [](const QLineEdit* field) { return profiles::WordsOf(FromQt(field->text())); };
     switch (ways_->currentIndex()) {
         case kPatternPage:

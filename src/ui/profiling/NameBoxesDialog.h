@@ -24,9 +24,10 @@ class NameBoxesDialog final : public QDialog {
     /// Shows the names that the boxes would have, and those among them that must not be.
     using Preview = std::function<void(const std::vector<profiles::NewName>&, const std::set<int>& bad)>;
 
-    /// `boxes` must outlive the dialog; the boxes of `numbers` are named.
-    NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std::vector<int> numbers, Preview preview,
-                    QWidget* parent);
+    /// `boxes` must outlive the dialog; the boxes of `numbers` are named. `image` is the specimen whose print
+    /// can be asked for names.
+    NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std::vector<int> numbers, QString image,
+                    Preview preview, QWidget* parent);
 
     /// What the dialog was closed with.
     const std::vector<profiles::NewName>& Names() const { return names_; }
@@ -37,12 +38,15 @@ class NameBoxesDialog final : public QDialog {
     QWidget* ReplacePage();
     void Build();
     QLineEdit* Field(const char* name, const QString& label, const QString& text = {});
+    std::vector<profiles::BoxCell> Cells() const;
     std::vector<profiles::NewName> Asked() const;
+    void SuggestFromPrint();
     bool LosesCharacters() const;
     void Update();
 
     const std::vector<profiles::OmrBox>& boxes_;
     std::vector<int> numbers_;
+    QString image_;
     Preview preview_;
     std::vector<profiles::NewName> names_;
     QTabWidget* ways_;

@@ -66,7 +66,8 @@ void NameCommands::NameBoxes() {
     const bool isSome = profile_.Selected.HasSeveral();
     NameBoxesDialog dialog(
         profile_.BoxList, isSome ? profile_.Selected.Numbers() : profiles::KeptNumbers(profile_.BoxList),
-        [this](const auto& names, const auto& bad) { Preview(names, bad); }, view_.window());
+        ToQt(profile_.Image), [this](const auto& names, const auto& bad) { Preview(names, bad); },
+        view_.window());
     // Beside the page, on which the names are shown.
     dialog.adjustSize();
     const QRect window = view_.window()->frameGeometry();

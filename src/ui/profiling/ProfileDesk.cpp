@@ -1,11 +1,16 @@
 #include "ui/profiling/ProfileDesk.h"
 
 #include <QShortcut>
+#include <algorithm>
 #include <initializer_list>
 
+#include "app/Numeric.h"
+#include "profiles/ProfileLoader.h"
 #include "recognition/ProfileAdvice.h"
+#include "recognition/ResultDocument.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
+#include "ui/profiling/TestProfileDialog.h"
 
 namespace tavrene::ui {
 
@@ -14,6 +19,8 @@ using imaging::BoxTool;
 
 ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, const DeskControls& controls)
     : state_(state),
+      files_(context.files),
+      store_(context.store),
       person_(context.person),
       gate_(context.gate),
       controls_(controls),
@@ -22,6 +29,9 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                 [this] {
                     return app::Notice{more_.Offer(), "Find More Boxes",
                                        [this] { gate_.Run(Command::FindMoreBoxes); }};
+                },
+                [this](const std::string& name) {
+                    return recognition::CountResultsOf(files_, state_.folders.ProcessOut, name);
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
       boxes_(context.gate, session_.Profile(), session_.Editor()),
@@ -50,6 +60,9 @@ void ProfileDesk::ConnectCommands() {
     });
     connect(Command::Save, [this] { session_.Save(); });
     connect(Command::DeleteProfile, [this] { session_.Delete(); });
+    connect(Command::DuplicateProfile, [this] { session_.Duplicate(); });
+    connect(Command::RenameProfile, [this] { session_.Rename(); });
+    gate_.SetHandler(Command::TestProfile, [this] { TestProfile(); });
     connect(Command::FindMoreBoxes, [this] {
         session_.DropNotes();
         more_.Find();
@@ -68,6 +81,29 @@ void ProfileDesk::ConnectBoxCommands() {
         Command::Undo, [this] { session_.Editor().Undo(); }, [this] { return session_.Editor().CanUndo(); });
     gate_.SetHandler(
         Command::Redo, [this] { session_.Editor().Redo(); }, [this] { return session_.Editor().CanRedo(); });
+}
+
+// The other profiles are those that a run would look at; scans that wait are tried where none was read yet.
+void ProfileDesk::TestProfile() {
+    std::vector<profiles::ProfileRecord> records = state_.profiles;
+    profiles::ProfileRecord own = RecordOf(session_.Profile());
+    auto tried = std::ranges::find(records, own.FileName, &profiles::ProfileRecord::FileName);
+    if (tried == records.end())
+        tried = records.insert(tried, own);
+    *tried = std::move(own);
+    const auto index = static_cast<std::size_t>(tried - records.begin());
+    const app::WorkingFolders& folders = state_.folders;
+    const bool hasRead = !ScansIn(files_, folders.ProcessOut).empty();
+    const auto way =
+        state_.reading.preciseAlignment ? recognition::TrialWay::Precise : recognition::TrialWay::Plain;
+    TestProfileDialog({files_, std::move(records), index, hasRead ? folders.ProcessOut : folders.ProcessIn,
+                       way, state_.settings.FillThreshold,
+                       [this](int threshold) {
+                           state_.settings.FillThreshold = app::ClampToInt16(threshold);
+                           app::WriteCommonNumber(store_, "FillThreshold", state_.settings.FillThreshold);
+                       }},
+                      controls_.view.window())
+        .exec();
 }
 
 // Of the size of the selected box, or of what is looked for on a page; the arrow keys are to take it further.

@@ -4,6 +4,7 @@
 #include "app/Clock.h"
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "app/SettingsStore.h"
 #include "profiles/ProfileSession.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
@@ -26,6 +27,7 @@ struct DeskContext {
     const app::Clock& clock;
     commands::CommandGate& gate;
     app::FileDialogs& dialogs;
+    app::SettingsStore& store;
 };
 
 /// The controls that show the open profile.
@@ -70,10 +72,13 @@ class ProfileDesk {
     void ConnectControls();
     void PutBox();
     void Pick(int thumbnail);
+    void TestProfile();
     bool CanEdit() const { return session_.IsOpen(); }
     bool HasBox() const { return !session_.Profile().Selected.IsEmpty(); }
 
     commands::AppState& state_;
+    app::Files& files_;
+    app::SettingsStore& store_;
     app::Operator& person_;
     commands::CommandGate& gate_;
     DeskControls controls_;

@@ -44,7 +44,8 @@ const Commands kBoxes = {
     C::AlignTop,       C::AlignBottom,    C::DistributeAcross, C::DistributeDown, C::NameBoxes,
     C::BoxNames,       C::SortByPlace,    C::MoveRowsUp,       C::MoveRowsDown,   C::DrawGrid,
     C::CopyBoxes,      C::PasteBoxes,     C::DuplicateBoxes,   C::SnapToPrint,    C::GroupBoxes,
-    C::UngroupBoxes,   C::GroupByRows,    C::GroupByNames,     C::GroupFrames};
+    C::UngroupBoxes,   C::GroupByRows,    C::GroupByNames,     C::GroupFrames,    C::DuplicateProfile,
+    C::RenameProfile,  C::TestProfile};
 const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm,  C::PickForm,
                          C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision,  C::NextDoubt,
                          C::FilterForms,     C::DoubtSheet,         C::AcceptAllClear};
@@ -83,6 +84,8 @@ TEST(ModesTest, EveryCommandInEveryMode) {
                                                 {C::PickFile, Prompts::ProfileThenForm},
                                                 {C::ProcessUnread, Prompts::ProfileThenForm},
                                                 {C::PickThumbnail, Prompts::Profile},
+                                                {C::DuplicateProfile, Prompts::Profile},
+                                                {C::RenameProfile, Prompts::Profile},
                                                 {C::Exit, Prompts::FormThenProfile}};
     const auto has = [](const std::map<Mode, Commands>& table, Mode mode, Command command) {
         const auto found = table.find(mode);

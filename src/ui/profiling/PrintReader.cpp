@@ -1,0 +1,60 @@
+#include "ui/profiling/PrintReader.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QProgressDialog>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include "ui/base/BusyCursor.h"
+
+namespace tavrene::ui {
+namespace {
+
+QString Reader() {
+    return QStandardPaths::findExecutable("tesseract");
+}
+
+}  // namespace
+
+QString WhyNoPrintIsRead() {
+    return Reader().isEmpty() ? "The program tesseract, which reads print, is not installed." : QString();
+}
+
+ReadPrint ReadPrintOf(const QString& image, QWidget& window, int limit) {
+    QProcess reader;
+    reader.setStandardErrorFile(QProcess::nullDevice());
+    // Its threads wait for each other in a loop: on a busy machine one alone is faster by far.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("OMP_THREAD_LIMIT", "1");
+    reader.setProcessEnvironment(environment);
+    // Modal, so that nothing else is done to the profile meanwhile.
+    QProgressDialog box("Reading what is printed beside the boxes...", "Cancel", 0, 0, &window);
+    box.setObjectName("PrintProgress");
+    box.setWindowTitle("Name Boxes");
+    QObject::connect(&reader, &QProcess::finished, &box, &QDialog::accept);
+    QObject::connect(&reader, &QProcess::errorOccurred, &box, &QDialog::accept);
+    bool isLate = false;
+    QTimer::singleShot(limit, &box, [&] {
+        isLate = true;
+        box.accept();
+    });
+    // Sparse text: words in any place, as they stand on forms.
+    QTimer::singleShot(0, &box, [&] { reader.start(Reader(), {image, "stdout", "--psm", "11", "tsv"}); });
+    const UsualCursor usual;
+    const bool isDone = box.exec() == QDialog::Accepted;
+    if (reader.state() != QProcess::NotRunning) {
+        reader.disconnect();
+        reader.kill();
+        reader.waitForFinished();
+    }
+    if (isLate)
+        return {{}, "Reading the print takes too long; it was given up."};
+    if (!isDone)
+        return {};
+    if (reader.error() != QProcess::UnknownError || reader.exitCode() != 0)
+        return {{}, "The program tesseract could not read the specimen image."};
+    return {reader.readAllStandardOutput().toStdString(), {}};
+}
+
+}  // namespace tavrene::ui
