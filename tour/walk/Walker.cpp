@@ -19,7 +19,9 @@ namespace tavrene::tour {
 
 void Walker::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* const dialog = QApplication::activeModalWidget();
-    if (!QTest::qWaitForWindowActive(dialog != nullptr ? dialog : &window_))
+    QWidget* const top = dialog != nullptr ? dialog : &window_;
+    top->activateWindow();
+    if (!QTest::qWaitForWindowActive(top))
         throw std::runtime_error("The window does not get the keys.");
     QWidget* const focus = QApplication::focusWidget();
     QTest::keyClick(focus != nullptr ? focus : &window_, key, modifiers);
