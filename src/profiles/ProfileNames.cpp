@@ -5,7 +5,7 @@
 namespace tavrene::profiles {
 
 std::optional<std::string> ProfileSession::AskNewName(const std::string& title, const std::string& proposed) {
-    const std::optional<std::string> path =
+    std::optional<std::string> path =
         context_.dialogs.AskSaveFile({title, context_.folders.Profiles, proposed + ".Tvp", kProfileFilter});
     if (path && context_.files.FileExists(*path)) {
         context_.person.ShowMessage("", "There is a profile " + *path + " already. Choose another name.");
