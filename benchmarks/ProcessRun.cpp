@@ -24,11 +24,17 @@ void ProcessPage(benchmark::State& state, const recognition::ReadingOptions& opt
     std::vector<profiles::ProfileRecord> profiles = {TheFormPage().profile};
     profiles.resize(1 + static_cast<std::size_t>(state.range(0)), TheFormPage().stranger);
     const std::string waiting = work.folders.ProcessIn + "page.tif";
-    for (auto _ : state) {
-        state.PauseTiming();
+    const auto place = [&] {
         std::filesystem::copy_file(TheFormPage().file, waiting,
                                    std::filesystem::copy_options::overwrite_existing);
         std::filesystem::remove(work.folders.ProcessOut + "page.xml");
+    };
+    // The specimen is read with the first page and known from then on.
+    place();
+    work.run.Run(profiles);
+    for (auto _ : state) {
+        state.PauseTiming();
+        place();
         state.ResumeTiming();
         work.run.Run(profiles);
         if (!work.run.Opinions().unread.empty() || !work.run.Opinions().specimens.unreadable.empty())
@@ -52,8 +58,8 @@ void BM_ProcessPagePrecisely(benchmark::State& state) {
 
 BENCHMARK(BM_Floor)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ProcessPage)->Arg(0)->Arg(9)->Arg(19)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_ProcessPageWithOpinion)->Arg(0)->Arg(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_ProcessPagePrecisely)->Arg(0)->Arg(9)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ProcessPageWithOpinion)->Arg(0)->Arg(9)->Arg(99)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ProcessPagePrecisely)->Arg(0)->Arg(9)->Arg(99)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tavrene::bench

@@ -99,18 +99,22 @@ Classification ClassifyImage(const imaging::Page& page, std::span<const ProfileR
     return result;
 }
 
-std::string ClassificationLine(const std::string& imageName, const Classification& classification,
+std::string ClassificationText(const Classification& classification,
                                std::span<const ProfileRecord> profiles) {
     const bool isClassified = classification.winner >= 0;
-    std::string line = "Image [" + imageName + (isClassified ? "] classified" : "] unclassified");
+    std::string text = isClassified ? "classified" : "unclassified";
     if (classification.best < 0)
-        return line;
+        return text;
     const auto best = static_cast<std::size_t>(classification.best);
-    line.append(" as [").append(profiles[best].Name).append(isClassified ? "] with " : "] with LOW ");
+    text.append(" as [").append(profiles[best].Name).append(isClassified ? "] with " : "] with LOW ");
     // The score is whole; its readers expect two decimals and the blank at the end.
-    return line.append("confidence [")
+    return text.append("confidence [")
         .append(std::to_string(classification.matches[best].Confidence))
         .append(".00] ");
+}
+
+std::string ClassificationLine(const std::string& imageName, const std::string& text) {
+    return "Image [" + imageName + "] " + text;
 }
 
 }  // namespace tavrene::recognition

@@ -36,8 +36,11 @@ inline constexpr int kLowConfidence = 50;
 /// scan for itself and all later ones.
 Classification ClassifyImage(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles);
 
-/// What the process log says of it.
-std::string ClassificationLine(const std::string& imageName, const Classification& classification,
+/// What the process log says of it,
+std::string ClassificationText(const Classification& classification,
                                std::span<const profiles::ProfileRecord> profiles);
+
+/// and its line about an image.
+std::string ClassificationLine(const std::string& imageName, const std::string& text);
 
 }  // namespace tavrene::recognition

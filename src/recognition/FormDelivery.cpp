@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/Reason.h"
+#include "recognition/RunSummary.h"
 
 namespace tavrene::recognition {
 namespace {
@@ -142,7 +143,7 @@ std::vector<std::string> FormDelivery::Settle() {
         const bool hasArrived = !now.empty() && now != document.before;
         hasArrived ? Arrive(document) : TakeBack(document);
         settled.push_back(document.image + ": " + WhatWasSettled(hasArrived, document.isNew) +
-                          ", which was cut short before");
+                          std::string(said::kWasCutShort));
     }
     return settled;
 }

@@ -20,9 +20,9 @@ class FormDelivery {
     /// What an arrival did to the result that lay there before.
     enum class Earlier { None, Replaced, Removed };
 
-    /// Both must outlive the delivery. `staging` (ending in a separator) is where documents wait for their
-    /// images if not in `ProcessOut`: several deliveries to one `ProcessOut` need a place each, since what
-    /// waits in its own is settled as left over.
+    /// `files` and `folders` must outlive the delivery. `staging` (ending in a separator) is where documents
+    /// wait for their images if not in `ProcessOut`: several deliveries to one `ProcessOut` need a place
+    /// each, since what waits in its own is settled as left over.
     FormDelivery(app::Files& files, const app::WorkingFolders& folders, const std::string& staging = {});
 
     /// Writes the result of a waiting image, to be taken along by `Deliver`, and gives the marks that the

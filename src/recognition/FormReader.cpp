@@ -36,9 +36,9 @@ void FormReader::Recognise(const std::string& name, std::span<const ProfileRecor
     reading.furtherPages = reading.page->furtherPages;
     reading.copy = imaging::CopyOf(*reading.page);
     if (precise_ != nullptr && precise_->Reads())
-        return RecognisePrecisely(name, profiles, reading);
+        return RecognisePrecisely(profiles, reading);
     Classification classification = ClassifyImage(*reading.page, profiles);
-    reading.classification = ClassificationLine(name, classification, profiles);
+    reading.classification = ClassificationText(classification, profiles);
     if (classification.winner < 0)
         return;
     const auto winner = static_cast<std::size_t>(classification.winner);
@@ -49,10 +49,9 @@ void FormReader::Recognise(const std::string& name, std::span<const ProfileRecor
     reading.Confidence = match.Confidence;
 }
 
-void FormReader::RecognisePrecisely(const std::string& name, std::span<const ProfileRecord> profiles,
-                                    FormReading& reading) const {
+void FormReader::RecognisePrecisely(std::span<const ProfileRecord> profiles, FormReading& reading) const {
     PreciseReading precise = precise_->Read(*reading.page, profiles, settings_.FillThreshold);
-    reading.classification = ClassificationLine(name, AsClassification(precise, profiles.size()), profiles);
+    reading.classification = ClassificationText(AsClassification(precise, profiles.size()), profiles);
     reading.marks = std::move(precise.marks);
     reading.turned = precise.turned;
     reading.winner = precise.winner;

@@ -49,7 +49,7 @@ class FormReader {
   private:
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FormReading& reading) const;
-    void RecognisePrecisely(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
+    void RecognisePrecisely(std::span<const profiles::ProfileRecord> profiles,
                             FormReading& reading) const;
 
     const app::Files& files_;

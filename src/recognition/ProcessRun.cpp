@@ -139,7 +139,7 @@ std::size_t ProcessRun::FirstToTake(const std::vector<std::string>& names) {
         return 0;
     }
     for (auto passed = names.begin(); passed != first; ++passed)
-        LogAbout(*passed, "Passed over, since it could not be moved before");
+        LogAbout(*passed, said::kPassedOver);
     return static_cast<std::size_t>(first - names.begin());
 }
 
@@ -152,7 +152,7 @@ void ProcessRun::TakeInTurn(const std::vector<std::string>& names, std::size_t i
     if (settings_.ProcessSingle)
         return;
     if (moved)
-        LogAbout(currentName_, "Processing complete");
+        LogAbout(currentName_, said::kComplete);
     currentName_ = index + 1 < names.size() ? names[index + 1] : std::string();
     context_.person.SetProgress(++filesDone_);
 }
@@ -202,9 +202,9 @@ void ProcessRun::Record(std::span<const ProfileRecord> profiles, FileOutcome& ou
     if (const std::string failure = scratch_.Write(reading.copy); !failure.empty())
         LogAbout(report.name, failure);
     if (!reading.classification.empty()) {
-        context_.log.LogProcessEvent(reading.classification);
+        context_.log.LogProcessEvent(ClassificationLine(report.name, reading.classification));
         report.end = reading.winner >= 0 ? FileEnd::Read : FileEnd::NotRecognised;
-        report.reason = WhatItSaysOf(report.name, reading.classification);
+        report.reason = WithoutBlankAtEnd(reading.classification);
     }
     if (!reading.failure.empty())
         throw std::runtime_error(reading.failure);
@@ -254,10 +254,10 @@ bool ProcessRun::MoveToProcessOut(FileReport& report) {
     try {
         switch (delivery_.Deliver(name)) {
             case FormDelivery::Earlier::Replaced:
-                LogAbout(name, "Result replaces the earlier " + result);
+                LogAbout(name, std::string(said::kReplacesResult) + result);
                 break;
             case FormDelivery::Earlier::Removed:
-                LogAbout(name, "Replaces an earlier image, whose result " + result + " is removed");
+                LogAbout(name, std::string(said::kReplacesImage) + result + " is removed");
                 break;
             case FormDelivery::Earlier::None:
                 break;
@@ -293,8 +293,8 @@ void ProcessRun::RestoreRows() {
         context_.rows.ClearRows(profiles::BoxColumns::Name);
 }
 
-void ProcessRun::LogAbout(const std::string& name, const std::string& what) {
-    context_.log.LogProcessEvent(name + ": " + what);
+void ProcessRun::LogAbout(const std::string& name, std::string_view what) {
+    context_.log.LogProcessEvent(std::string(name).append(": ").append(what));
 }
 
 void ProcessRun::Finish(double start) {
@@ -305,8 +305,8 @@ void ProcessRun::Finish(double start) {
         context_.log.LogProcessEvent("Processing interrupted by user", ShowInStatusBar::Yes);
         context_.person.ShowMessage("Stop Tavrene Process", "Process interrupted by user");
     } else {
-        LogAbout(currentName_, "Processing complete");
-        context_.person.SetPanel(Panel::Message, "Processing complete");
+        LogAbout(currentName_, said::kComplete);
+        context_.person.SetPanel(Panel::Message, said::kComplete);
     }
     RestoreRows();
     const std::string summary = std::to_string(filesDone_) + " Files, " + std::to_string(seconds) + " Sec.";

@@ -4,6 +4,7 @@
 #include <map>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/ActivityLog.h"
@@ -95,7 +96,7 @@ class ProcessRun {
     void StayBehind(FileReport& report, const std::string& reason);
     std::string StateOf(const std::string& name) const;
     void RestoreRows();
-    void LogAbout(const std::string& name, const std::string& what);
+    void LogAbout(const std::string& name, std::string_view what);
     void Finish(double start);
 
     RunContext context_;

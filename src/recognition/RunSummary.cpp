@@ -1,6 +1,7 @@
 #include "recognition/RunSummary.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tavrene::recognition {
 
@@ -9,16 +10,15 @@ std::size_t RunSummary::Count(FileEnd end) const {
         std::ranges::count_if(files, [end](const FileReport& file) { return file.end == end; }));
 }
 
-std::string WhatItSaysOf(std::string_view name, std::string_view logLine) {
-    const std::string plain = std::string(name) + ": ";
-    const std::string bracketed = "Image [" + std::string(name) + "] ";
-    for (const std::string& beginning : {plain, bracketed}) {
-        if (!logLine.starts_with(beginning))
-            continue;
-        logLine.remove_prefix(beginning.size());
-        return std::string(logLine.substr(0, logLine.find_last_not_of(' ') + 1));
-    }
-    return {};
+bool GivesNoReason(std::string_view what) {
+    constexpr std::array beginnings = {said::kComplete, said::kReplacesResult, said::kReplacesImage,
+                                       said::kPassedOver, said::kSentBack};
+    return what.ends_with(said::kWasCutShort) ||
+           std::ranges::any_of(beginnings, [what](auto beginning) { return what.starts_with(beginning); });
+}
+
+std::string WithoutBlankAtEnd(std::string_view what) {
+    return std::string(what.substr(0, what.find_last_not_of(' ') + 1));
 }
 
 }  // namespace tavrene::recognition

@@ -7,7 +7,8 @@
 namespace tavrene::recognition {
 
 /// What became of one image in a run: read with its result beside it in `ProcessOut`; there without a result,
-/// since no profile fits it or nothing can be read from it; or neither it nor its result could be written.
+/// since no profile fits it or nothing can be read from it; or it could not be moved, or its result not be
+/// written.
 enum class FileEnd { Read, NotRecognised, Refused, NotWritten };
 
 struct FileReport {
@@ -25,8 +26,21 @@ struct RunSummary {
     std::size_t Count(FileEnd end) const;
 };
 
-/// What a line of the process log says of the image `name`, without the name; empty for a line about
-/// something else.
-std::string WhatItSaysOf(std::string_view name, std::string_view logLine);
+/// What the process log says of an image besides how it was read: the beginnings, and the end of what
+/// `Settle` says of one.
+namespace said {
+inline constexpr std::string_view kComplete = "Processing complete";
+inline constexpr std::string_view kReplacesResult = "Result replaces the earlier ";
+inline constexpr std::string_view kReplacesImage = "Replaces an earlier image, whose result ";
+inline constexpr std::string_view kPassedOver = "Passed over, since it could not be moved before";
+inline constexpr std::string_view kSentBack = "sent back to ";
+inline constexpr std::string_view kWasCutShort = ", which was cut short before";
+}  // namespace said
+
+/// One of these: no reason for anything.
+bool GivesNoReason(std::string_view what);
+
+/// What was said, without the blank at the end that lines about classified images have.
+std::string WithoutBlankAtEnd(std::string_view what);
 
 }  // namespace tavrene::recognition

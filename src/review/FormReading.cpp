@@ -136,7 +136,8 @@ std::vector<recognition::MarkReading> ReadFormPrecisely(const OpenForm& form, co
     if (!IsReadPrecisely(form, precise))
         return {};
     if (profile.Name == form.OpenedProfile.Name) {
-        auto readings = precise->ReadAt(page, profile, KnownShifts(profile, form.Opened), fillThreshold);
+        const auto known = AgreeingShifts(page, profile, KnownShifts(profile, form.Opened));
+        auto readings = precise->ReadAt(page, profile, known, fillThreshold);
         if (!readings.empty())
             return readings;
     }

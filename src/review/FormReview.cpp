@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "recognition/PageLoading.h"
+#include "recognition/RunSummary.h"
 #include "review/BoxMatching.h"
 #include "review/FormReading.h"
 
@@ -150,7 +151,8 @@ void FormReview::SendBack(const OpenForm& form) {
     const std::string waiting = folders_.ProcessIn + image;
     const bool replaces = context_.files.FileExists(waiting);
     context_.files.Move(folders_.ProcessOut + image, waiting);
-    context_.log.LogProcessEvent("Image [" + image + "] sent back to " + folders_.ProcessIn +
+    context_.log.LogProcessEvent("Image [" + image + "] " + std::string(recognition::said::kSentBack) +
+                                 folders_.ProcessIn +
                                  (replaces ? " in place of the waiting file of that name" : ""));
     context_.files.Delete(PathOf(form));
     list_.Remove(form.Document);

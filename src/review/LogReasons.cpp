@@ -19,27 +19,23 @@ constexpr std::size_t kLogsRead = 31;
 // "02:05:09 PM " before the message.
 constexpr std::size_t kTimeLength = 12;
 
-// By how an image is written in the logs.
-using Wanted = std::map<std::string, std::string, std::less<>>;
+// By how an image is written in the logs, which is the same for names that differ in letters that these lack.
+using Wanted = std::map<std::string, std::vector<std::string>, std::less<>>;
 
-// What is said of every image, whatever became of it, and of what was done with it later.
-bool TellsNothing(std::string_view said) {
-    constexpr std::string_view kBeginnings[] = {"Processing complete", "Result replaces",
-                                                "Replaces an earlier", "Passed over", "sent back"};
-    return said.empty() || std::ranges::any_of(kBeginnings, [said](std::string_view beginning) {
-               return said.starts_with(beginning);
-           });
-}
+struct LineAbout {
+    Wanted::const_iterator images;
+    std::string_view what;  // is said of them
+};
 
-// The image that a line speaks of. A name can hold what ends it in the line, so every end is tried.
-std::optional<std::string_view> NameIn(std::string_view line, const Wanted& wanted) {
+// A name can hold what ends it in the line, so every end is tried.
+std::optional<LineAbout> Understand(std::string_view line, const Wanted& wanted) {
     constexpr std::string_view kBracket = "Image [";
     const bool isBracketed = line.starts_with(kBracket);
     const std::string_view rest = isBracketed ? line.substr(kBracket.size()) : line;
     const std::string_view end = isBracketed ? "] " : ": ";
     for (std::size_t at = rest.find(end); at != std::string_view::npos; at = rest.find(end, at + 1))
-        if (wanted.contains(rest.substr(0, at)))
-            return rest.substr(0, at);
+        if (const auto images = wanted.find(rest.substr(0, at)); images != wanted.end())
+            return LineAbout{images, rest.substr(at + end.size())};
     return std::nullopt;
 }
 
@@ -51,11 +47,11 @@ std::map<std::string, std::string> ReasonsIn(std::string_view log, const Wanted&
         const std::string_view line =
             log.substr(std::min(kTimeLength, end), end - std::min(kTimeLength, end));
         log.remove_prefix(std::min(end + 2, log.size()));
-        const std::optional<std::string_view> name = NameIn(line, wanted);
-        if (!name)
+        const std::optional<LineAbout> about = Understand(line, wanted);
+        if (!about || about->what.empty() || recognition::GivesNoReason(about->what))
             continue;
-        if (std::string said = recognition::WhatItSaysOf(*name, line); !TellsNothing(said))
-            reasons[wanted.find(*name)->second] = app::FromWindows1252(said);
+        for (const std::string& image : about->images->second)
+            reasons[image] = app::FromWindows1252(recognition::WithoutBlankAtEnd(about->what));
     }
     return reasons;
 }
@@ -89,7 +85,7 @@ std::map<std::string, std::string> ReasonsInLogs(const app::Files& files, const 
                                                  const std::set<std::string>& imageNames) {
     Wanted wanted;
     for (const std::string& name : imageNames)
-        wanted[app::ToWindows1252(name)] = name;
+        wanted[app::ToWindows1252(name)].push_back(name);
     std::map<std::string, std::string> reasons;
     for (const std::string& log : LogsFromTheNewest(files, folder)) {
         for (auto& [name, reason] : ReasonsIn(ReadOrNothing(files, folder + log), wanted)) {

@@ -66,15 +66,12 @@ void ReviewSession::FollowUnread() {
 }
 
 void ReviewSession::SendBack(std::span<const std::string> names) {
-    const int moved = unread_.SendBack(names);
-    const int stayed = static_cast<int>(names.size()) - moved;
-    context_.person.SetPanel(
-        Panel::Message,
-        std::to_string(moved) + (moved == 1 ? " page is" : " pages are") + " back in ProcessIn." +
-            (stayed == 0
-                 ? ""
-                 : " " + std::to_string(stayed) + " stayed: a file of that name waits there already."));
+    const SentBack sent = unread_.SendBack(names);
+    context_.person.SetPanel(Panel::Message, TextOf(sent));
+    unreadIn_.clear();
     FollowFolder();
+    if (!sent.Failure.empty())
+        throw app::FileError(sent.Failure);
 }
 
 void ReviewSession::SendAllBack() {

@@ -1,10 +1,11 @@
 #include "review/UnreadPages.h"
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
+#include "app/Reason.h"
 #include "recognition/ResultDocument.h"
+#include "recognition/RunSummary.h"
 #include "review/LogReasons.h"
 
 namespace tavrene::review {
@@ -62,16 +63,50 @@ void UnreadPages::Follow() {
     Follow(listed);
 }
 
-int UnreadPages::SendBack(std::span<const std::string> names) {
-    int moved = 0;
+// A document can come, or be readable again, after the folder was looked at.
+bool UnreadPages::IsSettled(const std::string& name) const {
+    const std::string result = recognition::ResultPath(folders_.ProcessOut, name);
+    if (!files_.FileExists(folders_.ProcessOut + name))
+        return true;
+    if (!files_.FileExists(result))
+        return false;
+    bool isItsOwn = false;
+    return app::FailureOf([&] {
+               isItsOwn = recognition::ResultDocument::Load(files_, result).Image() == name;
+           }).empty() &&
+           isItsOwn;
+}
+
+SentBack UnreadPages::SendBack(std::span<const std::string> names) {
+    SentBack sent;
     for (const std::string& name : names) {
-        if (files_.FileExists(folders_.ProcessIn + name) || !files_.FileExists(folders_.ProcessOut + name))
+        if (IsSettled(name)) {
+            ++sent.Settled;
             continue;
-        files_.Move(folders_.ProcessOut + name, folders_.ProcessIn + name);
-        log_.LogProcessEvent("Image [" + name + "] sent back to " + folders_.ProcessIn);
-        ++moved;
+        }
+        if (files_.FileExists(folders_.ProcessIn + name)) {
+            ++sent.Waiting;
+            continue;
+        }
+        sent.Failure =
+            app::FailureOf([&] { files_.Move(folders_.ProcessOut + name, folders_.ProcessIn + name); });
+        if (!sent.Failure.empty())
+            break;
+        log_.LogProcessEvent("Image [" + name + "] " + std::string(recognition::said::kSentBack) +
+                             folders_.ProcessIn);
+        ++sent.Moved;
     }
-    return moved;
+    return sent;
+}
+
+std::string TextOf(const SentBack& sent) {
+    std::string text =
+        std::to_string(sent.Moved) + (sent.Moved == 1 ? " page is" : " pages are") + " back in ProcessIn.";
+    if (sent.Waiting > 0)
+        text += " " + std::to_string(sent.Waiting) + " stayed: a file of that name waits there already.";
+    if (sent.Settled > 0)
+        text += " " + std::to_string(sent.Settled) + " needed nothing: gone, or read meanwhile.";
+    return text;
 }
 
 }  // namespace tavrene::review

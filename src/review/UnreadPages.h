@@ -19,6 +19,17 @@ struct UnreadPage {
     bool operator==(const UnreadPage&) const = default;
 };
 
+/// What became of pages that were to be sent back.
+struct SentBack {
+    int Moved = 0;
+    int Waiting = 0;      ///< Stayed, since a file of their name waits in `ProcessIn`.
+    int Settled = 0;      ///< Have gone meanwhile, or have a result that can be read.
+    std::string Failure;  ///< Why one could not be moved, and those behind it were not tried; else empty.
+};
+
+/// That in sentences, without the failure.
+std::string TextOf(const SentBack& sent);
+
 /// The images of `ProcessOut` that runs have moved there without a result, and those whose result has gone
 /// or cannot be read: together with the review list every scan of the folder is seen.
 class UnreadPages {
@@ -37,11 +48,12 @@ class UnreadPages {
     const std::vector<UnreadPage>& Pages() const { return pages_; }
 
     /// Moves pages back to `ProcessIn`, with a line each in the log. Those whose name waits there already
-    /// stay where they are; gives the number of those that were moved. Throws `app::FileError` at the first
-    /// that cannot be moved.
-    int SendBack(std::span<const std::string> names);
+    /// stay where they are, and so do those that have a result by now: it may have been reviewed.
+    SentBack SendBack(std::span<const std::string> names);
 
   private:
+    bool IsSettled(const std::string& name) const;
+
     app::Files& files_;
     app::ActivityLog& log_;
     const app::WorkingFolders& folders_;

@@ -15,7 +15,7 @@ class ClassificationTest : public ::testing::Test {
   protected:
     Classification Classify(const imaging::Page& page, const std::vector<ProfileRecord>& profiles) {
         Classification result = ClassifyImage(page, profiles);
-        line_ = ClassificationLine("scan.tif", result, profiles);
+        line_ = ClassificationLine("scan.tif", ClassificationText(result, profiles));
         return result;
     }
 

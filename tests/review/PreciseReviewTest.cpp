@@ -97,6 +97,23 @@ TEST_F(PreciseReviewTest, ABoxThatWasAddedLiesWhereTheOthersSay) {
     EXPECT_TRUE(ResultHas("a.xml", "<OMR Name=\"Q12\" Shift=\"40,-30\" Checked=\"1\""));
 }
 
+TEST_F(PreciseReviewTest, ABoxThatWasMovedInTheProfileIsNotReadAtItsOldShift) {
+    form_.boxes[6].L += 60;
+    form_.boxes[6].R += 60;
+    AddScan("a.tif", {.checked = {7}, .upsideDown = true});
+    TestForm before = TestForm::Grid(4, 3);
+    before.boxes.pop_back();
+    test::WriteText(folders_.Profiles + "Form.Tvp", before.ProfileText(folders_.ProfileImages + "Form"));
+    Process();
+    AddSpecimenProfile("Form", form_);
+    EnterReview();
+    person_.answers = {app::Answer::Yes};
+    Open(0);
+    ExpectTurned();
+    const auto marks = recognition::ResultDocument::Load(files_, folders_.ProcessOut + "a.xml").Marks();
+    EXPECT_TRUE(marks[6].Checked);
+}
+
 TEST_F(PreciseReviewTest, ASecondOpinionPutsBoxesInDoubt) {
     reading_ = {.secondOpinion = true};
     // 26 pixels: 5 % of the whole box and 9 % of its inner part.

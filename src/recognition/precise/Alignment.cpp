@@ -29,10 +29,11 @@ std::optional<Offset> OffsetAround(std::span<const SoughtBox> boxes, const Align
                                    std::size_t index) {
     std::vector<std::pair<double, std::size_t>> near;
     for (std::size_t k = 0; k < boxes.size(); ++k) {
-        if (k != index && alignment.seen[k])
-            near.emplace_back(
-                std::hypot(boxes[k].place.x - boxes[index].place.x, boxes[k].place.y - boxes[index].place.y),
-                k);
+        if (k == index || !alignment.seen[k])
+            continue;
+        const double dx = boxes[k].place.x - boxes[index].place.x;
+        const double dy = boxes[k].place.y - boxes[index].place.y;
+        near.emplace_back(dx * dx + dy * dy, k);
     }
     if (near.size() < kLeastNeighbours)
         return std::nullopt;
@@ -91,8 +92,11 @@ Alignment Align(std::span<const SoughtBox> boxes, const PageMap& map) {
     }
     const auto count = static_cast<double>(boxes.size());
     if (static_cast<double>(alignment.found) >= kWorthBending * count) {
+        // Once more with those that are neighbours now.
+        const std::size_t before = alignment.found;
         AddBentOnes(boxes, alignment);
-        AddBentOnes(boxes, alignment);
+        if (alignment.found > before)
+            AddBentOnes(boxes, alignment);
     }
     alignment.share = static_cast<double>(alignment.found) / count;
     alignment.bound = LowerBound(alignment.found, boxes.size());

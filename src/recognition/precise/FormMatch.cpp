@@ -26,11 +26,6 @@ constexpr double kPrintMm = 0.5;
 constexpr double kMostChance = 0.01;
 constexpr std::size_t kFreedom = 3;  // boxes that a map meets by being fitted to them
 
-double PixelsPerMm(const imaging::Page& page, const ProfileRecord& profile) {
-    constexpr double mmPerInch = 25.4;
-    return DpiOf(page, profile) / mmPerInch;
-}
-
 int PrintReach(const CellPage& cells, double pixelsPerMm) {
     return std::clamp(static_cast<int>(std::lround(kPrintMm * pixelsPerMm / cells.Factor())), 1, 6);
 }
@@ -97,6 +92,11 @@ CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, const 
 double DpiOf(const imaging::Page& page, const ProfileRecord& profile) {
     constexpr double usual = 200;
     return page.DPI_X > 0 ? page.DPI_X : profile.DPI_X > 0 ? profile.DPI_X : usual;
+}
+
+double PixelsPerMm(const imaging::Page& page, const ProfileRecord& profile) {
+    constexpr double mmPerInch = 25.4;
+    return DpiOf(page, profile) / mmPerInch;
 }
 
 void FormMatcher::Lay(std::size_t index, bool turned, std::vector<FormMatch>& matches) {

@@ -57,4 +57,7 @@ CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, const 
 /// The page's resolution; where it tells none, that of the profile.
 double DpiOf(const imaging::Page& page, const profiles::ProfileRecord& profile);
 
+/// Pixels of the page in a millimetre.
+double PixelsPerMm(const imaging::Page& page, const profiles::ProfileRecord& profile);
+
 }  // namespace tavrene::recognition::precise

@@ -27,8 +27,11 @@ struct Trial {
     double Merit() const { return hits - distortion; }
 };
 
-double Distance(const CellPoint& a, const CellPoint& b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
+// Compared more often than anything else here, so without its root.
+double SquaredDistance(const CellPoint& a, const CellPoint& b) {
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    return dx * dx + dy * dy;
 }
 
 // Boxes spread over the page: each is the one farthest from those before it.
@@ -37,13 +40,13 @@ std::vector<SoughtBox> SpreadSample(std::span<const SoughtBox> boxes, const Cell
     std::vector<SoughtBox> sample;
     std::size_t next = 0;
     for (std::size_t k = 1; k < boxes.size(); ++k) {
-        if (Distance(boxes[k].place, middle) > Distance(boxes[next].place, middle))
+        if (SquaredDistance(boxes[k].place, middle) > SquaredDistance(boxes[next].place, middle))
             next = k;
     }
     while (sample.size() < std::min(kSampled, boxes.size())) {
         sample.push_back(boxes[next]);
         for (std::size_t k = 0; k < boxes.size(); ++k)
-            away[k] = std::min(away[k], Distance(boxes[k].place, sample.back().place));
+            away[k] = std::min(away[k], SquaredDistance(boxes[k].place, sample.back().place));
         next = static_cast<std::size_t>(std::max_element(away.begin(), away.end()) - away.begin());
     }
     return sample;
@@ -57,8 +60,12 @@ class Search {
     void Run() {
         for (const SoughtBox& box : sample_)
             TryShifts(box);
+        std::vector<std::vector<CellPoint>> candidates;
+        candidates.reserve(sample_.size());
+        for (const SoughtBox& box : sample_)
+            candidates.push_back(CandidatesOf(box));
         for (const auto& [a, b] : DistantPairs())
-            TryPair(sample_[a], sample_[b]);
+            TryPair(PairOf(sample_[a].place, sample_[b].place), candidates[a], candidates[b]);
     }
 
     const std::vector<Trial>& Best() const { return best_; }
@@ -67,12 +74,12 @@ class Search {
   private:
     // The nearest ones: on ruled paper every square of the grid may be a box.
     std::vector<CellPoint> CandidatesOf(const SoughtBox& box) const {
-        const double turned = (reach_.turn + reach_.stretch) * Distance(box.place, middle_);
+        const double turned = (reach_.turn + reach_.stretch) * std::sqrt(SquaredDistance(box.place, middle_));
         std::vector<CellPoint> places = box.candidates->Around(box.place, reach_.shift + turned);
         if (places.size() > kMostCandidates) {
             std::nth_element(places.begin(), places.begin() + kMostCandidates, places.end(),
                              [&box](const CellPoint& a, const CellPoint& b) {
-                                 return Distance(a, box.place) < Distance(b, box.place);
+                                 return SquaredDistance(a, box.place) < SquaredDistance(b, box.place);
                              });
             places.resize(kMostCandidates);
         }
@@ -97,8 +104,8 @@ class Search {
                 pairs.emplace_back(a, b);
         }
         const auto farther = [this](const auto& one, const auto& other) {
-            return Distance(sample_[one.first].place, sample_[one.second].place) >
-                   Distance(sample_[other.first].place, sample_[other.second].place);
+            return SquaredDistance(sample_[one.first].place, sample_[one.second].place) >
+                   SquaredDistance(sample_[other.first].place, sample_[other.second].place);
         };
         const std::size_t kept = std::min(kPairs, pairs.size());
         std::partial_sort(pairs.begin(), pairs.begin() + static_cast<std::ptrdiff_t>(kept), pairs.end(),
@@ -107,30 +114,48 @@ class Search {
         return pairs;
     }
 
+    // Two boxes, and what of explaining where they are seen does not depend on that.
+    struct Pair {
+        CellPoint from;
+        double dx = 0;  // to the other one
+        double dy = 0;
+        double square = 0;
+        double cross = 0;
+        double determinant = 0;
+        double mostX = 0;  // what turn and stretch within reach add to the way from one to the other
+        double mostY = 0;
+    };
+
+    Pair PairOf(const CellPoint& a, const CellPoint& b) const {
+        constexpr double room = 1.2;  // more than `IsWithin` leaves
+        Pair pair{a, b.x - a.x, b.y - a.y};
+        pair.square = pair.dx * pair.dx + pair.dy * pair.dy;
+        pair.cross = -pair.dx * pair.dy;
+        pair.determinant = pair.square * pair.square - pair.cross * pair.cross;
+        pair.mostX = room * (reach_.stretch * std::abs(pair.dx) + reach_.turn * std::abs(pair.dy));
+        pair.mostY = room * (reach_.stretch * std::abs(pair.dy) + reach_.turn * std::abs(pair.dx));
+        return pair;
+    }
+
     // The least turn and stretch that explain where the second box is seen from the first.
-    std::optional<Trial> Explain(const SoughtBox& a, const CellPoint& seenA, const SoughtBox& b,
-                                 const CellPoint& seenB) const {
-        const double dx = b.place.x - a.place.x;
-        const double dy = b.place.y - a.place.y;
-        const double ex = seenB.x - seenA.x - dx;
-        const double ey = seenB.y - seenA.y - dy;
+    std::optional<Trial> Explain(const Pair& pair, const CellPoint& seenA, const CellPoint& seenB) const {
+        const double ex = seenB.x - seenA.x - pair.dx;
+        const double ey = seenB.y - seenA.y - pair.dy;
+        // Most places of two boxes belong to no map at all.
+        if (std::abs(ex) > pair.mostX || std::abs(ey) > pair.mostY)
+            return std::nullopt;
         // ex = stretchX dx - turn dy and ey = stretchY dy + turn dx leave one unknown free. The smallest sum
         // of squares solves the two by two system of their products.
-        const double square = dx * dx + dy * dy;
-        const double xy = -dx * dy;
-        const double determinant = square * square - xy * xy;
-        if (determinant <= 0)
-            return std::nullopt;
-        const double p = (ex * square - ey * xy) / determinant;
-        const double q = (ey * square - ex * xy) / determinant;
-        const double turn = -p * dy + q * dx;
+        const double p = (ex * pair.square - ey * pair.cross) / pair.determinant;
+        const double q = (ey * pair.square - ex * pair.cross) / pair.determinant;
+        const double turn = -p * pair.dy + q * pair.dx;
         Trial trial;
         trial.map.middle = middle_;
-        trial.map.xByX = p * dx;
-        trial.map.yByY = q * dy;
+        trial.map.xByX = p * pair.dx;
+        trial.map.yByY = q * pair.dy;
         trial.map.xByY = -turn;
         trial.map.yByX = turn;
-        const CellPoint mapped = trial.map(a.place);
+        const CellPoint mapped = trial.map(pair.from);
         trial.map.shiftX = seenA.x - mapped.x;
         trial.map.shiftY = seenA.y - mapped.y;
         if (!IsWithin(trial.map, reach_))
@@ -141,14 +166,13 @@ class Search {
         return trial;
     }
 
-    void TryPair(const SoughtBox& a, const SoughtBox& b) {
-        std::vector<Trial> trials;
-        const std::vector<CellPoint> seenB = CandidatesOf(b);
-        if (seenB.empty())
+    void TryPair(const Pair& pair, std::span<const CellPoint> seenA, std::span<const CellPoint> seenB) {
+        if (pair.determinant <= 0)
             return;
-        for (const CellPoint& seen : CandidatesOf(a)) {
+        std::vector<Trial> trials;
+        for (const CellPoint& seen : seenA) {
             for (const CellPoint& other : seenB) {
-                if (const std::optional<Trial> trial = Explain(a, seen, b, other))
+                if (const std::optional<Trial> trial = Explain(pair, seen, other))
                     trials.push_back(*trial);
             }
         }
@@ -182,7 +206,7 @@ class Search {
     bool IsSame(const Trial& a, const Trial& b) const {
         const std::size_t ends = std::min<std::size_t>(sample_.size(), 4);
         for (std::size_t k = 0; k < ends; ++k) {
-            if (Distance(a.map(sample_[k].place), b.map(sample_[k].place)) > kSameMap)
+            if (SquaredDistance(a.map(sample_[k].place), b.map(sample_[k].place)) > kSameMap * kSameMap)
                 return false;
         }
         return true;

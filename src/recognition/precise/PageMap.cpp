@@ -61,7 +61,8 @@ constexpr double WeightOf(double deviation) {
 }  // namespace
 
 bool IsWithin(const PageMap& map, const PageReach& reach) {
-    return std::hypot(map.shiftX, map.shiftY) <= reach.shift * kRoom &&
+    const double mostShift = reach.shift * kRoom;
+    return map.shiftX * map.shiftX + map.shiftY * map.shiftY <= mostShift * mostShift &&
            std::abs(map.Turn()) <= reach.turn * kRoom && std::abs(map.xByX) <= reach.stretch * kRoom &&
            std::abs(map.yByY) <= reach.stretch * kRoom;
 }

@@ -23,8 +23,8 @@ FormsReadAgain ReadFormsAgain(const ReadAgainContext& context, std::span<const s
         if (!page)
             return;
         const PreciseReading reading = context.reader.Read(*page, profiles, fillThreshold);
-        context.log.LogProcessEvent(
-            ClassificationLine(name, AsClassification(reading, profiles.size()), profiles));
+        context.log.LogProcessEvent(ClassificationLine(
+            name, ClassificationText(AsClassification(reading, profiles.size()), profiles)));
         if (reading.winner < 0)
             return;
         const profiles::ProfileRecord& profile = profiles[static_cast<std::size_t>(reading.winner)];

@@ -1,5 +1,6 @@
 #include "recognition/precise/ShiftFit.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/Numeric.h"
@@ -11,9 +12,13 @@ namespace {
 using precise::CellPoint;
 using precise::PageMap;
 using precise::Sighting;
+using profiles::PrintedBox;
 
 // How farther than usual a form may lie before its being upside down is the better explanation: pixels.
 constexpr double kShiftReach = 100;
+
+// How far paper bends away from one map, twice over.
+constexpr double kMostBendMm = 3;
 
 struct Fit {
     PageMap map;
@@ -57,6 +62,39 @@ Fit FitBetterWay(const imaging::Page& page, const profiles::ProfileRecord& profi
 bool LiesUpsideDown(const imaging::Page& page, const profiles::ProfileRecord& profile,
                     std::span<const std::optional<BoxShift>> known) {
     return FitBetterWay(page, profile, ScaleBetween(page, profile), known).turned;
+}
+
+std::vector<std::optional<BoxShift>> AgreeingShifts(const imaging::Page& page,
+                                                    const profiles::ProfileRecord& profile,
+                                                    std::span<const std::optional<BoxShift>> known) {
+    const FormScale scale = ScaleBetween(page, profile);
+    const double most = kMostBendMm * precise::PixelsPerMm(page, profile);
+    std::vector<std::optional<BoxShift>> agreeing(known.begin(), known.end());
+    std::ptrdiff_t left =
+        std::ranges::count_if(agreeing, [](const auto& shift) { return shift.has_value(); });
+    // One by one, since those that were moved pull the map towards them.
+    for (const std::ptrdiff_t least = left / 2; left > least; --left) {
+        const Fit fit = FitBetterWay(page, profile, scale, agreeing);
+        std::size_t farthest = 0;
+        double distance = 0;
+        for (std::size_t k = 0; k < agreeing.size(); ++k) {
+            if (!agreeing[k])
+                continue;
+            const PrintedBox& box = profile.Boxes[k];
+            const CellPoint upright = precise::NominalPlace(page, scale, box, false);
+            const CellPoint mapped = fit.map(precise::NominalPlace(page, scale, box, fit.turned));
+            const double away =
+                std::hypot(upright.x + agreeing[k]->dx - mapped.x, upright.y + agreeing[k]->dy - mapped.y);
+            if (away > distance) {
+                distance = away;
+                farthest = k;
+            }
+        }
+        if (distance <= most)
+            return agreeing;
+        agreeing[farthest].reset();
+    }
+    return std::vector<std::optional<BoxShift>>(known.size());
 }
 
 FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileRecord& profile,
