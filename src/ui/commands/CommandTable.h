@@ -73,6 +73,7 @@ enum class Command {
     AllBackToProcessIn,
     ProcessUnread,
     BringIn,
+    Scan,
     PasteScans,
     Manual,
     Settings,

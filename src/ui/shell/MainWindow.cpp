@@ -14,6 +14,7 @@
 #include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
 #include "ui/commands/WindowLoad.h"
+#include "ui/scanning/ScanCommand.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ContextMenu.h"
@@ -71,6 +72,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectSummary();
     AddContextMenus();
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    new ScanCommand(*this, *toolbars_.ActionOf(Command::Scan),
+                    {context_.files, operator_, context_.clock, state_, gate_});
     summary_->SetSplitter([this, intake] {
         gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
         summary_->Show(run_.Summary());
