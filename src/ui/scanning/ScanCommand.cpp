@@ -9,11 +9,15 @@ namespace tavrene::ui {
 
 using commands::Command;
 
-ScanCommand::ScanCommand(QWidget& window, QAction& action, const Context& context)
-    : QObject(&window), window_(window), action_(action), toolTip_(action.toolTip()), context_(context) {
+ScanCommand::ScanCommand(QWidget& window, const Context& context)
+    : QObject(&window),
+      window_(window),
+      action_(*window.findChild<QAction*>("Scan")),
+      toolTip_(action_.toolTip()),
+      context_(context) {
     context_.gate.SetHandler(
         Command::Scan, [this] { Run(); }, [this] { return isThere_; });
-    for (QObject* const place : action.associatedObjects())
+    for (QObject* const place : action_.associatedObjects())
         if (auto* const menu = qobject_cast<QMenu*>(place)) {
             // Or nobody would see why the command is grey.
             menu->setToolTipsVisible(true);

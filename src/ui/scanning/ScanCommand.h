@@ -24,8 +24,9 @@ class ScanCommand final : public QObject {
         commands::CommandGate& gate;
     };
 
-    /// Everything must outlive it, but for the state, which is needed only while the window is there.
-    ScanCommand(QWidget& window, QAction& action, const Context& context);
+    /// The window has the command's action, whose object name is its key. Everything must outlive it, but for
+    /// the state, which is needed only while the window is there.
+    ScanCommand(QWidget& window, const Context& context);
 
   private:
     void Look();

@@ -73,8 +73,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectSummary();
     AddContextMenus();
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
-    new ScanCommand(*this, *toolbars_.ActionOf(Command::Scan),
-                    {context_.files, operator_, context_.clock, state_, gate_});
+    new ScanCommand(*this, {context_.files, operator_, context_.clock, state_, gate_});
     summary_->SetSplitter([this, intake] {
         gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
         summary_->Show(run_.Summary());
