@@ -25,15 +25,17 @@ BEGIN {
     may["ui/reviewing"] = may["ui/profiling"]
     may["ui/settings"] = may["ui/profiling"]
     may["ui/exporting"] = may["ui/profiling"]
-    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/exporting ui/look ui/page ui/lists ui/base" engine
+    may["ui/scanning"] = may["ui/profiling"]
+    may["ui/shell"] = " ui/profiling ui/reviewing ui/settings ui/exporting ui/scanning ui/look ui/page ui/lists ui/base" engine
     # The rooms that know a library.
-    knows["Qt"] = " ui/base ui/look ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/shell "
+    knows["Qt"] = " ui/base ui/look ui/page ui/lists ui/profiling ui/reviewing ui/settings ui/exporting ui/scanning ui/shell "
     knows["FreeImage"] = " imaging "
     knows["libtiff"] = " imaging "
     knows["pugixml"] = " profiles recognition review review/doubts "
     knows["libxlsxwriter"] = " results "
     knows["Poppler"] = " intake "
-    knows["platform"] = " app imaging batch ui/shell "
+    knows["SANE"] = " intake "
+    knows["platform"] = " app imaging intake batch ui/shell "
     faults = 0
 }
 
@@ -76,6 +78,8 @@ function library(header) {
         return "pugixml"
     if (header ~ /^poppler\//)
         return "Poppler"
+    if (header ~ /^sane\//)
+        return "SANE"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
     if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|getopt|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)

@@ -121,8 +121,9 @@ void Claims::ListWaiting() {
     tried_ = std::move(tried);
     // Many who begin at one end would all try for the same files.
     if (!waiting_.empty())
-        std::ranges::rotate(waiting_, waiting_.begin() + static_cast<std::ptrdiff_t>(std::random_device()() %
-                                                                                     waiting_.size()));
+        std::rotate(waiting_.begin(),
+                    waiting_.begin() + static_cast<std::ptrdiff_t>(std::random_device()() % waiting_.size()),
+                    waiting_.end());
 }
 
 void Claims::MakeFolder() {
@@ -265,7 +266,7 @@ std::string Claims::GiveBack(const std::string& claim) {
         fs::remove(app::ToPath(claim + name), error);
     // Only an empty folder goes.
     fs::remove(app::ToPath(claim), error);
-    const std::string rest = fs::exists(app::ToPath(claim), error) ? Leave(claim) : std::string();
+    std::string rest = fs::exists(app::ToPath(claim), error) ? Leave(claim) : std::string();
     heart_.Drop(claim);
     names_.erase(claim);
     fs::remove(app::ToPath(claims_), error);

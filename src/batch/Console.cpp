@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <numeric>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -59,33 +60,36 @@ void ConsoleOperator::ShowNotices(std::span<const app::Notice> notices) {
         ShowMessage("", notice.text);
 }
 
+// A run lists its files more than once.
 void Progress::Begin(int files) {
+    if (std::exchange(isNew_, false))
+        counts_ = {};
     if (asJson_)
         out_ << R"({"event":"begin","files":)" << files << '}' << std::endl;
 }
 
-void Progress::Update(const recognition::RunSummary& summary) {
-    for (; told_ < summary.files.size(); ++told_) {
-        const recognition::FileReport& file = summary.files[told_];
+void Progress::Add(std::span<const recognition::FileReport> files) {
+    for (const recognition::FileReport& file : files) {
+        ++counts_.at(static_cast<std::size_t>(file.end));
         if (asJson_)
             out_ << R"({"event":"file","name":)" << Quoted(file.name) << R"(,"outcome":)"
-                 << Quoted(kEnds[static_cast<std::size_t>(file.end)].second) << R"(,"reason":)"
+                 << Quoted(kEnds.at(static_cast<std::size_t>(file.end)).second) << R"(,"reason":)"
                  << Quoted(file.reason) << '}' << std::endl;
     }
 }
 
-void Progress::End(const recognition::RunSummary& summary, bool isStopped) {
-    Update(summary);
-    told_ = 0;
+void Progress::End(long seconds, bool isStopped) {
+    isNew_ = true;
+    const std::size_t files = std::accumulate(counts_.begin(), counts_.end(), std::size_t{0});
     if (asJson_)
-        out_ << R"({"event":"end","files":)" << summary.files.size() << R"(,"seconds":)" << summary.seconds;
+        out_ << R"({"event":"end","files":)" << files << R"(,"seconds":)" << seconds;
     else
-        out_ << summary.files.size() << " Files, " << summary.seconds << " Sec.";
+        out_ << files << " Files, " << seconds << " Sec.";
     for (const auto& [end, name] : kEnds) {
         if (asJson_)
-            out_ << ',' << Quoted(name) << ':' << summary.Count(end);
+            out_ << ',' << Quoted(name) << ':' << Count(end);
         else
-            out_ << (end == FileEnd::Read ? " " : ", ") << summary.Count(end) << ' ' << name;
+            out_ << (end == FileEnd::Read ? " " : ", ") << Count(end) << ' ' << name;
     }
     if (asJson_)
         out_ << R"(,"stopped":)" << (isStopped ? "true}" : "false}");

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <iosfwd>
+#include <span>
 
 #include "app/Operator.h"
 #include "imaging/PageScreen.h"
@@ -67,14 +70,18 @@ class Progress {
     Progress(std::ostream& out, bool asJson) : out_(out), asJson_(asJson) {}
 
     void Begin(int files);
-    /// Tells what has been done since it was last told.
-    void Update(const recognition::RunSummary& summary);
-    void End(const recognition::RunSummary& summary, bool isStopped);
+    /// Tells of files that are done.
+    void Add(std::span<const recognition::FileReport> files);
+    void End(long seconds, bool isStopped);
+
+    /// How many ended so, of the run at hand or the last one.
+    std::size_t Count(recognition::FileEnd end) const { return counts_.at(static_cast<std::size_t>(end)); }
 
   private:
     std::ostream& out_;
     bool asJson_;
-    std::size_t told_ = 0;
+    bool isNew_ = true;  // of the next run nothing was told yet
+    std::array<std::size_t, 4> counts_{};
 };
 
 }  // namespace tavrene::batch

@@ -143,7 +143,7 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
                                  .jobs = [this] { return options_.jobs; }},
                                 settings_, folders);
     person_.onPendingEvents = [this, &run] {
-        progress_.Update(run.Summary());
+        progress_.Add(run.TakeReports());
         if (surroundings_.stop)
             run.Stop();
     };
@@ -151,10 +151,11 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     if (!run.MayStart(profiles_))
         return Exit::Failed;
     run.Run(profiles_);
-    progress_.End(run.Summary(), surroundings_.stop);
+    progress_.Add(run.TakeReports());
+    progress_.End(run.Summary().seconds, surroundings_.stop);
     if (surroundings_.stop)
         return Exit::Stopped;
-    const std::size_t left = run.Summary().Count(FileEnd::Refused) + run.Summary().Count(FileEnd::NotWritten);
+    const std::size_t left = progress_.Count(FileEnd::Refused) + progress_.Count(FileEnd::NotWritten);
     return left > 0 ? Exit::SomeLeft : Exit::Done;
 }
 

@@ -50,16 +50,21 @@ int Luminance(const RGBQUAD& color) {
     return 299 * color.rgbRed + 587 * color.rgbGreen + 114 * color.rgbBlue;
 }
 
+// The library does the same, but asks for the length of the line with every byte, which takes as long as all
+// the rest of a page.
+void InvertBits(Bitmap& bitmap) {
+    const auto bytes = static_cast<std::size_t>(bitmap.Width() + 7) / 8;
+    for (int row = 0; row < bitmap.Height(); ++row)
+        for (std::uint8_t& byte : bitmap.ScanLine(row).first(bytes))
+            byte = static_cast<std::uint8_t>(~byte);
+}
+
 // Turns the bits round where bit 1 is the lighter colour. True when they were.
 bool MakeInkSetBits(Bitmap& bitmap) {
-    RGBQUAD* const palette = Library().GetPalette(bitmap.Get());
+    const RGBQUAD* const palette = Library().GetPalette(bitmap.Get());
     const bool inverted = Luminance(palette[1]) >= Luminance(palette[0]);
-    if (inverted) {
-        // With any other palette the library would turn round the palette instead of the bits.
-        palette[0] = {0, 0, 0, 0};
-        palette[1] = {255, 255, 255, 0};
-        Library().Invert(bitmap.Get());
-    }
+    if (inverted)
+        InvertBits(bitmap);
     MakeInkDark(bitmap);
     return inverted;
 }

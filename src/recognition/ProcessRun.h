@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/ActivityLog.h"
@@ -67,6 +68,9 @@ class ProcessRun {
 
     /// What became of the files of the last run.
     const RunSummary& Summary() const { return summary_; }
+
+    /// Those of its files that have not been taken yet. A run of a night would keep more and more of them.
+    std::vector<FileReport> TakeReports() { return std::exchange(summary_.files, {}); }
 
     /// The further pages of a file of the last run have become files of their own.
     void ForgetFurtherPages(const std::string& name);

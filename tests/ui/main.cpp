@@ -5,12 +5,13 @@
 #include "support/TempFolder.h"
 #include "ui/shell/Composition.h"
 
-// The windows under test are real; they need an application around them, but no screen, and no settings of a
-// person.
+// The windows under test are real; they need an application around them, but no screen, and neither settings of
+// a person nor a scanner.
 int main(int argc, char** argv) {
     const tavrene::test::TempFolder config;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_CONFIG_HOME", config.Path().c_str());
+    qputenv("SANE_CONFIG_DIR", config.Path().c_str());
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     tavrene::ui::PrepareApplication();

@@ -185,6 +185,8 @@ constexpr std::array kCommands = {
     CommandInfo{C::BringIn, T::None, "BringIn",
                 "Make an image in ProcessIn of each page of PDFs and TIFFs; scans of one page are copied",
                 M::File, "&Bring In Scans...", "Ctrl+I", "", false, true, kIdle},
+    CommandInfo{C::Scan, T::None, "Scan", "Take pages from a scanner to ProcessIn",
+                M::File, "S&can...", "Ctrl+Shift+I", "", false, false, kIdle},
     CommandInfo{C::PasteScans, T::None, "PasteScans",
                 "The same with the files and folders of the clipboard, or dropped on the window; boxes that were copied last are added to the profile",
                 M::File, "&Paste Scans", "Ctrl+V", "", false, false, kIdle},

@@ -15,6 +15,7 @@
 #include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
 #include "ui/commands/WindowLoad.h"
+#include "ui/scanning/ScanCommand.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ContextMenu.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectSummary();
     AddContextMenus();
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    new ScanCommand(*this, {context_.files, operator_, context_.clock, state_, gate_});
     summary_->SetSplitter([this, intake] {
         gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
         summary_->Show(run_.Summary());

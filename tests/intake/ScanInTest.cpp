@@ -1,0 +1,127 @@
+#include <cstdlib>
+
+#include "intake/IntakeWorld.h"
+#include "intake/ScanIn.h"
+#include "support/Faults.h"
+
+namespace tavrene::intake {
+namespace {
+
+using test::Has;
+using test::WriteText;
+using Names = std::vector<std::string>;
+
+// The scanner library with its own test device, which feeds ten pages.
+class ScanInTest : public test::IntakeWorld {
+  protected:
+    static void SetUpTestSuite() {
+        ::setenv("SANE_CONFIG_DIR", Config().Path().c_str(), 1);
+        WriteText(Config().File("dll.conf"), "test\n");
+    }
+
+    // One for all tests, since the library asks for its place only once.
+    static const test::TempFolder& Config() {
+        static const test::TempFolder folder;
+        return folder;
+    }
+
+    Scanned Scan(const std::string& device, const std::string& mode, const ScanWatch& watch = GoesOn) {
+        WriteText(Config().File("test.conf"), device);
+        Scanners scanners(sane_);
+        const std::vector<ScanDevice> devices = scanners.Find();
+        if (devices.size() != 2)
+            return {{}, "there is no test device"};
+        Scanner scanner(sane_, devices[0].name);
+        choices_ = scanner.Choices();
+        ScanSettings settings{source_, {}, 100, 50, 70};
+        for (const ScanMode& each : choices_.modes)
+            if (each.label == mode)
+                settings.mode = each;
+        return ScanIn(files_, folders_, {2024, 3, 5, 14, 9, 7}, scanner, settings, watch);
+    }
+
+    static bool GoesOn(std::size_t /*pages*/) { return true; }
+
+    SaneLibrary sane_ = *FindSane();
+    std::string source_ = "Automatic Document Feeder";
+    ScanChoices choices_;
+};
+
+TEST_F(ScanInTest, AFeederGivesAllOfItsPagesUnderNamesThatNothingHas) {
+    WriteText(folders_.ProcessOut + "scan-20240305-140907-p002.xml", "of another form");
+    const Scanned scanned = Scan("test-picture \"Solid black\"\n", "Black and white");
+    EXPECT_EQ(scanned.reason, "");
+    ASSERT_EQ(scanned.images.size(), 10U);
+    EXPECT_EQ(scanned.images.front() + scanned.images[1] + scanned.images.back(),
+              "scan-20240305-140907-p001.tifscan-20240305-140907-2-p002.tifscan-20240305-140907-p010.tif");
+    EXPECT_EQ(In(folders_.ProcessIn).size(), 10U);
+    const imaging::Bitmap page = Incoming(scanned.images.front());
+    EXPECT_EQ(DpiOf(page), 100);
+    EXPECT_NEAR(page.Width(), 197, 2) << "50 mm";
+    EXPECT_NEAR(page.Height(), 276, 2) << "70 mm";
+    samples::Canvas black(page.Width(), page.Height(), 100);
+    black.FillRect(0, 0, page.Width(), page.Height());
+    ExpectSame(page, samples::ToBilevel(black), "black");
+    EXPECT_EQ(choices_.resolutions.front(), 100);
+    EXPECT_EQ(choices_.sources, (Names{"Flatbed", "Automatic Document Feeder"}));
+}
+
+TEST_F(ScanInTest, AFlatbedGivesOnePageOfTheKindThatWasChosen) {
+    source_ = "Flatbed";
+    struct Case {
+        const char* device;
+        const char* mode;
+        const char* extension;
+        int bits;
+    };
+    for (const Case& each : {Case{"test-picture \"Color pattern\"\n", "Grey", ".png", 8},
+                             Case{"test-picture \"Color pattern\"\n", "Colour", ".png", 24},
+                             Case{"test-picture \"Color pattern\"\ndepth 16\n", "Colour", ".png", 24},
+                             Case{"test-picture \"Grid\"\n", "Black and white", ".tif", 1},
+                             Case{"test-picture \"Grid\"\n", "Grey", ".tif", 1}}) {
+        SCOPED_TRACE(each.mode);
+        const Scanned scanned = Scan(each.device, each.mode);
+        ASSERT_EQ(scanned.images.size(), 1U) << scanned.reason;
+        EXPECT_TRUE(Has(scanned.images[0], each.extension));
+        EXPECT_EQ(Incoming(scanned.images[0]).BitsPerPixel(), each.bits);
+    }
+}
+
+TEST_F(ScanInTest, WhatEndsItIsToldAndThePagesBeforeStay) {
+    int page = 0;
+    const auto usual = sane_.Start;
+    const auto endsWith = [&](SANE_Status status, int at) {
+        page = 0;
+        sane_.Start = [&, status, at](SANE_Handle handle) { return ++page == at ? status : usual(handle); };
+        return Scan("", "Black and white");
+    };
+    Scanned scanned = endsWith(SANE_STATUS_JAMMED, 3);
+    EXPECT_EQ(scanned.images.size(), 2U);
+    EXPECT_EQ(scanned.reason, "The paper is jammed, or the feeder has drawn in two sheets at once.");
+    EXPECT_EQ(In(folders_.ProcessIn), scanned.images);
+    scanned = endsWith(SANE_STATUS_NO_DOCS, 1);
+    EXPECT_EQ(std::to_string(scanned.images.size()) + scanned.reason, "0The feeder is empty.");
+    scanned = endsWith(SANE_STATUS_COVER_OPEN, 2);
+    EXPECT_EQ(std::to_string(scanned.images.size()) + scanned.reason, "1The cover of the scanner is open.");
+    sane_.Start = usual;
+
+    scanned = Scan("", "Grey", [](std::size_t pages) { return pages < 2; });
+    EXPECT_TRUE(scanned.isCancelled);
+    EXPECT_EQ(std::to_string(scanned.images.size()) + scanned.reason, "2");
+    // In the middle of a page, by the device itself.
+    for (const auto& [code, reason] :
+         {std::pair{"JAMMED", "jammed"}, {"IO_ERROR", "does not answer"}, {"CANCELLED", "at the scanner"}}) {
+        scanned = Scan("read-status-code \"SANE_STATUS_" + std::string(code) + "\"\n", "Grey");
+        EXPECT_EQ(scanned.images, Names());
+        EXPECT_PRED2(Has, scanned.reason, reason);
+    }
+    files_.refuse = [](const std::string& operation, const std::string& path) {
+        return operation == "write" && Has(path, "-p003");
+    };
+    scanned = Scan("", "Grey");
+    EXPECT_EQ(scanned.images.size(), 2U);
+    EXPECT_PRED2(Has, scanned.reason, "Cannot write ");
+}
+
+}  // namespace
+}  // namespace tavrene::intake
