@@ -3,6 +3,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -34,7 +36,7 @@ QValidator::State NameRule::validate(QString& text, int& cursor) const {
     const auto isForbidden = [](QChar c) { return kForbidden.contains(c); };
     if (std::any_of(text.begin(), text.end(), isForbidden))
         QToolTip::showText(field_.mapToGlobal(QPoint(0, field_.height())),
-                           "The name of a box cannot hold a double quote, < or &.", &field_);
+                           Tr("NameRule", "The name of a box cannot hold a double quote, < or &."), &field_);
     cursor = static_cast<int>(Cleaned(text.left(cursor)).size());
     text = Cleaned(text);
     return Acceptable;
