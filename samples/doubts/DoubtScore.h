@@ -20,7 +20,7 @@ struct DoubtTally {
     std::map<review::DoubtReason, std::size_t> Reasons;
 };
 
-/// Reads `pages` pages of a class by the described rules, and doubts. Forms that the rules do not recognise
+/// Reads `pages` pages of a class by the plain reading, and doubts. Forms that it does not recognise
 /// are left out: nobody is shown their boxes. `tell`, if there is one, hears of every box that is misread or
 /// in doubt, one line of fields parted by tabs.
 DoubtTally ScoreDoubts(const DoubtClass& kind, std::size_t pages, std::uint64_t first,
