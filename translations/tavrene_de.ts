@@ -1808,6 +1808,18 @@ Selecting No would keep the same profile but skip the modified fields.</source>
         <source>Ready</source>
         <translation>Bereit</translation>
     </message>
+    <message>
+        <source>Reading forms again... Esc stops.</source>
+        <translation>Formulare werden erneut gelesen... Esc bricht ab.</translation>
+    </message>
+    <message>
+        <source>1 form is left.</source>
+        <translation>1 Formular bleibt übrig.</translation>
+    </message>
+    <message>
+        <source>%L1 forms are left.</source>
+        <translation>%L1 Formulare bleiben übrig.</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>

@@ -57,9 +57,10 @@ TEST(ModesTest, OnlyTheStartAndARunOfferWhatHasNoEffect) {
             EXPECT_EQ(IsShownIn(command, mode), !isDecision || mode == Mode::Review || mode == Mode::Form)
                 << k;
         }
-        EXPECT_EQ(offered, mode == Mode::Start ? Commands{C::Save, C::DeleteProfile}
-                           : mode == Mode::Run ? Commands{C::Process}
-                                               : Commands{});
+        const Commands expected = mode == Mode::Start ? Commands{C::Save, C::DeleteProfile}
+                                  : mode == Mode::Run ? Commands{C::Process}
+                                                      : Commands{};
+        EXPECT_EQ(offered, expected);
     }
 }
 
