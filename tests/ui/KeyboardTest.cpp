@@ -1,8 +1,10 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopeGuard>
 #include <QTabWidget>
 
 #include "ui/DeskWindow.h"
+#include "ui/shell/Language.h"
 
 namespace tavrene::ui {
 namespace {
@@ -96,7 +98,11 @@ TEST_F(KeyboardTest, WhateverHasTheKeyboardLooksLikeItInEveryMode) {
 
 // One letter twice in a menu, or for a menu and for what lies below it, would reach neither by one key.
 TEST_F(KeyboardTest, EveryLetterThatIsUnderlinedMeansOneThing) {
-    Open();
+    const auto speak = [this](const char* code) {
+        app::WriteWindow(store_, "Language", code);
+        SpeakChosenLanguage(store_);
+    };
+    const auto speakEnglish = qScopeGuard([&] { speak("en"); });
     const auto lettersOf = [](const QList<QAction*>& actions) {
         QStringList letters;
         for (const QAction* const action : actions)
@@ -108,17 +114,21 @@ TEST_F(KeyboardTest, EveryLetterThatIsUnderlinedMeansOneThing) {
         EXPECT_FALSE(letters.contains("")) << FromQt(where + ": " + letters.join(','));
         EXPECT_EQ(letters.removeDuplicates(), 0) << FromQt(where + ": " + letters.join(','));
     };
-    for (const QAction* const menu : window_->menuBar()->actions())
-        expectUnique(lettersOf(menu->menu()->actions()), menu->text());
-    QStringList letters = lettersOf(window_->menuBar()->actions());
-    for (const auto* const button : window_->centralWidget()->findChildren<QAbstractButton*>())
-        if (button->text().contains('&'))
-            letters += QKeySequence::mnemonic(button->text()).toString();
-    for (const auto* const label : window_->centralWidget()->findChildren<QLabel*>())
-        if (label->buddy() != nullptr)
-            letters += QKeySequence::mnemonic(label->text()).toString();
-    EXPECT_GT(letters.size(), 9);
-    expectUnique(letters, "window");
+    for (const char* const code : {"en", "de"}) {
+        speak(code);
+        Open();
+        for (const QAction* const menu : window_->menuBar()->actions())
+            expectUnique(lettersOf(menu->menu()->actions()), menu->text());
+        QStringList letters = lettersOf(window_->menuBar()->actions());
+        for (const auto* const button : window_->centralWidget()->findChildren<QAbstractButton*>())
+            if (button->text().contains('&'))
+                letters += QKeySequence::mnemonic(button->text()).toString();
+        for (const auto* const label : window_->centralWidget()->findChildren<QLabel*>())
+            if (label->buddy() != nullptr)
+                letters += QKeySequence::mnemonic(label->text()).toString();
+        EXPECT_GT(letters.size(), 9);
+        expectUnique(letters, QString("window in ") + code);
+    }
 }
 
 TEST_F(KeyboardTest, ABoxIsPutMovedAndResizedByKeysAlone) {

@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTextBrowser>
 
 #include "ui/DeskWindow.h"
@@ -196,11 +197,16 @@ TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
     Click("Process");
     fits();
     Find<QTreeWidget>(*window_, "SummaryFiles").header()->resizeSection(0, 123);
+    Find<QWidget>(*window_, "CandidatePane").show();
+    Find<QSplitter>(*window_, "Splitter2").setSizes({100, 300});
     window_->close();
     EXPECT_EQ(app::ReadWindow(store_, "lvwSettings"), "")
         << "the columns of the box list are set by the mode";
     Open();
     EXPECT_EQ(Find<QTreeWidget>(*window_, "SummaryFiles").header()->sectionSize(0), 123);
+    Find<QWidget>(*window_, "CandidatePane").show();
+    QApplication::processEvents();
+    EXPECT_GT(Find<QWidget>(*window_, "CandidatePane").height(), 2 * Rows().height()) << "as it was dragged";
     ClickThumbnail(2);
     fits();
     Click("ZoomToOrig");
@@ -227,6 +233,9 @@ TEST_F(MainWindowTest, TheMenuOfALineActsOnThatLine) {
     menu.actions().back()->trigger();
     menu.close();
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4"}));
+    rightClick(Strip(), 1);
+    EXPECT_EQ(Find<QMenu>(Strip(), "ContextMenu").actions().size(), 3) << "and nothing is asked";
+    EXPECT_EQ(RowTexts().size(), 3U) << "it is open already";
 }
 
 TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringView>
 #include <string>
@@ -14,6 +15,12 @@ inline QString ToQt(std::string_view utf8) {
 
 inline std::string FromQt(QStringView text) {
     return text.toUtf8().toStdString();
+}
+
+/// A text of the window in its language. `place` tells the translator where it stands; the file of
+/// translations knows it by place and English text.
+inline QString Tr(const char* place, const char* english) {
+    return QCoreApplication::translate(place, english);
 }
 
 /// A tool tip that shows `text` as it is: a plain one with a < in it would be taken for rich text.

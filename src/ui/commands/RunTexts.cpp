@@ -22,8 +22,9 @@ std::string LinkOf(FileEnd end) {
     return std::to_string(static_cast<int>(end));
 }
 
-std::string Linked(std::size_t count, const std::string& text, const std::string& link) {
-    return count == 0 ? text : "<a href=\"" + link + "\">" + text + "</a>";
+SummaryPart Linked(std::size_t count, const std::string& lead, const std::string& text,
+                   const std::string& link) {
+    return {lead, text, count == 0 ? "" : link};
 }
 
 }  // namespace
@@ -40,21 +41,21 @@ std::string ProgressText(int done, int total, double seconds) {
                           : text + ", " + std::to_string(std::lround(left / kMinute)) + " min left";
 }
 
-std::string SummaryText(const RunSummary& summary) {
+std::vector<SummaryPart> SummaryParts(const RunSummary& summary) {
     const std::size_t files = summary.files.size();
-    std::string text = "Last run: " + Linked(files, Counted(files, "file", "files"), kAll);
+    std::vector<SummaryPart> parts = {Linked(files, "Last run:", Counted(files, "file", "files"), kAll)};
     for (const auto& [end, words] : kEnds) {
         const std::size_t count = summary.Count(end);
-        text += " &nbsp;|&nbsp; " + Linked(count, std::to_string(count) + " " + words, LinkOf(end));
+        parts.push_back(Linked(count, "", std::to_string(count) + " " + words, LinkOf(end)));
     }
-    text += " &nbsp;|&nbsp; " + Counted(summary.seconds, "second", "seconds");
+    parts.push_back({"", Counted(summary.seconds, "second", "seconds"), ""});
     int further = 0;
     for (const FileReport& file : summary.files)
         further += file.furtherPages;
     if (further > 0)
-        text += " &nbsp;|&nbsp; " + Counted(further, "further page was", "further pages were") +
-                " not looked at: " + Linked(1, "bring in to ProcessIn", kSplitLink);
-    return text;
+        parts.push_back({Counted(further, "further page was", "further pages were") + " not looked at:",
+                         "bring in to ProcessIn", kSplitLink});
+    return parts;
 }
 
 std::vector<FileReport> FilesBehind(const RunSummary& summary, const std::string& link) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "recognition/RunSummary.h"
 
@@ -14,10 +15,17 @@ std::string ProgressText(int done, int total, double seconds);
 /// What the link stands for that offers to bring in the pages that were not looked at.
 inline constexpr const char* kSplitLink = "split";
 
-/// The line that tells of a run that has ended, as rich text. A number of files is a link whose address is
-/// the number of their `FileEnd`, or "all"; none is a link where there are no such files. Of pages that were
+/// A piece of the line that tells of a run that has ended.
+struct SummaryPart {
+    std::string lead;  ///< Before the text; mostly empty.
+    std::string text;
+    std::string link;  ///< Empty where there is nothing to show behind it.
+    bool operator==(const SummaryPart&) const = default;
+};
+
+/// That line. A number of files links to them by the number of their `FileEnd`, or "all". Of pages that were
 /// not looked at it tells only where there are such, with the link `kSplitLink`.
-std::string SummaryText(const recognition::RunSummary& summary);
+std::vector<SummaryPart> SummaryParts(const recognition::RunSummary& summary);
 
 /// The files of a link of that line, in the run's order.
 std::vector<recognition::FileReport> FilesBehind(const recognition::RunSummary& summary,

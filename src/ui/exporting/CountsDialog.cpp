@@ -18,6 +18,7 @@
 #include "app/Reason.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -72,9 +73,9 @@ QByteArray PngOf(const QTextDocument& shown) {
 CountsDialog::CountsDialog(const std::string& html, Context context, QWidget* parent)
     : QDialog(parent), context_(std::move(context)), page_(new QTextBrowser) {
     setObjectName("frmCounts");
-    setWindowTitle("Counts");
+    setWindowTitle(Tr("CountsDialog", "Counts"));
     page_->setObjectName("CountsPage");
-    page_->setAccessibleName("How often each box is checked");
+    page_->setAccessibleName(Tr("CountsDialog", "How often each box is checked"));
     page_->document()->setDocumentMargin(12);
     page_->setHtml(ToQt(html));
     auto* const layout = new QVBoxLayout(this);
@@ -92,9 +93,9 @@ QWidget* CountsDialog::Buttons() {
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, act);
     };
-    add("cmdPrint", "&Print...", &CountsDialog::Print);
-    add("cmdSavePdf", "Save as P&DF...", &CountsDialog::SavePdf);
-    add("cmdSavePng", "Save as P&NG...", &CountsDialog::SavePng);
+    add("cmdPrint", Tr("CountsDialog", "&Print..."), &CountsDialog::Print);
+    add("cmdSavePdf", Tr("CountsDialog", "Save as P&DF..."), &CountsDialog::SavePdf);
+    add("cmdSavePng", Tr("CountsDialog", "Save as P&NG..."), &CountsDialog::SavePng);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
 }
@@ -126,7 +127,7 @@ void CountsDialog::Write(const std::string& path, const QByteArray& content) {
         context_.files.Write(
             path, std::as_bytes(std::span(content.constData(), static_cast<std::size_t>(content.size()))));
     } catch (const std::exception& failure) {
-        QMessageBox::warning(this, windowTitle(), ToQt(app::ReasonOf(failure)));
+        QMessageBox::warning(this, windowTitle(), Shown(app::ReasonOf(failure)));
     }
 }
 

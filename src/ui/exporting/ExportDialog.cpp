@@ -31,18 +31,20 @@ QCheckBox* Check(const char* name, const QString& text, const QString& toolTip) 
 ExportDialog::ExportDialog(const commands::ExportChoice& choice, const app::WorkingFolders& folders,
                            QWidget* parent)
     : QDialog(parent),
-      waiting_(Radio("optWaiting", "Forms that &wait for a decision (ProcessOut)")),
-      accepted_(Radio("optAccepted", "&Accepted forms (ProcessFinal)")),
-      workbook_(Radio("optWorkbook", "Work&book (.xlsx), one sheet a profile")),
-      csv_(Radio("optCsv", "CSV &files, one a profile")),
+      waiting_(Radio("optWaiting", Tr("ExportDialog", "Forms that &wait for a decision (ProcessOut)"))),
+      accepted_(Radio("optAccepted", Tr("ExportDialog", "&Accepted forms (ProcessFinal)"))),
+      workbook_(Radio("optWorkbook", Tr("ExportDialog", "Work&book (.xlsx), one sheet a profile"))),
+      csv_(Radio("optCsv", Tr("ExportDialog", "CSV &files, one a profile"))),
       separator_(new QComboBox),
-      mark_(Check("chkByteOrderMark", "Byte &order mark",
-                  "Some spreadsheets show accents right only in files that begin with this mark")),
-      groups_(
-          Check("chkGroups", "One column a &group of boxes",
-                "Boxes with the same first words, or as set in the profile: the names of the checked ones")) {
+      mark_(Check("chkByteOrderMark", Tr("ExportDialog", "Byte &order mark"),
+                  Tr("ExportDialog",
+                     "Some spreadsheets show accents right only in files that begin with this mark"))),
+      groups_(Check(
+          "chkGroups", Tr("ExportDialog", "One column a &group of boxes"),
+          Tr("ExportDialog",
+             "Boxes with the same first words, or as set in the profile: the names of the checked ones"))) {
     setObjectName("frmExport");
-    setWindowTitle("Export Results");
+    setWindowTitle(Tr("ExportDialog", "Export Results"));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
@@ -56,7 +58,7 @@ ExportDialog::ExportDialog(const commands::ExportChoice& choice, const app::Work
 }
 
 QWidget* ExportDialog::SourceFrame(const app::WorkingFolders& folders) {
-    auto* const frame = new QGroupBox("Which forms");
+    auto* const frame = new QGroupBox(Tr("ExportDialog", "Which forms"));
     auto* const layout = new QVBoxLayout(frame);
     waiting_->setToolTip(ToolTipOf(ToQt(folders.ProcessOut)));
     accepted_->setToolTip(ToolTipOf(ToQt(folders.ProcessFinal)));
@@ -67,16 +69,16 @@ QWidget* ExportDialog::SourceFrame(const app::WorkingFolders& folders) {
 
 QWidget* ExportDialog::FormatFrame() {
     separator_->setObjectName("cboSeparator");
-    separator_->addItem("Comma", static_cast<int>(Separator::Comma));
-    separator_->addItem("Semicolon", static_cast<int>(Separator::Semicolon));
-    separator_->addItem("Tab", static_cast<int>(Separator::Tab));
-    auto* const frame = new QGroupBox("As what");
+    separator_->addItem(Tr("ExportDialog", "Comma"), static_cast<int>(Separator::Comma));
+    separator_->addItem(Tr("ExportDialog", "Semicolon"), static_cast<int>(Separator::Semicolon));
+    separator_->addItem(Tr("ExportDialog", "Tab"), static_cast<int>(Separator::Tab));
+    auto* const frame = new QGroupBox(Tr("ExportDialog", "As what"));
     auto* const layout = new QVBoxLayout(frame);
     layout->addWidget(workbook_);
     layout->addWidget(csv_);
     auto* const details = new QFormLayout;
     details->setContentsMargins(28, 0, 0, 0);
-    details->addRow("&Separator:", separator_);
+    details->addRow(Tr("ExportDialog", "&Separator:"), separator_);
     details->addRow(mark_);
     layout->addLayout(details);
     layout->addWidget(groups_);
@@ -91,11 +93,13 @@ QWidget* ExportDialog::FormatFrame() {
 
 QWidget* ExportDialog::Buttons() {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    QPushButton* const write = buttons->addButton("&Export...", QDialogButtonBox::AcceptRole);
+    QPushButton* const write =
+        buttons->addButton(Tr("ExportDialog", "&Export..."), QDialogButtonBox::AcceptRole);
     write->setObjectName("cmdExport");
-    QPushButton* const counts = buttons->addButton("&Counts...", QDialogButtonBox::ActionRole);
+    QPushButton* const counts =
+        buttons->addButton(Tr("ExportDialog", "&Counts..."), QDialogButtonBox::ActionRole);
     counts->setObjectName("cmdCounts");
-    counts->setToolTip("How often each box is checked, to be printed or saved");
+    counts->setToolTip(Tr("ExportDialog", "How often each box is checked, to be printed or saved"));
     counts->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     connect(write, &QPushButton::clicked, this, [this] { done(kExport); });

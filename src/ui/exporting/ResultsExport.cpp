@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/commands/CountsPage.h"
 #include "ui/commands/Places.h"
 #include "ui/exporting/CountsDialog.h"
@@ -16,9 +17,10 @@ constexpr std::string_view kExportFolder = "ExportFolder";
 
 // The dialog takes the screen's events itself while it is modal; what it lets through is its own button.
 results::Progress ProgressBox(QWidget& window, const std::string& work) {
-    const auto box = std::make_shared<QProgressDialog>(ToQt(work), "Cancel", 0, 0, &window);
+    const auto box =
+        std::make_shared<QProgressDialog>(Shown(work), Tr("ResultsExport", "Cancel"), 0, 0, &window);
     box->setObjectName("ExportProgress");
-    box->setWindowTitle("Export Results");
+    box->setWindowTitle(Tr("ResultsExport", "Export Results"));
     box->setWindowModality(Qt::ApplicationModal);
     box->setMinimumDuration(400);
     return [box](std::size_t done, std::size_t total) {

@@ -12,6 +12,7 @@
 
 #include "app/ScopedFlag.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/lists/NameRule.h"
 
 namespace tavrene::ui {
@@ -67,7 +68,7 @@ QIcon Pencil(const QColor& color) {
 }
 
 void ShowCorrection(QTreeWidgetItem& row, bool isCorrected, const QColor& color) {
-    const QString what = "The mark was turned round by hand: the ink says otherwise";
+    const QString what = Tr("BoxListView", "The mark was turned round by hand: the ink says otherwise");
     row.setIcon(kInkColumn, isCorrected ? Pencil(color) : QIcon());
     row.setToolTip(kValColumn, isCorrected ? what : QString());
     row.setData(kValColumn, Qt::AccessibleDescriptionRole, isCorrected ? what : QString());
@@ -83,7 +84,7 @@ class BoxListView::NameDelegate final : public QStyledItemDelegate {
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
         auto* const editor = new QLineEdit(parent);
         editor->setObjectName("BoxName");
-        editor->setAccessibleName("Name of the check box");
+        editor->setAccessibleName(Tr("BoxListView", "Name of the check box"));
         // The usual frame of a field would leave no room for the text in a row.
         editor->setStyleSheet("QLineEdit { border: 1px solid palette(highlight); }");
         editor->setValidator(new NameRule(*editor));
@@ -106,12 +107,12 @@ class BoxListView::NameDelegate final : public QStyledItemDelegate {
 
 BoxListView::BoxListView(QWidget* parent) : QTreeWidget(parent) {
     setObjectName("lvwSettings");
-    setAccessibleName("Check boxes of the page");
+    setAccessibleName(Tr("BoxListView", "Check boxes of the page"));
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setFrameShape(QFrame::NoFrame);
-    setHeaderLabels({"Check box"});
+    setHeaderLabels({Tr("BoxListView", "Check box")});
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionsMovable(false);
@@ -165,7 +166,8 @@ void BoxListView::ClearRows(profiles::BoxColumns columns) {
     clear();
     setColumnCount(static_cast<int>(columns) + 1);
     for (int column = kValColumn; column < columnCount(); ++column) {
-        headerItem()->setText(column, column == kValColumn ? "Val" : "Ink");
+        headerItem()->setText(column,
+                              column == kValColumn ? Tr("BoxListView", "Val") : Tr("BoxListView", "Ink"));
         headerItem()->setTextAlignment(column, Qt::AlignCenter);
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
         header()->resizeSection(column, column == kValColumn ? kValWidth : InkWidth(font()));
@@ -184,7 +186,7 @@ void BoxListView::PutRow(int number, const profiles::BoxRow& row) {
     if (columnCount() > kInkColumn) {
         item.setText(kInkColumn, ToQt(row.ink));
         item.setTextAlignment(kInkColumn, Qt::AlignRight | Qt::AlignVCenter);
-        ShowDoubt(item, ToQt(row.doubt));
+        ShowDoubt(item, Shown(row.doubt));
         ShowCorrection(item, row.isCorrected, palette().color(QPalette::Text));
     }
 }

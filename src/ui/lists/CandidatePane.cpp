@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -24,13 +26,13 @@ CandidatePane::CandidatePane(QWidget* parent)
     heading_->setWordWrap(true);
     heading_->setContentsMargins(8, 6, 8, 6);
     list_->setObjectName("lvwCandidates");
-    list_->setAccessibleName("What may be check boxes");
+    list_->setAccessibleName(Tr("CandidatePane", "What may be check boxes"));
     list_->setFrameShape(QFrame::NoFrame);
     list_->setAlternatingRowColors(true);
     list_->installEventFilter(this);
     list_->viewport()->installEventFilter(this);
     unlikely_->setObjectName("chkUnlikely");
-    unlikely_->setAccessibleName("Also shapes that look like print");
+    unlikely_->setAccessibleName(Tr("CandidatePane", "Also shapes that look like print"));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -66,8 +68,8 @@ void CandidatePane::ShowRows(const QString& heading, const std::vector<Row>& row
 }
 
 void CandidatePane::SetUnlikely(int count) {
-    unlikely_->setText(count == 1 ? "Also one shape that looks like print"
-                                  : "Also " + QString::number(count) + " shapes that look like print");
+    unlikely_->setText(count == 1 ? Tr("CandidatePane", "Also one shape that looks like print")
+                                  : Tr("CandidatePane", "Also %1 shapes that look like print").arg(count));
     unlikely_->setChecked(false);
     unlikely_->setVisible(count > 0);
 }

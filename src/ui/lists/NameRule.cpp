@@ -5,6 +5,8 @@
 #include "profiles/NameCleaning.h"
 #include "ui/base/QtText.h"
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 namespace {
 
@@ -17,7 +19,7 @@ QString Cleaned(const QString& text) {
 QValidator::State NameRule::validate(QString& text, int& cursor) const {
     if (FromQt(text).find_first_of(profiles::kForbiddenInNames) != std::string::npos)
         QToolTip::showText(field_.mapToGlobal(QPoint(0, field_.height())),
-                           "The name of a box cannot hold a double quote, < or &.", &field_);
+                           Tr("NameRule", "The name of a box cannot hold a double quote, < or &."), &field_);
     cursor = static_cast<int>(Cleaned(text.left(cursor)).size());
     text = Cleaned(text);
     return Acceptable;

@@ -4,6 +4,7 @@
 
 #include "ui/base/EmptyHint.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -33,7 +34,7 @@ void ReasonList::Show(std::vector<ReasonRow> rows) {
     clear();
     QList<QTreeWidgetItem*> items;
     for (const ReasonRow& row : rows_) {
-        items += new QTreeWidgetItem({ToQt(row.name), ToQt(row.reason)});
+        items += new QTreeWidgetItem({ToQt(row.name), Shown(row.reason)});
         items.back()->setSizeHint(kName, QSize(0, LineHeight()));
         for (int column = 0; column < kColumns; ++column)
             items.back()->setToolTip(column, ToolTipOf(items.back()->text(column)));

@@ -8,6 +8,7 @@
 #include <limits>
 #include <utility>
 
+#include "ui/base/QtText.h"
 #include "ui/commands/Zoom.h"
 #include "ui/page/PageImage.h"
 
@@ -28,7 +29,7 @@ void PaintNoPage(QPainter& painter, const QRect& area, const QPalette& palette, 
     painter.save();
     painter.setFont(title);
     painter.drawText(area.adjusted(16, 0, -16, -half - 4), Qt::AlignHCenter | Qt::AlignBottom,
-                     "No page is shown");
+                     Tr("ImageView", "No page is shown"));
     painter.restore();
     painter.drawText(area.adjusted(16, half + 4, -16, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                      hint);
@@ -55,7 +56,7 @@ constexpr QPoint kTopLeft(std::numeric_limits<int>::min(), std::numeric_limits<i
 ImageView::ImageView(const app::Files& files, QWidget* parent)
     : QGraphicsView(parent), files_(files), page_(new PageItem) {
     setObjectName("ImgEdit1");
-    setAccessibleName("Page image");
+    setAccessibleName(Tr("ImageView", "Page image"));
     setFrameShape(QFrame::NoFrame);
     setScene(new QGraphicsScene(this));
     scene()->setItemIndexMethod(QGraphicsScene::NoIndex);

@@ -10,6 +10,7 @@
 
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -53,11 +54,12 @@ class NoticeArea final : public QScrollArea {
 
 MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), area_(new NoticeArea(this)) {
     setObjectName("MessageStrip");
-    setAccessibleName("Notices about the page");
+    setAccessibleName(Tr("MessageStrip", "Notices about the page"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
-    QToolButton* const close = CloseButton(this, "cmdCloseNotices", "Close these notices");
+    QToolButton* const close =
+        CloseButton(this, "cmdCloseNotices", Tr("MessageStrip", "Close these notices"));
     connect(close, &QToolButton::clicked, this, [this] { Close(); });
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 6, 6);
@@ -118,14 +120,17 @@ void MessageStrip::Add(const app::Notice& notice) {
     auto* const line = new QWidget(area_->widget());
     auto* const layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* const text = new QLabel(ToQt(notice.text), line);
+    auto* const text = new QLabel(Shown(notice.text), line);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setForegroundRole(QPalette::ToolTipText);
     layout->addWidget(text, 1);
     if (!notice.button.empty()) {
-        auto* const button = new QPushButton(ToQt(notice.button), line);
+        auto* const button = new QPushButton(Shown(notice.button), line);
+        // Tab comes to it where it is seen, not behind all that the window had before.
+        if (QWidget* const close = findChild<QToolButton*>("cmdCloseNotices"))
+            setTabOrder(close->previousInFocusChain(), button);
         // The strip may be filled anew by what the button does.
         connect(button, &QPushButton::clicked, this, [this, act = notice.act] { run_(act); });
         layout->addWidget(button, 0, Qt::AlignTop);

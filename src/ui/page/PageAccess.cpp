@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <map>
 
+#include "ui/base/QtText.h"
 #include "ui/page/ImageView.h"
 
 namespace tavrene::ui {
@@ -26,7 +27,8 @@ class BoxAccess final : public QAccessibleInterface {
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name || !isValid())
             return {};
-        return Style() == RectStyle::Candidate ? "May be a check box" : page_->NameOf(group_);
+        return Style() == RectStyle::Candidate ? Tr("PageAccess", "May be a check box")
+                                               : page_->NameOf(group_);
     }
     void setText(QAccessible::Text, const QString&) override {}
 

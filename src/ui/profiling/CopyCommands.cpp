@@ -217,12 +217,12 @@ void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast
 std::optional<profiles::GridShape> CopyCommands::AskShape(const profiles::GridShape& guess) const {
     QDialog dialog(view_.window());
     dialog.setObjectName("frmGrid");
-    dialog.setWindowTitle("Grid of Boxes");
+    dialog.setWindowTitle(Tr("CopyCommands", "Grid of Boxes"));
     auto* const form = new QFormLayout(&dialog);
-    auto* const rows = Counter("numRows", "Rows", guess.rows);
-    auto* const columns = Counter("numColumns", "Columns", guess.columns);
-    form->addRow("&Rows", rows);
-    form->addRow("&Columns", columns);
+    auto* const rows = Counter("numRows", Tr("CopyCommands", "Rows"), guess.rows);
+    auto* const columns = Counter("numColumns", Tr("CopyCommands", "Columns"), guess.columns);
+    form->addRow(Tr("CopyCommands", "&Rows"), rows);
+    form->addRow(Tr("CopyCommands", "&Columns"), columns);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     form->addRow(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);

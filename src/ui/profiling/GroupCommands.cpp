@@ -20,15 +20,15 @@ using profiles::OmrBox;
 namespace {
 
 constexpr std::pair<profiles::Takes, const char*> kTakes[] = {
-    {profiles::Takes::One, "one mark"},
-    {profiles::Takes::AnyNumber, "any number of marks"},
-    {profiles::Takes::AtLeastOne, "at least one mark"}};
+    {profiles::Takes::One, QT_TRANSLATE_NOOP("GroupCommands", "one mark")},
+    {profiles::Takes::AnyNumber, QT_TRANSLATE_NOOP("GroupCommands", "any number of marks")},
+    {profiles::Takes::AtLeastOne, QT_TRANSLATE_NOOP("GroupCommands", "at least one mark")}};
 
-const char* TextOf(profiles::Takes takes) {
+QString TextOf(profiles::Takes takes) {
     for (const auto& [known, text] : kTakes)
         if (known == takes)
-            return text;
-    return "";
+            return Tr("GroupCommands", text);
+    return {};
 }
 
 }  // namespace
@@ -88,16 +88,16 @@ void GroupCommands::GroupSelected() {
 std::optional<BoxGroup> GroupCommands::AskGroup(std::vector<std::string> names) const {
     QDialog dialog(view_.window());
     dialog.setObjectName("frmGroup");
-    dialog.setWindowTitle("Group of Boxes");
+    dialog.setWindowTitle(Tr("GroupCommands", "Group of Boxes"));
     auto* const form = new QFormLayout(&dialog);
     auto* const name = new QLineEdit(ToQt(profiles::NameForGroup(names)));
     name->setObjectName("txtGroup");
     auto* const takes = new QComboBox;
     takes->setObjectName("cboTakes");
     for (const auto& [known, text] : kTakes)
-        takes->addItem(text);
-    form->addRow("&Name", name);
-    form->addRow("The question &takes", takes);
+        takes->addItem(Tr("GroupCommands", text));
+    form->addRow(Tr("GroupCommands", "&Name"), name);
+    form->addRow(Tr("GroupCommands", "The question &takes"), takes);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     form->addRow(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);

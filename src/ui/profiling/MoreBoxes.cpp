@@ -7,7 +7,7 @@
 #include "imaging/PageReader.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "ui/base/EscapeWatch.h"
-#include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/commands/CandidateTexts.h"
 #include "ui/commands/Counted.h"
 
@@ -134,10 +134,10 @@ void MoreBoxes::Show() {
     std::vector<CandidatePane::Row> rows;
     for (const Shown& one : shown_) {
         context_.page.PutRect(-one.id, PlaceOf(one.box), imaging::RectStyle::Candidate);
-        rows.push_back({one.id, ToQt(commands::RowOf(one.box) + (one.isUnlikely ? " (print?)" : ""))});
+        rows.push_back({one.id, ui::Shown(commands::RowOf(one.box) + (one.isUnlikely ? " (print?)" : ""))});
     }
     const auto likely = std::ranges::count(shown_, false, &Shown::isUnlikely);
-    context_.pane.ShowRows(ToQt(commands::HeadingOf(static_cast<std::size_t>(likely), look_)), rows);
+    context_.pane.ShowRows(ui::Shown(commands::HeadingOf(static_cast<std::size_t>(likely), look_)), rows);
 }
 
 bool MoreBoxes::Clicked(int group) {

@@ -12,6 +12,7 @@
 #include "profiles/NameCleaning.h"
 #include "profiles/PrintedNames.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/profiling/PrintReader.h"
 
 namespace tavrene::ui {
@@ -24,11 +25,12 @@ constexpr std::size_t kMostTroubles = 3;
 // The first and the last names tell how the others are made.
 QString Outcome(const std::vector<profiles::NewName>& names) {
     if (names.empty())
-        return "No name changes.";
+        return Tr("NameBoxesDialog", "No name changes.");
     const QString first = ToQt(names.front().name);
     const QString last = ToQt(names.back().name);
-    return names.size() == 1 ? "One box: " + first
-                             : QString::number(names.size()) + " boxes: " + first + " ... " + last;
+    return names.size() == 1
+               ? Tr("NameBoxesDialog", "One box: %1").arg(first)
+               : Tr("NameBoxesDialog", "%1 boxes: %2 ... %3").arg(QString::number(names.size()), first, last);
 }
 
 }  // namespace
@@ -43,7 +45,7 @@ NameBoxesDialog::NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std
       ways_(new QTabWidget(this)),
       outcome_(new QLabel(this)) {
     setObjectName("frmNameBoxes");
-    setWindowTitle("Name Boxes");
+    setWindowTitle(Tr("NameBoxesDialog", "Name Boxes"));
     Build();
     Update();
 }
@@ -59,32 +61,32 @@ QLineEdit* NameBoxesDialog::Field(const char* name, const QString& label, const 
 QWidget* NameBoxesDialog::PatternPage() {
     auto* const page = new QWidget;
     auto* const form = new QFormLayout(page);
-    pattern_ = Field("txtPattern", "Pattern", "Q{row} {column}");
-    pattern_->setToolTip(
-        "{row} and {column}: where the box stands; {n:02}: its number, with two digits;\n"
-        "{column:A}: a letter; {block}: the block of columns; {name}: the name it has");
-    rows_ = Field("txtRows", "Names of the rows");
+    pattern_ = Field("txtPattern", Tr("NameBoxesDialog", "Pattern"), "Q{row} {column}");
+    pattern_->setToolTip(Tr("NameBoxesDialog",
+                            "{row} and {column}: where the box stands; {n:02}: its number, with two digits;\n"
+                            "{column:A}: a letter; {block}: the block of columns; {name}: the name it has"));
+    rows_ = Field("txtRows", Tr("NameBoxesDialog", "Names of the rows"));
     rows_->setPlaceholderText("1, 2, 3 ...");
-    columns_ = Field("txtColumns", "Names of the columns");
-    columns_->setPlaceholderText("often, rarely, never");
+    columns_ = Field("txtColumns", Tr("NameBoxesDialog", "Names of the columns"));
+    columns_->setPlaceholderText(Tr("NameBoxesDialog", "often, rarely, never"));
     first_ = new QSpinBox;
     first_->setObjectName("numFirst");
-    first_->setAccessibleName("Counted from");
+    first_->setAccessibleName(Tr("NameBoxesDialog", "Counted from"));
     first_->setRange(0, 9999);
     first_->setValue(1);
     connect(first_, &QSpinBox::valueChanged, this, [this] { Update(); });
-    form->addRow("&Pattern", pattern_);
-    form->addRow("&Counted from", first_);
-    form->addRow("Names of the &rows", rows_);
-    form->addRow("Names of the co&lumns", columns_);
+    form->addRow(Tr("NameBoxesDialog", "&Pattern"), pattern_);
+    form->addRow(Tr("NameBoxesDialog", "&Counted from"), first_);
+    form->addRow(Tr("NameBoxesDialog", "Names of the &rows"), rows_);
+    form->addRow(Tr("NameBoxesDialog", "Names of the co&lumns"), columns_);
     return page;
 }
 
 QWidget* NameBoxesDialog::ListPage() {
     lines_ = new QPlainTextEdit;
     lines_->setObjectName("txtNames");
-    lines_->setAccessibleName("Names, one a line");
-    lines_->setPlaceholderText("One name a line, as a column of a table is pasted");
+    lines_->setAccessibleName(Tr("NameBoxesDialog", "Names, one a line"));
+    lines_->setPlaceholderText(Tr("NameBoxesDialog", "One name a line, as a column of a table is pasted"));
     lines_->setTabChangesFocus(true);
     connect(lines_, &QPlainTextEdit::textChanged, this, [this] { Update(); });
     auto* const suggest = new QPushButton("Su&ggest From Print");
@@ -105,23 +107,23 @@ QWidget* NameBoxesDialog::ListPage() {
 QWidget* NameBoxesDialog::ReplacePage() {
     auto* const page = new QWidget;
     auto* const form = new QFormLayout(page);
-    find_ = Field("txtFind", "Find");
-    replace_ = Field("txtReplace", "Replace with");
-    form->addRow("&Find", find_);
-    form->addRow("Replace &with", replace_);
+    find_ = Field("txtFind", Tr("NameBoxesDialog", "Find"));
+    replace_ = Field("txtReplace", Tr("NameBoxesDialog", "Replace with"));
+    form->addRow(Tr("NameBoxesDialog", "&Find"), find_);
+    form->addRow(Tr("NameBoxesDialog", "Replace &with"), replace_);
     return page;
 }
 
 void NameBoxesDialog::Build() {
     ways_->setObjectName("tabWays");
-    ways_->addTab(PatternPage(), "P&attern");
-    ways_->addTab(ListPage(), "Li&st");
-    ways_->addTab(ReplacePage(), "Find and Repla&ce");
+    ways_->addTab(PatternPage(), Tr("NameBoxesDialog", "P&attern"));
+    ways_->addTab(ListPage(), Tr("NameBoxesDialog", "Li&st"));
+    ways_->addTab(ReplacePage(), Tr("NameBoxesDialog", "Find and Repla&ce"));
     connect(ways_, &QTabWidget::currentChanged, this, [this] { Update(); });
-    auto* const across = new QRadioButton("Row &by row");
+    auto* const across = new QRadioButton(Tr("NameBoxesDialog", "Row &by row"));
     across->setObjectName("optAcross");
     across->setChecked(true);
-    down_ = new QRadioButton("Column by colu&mn");
+    down_ = new QRadioButton(Tr("NameBoxesDialog", "Column by colu&mn"));
     down_->setObjectName("optDown");
     connect(down_, &QRadioButton::toggled, this, [this] { Update(); });
     auto* const order = new QHBoxLayout;
@@ -134,14 +136,15 @@ void NameBoxesDialog::Build() {
     outcome_->setAlignment(Qt::AlignTop);
     outcome_->setTextFormat(Qt::PlainText);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    rename_ = buttons->addButton("&Name Them", QDialogButtonBox::AcceptRole);
+    rename_ = buttons->addButton(Tr("NameBoxesDialog", "&Name Them"), QDialogButtonBox::AcceptRole);
     rename_->setObjectName("cmdOK");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
     const bool isAll = numbers_.size() == profiles::KeptNumbers(boxes_).size();
-    layout->addWidget(new QLabel((isAll ? "All " : "The ") + QString::number(numbers_.size()) +
-                                 (isAll ? " boxes" : " selected boxes")));
+    layout->addWidget(new QLabel(
+        (isAll ? Tr("NameBoxesDialog", "All %1 boxes") : Tr("NameBoxesDialog", "The %1 selected boxes"))
+            .arg(numbers_.size())));
     layout->addWidget(ways_);
     layout->addLayout(order);
     layout->addWidget(outcome_);
@@ -211,7 +214,7 @@ void NameBoxesDialog::Update() {
         names_ = Asked();
     } catch (const std::invalid_argument& misspelt) {
         names_.clear();
-        outcome_->setText(ToQt(misspelt.what()));
+        outcome_->setText(Shown(misspelt.what()));
         rename_->setEnabled(false);
         preview_({}, {});
         return;
@@ -219,9 +222,9 @@ void NameBoxesDialog::Update() {
     const profiles::NameTroubles troubles = profiles::TroublesOf(boxes_, names_);
     QString text = Outcome(names_);
     for (std::size_t k = 0; k < std::min(kMostTroubles, troubles.texts.size()); ++k)
-        text += '\n' + ToQt(troubles.texts[k]);
+        text += '\n' + Shown(troubles.texts[k]);
     if (troubles.texts.size() > kMostTroubles)
-        text += "\n... and " + QString::number(troubles.texts.size() - kMostTroubles) + " more.";
+        text += '\n' + Tr("NameBoxesDialog", "... and %1 more.").arg(troubles.texts.size() - kMostTroubles);
     if (LosesCharacters())
         text += "\nDouble quotes, < and & are left out: no profile can hold them.";
     outcome_->setText(text);

@@ -12,6 +12,7 @@
 
 #include "ui/base/EmptyHint.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/page/PageImage.h"
 
 namespace tavrene::ui {
@@ -71,7 +72,7 @@ class ThumbnailStripView::Pages final : public QAbstractListModel {
         beginResetModel();
         pages_.clear();
         for (const profiles::StripThumbnail& thumbnail : thumbnails)
-            pages_.push_back({ToImage(*thumbnail.picture), ToQt(thumbnail.caption)});
+            pages_.push_back({ToImage(*thumbnail.picture), Shown(thumbnail.caption)});
         endResetModel();
     }
 
@@ -96,7 +97,7 @@ class ThumbnailStripView::Pages final : public QAbstractListModel {
 
 ThumbnailStripView::ThumbnailStripView(QWidget* parent) : QListView(parent), pages_(new Pages(this)) {
     setObjectName("ImgThumbnail1");
-    setAccessibleName("Profile specimens");
+    setAccessibleName(Tr("ThumbnailStripView", "Profile specimens"));
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -147,7 +148,7 @@ bool ThumbnailStripView::viewportEvent(QEvent* event) {
     const auto& help = dynamic_cast<const QHelpEvent&>(*event);
     const QModelIndex index = indexAt(help.pos());
     const QString name =
-        index.isValid() && listener_.toolTip ? ToQt(listener_.toolTip(index.row() + 1)) : QString();
+        index.isValid() && listener_.toolTip ? Shown(listener_.toolTip(index.row() + 1)) : QString();
     QToolTip::showText(help.globalPos(), ToolTipOf(name), viewport(), visualRect(index));
     return true;
 }
@@ -155,7 +156,8 @@ bool ThumbnailStripView::viewportEvent(QEvent* event) {
 void ThumbnailStripView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
     if (pages_->rowCount() == 0)
-        PaintEmptyHint(*viewport(), "No profiles yet.\nNew makes one from the image of a blank form.");
+        PaintEmptyHint(*viewport(), Tr("ThumbnailStripView",
+                                       "No profiles yet.\nNew makes one from the image of a blank form."));
 }
 
 }  // namespace tavrene::ui

@@ -6,25 +6,28 @@
 #include <array>
 
 #include "ui/base/CalmWheel.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
 
-constexpr std::array kKinds = {"All forms", "Not reviewed", "In doubt"};
+constexpr std::array kKinds = {QT_TRANSLATE_NOOP("FilterBar", "All forms"),
+                               QT_TRANSLATE_NOOP("FilterBar", "Not reviewed"),
+                               QT_TRANSLATE_NOOP("FilterBar", "In doubt")};
 
 }  // namespace
 
 FilterBar::FilterBar(QWidget* parent)
     : QWidget(parent), kind_(new QComboBox(this)), text_(new QLineEdit(this)) {
     kind_->setObjectName("cboFilter");
-    kind_->setAccessibleName("Which forms the list shows");
-    kind_->setToolTip("Which forms the list shows");
+    kind_->setAccessibleName(Tr("FilterBar", "Which forms the list shows"));
+    kind_->setToolTip(Tr("FilterBar", "Which forms the list shows"));
     kind_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     for (const char* const kind : kKinds)
-        kind_->addItem(kind);
+        kind_->addItem(Tr("FilterBar", kind));
     text_->setObjectName("txtFilter");
-    text_->setAccessibleName("Text that the names of the forms hold");
-    text_->setPlaceholderText("Name holds...");
+    text_->setAccessibleName(Tr("FilterBar", "Text that the names of the forms hold"));
+    text_->setPlaceholderText(Tr("FilterBar", "Name holds..."));
     text_->setClearButtonEnabled(true);
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
@@ -42,7 +45,7 @@ void FilterBar::OfferProfiles(const QStringList& names) {
         while (kind_->count() > static_cast<int>(kKinds.size()))
             kind_->removeItem(kind_->count() - 1);
         for (const QString& name : names)
-            kind_->addItem("Profile " + name, name);
+            kind_->addItem(Tr("FilterBar", "Profile %1").arg(name), name);
         kind_->setCurrentIndex(std::max(0, kind_->findText(chosen)));
     }
     if (kind_->currentText() != chosen)

@@ -26,7 +26,7 @@ ReviewListView::ReviewListView(QWidget* parent)
       lines_(new ReviewTable(this, font(), fontMetrics().height() + kRowMargin)),
       shown_(new ShownLines(this, *lines_)) {
     setObjectName("lvwReview");
-    setAccessibleName("Processed forms");
+    setAccessibleName(Tr("ReviewListView", "Processed forms"));
     setFrameShape(QFrame::NoFrame);
     setIndentation(kTickMargin);
     setItemsExpandable(false);
@@ -124,6 +124,10 @@ std::optional<std::size_t> ReviewListView::SelectedLine() const {
     return current.isValid() ? std::optional(static_cast<std::size_t>(current.row())) : std::nullopt;
 }
 
+bool ReviewListView::IsOpen(const QModelIndex& shown) const {
+    return shown_->mapToSource(shown).row() == lines_->OpenRow();
+}
+
 void ReviewListView::MarkOpen(std::optional<std::size_t> line) {
     const int row = line ? static_cast<int>(*line) : -1;
     if (row == lines_->OpenRow())
@@ -158,9 +162,11 @@ void ReviewListView::keyPressEvent(QKeyEvent* event) {
 void ReviewListView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
     if (lines_->rowCount() == 0)
-        PaintEmptyHint(*viewport(), "No processed forms are waiting.\nProcess reads new scans.");
+        PaintEmptyHint(*viewport(),
+                       Tr("ReviewListView", "No processed forms are waiting.\nProcess reads new scans."));
     else if (shown_->rowCount() == 0)
-        PaintEmptyHint(*viewport(), "No form is like this.\nChoose All forms above to see the others.");
+        PaintEmptyHint(*viewport(), Tr("ReviewListView",
+                                       "No form is like this.\nChoose All forms above to see the others."));
 }
 
 }  // namespace tavrene::ui

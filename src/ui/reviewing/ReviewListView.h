@@ -40,6 +40,9 @@ class ReviewListView final : public QTreeView, public review::ReviewLines {
     /// The current line, counted from 0.
     std::optional<std::size_t> SelectedLine() const;
 
+    /// Whether a line that is shown is that of the open form.
+    bool IsOpen(const QModelIndex& shown) const;
+
     /// Makes the line of the open form stand out, wherever the selection is.
     void MarkOpen(std::optional<std::size_t> line);
 

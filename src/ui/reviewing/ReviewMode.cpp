@@ -261,9 +261,10 @@ void ReviewMode::Update() {
     controls_.pane.Unread().Update([this](Command command) { return gate_.Offers(command); });
     marks_.SetActive(session_.HasForm());
     controls_.view.SetHint(inReview
-                               ? "Choose a form on the left: a click or Enter opens it."
-                               : "Choose a profile on the left, make one with New,\n"
-                                 "or press Process to read the scans that wait in the folder ProcessIn.");
+                               ? Tr("ReviewMode", "Choose a form on the left: a click or Enter opens it.")
+                               : Tr("ReviewMode",
+                                    "Choose a profile on the left, make one with New,\n"
+                                    "or press Process to read the scans that wait in the folder ProcessIn."));
     controls_.pane.List().MarkOpen(session_.OpenLine());
     // With the form all that had its keys is gone; Enter opens the next one. A list of files, whose line took
     // the form's place on the page, goes on by itself.

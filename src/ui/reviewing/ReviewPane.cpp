@@ -12,8 +12,8 @@ namespace tavrene::ui {
 
 ReviewChoice::ReviewChoice(QWidget* parent) : QComboBox(parent) {
     setObjectName("cboProfiles");
-    setAccessibleName("Profile to read the form against");
-    setToolTip("Reads the open form again, against another profile");
+    setAccessibleName(Tr("ReviewPane", "Profile to read the form against"));
+    setToolTip(Tr("ReviewPane", "Reads the open form again, against another profile"));
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(8);
     setEnabled(false);
@@ -64,24 +64,25 @@ ReviewPane::ReviewPane(QWidget* parent)
       tabs_(new QTabWidget(this)) {
     setObjectName("ReviewPane");
     tabs_->setObjectName("tabReview");
-    tabs_->setAccessibleName("Processed pages");
+    tabs_->setAccessibleName(Tr("ReviewPane", "Processed pages"));
     tabs_->setDocumentMode(true);
     auto* const forms = new QWidget;
     QVBoxLayout* const below = ControlsBelow(forms, list_, filter_);
     filter_->SetListener([this](FormFilter filter) { list_->SetFilter(std::move(filter)); },
                          [this] { list_->setFocus(); });
-    auto* const title = new QLabel("Read a&gainst profile:", this);
+    auto* const title = new QLabel(Tr("ReviewPane", "Read a&gainst profile:"), this);
     title->setBuddy(choice_);
     below->addWidget(title);
     below->addWidget(choice_);
-    tabs_->addTab(forms, "Forms");
-    tabs_->addTab(unread_, "Not read");
+    tabs_->addTab(forms, Tr("ReviewPane", "Forms"));
+    tabs_->addTab(unread_, Tr("ReviewPane", "Not read"));
     FillingColumn(this)->addWidget(tabs_);
 }
 
 void ReviewPane::ShowUnread(const std::vector<review::UnreadPage>& pages) {
     unread_->Show(pages);
-    tabs_->setTabText(1, pages.empty() ? "Not read" : QString("Not read (%1)").arg(pages.size()));
+    tabs_->setTabText(1, pages.empty() ? Tr("ReviewPane", "Not read")
+                                       : Tr("ReviewPane", "Not read (%1)").arg(pages.size()));
 }
 
 void ReviewPane::ShowFilter() {

@@ -19,7 +19,7 @@ QString TextOf(const review::ReviewLine& line, int column) {
         case ReviewTable::kDoubts:
             return line.Doubts ? QString::number(*line.Doubts) : QString();
         default:
-            return line.Reviewed ? "yes" : "";
+            return line.Reviewed ? Tr("ReviewTable", "yes") : QString();
     }
 }
 
@@ -95,10 +95,13 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ReviewTable::headerData(int section, Qt::Orientation, int role) const {
-    static constexpr const char* kTitles[kColumns] = {"Form", "Confidence", "Profile", "Doubts", "Reviewed"};
+    static constexpr const char* kTitles[kColumns] = {
+        QT_TRANSLATE_NOOP("ReviewTable", "Form"), QT_TRANSLATE_NOOP("ReviewTable", "Confidence"),
+        QT_TRANSLATE_NOOP("ReviewTable", "Profile"), QT_TRANSLATE_NOOP("ReviewTable", "Doubts"),
+        QT_TRANSLATE_NOOP("ReviewTable", "Reviewed")};
     if (role == Qt::TextAlignmentRole && IsCentred(section))
         return Qt::AlignCenter;
-    return role == Qt::DisplayRole ? QVariant(kTitles[section]) : QVariant();
+    return role == Qt::DisplayRole ? QVariant(Tr("ReviewTable", kTitles[section])) : QVariant();
 }
 
 void ReviewTable::TellChanged(int row) {

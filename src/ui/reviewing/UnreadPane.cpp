@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "ui/base/PaneParts.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
@@ -15,9 +16,10 @@ constexpr int kNameWidth = 150;
 constexpr int kReasonWidth = 360;
 
 ReasonList* MakeList(QWidget* parent) {
-    auto* const list = new ReasonList({"Page", "Reason"}, "Every page of ProcessOut has been read.", parent);
+    auto* const list = new ReasonList({Tr("UnreadPane", "Page"), Tr("UnreadPane", "Reason")},
+                                      Tr("UnreadPane", "Every page of ProcessOut has been read."), parent);
     list->setObjectName("lvwUnread");
-    list->setAccessibleName("Pages that were not read");
+    list->setAccessibleName(Tr("UnreadPane", "Pages that were not read"));
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->header()->resizeSection(0, kNameWidth);
     list->header()->resizeSection(1, kReasonWidth);
@@ -29,10 +31,10 @@ ReasonList* MakeList(QWidget* parent) {
 UnreadPane::UnreadPane(QWidget* parent) : QWidget(parent), list_(MakeList(this)) {
     QVBoxLayout* const below = ControlsBelow(this, list_);
     below->setSpacing(6);
-    const std::pair<Command, const char*> buttons[] = {
-        {Command::BackToProcessIn, "Bac&k to ProcessIn"},
-        {Command::AllBackToProcessIn, "&All Back to ProcessIn"},
-        {Command::ProcessUnread, "Process A&ll Again"}};
+    const std::pair<Command, QString> buttons[] = {
+        {Command::BackToProcessIn, Tr("UnreadPane", "Bac&k to ProcessIn")},
+        {Command::AllBackToProcessIn, Tr("UnreadPane", "&All Back to ProcessIn")},
+        {Command::ProcessUnread, Tr("UnreadPane", "Process A&ll Again")}};
     for (const auto& [command, text] : buttons) {
         auto* const button = new QPushButton(text, this);
         connect(button, &QPushButton::clicked, this, [this, pressed = command] { pressed_(pressed); });

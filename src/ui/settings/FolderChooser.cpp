@@ -54,12 +54,12 @@ bool LiesOn(const QString& folder, const QString& drive) {
 FolderChooser::FolderChooser()
     : drives_(new QComboBox), folders_(new QListWidget), path_(new QLineEdit), missing_(new QLabel) {
     drives_->setObjectName("Drive1");
-    drives_->setAccessibleName("Drive");
+    drives_->setAccessibleName(Tr("FolderChooser", "Drive"));
     folders_->setObjectName("Dir1");
-    folders_->setAccessibleName("Working folder");
+    folders_->setAccessibleName(Tr("FolderChooser", "Working folder"));
     folders_->setIconSize({16, 16});
     path_->setObjectName("txtFolder");
-    path_->setAccessibleName("Path of the working folder");
+    path_->setAccessibleName(Tr("FolderChooser", "Path of the working folder"));
     missing_->setObjectName("lblFolder");
     missing_->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
@@ -87,9 +87,9 @@ FolderChooser::FolderChooser()
 }
 
 QLayout* FolderChooser::Buttons() {
-    auto* const browse = new QPushButton("&Browse...");
+    auto* const browse = new QPushButton(Tr("FolderChooser", "&Browse..."));
     browse->setObjectName("cmdBrowse");
-    auto* const make = new QPushButton("&New Folder...");
+    auto* const make = new QPushButton(Tr("FolderChooser", "&New Folder..."));
     make->setObjectName("cmdNewFolder");
     auto* const row = new QHBoxLayout;
     for (QPushButton* const button : {browse, make}) {
@@ -103,23 +103,27 @@ QLayout* FolderChooser::Buttons() {
 }
 
 void FolderChooser::Browse() {
-    const QString chosen = QFileDialog::getExistingDirectory(
-        this, "Working Folder", current_, QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, Tr("FolderChooser", "Working Folder"), current_,
+                                          QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!chosen.isEmpty())
         GoTo(chosen);
 }
 
 void FolderChooser::MakeFolder() {
     const QString name =
-        QInputDialog::getText(this, "New Folder", "Name of the new folder in\n" + current_ + ":").trimmed();
+        QInputDialog::getText(this, Tr("FolderChooser", "New Folder"),
+                              Tr("FolderChooser", "Name of the new folder in\n%1:").arg(current_))
+            .trimmed();
     if (name.isEmpty())
         return;
     if (QDir(current_).mkdir(name))
         GoTo(QDir(current_).filePath(name));
     else
-        QMessageBox::warning(this, "New Folder",
-                             "The folder " + name + " cannot be made in " + current_ +
-                                 ". Choose another name or another place.");
+        QMessageBox::warning(
+            this, Tr("FolderChooser", "New Folder"),
+            Tr("FolderChooser", "The folder %1 cannot be made in %2. Choose another name or another place.")
+                .arg(name, current_));
 }
 
 // The list opens a folder on Enter but passes the key on, as the line does, which would press the dialog's
@@ -149,7 +153,8 @@ void FolderChooser::GoTo(const QString& folder) {
     const QString shown = NearestExisting(whole);
     Choose(whole);
     FillFolders(shown);
-    missing_->setText("This folder is not there. Choose another one, or make it with New Folder.");
+    missing_->setText(
+        Tr("FolderChooser", "This folder is not there. Choose another one, or make it with New Folder."));
     missing_->setVisible(shown != current_);
     int best = 0;
     for (int i = 1; i < drives_->count(); ++i) {

@@ -19,7 +19,7 @@ SettingsDialog::SettingsDialog(app::Settings& settings, app::SettingsStore& stor
       files_(files),
       isFirstStart_(settings.WorkDir.empty()) {
     setObjectName("frmSettings");
-    setWindowTitle("Configuration Settings");
+    setWindowTitle(Tr("SettingsDialog", "Configuration Settings"));
     Build();
     LoadFolder();
     LoadSizes();
@@ -41,8 +41,9 @@ void SettingsDialog::TakeSamples() {
         return;
     folder_->GoTo(folder);
     welcome_->setText(
-        "The samples are in the folder below. Press Save, and then Process in the window: it "
-        "reads the scans. Review shows what was read.");
+        Tr("SettingsDialog",
+           "The samples are in the folder below. Press Save, and then Process in the window: it "
+           "reads the scans. Review shows what was read."));
 }
 
 void SettingsDialog::LoadSizes() {

@@ -27,7 +27,7 @@ QLabel* HelpLabel(const QString& text) {
     return label;
 }
 
-QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, const char* accessibleName, int lowest,
+QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, const QString& accessibleName, int lowest,
                     int highest) {
     auto* const bar = new QScrollBar(orientation);
     bar->setObjectName(name);
@@ -52,8 +52,8 @@ QSpinBox* MakeNumber(const QString& name, const QString& accessibleName, int low
 }
 
 // A preview with its caption above it, its two bars along its lower and right edge, and the numbers below.
-QLayout* PreviewBlock(const char* caption, BoxPreview* preview, QScrollBar* widthBar, QScrollBar* heightBar,
-                      QLayout* numbers) {
+QLayout* PreviewBlock(const QString& caption, BoxPreview* preview, QScrollBar* widthBar,
+                      QScrollBar* heightBar, QLayout* numbers) {
     auto* const layout = new QGridLayout;
     layout->setSpacing(4);
     widthBar->setFixedWidth(BoxPreview::kSide);
@@ -103,22 +103,22 @@ QWidget* SettingsDialog::Frames() {
 
 void SettingsDialog::BuildBars() {
     using commands::BoxSizeBars;
-    const auto make = [this](Bar bar, Qt::Orientation orientation, const char* name, const char* meaning) {
+    const auto make = [this](Bar bar, Qt::Orientation orientation, const char* name, const QString& meaning) {
         QScrollBar* const control =
             MakeBar(orientation, name, meaning, BoxSizeBars::kLowest, BoxSizeBars::kHighest);
         bars_[static_cast<std::size_t>(bar)] = control;
         connect(control, &QScrollBar::valueChanged, this,
                 [this, bar](int position) { MoveBar(bar, position); });
     };
-    make(Bar::MinWidth, Qt::Horizontal, "HScroll1", "Minimum box width");
-    make(Bar::MinHeight, Qt::Vertical, "VScroll1", "Minimum box height");
-    make(Bar::MaxWidth, Qt::Horizontal, "HScroll2", "Maximum box width");
-    make(Bar::MaxHeight, Qt::Vertical, "VScroll2", "Maximum box height");
+    make(Bar::MinWidth, Qt::Horizontal, "HScroll1", Tr("SettingsDialog", "Minimum box width"));
+    make(Bar::MinHeight, Qt::Vertical, "VScroll1", Tr("SettingsDialog", "Minimum box height"));
+    make(Bar::MaxWidth, Qt::Horizontal, "HScroll2", Tr("SettingsDialog", "Maximum box width"));
+    make(Bar::MaxHeight, Qt::Vertical, "VScroll2", Tr("SettingsDialog", "Maximum box height"));
     smallest_ = new BoxPreview("Picture1");
-    smallest_->setAccessibleName("Minimum box");
+    smallest_->setAccessibleName(Tr("SettingsDialog", "Minimum box"));
     largest_ = new BoxPreview("Picture2");
-    largest_->setAccessibleName("Maximum box");
-    sizeLabel_ = new QLabel("Size");
+    largest_->setAccessibleName(Tr("SettingsDialog", "Maximum box"));
+    sizeLabel_ = new QLabel(Tr("SettingsDialog", "Size"));
     sizeLabel_->setObjectName("lblSize");
     sizeLabel_->setAlignment(Qt::AlignCenter);
 }
@@ -127,7 +127,8 @@ void SettingsDialog::BuildNumbers() {
     for (const Bar bar : commands::kAllBars) {
         const QScrollBar* const control = BarOf(bar);
         QSpinBox* const number =
-            MakeNumber("num" + control->objectName(), control->accessibleName() + " in pixels",
+            MakeNumber("num" + control->objectName(),
+                       Tr("SettingsDialog", "%1 in pixels").arg(control->accessibleName()),
                        commands::BoxSizeBars::kLowest, commands::BoxSizeBars::MostPixels(bar));
         numbers_[static_cast<std::size_t>(bar)] = number;
         connect(number, &QSpinBox::valueChanged, this, [this, bar](int pixels) {
@@ -147,11 +148,13 @@ QLayout* SettingsDialog::SizeNumbers(Bar width, Bar height) {
 }
 
 void SettingsDialog::BuildProcessingControls() {
-    display_ = new QCheckBox("Display Image/Results during extraction process");
+    display_ = new QCheckBox(Tr("SettingsDialog", "Display Image/Results during extraction process"));
     display_->setObjectName("chkDisplayDuringProcess");
-    single_ = new QCheckBox("Process single image at a time when PROCESS button is pressed");
+    single_ =
+        new QCheckBox(Tr("SettingsDialog", "Process single image at a time when PROCESS button is pressed"));
     single_->setObjectName("chkProcessSingle");
-    threshold_ = MakeBar(Qt::Horizontal, "HScroll3", "Fill threshold in percent", 1, 100);
+    threshold_ =
+        MakeBar(Qt::Horizontal, "HScroll3", Tr("SettingsDialog", "Fill threshold in percent"), 1, 100);
     thresholdLabel_ = new QLabel;
     thresholdLabel_->setObjectName("lblThreshold");
     thresholdLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -166,15 +169,16 @@ void SettingsDialog::BuildProcessingControls() {
 
 QWidget* SettingsDialog::PathFrame() {
     folder_ = new FolderChooser;
-    auto* const frame = new QGroupBox("Working Path");
+    auto* const frame = new QGroupBox(Tr("SettingsDialog", "Working Path"));
     auto* const layout = new QVBoxLayout(frame);
     layout->setSpacing(kSpacing);
     if (isFirstStart_)
         layout->addWidget(Welcome());
     layout->addWidget(
-        HelpLabel("Please select a suitable working folder for your application. "
-                  "The required sub-folders will be automatically created within the selected "
-                  "working folder."));
+        HelpLabel(Tr("SettingsDialog",
+                     "Please select a suitable working folder for your application. "
+                     "The required sub-folders will be automatically created within the selected "
+                     "working folder.")));
     layout->addWidget(folder_, 1);
     return frame;
 }
@@ -182,14 +186,16 @@ QWidget* SettingsDialog::PathFrame() {
 // There is no working folder yet, and the person has perhaps never seen the program.
 QWidget* SettingsDialog::Welcome() {
     welcome_ = HelpLabel(
-        "<b>Welcome.</b> The profiles of your forms, the scans and the results lie in one working folder. "
-        "Type its "
-        "path, click it in the list, or make a new one.");
+        Tr("SettingsDialog",
+           "<b>Welcome.</b> The profiles of your forms, the scans and the results lie in one working folder. "
+           "Type its "
+           "path, click it in the list, or make a new one."));
     welcome_->setObjectName("lblWelcome");
-    auto* const samples = new QPushButton("&Try with Samples...");
+    auto* const samples = new QPushButton(Tr("SettingsDialog", "&Try with Samples..."));
     samples->setObjectName("cmdSamples");
     samples->setToolTip(
-        "Copies sample forms and scans to a folder of your choice, to try the program on them");
+        Tr("SettingsDialog",
+           "Copies sample forms and scans to a folder of your choice, to try the program on them"));
     samples->setAutoDefault(false);
     samples->setVisible(!SamplesFolder().isEmpty());
     connect(samples, &QPushButton::clicked, this, [this] { TakeSamples(); });
@@ -202,45 +208,48 @@ QWidget* SettingsDialog::Welcome() {
 }
 
 QWidget* SettingsDialog::SizeFrame() {
-    auto* const reset = new QPushButton("Reset to Default");
+    auto* const reset = new QPushButton(Tr("SettingsDialog", "Reset to Default"));
     reset->setObjectName("cmdReset");
     reset->setAutoDefault(false);
     connect(reset, &QPushButton::clicked, this, [this] { Reset(); });
     auto* const previews = new QHBoxLayout;
     previews->addStretch();
-    previews->addLayout(PreviewBlock("MIN", smallest_, BarOf(Bar::MinWidth), BarOf(Bar::MinHeight),
-                                     SizeNumbers(Bar::MinWidth, Bar::MinHeight)));
+    previews->addLayout(PreviewBlock(Tr("SettingsDialog", "MIN"), smallest_, BarOf(Bar::MinWidth),
+                                     BarOf(Bar::MinHeight), SizeNumbers(Bar::MinWidth, Bar::MinHeight)));
     previews->addSpacing(24);
-    previews->addLayout(PreviewBlock("MAX", largest_, BarOf(Bar::MaxWidth), BarOf(Bar::MaxHeight),
-                                     SizeNumbers(Bar::MaxWidth, Bar::MaxHeight)));
+    previews->addLayout(PreviewBlock(Tr("SettingsDialog", "MAX"), largest_, BarOf(Bar::MaxWidth),
+                                     BarOf(Bar::MaxHeight), SizeNumbers(Bar::MaxWidth, Bar::MaxHeight)));
     previews->addStretch();
-    auto* const frame = new QGroupBox("Box Size");
+    auto* const frame = new QGroupBox(Tr("SettingsDialog", "Box Size"));
     auto* const layout = new QVBoxLayout(frame);
     layout->setSpacing(kSpacing);
     layout->addLayout(previews);
     layout->addWidget(sizeLabel_);
     layout->addWidget(reset, 0, Qt::AlignHCenter);
     layout->addWidget(
-        HelpLabel("This box size is used for Profiling only. "
-                  "You may choose to vary the box size that best fits a profile you wish to create. "
-                  "You are free to change this for every new profile. "
-                  "Once a profile is created, the size(s) information here becomes irrelevant since "
-                  "it is not used during recognition of filled images. "
-                  "Effectively, this gives you the capability to create profiles with different box "
-                  "sizes."),
+        HelpLabel(Tr("SettingsDialog",
+                     "This box size is used for Profiling only. "
+                     "You may choose to vary the box size that best fits a profile you wish to create. "
+                     "You are free to change this for every new profile. "
+                     "Once a profile is created, the size(s) information here becomes irrelevant since "
+                     "it is not used during recognition of filled images. "
+                     "Effectively, this gives you the capability to create profiles with different box "
+                     "sizes.")),
         1);
     return frame;
 }
 
 QWidget* SettingsDialog::ProcessingFrame() {
-    auto* const frame = new QGroupBox("Processing");
+    auto* const frame = new QGroupBox(Tr("SettingsDialog", "Processing"));
     auto* const layout = new QGridLayout(frame);
     layout->setVerticalSpacing(kSpacing);
     layout->addWidget(display_, 0, 0, 1, 2);
     layout->addWidget(single_, 1, 0, 1, 2);
-    layout->addWidget(HelpLabel("Fill Threshold Percentage - The level at which a box is considered filled. "
-                                "Default = 8."),
-                      2, 0, 1, 2);
+    layout->addWidget(
+        HelpLabel(Tr("SettingsDialog",
+                     "Fill Threshold Percentage - The level at which a box is considered filled. "
+                     "Default = 8.")),
+        2, 0, 1, 2);
     layout->addWidget(threshold_, 3, 0);
     layout->addWidget(thresholdLabel_, 3, 1);
     layout->addWidget(thresholdNumber_, 3, 2);
@@ -249,17 +258,16 @@ QWidget* SettingsDialog::ProcessingFrame() {
 }
 
 QWidget* SettingsDialog::Buttons() {
-    auto* const save = new QPushButton("&Save");
+    auto* const save = new QPushButton(Tr("SettingsDialog", "&Save"));
     save->setObjectName("cmdOK");
     save->setDefault(true);
-    auto* const cancel = new QPushButton("&Cancel");
+    auto* const cancel = new QPushButton(Tr("SettingsDialog", "&Cancel"));
     cancel->setObjectName("cmdCancel");
     cancel->setAutoDefault(false);
     // Some folder has to be the working folder, so the first start takes the one that the program runs in.
-    const QString cancelDoes =
-        isFirstStart_
-            ? "Cancel keeps " + QDir::toNativeSeparators(folder_->CurrentFolder()) + " as the working folder."
-            : "Closes the dialog; nothing is changed.";
+    const QString cancelDoes = isFirstStart_ ? Tr("SettingsDialog", "Cancel keeps %1 as the working folder.")
+                                                   .arg(QDir::toNativeSeparators(folder_->CurrentFolder()))
+                                             : Tr("SettingsDialog", "Closes the dialog; nothing is changed.");
     cancel->setToolTip(ToolTipOf(cancelDoes));
     auto* const note = new QLabel(isFirstStart_ ? cancelDoes : QString());
     note->setObjectName("lblCancel");

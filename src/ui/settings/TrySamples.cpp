@@ -9,6 +9,7 @@
 #include "profiles/SampleForms.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -35,9 +36,9 @@ QString SamplesFolder() {
 }
 
 QString TrySamples(QWidget* parent, app::Files& files) {
-    const QString picked =
-        QFileDialog::getExistingDirectory(parent, "Folder for the Samples", QDir::homePath(),
-                                          QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    const QString picked = QFileDialog::getExistingDirectory(
+        parent, Tr("TrySamples", "Folder for the Samples"), QDir::homePath(),
+        QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (picked.isEmpty())
         return {};
     const BusyCursor busy;
@@ -49,7 +50,8 @@ QString TrySamples(QWidget* parent, app::Files& files) {
         return folder;
     } catch (const std::exception& failure) {
         const UsualCursor usual;
-        QMessageBox::warning(parent, "Try with Samples", ToQt(failure.what()) + "\nChoose another folder.");
+        QMessageBox::warning(parent, Tr("TrySamples", "Try with Samples"),
+                             Shown(failure.what()) + '\n' + Tr("TrySamples", "Choose another folder."));
         return {};
     }
 }

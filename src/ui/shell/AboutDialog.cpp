@@ -38,31 +38,39 @@ std::optional<Tool> SystemInformationTool() {
     return std::nullopt;
 }
 
+QString Line(const QString& library, const QString& licence) {
+    return "<tr><td>" + library + "</td><td>" + licence + "</td></tr>";
+}
+
+QString Libraries() {
+    const QString poppler =
+        TAVRENE_WITH_PDF ? Line("Poppler", Tr("AboutDialog", "GNU GPL, version 2 or 3")) : QString();
+    return "<table cellpadding='2'>" +
+           Line(QString("Qt ") + qVersion(), Tr("AboutDialog", "GNU LGPL, version 3")) +
+           Line("FreeImage", Tr("AboutDialog", "FreeImage Public License or GNU GPL")) +
+           Line("libtiff", Tr("AboutDialog", "libtiff licence")) +
+           Line("libxlsxwriter", Tr("AboutDialog", "BSD licence")) +
+           Line("pugixml", Tr("AboutDialog", "MIT licence")) + poppler + "</table>";
+}
+
 QString Text() {
     // One of the libraries has a licence that holds for the program that is made with it.
-    const QString licence = TAVRENE_WITH_PDF ? "Its source is free under the MIT licence. This program is "
-                                               "made with Poppler<br>and is given away "
-                                               "under the GNU GPL, version 2 or 3."
-                                             : "Free software under the MIT licence.";
-    const QString poppler =
-        TAVRENE_WITH_PDF ? "<tr><td>Poppler</td><td>GNU GPL, version 2 or 3</td></tr>" : "";
-    return QString(
-               "<h3>%1</h3><p>Version %2</p><p>Reads the check boxes of scanned paper forms.</p>"
-               "<p>%4 It stands on these libraries:</p>"
-               "<table cellpadding='2'>"
-               "<tr><td>Qt %3</td><td>GNU LGPL, version 3</td></tr>"
-               "<tr><td>FreeImage</td><td>FreeImage Public License or GNU GPL</td></tr>"
-               "<tr><td>libtiff</td><td>libtiff licence</td></tr>"
-               "<tr><td>libxlsxwriter</td><td>BSD licence</td></tr>"
-               "<tr><td>pugixml</td><td>MIT licence</td></tr>%5</table>")
-        .arg(ToQt(app::kApplicationName), QApplication::applicationVersion(), qVersion(), licence, poppler);
+    const QString licence = TAVRENE_WITH_PDF
+                                ? Tr("AboutDialog",
+                                     "Its source is free under the MIT licence. This program is made with "
+                                     "Poppler<br>and is given away under the GNU GPL, version 2 or 3.")
+                                : Tr("AboutDialog", "Free software under the MIT licence.");
+    return "<h3>" + ToQt(app::kApplicationName) + "</h3><p>" +
+           Tr("AboutDialog", "Version %1").arg(QApplication::applicationVersion()) + "</p><p>" +
+           Tr("AboutDialog", "Reads the check boxes of scanned paper forms.") + "</p><p>" + licence + ' ' +
+           Tr("AboutDialog", "It stands on these libraries:") + "</p>" + Libraries();
 }
 
 }  // namespace
 
 AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
     setObjectName("frmAbout");
-    setWindowTitle("About " + ToQt(app::kApplicationName));
+    setWindowTitle(Tr("AboutDialog", "About %1").arg(ToQt(app::kApplicationName)));
     auto* const picture = new QLabel;
     picture->setPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
     auto* const text = new QLabel(Text());
@@ -74,7 +82,8 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
     row->addWidget(text, 1);
 
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton* const machine = buttons->addButton("&System Information...", QDialogButtonBox::ActionRole);
+    QPushButton* const machine =
+        buttons->addButton(Tr("AboutDialog", "&System Information..."), QDialogButtonBox::ActionRole);
     machine->setObjectName("cmdSysInfo");
     machine->setAutoDefault(false);
     const std::optional<Tool> tool = SystemInformationTool();

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <clocale>
 
 #include "app/Startup.h"
 #include "ui/base/QtText.h"
@@ -11,6 +12,7 @@
 #include "ui/look/FocusRing.h"
 #include "ui/page/PageAccess.h"
 #include "ui/settings/SettingsDialog.h"
+#include "ui/shell/Language.h"
 
 namespace tavrene::ui {
 namespace {
@@ -22,6 +24,10 @@ QString ConfigFolder() {
 }  // namespace
 
 void PrepareApplication() {
+    // The toolkit has taken the person's over: commas for points in what the libraries write, and reasons in
+    // the logs that change with the desktop's language.
+    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_MESSAGES, "C");
     QApplication::setApplicationName(ToQt(app::kApplicationName));
     QApplication::setApplicationVersion(TAVRENE_VERSION);
     QApplication::setStyle(new CalmStyle);
@@ -38,6 +44,7 @@ Composition::Composition()
     : store_(ConfigFolder()), instance_(ConfigFolder() + '/' + ToQt(app::kApplicationName)) {}
 
 bool Composition::Start() {
+    SpeakChosenLanguage(store_);
     const app::StartupContext context = {
         store_, files_, [this] { return instance_.Become(); },
         [this](app::Settings& settings) { SettingsDialog(settings, store_, files_, nullptr).exec(); },
@@ -57,8 +64,10 @@ bool Composition::MayUseFolder() {
     folder_.emplace(settings_.WorkDir);
     return folder_->Take(app::FolderLock::Use::Alone) ||
            QMessageBox::question(nullptr, ToQt(app::kApplicationName),
-                                 ToQt("Another program, tavrene-batch for one, is working on the forms in " +
-                                      settings_.WorkDir + ".\nOpen the window all the same?"),
+                                 Tr("Composition",
+                                    "Another program, tavrene-batch for one, is working on the forms in "
+                                    "%1.\nOpen the window all the same?")
+                                     .arg(ToQt(settings_.WorkDir)),
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -47,12 +47,17 @@ void ContextMenu::ShowAt(const QPoint& place) {
         menu->popup(place);
 }
 
-ContextMenu::Target ClickedLine(QAbstractItemView& list) {
-    return [&list](const QContextMenuEvent& asked) -> std::optional<QPoint> {
+ContextMenu::Target ClickedLine(QAbstractItemView& list,
+                                std::function<bool(const QModelIndex& line)> isOpen) {
+    return [&list, isOpen = std::move(isOpen)](const QContextMenuEvent& asked) -> std::optional<QPoint> {
         const QModelIndex line = LineAskedFor(list, asked);
         if (!line.isValid())
             return std::nullopt;
         const QPoint place = MenuPlace(list, line, asked);
+        if (isOpen(line)) {
+            list.setCurrentIndex(line);
+            return place;
+        }
         // The click may fill the list anew, or ask a question whose answer keeps another line.
         const int row = line.row();
         Q_EMIT list.clicked(line);

@@ -35,8 +35,9 @@ class ContextMenu final : public QObject {
     QList<QAction*> actions_;
 };
 
-/// A line of a list whose click opens what it stands for.
-ContextMenu::Target ClickedLine(QAbstractItemView& list);
+/// A line of a list whose click opens what it stands for. `isOpen` tells of which line that is open already:
+/// it is not clicked again, for that would ask about changes and read the file anew.
+ContextMenu::Target ClickedLine(QAbstractItemView& list, std::function<bool(const QModelIndex& line)> isOpen);
 
 /// A line of a list that is only to be the selected one.
 ContextMenu::Target SelectedLine(QAbstractItemView& list);

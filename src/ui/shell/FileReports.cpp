@@ -17,12 +17,12 @@ FileReports::FileReports(QWidget* window, const QWidget& page)
     // run.
     setAttribute(Qt::WA_ShowWithoutActivating);
     lines_->setObjectName("Lines");
-    lines_->setAccessibleName("Files that could not be used");
+    lines_->setAccessibleName(Tr("FileReports", "Files that could not be used"));
     lines_->setReadOnly(true);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel("These files could not be used:"));
+    layout->addWidget(new QLabel(Tr("FileReports", "These files could not be used:")));
     layout->addWidget(lines_);
     layout->addWidget(buttons);
 }

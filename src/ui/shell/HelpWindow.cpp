@@ -28,13 +28,13 @@ std::vector<commands::ManualPage> ReadPages() {
 HelpWindow::HelpWindow(QWidget* window)
     : QDialog(window), contents_(new QListWidget), text_(new QTextBrowser) {
     setObjectName("frmManual");
-    setWindowTitle("Manual");
+    setWindowTitle(Tr("HelpWindow", "Manual"));
     contents_->setObjectName("Contents");
-    contents_->setAccessibleName("Pages of the manual");
+    contents_->setAccessibleName(Tr("HelpWindow", "Pages of the manual"));
     contents_->setFrameShape(QFrame::NoFrame);
     contents_->setSpacing(3);
     text_->setObjectName("Page");
-    text_->setAccessibleName("Page of the manual");
+    text_->setAccessibleName(Tr("HelpWindow", "Page of the manual"));
     text_->setFrameShape(QFrame::NoFrame);
     text_->setOpenLinks(false);
     text_->document()->setDocumentMargin(16);

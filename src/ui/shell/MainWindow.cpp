@@ -12,6 +12,7 @@
 #include "ui/base/FitToScreen.h"
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
+#include "ui/base/TabStops.h"
 #include "ui/commands/Places.h"
 #include "ui/commands/SettingsCommand.h"
 #include "ui/commands/WindowLoad.h"
@@ -19,14 +20,12 @@
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ContextMenu.h"
+#include "ui/shell/Language.h"
 #include "ui/shell/ScanIntake.h"
 
 namespace tavrene::ui {
-namespace {
 
 using commands::Command;
-
-}  // namespace
 
 MainWindow::MainWindow(const app::Settings& settings, const WindowContext& context)
     : context_(context),
@@ -78,6 +77,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
         gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });
         summary_->Show(run_.Summary());
     });
+    AddLanguages(*toolbars_.MenuOf(commands::Menu::View), context.store, operator_);
     shape_.Restore();
     UpdateCommands();
 }
@@ -109,26 +109,12 @@ void MainWindow::BuildLayout() {
     column->addWidget(splitter_, 1);
     column->addWidget(summary_);
     setCentralWidget(middle);
-    OrderTabStops();
     setStatusBar(panels_);
+    OrderTabStops({&profiles_->Strip(), &profiles_->Active(), &forms_->List(), &forms_->Choice(), strip_,
+                   view_, boxes_, &candidates_->List(), summary_, &panels_->Zoom()});
     // A laptop at twice the scale has no more room than this.
     setMinimumSize(640, 320);
     ResizeWithinScreen(*this, {1280, 800});
-}
-
-void MainWindow::OrderTabStops() {
-    const std::initializer_list<QWidget*> order = {&profiles_->Strip(),
-                                                   &profiles_->Active(),
-                                                   &forms_->List(),
-                                                   &forms_->Choice(),
-                                                   strip_,
-                                                   view_,
-                                                   boxes_,
-                                                   &candidates_->List(),
-                                                   summary_,
-                                                   &panels_->Zoom()};
-    for (const auto* next = order.begin(); next + 1 != order.end(); ++next)
-        setTabOrder(next[0], next[1]);
 }
 
 void MainWindow::ConnectViewCommands() {
@@ -220,9 +206,13 @@ void MainWindow::AddContextMenus() {
     };
     const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubt};
     ReasonList& unread = forms_->Unread().List();
-    add(profiles_->Strip(), ClickedLine(profiles_->Strip()),
+    const auto isOpenProfile = [this](const QModelIndex& line) {
+        return desk_.Session().Profile().CurrentProfile == line.row() + 1;
+    };
+    add(profiles_->Strip(), ClickedLine(profiles_->Strip(), isOpenProfile),
         {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
-    add(forms_->List(), ClickedLine(forms_->List()),
+    const auto isOpenForm = [this](const QModelIndex& line) { return forms_->List().IsOpen(line); };
+    add(forms_->List(), ClickedLine(forms_->List(), isOpenForm),
         {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubt});
     add(*boxes_, SelectedLine(*boxes_), ofBox);
     add(*view_, BoxOnPage(*view_, *boxes_), ofBox);

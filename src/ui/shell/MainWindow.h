@@ -56,7 +56,6 @@ class MainWindow final : public QMainWindow {
 
   private:
     void BuildLayout();
-    void OrderTabStops();
     void ConnectViewCommands();
     void ConnectCommands();
     commands::Mode CurrentMode() const;

@@ -12,6 +12,7 @@
 #include "ui/base/BusyCursor.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/page/PageImage.h"
 
 namespace tavrene::ui {
@@ -21,7 +22,7 @@ namespace {
 // dialog hides.
 QString NameFilter(const std::string& filter) {
     const QStringList parts = ToQt(filter).split('|');
-    return parts.front() + " (" + parts.back().split(';').join(' ') + ")";
+    return Shown(FromQt(parts.front())) + " (" + parts.back().split(';').join(' ') + ")";
 }
 
 // The last extension that a filter names, with its dot.
@@ -53,7 +54,7 @@ constexpr int kPictureWidth = 260;
 class FileDialog final : public QFileDialog {
   public:
     FileDialog(QWidget& window, const app::FileQuestion& question)
-        : QFileDialog(&window, ToQt(question.title), ToQt(question.startFolder)) {
+        : QFileDialog(&window, Shown(question.title), ToQt(question.startFolder)) {
         setObjectName("FileDialog");
         setOption(QFileDialog::DontUseNativeDialog);
         setOption(QFileDialog::HideNameFilterDetails);
@@ -68,9 +69,9 @@ class FileDialog final : public QFileDialog {
 
     /// Shows the picture of the file that is highlighted beside the list.
     void ShowPictures(const app::Files& files) {
-        auto* const picture = new QLabel("No picture", this);
+        auto* const picture = new QLabel(Tr("FileDialog", "No picture"), this);
         picture->setObjectName("Picture");
-        picture->setAccessibleName("Picture of the highlighted file");
+        picture->setAccessibleName(Tr("FileDialog", "Picture of the highlighted file"));
         picture->setAlignment(Qt::AlignCenter);
         picture->setFrameShape(QFrame::StyledPanel);
         picture->setFixedWidth(kPictureWidth);
@@ -80,7 +81,7 @@ class FileDialog final : public QFileDialog {
         connect(this, &QFileDialog::currentChanged, picture, [picture, &files](const QString& path) {
             const QImage image = QFileInfo(path).isFile() ? ReadPageImage(files, FromQt(path)) : QImage();
             if (image.isNull()) {
-                picture->setText("No picture");
+                picture->setText(Tr("FileDialog", "No picture"));
                 return;
             }
             const qreal scale = picture->devicePixelRatioF();
@@ -127,7 +128,7 @@ class FileDialog final : public QFileDialog {
         const QString name = QFileInfo(named).fileName();
         const bool isThere = QFileInfo::exists(named);
         if (extension_.isEmpty() && !isThere) {
-            QMessageBox::warning(this, windowTitle(), name + "\nFile not found.");
+            QMessageBox::warning(this, windowTitle(), Tr("FileDialog", "%1\nFile not found.").arg(name));
             return;
         }
         if (!extension_.isEmpty() && (IsHidden(named) || (isThere && !MayReplace(name))))
@@ -138,17 +139,19 @@ class FileDialog final : public QFileDialog {
     }
 
     bool MayReplace(const QString& name) {
-        return QMessageBox::warning(this, windowTitle(),
-                                    name + " already exists.\nDo you want to replace it?",
-                                    QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+        return QMessageBox::warning(
+                   this, windowTitle(),
+                   Tr("FileDialog", "%1 already exists.\nDo you want to replace it?").arg(name),
+                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
     }
 
     // No list of the program shows such a file.
     bool IsHidden(const QString& path) {
         const bool isHidden = QFileInfo(path).fileName().startsWith('.');
         if (isHidden)
-            QMessageBox::warning(this, windowTitle(),
-                                 "A file whose name begins with a dot is hidden. Choose another name.");
+            QMessageBox::warning(
+                this, windowTitle(),
+                Tr("FileDialog", "A file whose name begins with a dot is hidden. Choose another name."));
         return isHidden;
     }
 

@@ -5,13 +5,15 @@
 #include "app/SettingsStore.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
 
 int ShowBox(QWidget& window, QMessageBox::Icon icon, std::string_view title, std::string_view text,
             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
-    QMessageBox box(icon, ToQt(title.empty() ? app::kApplicationName : title), ToQt(text), buttons, &window);
+    QMessageBox box(icon, Shown(title.empty() ? app::kApplicationName : title), Shown(text), buttons,
+                    &window);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(preset);
     const UsualCursor usual;
@@ -42,7 +44,7 @@ void QtOperator::ShowMessage(std::string_view title, std::string_view text) {
 }
 
 void QtOperator::ReportFile(std::string_view fileName, std::string_view text) {
-    reports_->Add(ToQt(fileName), ToQt(text));
+    reports_->Add(ToQt(fileName), Shown(text));
 }
 
 app::Answer QtOperator::Ask(std::string_view text, QMessageBox::StandardButtons buttons, app::Answer preset) {
@@ -65,7 +67,7 @@ app::Answer QtOperator::AskYesNoCancel(std::string_view text, app::Answer preset
 }
 
 void QtOperator::SetPanel(app::Panel panel, std::string_view text) {
-    panels_.SetPanel(panel, ToQt(text));
+    panels_.SetPanel(panel, Shown(text));
 }
 
 void QtOperator::SetProgressRange(int last) {

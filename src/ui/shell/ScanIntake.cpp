@@ -56,15 +56,15 @@ QByteArray PngOf(const QImage& picture) {
 
 // The dialog takes the screen's events itself while it is modal; what it lets through is its own button.
 intake::Watch ProgressBox(QWidget& window) {
-    const auto box = std::make_shared<QProgressDialog>(QString(), "Cancel", 0, 0, &window);
+    const auto box = std::make_shared<QProgressDialog>(QString(), Tr("ScanIntake", "Cancel"), 0, 0, &window);
     box->setObjectName("BringInProgress");
-    box->setWindowTitle("Bring In Scans");
+    box->setWindowTitle(Tr("ScanIntake", "Bring In Scans"));
     box->setWindowModality(Qt::ApplicationModal);
     box->setMinimumDuration(400);
     return [box](const intake::Progress& progress) {
         // No less than this, or the box would close over the last page of a file.
         box->setMaximum(progress.pages + 1);
-        box->setLabelText(QString("%1\nFile %2 of %3, page %4 of %5")
+        box->setLabelText(Tr("ScanIntake", "%1\nFile %2 of %3, page %4 of %5")
                               .arg(ToQt(app::FileName(progress.path)))
                               .arg(progress.filesDone + 1)
                               .arg(progress.files)
@@ -153,8 +153,9 @@ void ScanIntake::TakeIn(const std::vector<std::string>& paths) {
 
 void ScanIntake::Choose() {
     const QStringList chosen = QFileDialog::getOpenFileNames(
-        &window_, "Bring In Scans", folder_,
-        "Scans (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp);;All Files (*)");
+        &window_, Tr("ScanIntake", "Bring In Scans"), folder_,
+        Tr("ScanIntake", "Scans") + " (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp);;" +
+            Tr("ScanIntake", "All Files") + " (*)");
     std::vector<std::string> paths;
     for (const QString& path : chosen)
         paths.push_back(FromQt(path));

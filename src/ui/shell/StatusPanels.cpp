@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/commands/RunTexts.h"
 
 namespace tavrene::ui {
@@ -19,6 +20,10 @@ constexpr int kPanelMargin = 6;
 
 constexpr int kProgressBarWidth = 120;
 constexpr int kProgressBarHeight = 14;
+
+int WidthOf(const QLabel& label, const QString& text) {
+    return label.fontMetrics().horizontalAdvance(text) + 2 * kPanelMargin;
+}
 
 }  // namespace
 
@@ -46,12 +51,12 @@ StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent), row_(new QHBoxLayout), progress_(new QProgressBar), zoom_(new ZoomBox) {
     setObjectName("StatusBar1");
     setSizeGripEnabled(false);
-    AddPanel(app::Panel::File, "File", "Current file or profile counts", kFileText);
-    AddPanel(app::Panel::Message, "Message", "Message", nullptr);
-    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", "Elapsed time", kTimeText);
-    AddPanel(app::Panel::Progress, "Progress", "Progress", kProgressText);
+    AddPanel(app::Panel::File, "File", Tr("StatusPanels", "Current file or profile counts"), kFileText);
+    AddPanel(app::Panel::Message, "Message", Tr("StatusPanels", "Message"), nullptr);
+    AddPanel(app::Panel::ElapsedTime, "ElapsedTime", Tr("StatusPanels", "Elapsed time"), kTimeText);
+    AddPanel(app::Panel::Progress, "Progress", Tr("StatusPanels", "Progress"), kProgressText);
     progress_->setObjectName("ProgressBar1");
-    progress_->setAccessibleName("Progress of the work");
+    progress_->setAccessibleName(Tr("StatusPanels", "Progress of the work"));
     progress_->setTextVisible(false);
     progress_->setFixedSize(kProgressBarWidth, kProgressBarHeight);
     progress_->setRange(0, 1);
@@ -67,12 +72,12 @@ StatusPanels::StatusPanels(QWidget* parent)
 }
 
 // A panel without a longest text takes what the others leave.
-void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* accessibleName,
+void StatusPanels::AddPanel(app::Panel panel, const char* name, const QString& accessibleName,
                             const char* longest) {
     auto* const label = new PanelLabel(name);
     label->setAccessibleName(accessibleName);
     if (longest != nullptr)
-        label->setFixedWidth(label->fontMetrics().horizontalAdvance(longest) + 2 * kPanelMargin);
+        widths_[static_cast<std::size_t>(panel)] = WidthOf(*label, Shown(longest));
     else
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     panels_[static_cast<std::size_t>(panel)] = label;
@@ -85,6 +90,23 @@ void StatusPanels::AddPanel(app::Panel panel, const char* name, const char* acce
 
 void StatusPanels::SetPanel(app::Panel panel, const QString& text) {
     panels_[static_cast<std::size_t>(panel)]->ShowText(text);
+    FitPanels();
+}
+
+void StatusPanels::resizeEvent(QResizeEvent* event) {
+    QStatusBar::resizeEvent(event);
+    FitPanels();
+}
+
+// Panels that do not move while their texts change are easier to read; a narrow window has no room for that,
+// and what is told is more than the places that are kept for numbers.
+void StatusPanels::FitPanels() {
+    constexpr int kNarrow = 900;
+    const bool isNarrow = width() < kNarrow;
+    for (std::size_t k = 0; k < panels_.size(); ++k)
+        if (widths_[k] > 0)
+            panels_[k]->setFixedWidth(isNarrow ? WidthOf(*panels_[k], panels_[k]->text()) : widths_[k]);
+    progress_->setVisible(!isNarrow || countsFiles_ || progress_->value() > 0);
 }
 
 void StatusPanels::SetProgressRange(int last) {
@@ -93,7 +115,7 @@ void StatusPanels::SetProgressRange(int last) {
     since_.start();
     SetProgress(0);
     if (countsFiles_)
-        SetPanel(app::Panel::Progress, ToQt(commands::ProgressText(0, last, 0)));
+        SetPanel(app::Panel::Progress, Shown(commands::ProgressText(0, last, 0)));
 }
 
 void StatusPanels::SetProgress(int value) {
@@ -104,8 +126,8 @@ void StatusPanels::SetProgress(int value) {
         SetPanel(app::Panel::Progress,
                  value == 0
                      ? QString()
-                     : ToQt(commands::ProgressText(value, progress_->maximum(),
-                                                   static_cast<double>(since_.elapsed()) / kMilliseconds)));
+                     : Shown(commands::ProgressText(value, progress_->maximum(),
+                                                    static_cast<double>(since_.elapsed()) / kMilliseconds)));
 }
 
 void StatusPanels::Show(app::Panel panel, bool shown) {

@@ -39,12 +39,17 @@ class StatusPanels final : public QStatusBar {
 
     ZoomBox& Zoom() { return *zoom_; }
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
-    void AddPanel(app::Panel panel, const char* name, const char* accessibleName, const char* longest);
+    void AddPanel(app::Panel panel, const char* name, const QString& accessibleName, const char* longest);
 
     void Show(app::Panel panel, bool shown);
+    void FitPanels();
 
     std::array<PanelLabel*, 4> panels_{};
+    std::array<int, 4> widths_{};     ///< That show the longest text whole; 0 takes what the others leave.
     std::array<QFrame*, 4> lines_{};  ///< Behind each panel.
     QHBoxLayout* row_;
     QProgressBar* progress_;

@@ -8,6 +8,7 @@
 
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/commands/RunTexts.h"
 
 namespace tavrene::ui {
@@ -17,11 +18,23 @@ constexpr int kNameWidth = 260;
 constexpr std::size_t kMostLines = 6;
 
 ReasonList* MakeList(QWidget* parent) {
-    auto* const list = new ReasonList({"File", "What became of it"}, {}, parent);
+    auto* const list =
+        new ReasonList({Tr("SummaryPanel", "File"), Tr("SummaryPanel", "What became of it")}, {}, parent);
     list->setObjectName("SummaryFiles");
-    list->setAccessibleName("Files of the last run");
+    list->setAccessibleName(Tr("SummaryPanel", "Files of the last run"));
     list->header()->resizeSection(0, kNameWidth);
     return list;
+}
+
+QString LineOf(const recognition::RunSummary& summary) {
+    QStringList parts;
+    for (const commands::SummaryPart& part : commands::SummaryParts(summary)) {
+        const QString text = Shown(part.text);
+        const QString linked =
+            part.link.empty() ? text : QString("<a href=\"%1\">%2</a>").arg(ToQt(part.link), text);
+        parts += part.lead.empty() ? linked : Shown(part.lead) + ' ' + linked;
+    }
+    return parts.join(" &nbsp;|&nbsp; ");
 }
 
 }  // namespace
@@ -29,14 +42,14 @@ ReasonList* MakeList(QWidget* parent) {
 SummaryPanel::SummaryPanel(QWidget* parent)
     : QFrame(parent), text_(new QLabel(this)), files_(MakeList(this)) {
     setObjectName("SummaryPanel");
-    setAccessibleName("What became of the files of the last run");
+    setAccessibleName(Tr("SummaryPanel", "What became of the files of the last run"));
     setFrameShape(QFrame::StyledPanel);
     text_->setObjectName("lblSummary");
-    text_->setAccessibleName("Numbers of the last run, each a link to its files");
+    text_->setAccessibleName(Tr("SummaryPanel", "Numbers of the last run, each a link to its files"));
     text_->setTextFormat(Qt::RichText);
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    QToolButton* const close = CloseButton(this, "cmdCloseSummary", "Close the summary");
+    QToolButton* const close = CloseButton(this, "cmdCloseSummary", Tr("SummaryPanel", "Close the summary"));
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(10, 3, 6, 3);
     row->addWidget(text_, 1);
@@ -56,7 +69,7 @@ SummaryPanel::SummaryPanel(QWidget* parent)
 
 void SummaryPanel::Show(const recognition::RunSummary& summary) {
     summary_ = summary;
-    text_->setText(ToQt(commands::SummaryText(summary_)));
+    text_->setText(LineOf(summary_));
     ShowList(ToQt(commands::WorstLink(summary_).value_or("")));
     show();
 }

@@ -13,7 +13,11 @@ namespace {
 
 constexpr int kIconSize = 24;
 
-QToolBar* MakeToolbar(QMainWindow& window, const char* name, const char* title) {
+QString OfCommand(std::string_view text) {
+    return text.empty() ? QString() : Tr("Commands", text.data());
+}
+
+QToolBar* MakeToolbar(QMainWindow& window, const char* name, const QString& title) {
     QToolBar* const toolbar = window.addToolBar(title);
     toolbar->setObjectName(name);
     toolbar->setAccessibleName(title);
@@ -28,11 +32,12 @@ QToolBar* MakeToolbar(QMainWindow& window, const char* name, const char* title) 
 
 Toolbars::Toolbars(QMainWindow& window, std::function<void(commands::Command)> run) : run_(std::move(run)) {
     using commands::Menu;
-    toolbars_[commands::Toolbar::Main] = MakeToolbar(window, "MainToolbar", "Main toolbar");
-    toolbars_[commands::Toolbar::Cfg] = MakeToolbar(window, "CfgToolbar", "Box tools");
-    const std::pair<Menu, const char*> titles[] = {{Menu::File, "&File"},     {Menu::Boxes, "&Boxes"},
-                                                   {Menu::View, "&View"},     {Menu::Process, "&Process"},
-                                                   {Menu::Review, "&Review"}, {Menu::Help, "&Help"}};
+    toolbars_[commands::Toolbar::Main] = MakeToolbar(window, "MainToolbar", Tr("Toolbars", "Main toolbar"));
+    toolbars_[commands::Toolbar::Cfg] = MakeToolbar(window, "CfgToolbar", Tr("Toolbars", "Box tools"));
+    const std::pair<Menu, QString> titles[] = {
+        {Menu::File, Tr("Toolbars", "&File")},     {Menu::Boxes, Tr("Toolbars", "&Boxes")},
+        {Menu::View, Tr("Toolbars", "&View")},     {Menu::Process, Tr("Toolbars", "&Process")},
+        {Menu::Review, Tr("Toolbars", "&Review")}, {Menu::Help, Tr("Toolbars", "&Help")}};
     for (const auto& [menu, title] : titles)
         menus_[menu] = window.menuBar()->addMenu(title);
     for (const commands::CommandInfo& info : commands::CommandTable())
@@ -40,9 +45,9 @@ Toolbars::Toolbars(QMainWindow& window, std::function<void(commands::Command)> r
 }
 
 void Toolbars::AddCommand(QMainWindow& window, const commands::CommandInfo& info) {
-    auto* const action = new QAction(ToQt(info.menuText), &window);
+    auto* const action = new QAction(OfCommand(info.menuText), &window);
     action->setObjectName(ToQt(info.key));
-    action->setToolTip(ToQt(info.toolTip));
+    action->setToolTip(OfCommand(info.toolTip));
     action->setIcon(IconOf(info.icon));
     action->setIconVisibleInMenu(true);
     action->setShortcuts(QKeySequence::listFromString(ToQt(info.shortcut), QKeySequence::PortableText));
@@ -61,10 +66,10 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
     if (info.separatorBefore)
         toolbar->addSeparator();
     action->setParent(toolbar);
-    action->setIconText(ToQt(commands::LabelOf(info.command)));
+    action->setIconText(OfCommand(commands::LabelOf(info.command)));
     toolbar->addAction(action);
     QWidget* const button = toolbar->widgetForAction(action);
-    button->setAccessibleName(ToQt(info.toolTip));
+    button->setAccessibleName(action->toolTip());
     button->setFocusPolicy(Qt::TabFocus);
 }
 
@@ -72,7 +77,9 @@ void Toolbars::AddToToolbar(const commands::CommandInfo& info, QAction* action) 
 QMenu* Toolbars::MenuOf(commands::Menu menu) {
     using commands::Menu;
     if (!menus_.contains(menu))
-        menus_[menu] = menus_.at(Menu::Boxes)->addMenu(menu == Menu::Arrange ? "Arran&ge" : "Gr&oups");
+        menus_[menu] =
+            menus_.at(Menu::Boxes)
+                ->addMenu(menu == Menu::Arrange ? Tr("Toolbars", "Arran&ge") : Tr("Toolbars", "Gr&oups"));
     return menus_.at(menu);
 }
 

@@ -30,6 +30,9 @@ class Toolbars {
 
     QAction* ActionOf(commands::Command command) const { return actions_.at(command); }
 
+    /// One that is there already, or a menu of boxes within theirs.
+    QMenu* MenuOf(commands::Menu menu);
+
     /// Words under the pictures of the buttons, or none.
     void ShowLabels(bool shown);
     bool LabelsShown() const;
@@ -37,7 +40,6 @@ class Toolbars {
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);
-    QMenu* MenuOf(commands::Menu menu);
     void AddToMenu(const commands::CommandInfo& info, QAction* action);
 
     std::function<void(commands::Command)> run_;

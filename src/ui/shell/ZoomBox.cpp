@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "ui/base/CalmWheel.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
@@ -16,8 +17,8 @@ constexpr int kMost = 6500;
 
 ZoomBox::ZoomBox() {
     setObjectName("ZoomPercent");
-    setAccessibleName("Zoom in percent");
-    setToolTip("Zoom in percent; type another one");
+    setAccessibleName(Tr("ZoomBox", "Zoom in percent"));
+    setToolTip(Tr("ZoomBox", "Zoom in percent; type another one"));
     setRange(kLeast, kMost);
     setSuffix(" %");
     setAlignment(Qt::AlignRight);

@@ -5,6 +5,7 @@
 #include "app/Reason.h"
 #include "app/SettingsStore.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/shell/Composition.h"
 
 int main(int argc, char** argv) {
@@ -15,7 +16,7 @@ int main(int argc, char** argv) {
         ui::Composition program;
         return program.Start() ? QApplication::exec() : 0;
     } catch (const std::exception& failure) {
-        QMessageBox::critical(nullptr, ui::ToQt(app::kApplicationName), ui::ToQt(app::ReasonOf(failure)));
+        QMessageBox::critical(nullptr, ui::ToQt(app::kApplicationName), ui::Shown(app::ReasonOf(failure)));
         return 1;
     }
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <string>
 
@@ -15,93 +14,53 @@ using Commands = std::set<Command>;
 constexpr Mode kModes[] = {Mode::Start,  Mode::Desk, Mode::Unreadable, Mode::Profile,
                            Mode::Review, Mode::Form, Mode::Run};
 
-Commands operator+(Commands some, const Commands& others) {
-    some.insert(others.begin(), others.end());
+// Every command there is: PickMark is the last.
+Commands ThatAct(Mode mode) {
+    Commands acting;
+    for (int k = 0; k <= static_cast<int>(C::PickMark); ++k)
+        if (ActsIn(static_cast<Command>(k), mode))
+            acting.insert(static_cast<Command>(k));
+    return acting;
+}
+
+Commands Without(Commands some, const Commands& others) {
+    std::erase_if(some, [&](Command command) { return others.contains(command); });
     return some;
 }
 
-// Every command there is: PickMark is the last.
-Commands All() {
-    Commands all;
-    for (int k = 0; k <= static_cast<int>(C::PickMark); ++k)
-        all.insert(static_cast<Command>(k));
-    return all;
+TEST(ModesTest, ARunLeavesOnlyStopAndTheWayOut) {
+    EXPECT_EQ(ThatAct(Mode::Run), (Commands{C::Stop, C::Exit}));
 }
 
-Commands AllBut(const Commands& some) {
-    Commands others = All();
-    for (const Command command : some)
-        others.erase(command);
-    return others;
+// What an open profile or form gives, and what it takes away.
+TEST(ModesTest, ModesDifferByWhatThereIsToActOn) {
+    EXPECT_EQ(ThatAct(Mode::Start), ThatAct(Mode::Desk));
+    EXPECT_EQ(Without(ThatAct(Mode::Unreadable), ThatAct(Mode::Desk)), (Commands{C::Save, C::DeleteProfile}));
+    EXPECT_EQ(Without(ThatAct(Mode::Form), ThatAct(Mode::Review)),
+              (Commands{C::Okay, C::AcceptForm, C::RejectForm, C::FlipBox, C::PickProfile, C::PickMark}));
+    const Commands ofBoxes = Without(ThatAct(Mode::Profile), ThatAct(Mode::Unreadable));
+    for (const Command command : {C::SelectBox, C::AddBox, C::DeleteBox, C::Undo, C::EditBoxes, C::SetActive})
+        EXPECT_TRUE(ofBoxes.contains(command)) << static_cast<int>(command);
+    EXPECT_EQ(Without(ofBoxes, ThatAct(Mode::Form)), ofBoxes) << "no box is edited in review";
+    EXPECT_FALSE(ThatAct(Mode::Review).contains(C::New));
 }
 
-const Commands kNew = {C::New, C::PickThumbnail};
-const Commands kFile = {C::Save, C::DeleteProfile};
-const Commands kBoxes = {
-    C::SelectBox,      C::AddBox,         C::PutBox,           C::DeleteBox,      C::RenameBox,
-    C::Undo,           C::Redo,           C::FindMoreBoxes,    C::EditBoxes,      C::SetActive,
-    C::SelectAllBoxes, C::SelectSameSize, C::EqualSize,        C::AlignLeft,      C::AlignRight,
-    C::AlignTop,       C::AlignBottom,    C::DistributeAcross, C::DistributeDown, C::NameBoxes,
-    C::BoxNames,       C::SortByPlace,    C::MoveRowsUp,       C::MoveRowsDown,   C::DrawGrid,
-    C::CopyBoxes,      C::PasteBoxes,     C::DuplicateBoxes,   C::SnapToPrint,    C::GroupBoxes,
-    C::UngroupBoxes,   C::GroupByRows,    C::GroupByNames,     C::GroupFrames,    C::DuplicateProfile,
-    C::RenameProfile,  C::TestProfile};
-const Commands kForms = {C::OpenForm,        C::NextForm,           C::PreviousForm,  C::PickForm,
-                         C::BackToProcessIn, C::AllBackToProcessIn, C::UndoDecision,  C::NextDoubt,
-                         C::FilterForms,     C::DoubtSheet,         C::AcceptAllClear};
-const Commands kDecisions = {C::Okay, C::AcceptForm, C::RejectForm};
-const Commands kForm = {C::FlipBox, C::PickProfile, C::PickMark};
-const Commands kReview = AllBut(kNew + kFile + kBoxes + kDecisions + kForm);
-const Commands kProfiling = AllBut(kFile + kBoxes + kForms + kDecisions + kForm);
-
-TEST(ModesTest, EveryCommandInEveryMode) {
-    const std::map<Mode, Commands> acts = {
-        {Mode::Start, kProfiling},
-        {Mode::Desk, kProfiling},
-        {Mode::Unreadable, kProfiling + kFile},
-        {Mode::Profile, kProfiling + kFile + kBoxes},
-        {Mode::Review, kReview},
-        {Mode::Form, kReview + kDecisions + kForm},
-        {Mode::Run, {C::Stop, C::Exit}},
-    };
-    const std::map<Mode, Commands> enabledWithoutEffect = {{Mode::Start, kFile}, {Mode::Run, {C::Process}}};
-    const std::map<Mode, Commands> hidden = {{Mode::Start, kDecisions},
-                                             {Mode::Desk, kDecisions},
-                                             {Mode::Unreadable, kDecisions},
-                                             {Mode::Profile, kDecisions},
-                                             {Mode::Run, kDecisions}};
-    const std::map<Command, Prompts> prompts = {{C::New, Prompts::Profile},
-                                                {C::Process, Prompts::ProfileThenForm},
-                                                {C::Review, Prompts::ProfileThenForm},
-                                                {C::AcceptForm, Prompts::Form},
-                                                {C::UndoDecision, Prompts::Form},
-                                                {C::DoubtSheet, Prompts::Form},
-                                                {C::AcceptAllClear, Prompts::Form},
-                                                {C::OpenForm, Prompts::Form},
-                                                {C::NextForm, Prompts::Form},
-                                                {C::PreviousForm, Prompts::Form},
-                                                {C::PickForm, Prompts::Form},
-                                                {C::PickFile, Prompts::ProfileThenForm},
-                                                {C::ProcessUnread, Prompts::ProfileThenForm},
-                                                {C::PickThumbnail, Prompts::Profile},
-                                                {C::DuplicateProfile, Prompts::Profile},
-                                                {C::RenameProfile, Prompts::Profile},
-                                                {C::Exit, Prompts::FormThenProfile}};
-    const auto has = [](const std::map<Mode, Commands>& table, Mode mode, Command command) {
-        const auto found = table.find(mode);
-        return found != table.end() && found->second.contains(command);
-    };
-    for (const Command command : All()) {
-        for (const Mode mode : kModes) {
-            SCOPED_TRACE("command " + std::to_string(static_cast<int>(command)) + " in mode " +
-                         std::to_string(static_cast<int>(mode)));
-            EXPECT_EQ(ActsIn(command, mode), has(acts, mode, command));
-            EXPECT_EQ(IsOfferedIn(command, mode),
-                      has(acts, mode, command) || has(enabledWithoutEffect, mode, command));
-            EXPECT_EQ(IsShownIn(command, mode), !has(hidden, mode, command));
+TEST(ModesTest, OnlyTheStartAndARunOfferWhatHasNoEffect) {
+    for (const Mode mode : kModes) {
+        Commands offered;
+        for (int k = 0; k <= static_cast<int>(C::PickMark); ++k) {
+            const auto command = static_cast<Command>(k);
+            if (IsOfferedIn(command, mode) && !ActsIn(command, mode))
+                offered.insert(command);
+            const bool isDecision =
+                command == C::Okay || command == C::AcceptForm || command == C::RejectForm;
+            EXPECT_EQ(IsShownIn(command, mode), !isDecision || mode == Mode::Review || mode == Mode::Form)
+                << k;
         }
-        const auto prompt = prompts.find(command);
-        EXPECT_EQ(PromptsBefore(command), prompt == prompts.end() ? Prompts::None : prompt->second);
+        const Commands expected = mode == Mode::Start ? Commands{C::Save, C::DeleteProfile}
+                                  : mode == Mode::Run ? Commands{C::Process}
+                                                      : Commands{};
+        EXPECT_EQ(offered, expected);
     }
 }
 
