@@ -72,7 +72,7 @@ class Nobody final : public app::Operator,
 
 /// A working folder in the scratch folder and everything that a run on it needs.
 struct Workplace {
-    /// All off: the described rules alone.
+    /// All off: the plain reading alone.
     explicit Workplace(recognition::ReadingOptions options = {});
 
     app::DiskFiles files;

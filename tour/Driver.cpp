@@ -32,7 +32,7 @@ constexpr int kCheckedInShot = 8;
 // The box that is selected for the picture of the profile desk, counted from 0.
 constexpr int kBoxInShot = 6;
 
-// The forms that are looked at in review: one with corrected marks, and one that the described rules read
+// The forms that are looked at in review: one with corrected marks, and one that the plain reading reads
 // nothing of.
 constexpr const char* kFormInShot = "patient-12-corrected";
 constexpr const char* kUpsideDown = "patient-15-upside-down";

@@ -67,14 +67,14 @@ int Drive(const std::string& samplesFolder, const std::string& folder, const std
     driver.Drive();
     const app::WorkingFolders folders = app::PathsUnder(folder);
     app::DiskFiles files;
-    const auto described = samples::CompareWithTruth(files, folders, truth);
+    const auto plain = samples::CompareWithTruth(files, folders, truth);
     for (const samples::GroundTruthRecord& scan : truth)
         files.Move(folders.ProcessOut + scan.Image, folders.ProcessIn + scan.Image);
     driver.ReadPrecisely();
     const auto precise = samples::CompareWithTruth(files, folders, truth);
-    std::cout << samples::TableOf(described, precise);
+    std::cout << samples::TableOf(plain, precise);
     PrintPlaces(folders, driver.Shots());
-    return HasWrong(described) || HasWrong(precise) ? 1 : 0;
+    return HasWrong(plain) || HasWrong(precise) ? 1 : 0;
 }
 
 int Run(const std::vector<std::string>& arguments) {

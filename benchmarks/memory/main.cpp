@@ -16,11 +16,11 @@ long PeakResidentKilobytes() {
 
 }  // namespace
 
-// Runs the same page again and again and prints how much memory the program has ever held: by the described
-// rules, or with the second opinion or by precise alignment as the argument says.
+// Runs the same page again and again and prints how much memory the program has ever held: by the plain
+// reading, or with the second opinion or by precise alignment as the argument says.
 int main(int count, char** arguments) {
     using namespace tavrene::bench;
-    const std::string_view way = count > 1 ? arguments[1] : "described";
+    const std::string_view way = count > 1 ? arguments[1] : "plain";
     Workplace work({.preciseAlignment = way == "precise", .secondOpinion = way == "opinion"});
     const std::vector<tavrene::profiles::ProfileRecord> profiles = {TheFormPage().profile,
                                                                     TheFormPage().stranger};

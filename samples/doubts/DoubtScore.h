@@ -28,7 +28,7 @@ struct ScoreWish {
     bool SecondOpinion = true;  ///< Precise alignment looks, too.
 };
 
-/// Reads pages of a class by the described rules, and doubts. Forms that the rules do not recognise are left
+/// Reads pages of a class by the plain reading, and doubts. Forms that it does not recognise are left
 /// out: nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted
 /// by tabs.
 DoubtTally ScoreDoubts(const DoubtClass& kind, const ScoreWish& wish,

@@ -129,19 +129,19 @@ std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::Wor
     return comparisons;
 }
 
-std::string TableOf(const std::vector<Comparison>& described, const std::vector<Comparison>& precise) {
+std::string TableOf(const std::vector<Comparison>& plain, const std::vector<Comparison>& precise) {
     std::ostringstream table;
     table << std::left << std::setw(52) << ""
-          << "described rules" << std::setw(23) << ""
+          << "plain reading" << std::setw(25) << ""
           << "precise alignment\n"
           << std::setw(28) << "image" << std::setw(24) << "profile" << kReadingTitle << kReadingTitle << '\n';
-    for (std::size_t k = 0; k < described.size(); ++k) {
-        const bool isForm = !described[k].Confidence.empty();
-        table << std::left << std::setw(28) << described[k].Image << std::setw(24)
-              << (isForm ? described[k] : precise[k]).Profile << ReadingText(described[k])
-              << ReadingText(precise[k]) << '\n';
+    for (std::size_t k = 0; k < plain.size(); ++k) {
+        const bool isForm = !plain[k].Confidence.empty();
+        table << std::left << std::setw(28) << plain[k].Image << std::setw(24)
+              << (isForm ? plain[k] : precise[k]).Profile << ReadingText(plain[k]) << ReadingText(precise[k])
+              << '\n';
     }
-    TellDifferences(table, "", described);
+    TellDifferences(table, "", plain);
     TellDifferences(table, ", by precise alignment,", precise);
     return table.str();
 }

@@ -28,6 +28,6 @@ std::vector<Comparison> CompareWithTruth(const app::Files& files, const app::Wor
 
 /// What both ways of reading made of the same scans as a table of text with one line a scan, and below it
 /// every difference in words.
-std::string TableOf(const std::vector<Comparison>& described, const std::vector<Comparison>& precise);
+std::string TableOf(const std::vector<Comparison>& plain, const std::vector<Comparison>& precise);
 
 }  // namespace tavrene::samples

@@ -89,7 +89,7 @@ void Stamp(BlankForm& form, Random& dice, std::vector<std::optional<bool>>& mark
 }
 
 // Profiles that are loaded beside the right one. Those of one column and of one box are loaded for strangers
-// alone: the described rules fail on any page that they take for the one, and take any page for the other.
+// alone: the plain reading fails on any page that it takes for the one, and takes any page for the other.
 std::span<const KnownForm> Bystanders(bool alsoSmall) {
     static const std::vector<KnownForm> known = {Know({FormKind::Survey, 900001}, 200, "Another survey"),
                                                  Know({FormKind::Few, 900002, 3}, 200, "Three boxes"),

@@ -39,9 +39,9 @@ ReadingRow SumOf(std::span<const ReadingRow> rows, Belongs belongs) {
             continue;
         sum.Pages += row.Pages;
         sum.Boxes += row.Boxes;
-        Add(sum.Described, row.Described);
+        Add(sum.Plain, row.Plain);
         Add(sum.Precise, row.Precise);
-        sum.DescribedErrors += row.DescribedErrors;
+        sum.PlainErrors += row.PlainErrors;
         sum.Flagged += row.Flagged;
     }
     return sum;
@@ -52,8 +52,8 @@ std::string TableLine(const std::string& name, const ReadingRow& row, bool stran
         return (stranger ? "–" : Share(tally.Recognised, row.Pages, 1)) + " | " +
                std::to_string(tally.Mistaken) + " | " + Share(tally.Right, tally.Boxes, 2);
     };
-    return "| " + name + " | " + std::to_string(row.Pages) + " | " + fields(row.Described) + " | " +
-           fields(row.Precise) + " | " + Share(row.Flagged, row.DescribedErrors, 1) + " |\n";
+    return "| " + name + " | " + std::to_string(row.Pages) + " | " + fields(row.Plain) + " | " +
+           fields(row.Precise) + " | " + Share(row.Flagged, row.PlainErrors, 1) + " |\n";
 }
 
 // One small figure: the share of all boxes that are read right, unrecognised forms included.
@@ -73,7 +73,7 @@ class Figure {
         out_ << "<polyline fill='none' stroke-width='2' stroke='" << (precise ? "#1565c0" : "#c62828") << "'"
              << (precise ? "" : " stroke-dasharray='5 3'") << " points='";
         for (const ReadingRow* const row : rows) {
-            const std::size_t right = precise ? row->Precise.Right : row->Described.Right;
+            const std::size_t right = precise ? row->Precise.Right : row->Plain.Right;
             out_ << left_ + kWidth * row->Class->At / last_ << ','
                  << top_ + kHeight * (1 - Percent(right, row->Boxes) / 100) << ' ';
         }
@@ -95,10 +95,10 @@ class Figure {
 std::string LineOf(const ReadingRow& row) {
     std::ostringstream line;
     line << row.Class->Name << '\t' << row.Pages << '\t' << row.Boxes;
-    for (const ReadingTally* const tally : {&row.Described, &row.Precise})
+    for (const ReadingTally* const tally : {&row.Plain, &row.Precise})
         line << '\t' << tally->Recognised << '\t' << tally->Mistaken << '\t' << tally->Boxes << '\t'
              << tally->Right;
-    line << '\t' << row.DescribedErrors << '\t' << row.Flagged;
+    line << '\t' << row.PlainErrors << '\t' << row.Flagged;
     return line.str();
 }
 
@@ -115,9 +115,9 @@ std::vector<ReadingRow> RowsFrom(std::istream& lines) {
         ReadingRow row;
         row.Class = &*known;
         fields >> row.Pages >> row.Boxes;
-        for (ReadingTally* const tally : {&row.Described, &row.Precise})
+        for (ReadingTally* const tally : {&row.Plain, &row.Precise})
             fields >> tally->Recognised >> tally->Mistaken >> tally->Boxes >> tally->Right;
-        fields >> row.DescribedErrors >> row.Flagged;
+        fields >> row.PlainErrors >> row.Flagged;
         rows.push_back(row);
     }
     return rows;
@@ -125,7 +125,7 @@ std::vector<ReadingRow> RowsFrom(std::istream& lines) {
 
 std::string TableOf(std::span<const ReadingRow> rows) {
     std::string text =
-        "| pages | number | described: forms | mistaken | boxes | precise: forms | mistaken | boxes | "
+        "| pages | number | plain: forms | mistaken | boxes | precise: forms | mistaken | boxes | "
         "flagged |\n"
         "|---|---|---|---|---|---|---|---|---|\n";
     const auto isForm = [](const ReadingClass& kind) { return !kind.Stranger; };
@@ -148,7 +148,7 @@ std::string CurvesOf(std::span<const ReadingRow> rows) {
     std::ostringstream out;
     out << "<svg xmlns='http://www.w3.org/2000/svg' width='680' height='340' font-family='sans-serif' "
            "font-size='11'>\n<rect width='100%' height='100%' fill='white'/>\n"
-           "<text x='20' y='16'>boxes read right, of all boxes, 0 to 100 %: precise (blue), described (red, "
+           "<text x='20' y='16'>boxes read right, of all boxes, 0 to 100 %: precise (blue), plain (red, "
            "dashed)</text>\n";
     for (std::size_t k = 0; k < curves.size(); ++k) {
         std::vector<const ReadingRow*> points;

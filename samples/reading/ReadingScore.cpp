@@ -15,7 +15,7 @@ struct Answer {
     std::vector<MarkReading> marks;
 };
 
-Answer ReadAsDescribed(const ReadingPage& page) {
+Answer ReadPlainly(const ReadingPage& page) {
     recognition::Classification found = recognition::ClassifyImage(page.Scan, page.Profiles);
     if (found.winner < 0)
         return {};
@@ -53,19 +53,18 @@ void Count(const ReadingPage& page, const Answer& answer, ReadingTally& tally) {
     }
 }
 
-// What the described reading has wrong, and whether the precise one says otherwise.
-void CountFlags(const ReadingPage& page, const Answer& described, const Answer& precise, ReadingRow& row) {
-    if (described.form != page.Form) {
-        ++row.DescribedErrors;
-        row.Flagged += precise.form != described.form ? 1U : 0U;
+// What the plain reading has wrong, and whether the precise one says otherwise.
+void CountFlags(const ReadingPage& page, const Answer& plain, const Answer& precise, ReadingRow& row) {
+    if (plain.form != page.Form) {
+        ++row.PlainErrors;
+        row.Flagged += precise.form != plain.form ? 1U : 0U;
         return;
     }
     for (std::size_t k = 0; k < page.Marked.size(); ++k) {
-        if (!IsWrong(page, described, k))
+        if (!IsWrong(page, plain, k))
             continue;
-        ++row.DescribedErrors;
-        const bool differs =
-            precise.form != described.form || precise.marks[k].Checked != described.marks[k].Checked;
+        ++row.PlainErrors;
+        const bool differs = precise.form != plain.form || precise.marks[k].Checked != plain.marks[k].Checked;
         row.Flagged += differs ? 1U : 0U;
     }
 }
@@ -93,14 +92,14 @@ ReadingRow ScoreClass(const ReadingClass& kind, std::size_t pages, SeedRange see
     for (std::size_t k = 0; k < pages; ++k) {
         const std::uint64_t seed = number * 1000000 + 2 * (seeds.First + k) + (seeds.Even ? 0 : 1);
         const ReadingPage page = PaintReadingPage(kind, seed);
-        const Answer described = ReadAsDescribed(page);
+        const Answer plain = ReadPlainly(page);
         const Answer precise = ReadWithPrecision(page);
         ++row.Pages;
         for (const auto& marked : page.Marked)
             row.Boxes += marked ? 1U : 0U;
-        Count(page, described, row.Described);
+        Count(page, plain, row.Plain);
         Count(page, precise, row.Precise);
-        CountFlags(page, described, precise, row);
+        CountFlags(page, plain, precise, row);
         const std::string fault = Fault(page, precise);
         if (tell && !fault.empty())
             tell(kind.Name + ", seed " + std::to_string(seed) + ": " + fault);

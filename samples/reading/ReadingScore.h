@@ -22,10 +22,10 @@ struct ReadingRow {
     const ReadingClass* Class = nullptr;
     std::size_t Pages = 0;
     std::size_t Boxes = 0;  ///< Judged boxes of all pages.
-    ReadingTally Described;
+    ReadingTally Plain;
     ReadingTally Precise;
-    std::size_t DescribedErrors = 0;  ///< Boxes and forms that the described rules have wrong,
-    std::size_t Flagged = 0;          ///< and of which the second opinion says otherwise.
+    std::size_t PlainErrors = 0;  ///< Boxes and forms that the plain reading has wrong,
+    std::size_t Flagged = 0;      ///< and of which the second opinion says otherwise.
 };
 
 /// Which pages of a class are painted. Even seeds are those that the constants were chosen on; pages that

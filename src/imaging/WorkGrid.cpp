@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
+
+#include "imaging/BitCount.h"
 
 namespace tavrene::imaging {
 namespace {
@@ -40,21 +41,7 @@ WorkGrid WorkGrid::Clone() const {
 }
 
 int WorkGrid::CountInkInRow(int row, int first, int last) const {
-    if (last < first)
-        return 0;
-    const std::span<const Word> words = Row(row);
-    const auto firstWord = static_cast<std::size_t>(first) / kWordBits;
-    const auto lastWord = static_cast<std::size_t>(last) / kWordBits;
-    int count = 0;
-    for (std::size_t index = firstWord; index <= lastWord; ++index) {
-        Word word = words[index];
-        if (index == firstWord)
-            word &= ~Word{0} << BitOf(first);
-        if (index == lastWord)
-            word &= ~Word{0} >> (kWordBits - 1 - BitOf(last));
-        count += std::popcount(word);
-    }
-    return count;
+    return CountBits(Row(row), first, last);
 }
 
 void WorkGrid::UnpackScanLine(int row, std::span<const std::uint8_t> scanLine) {

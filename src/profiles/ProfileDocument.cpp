@@ -42,12 +42,6 @@ pugi::xml_document ParseOmrs(const std::string& text) {
     return document;
 }
 
-void NumberBoxes(const pugi::xml_node& omrs) {
-    int id = 0;
-    for (pugi::xml_node box : omrs.children())
-        box.attribute("ID").set_value(++id);
-}
-
 }  // namespace
 
 pugi::xml_document LoadProfileDocument(const app::Files& files, const std::string& path) {
@@ -119,7 +113,7 @@ void UpdateProfileDocument(pugi::xml_document& document, bool active, const std:
         flag = root.append_attribute("Active");
     flag.set_value(active ? "1" : "0");
     root.remove_child("OMRs");
-    NumberBoxes(root.append_copy(omrs.first_child()));
+    root.append_copy(omrs.first_child());
 }
 
 void SaveProfileDocument(app::Files& files, const std::string& path, const pugi::xml_document& document) {

@@ -15,7 +15,7 @@ FormReading FormReader::Read(const std::string& name, std::span<const ProfileRec
                              bool withPage) const {
     FormReading reading;
     reading.failure = app::FailureOf([&] { Recognise(name, profiles, reading); });
-    // Also of a form that the described rules failed on.
+    // Also of a form that the plain reading failed on.
     if (precise_ != nullptr && precise_->GivesSecondOpinion() && reading.page)
         reading.opinionFailure = app::FailureOf([&] {
             reading.opinion = precise_->OpinionOn(*reading.page, profiles, reading.winner, reading.marks,

@@ -32,7 +32,7 @@ struct FormReading {
     std::string opinionFailure;
 };
 
-/// Reads forms by the described rules or by precise alignment. Several threads may read at the same time.
+/// Reads forms by the plain reading or by precise alignment. Several threads may read at the same time.
 class FormReader {
   public:
     /// `folder`, where the images lie, ends in a separator; `precise` may be null. All must outlive this, and

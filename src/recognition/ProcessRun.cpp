@@ -214,7 +214,7 @@ void ProcessRun::Record(std::span<const ProfileRecord> profiles, FileOutcome& ou
         delivery_.StageResult({profile.Name, report.name, "0", reading.Confidence}, reading.marks);
 }
 
-// What it says is for the person alone: result and log are those of the described rules.
+// What it says is for the person alone: result and log are those of the plain reading.
 void ProcessRun::NoteSecondOpinion(const FileOutcome& outcome) {
     if (context_.precise == nullptr)
         return;
@@ -225,7 +225,7 @@ void ProcessRun::NoteSecondOpinion(const FileOutcome& outcome) {
     SpecimenFaults faults = context_.precise->TakeFaults();
     if (context_.precise->Reads() || context_.precise->GivesSecondOpinion())
         opinions_.specimens.replaced.merge(faults.replaced);
-    // The described rules need no specimen.
+    // The plain reading needs no specimen.
     if (context_.precise->Reads())
         opinions_.specimens.unreadable.merge(faults.unreadable);
 }

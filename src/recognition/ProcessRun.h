@@ -34,7 +34,7 @@ struct RunContext {
     const app::Clock& clock;
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
-    PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
+    PreciseReader* precise = nullptr;  ///< Without one there is the plain reading alone.
     bool canReadImages = !imaging::ImageLibraryVersion().empty();
     /// Gives the files to take, and then again those that came meanwhile, until there are none. Without it
     /// all that lie in `ProcessIn` at the start are taken.

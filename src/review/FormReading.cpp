@@ -64,7 +64,7 @@ std::vector<std::optional<BoxShift>> KnownShifts(const profiles::ProfileRecord& 
     return known;
 }
 
-// The described rules read no page that lies upside down; who has one there has let precise alignment read
+// The plain reading reads no page that lies upside down; who has one there has let precise alignment read
 // it, and its places mean nothing to them.
 bool IsReadPrecisely(const OpenForm& form, const recognition::PreciseReader* precise) {
     return precise != nullptr && (precise->Reads() || form.IsUpsideDown);

@@ -76,7 +76,7 @@ struct ReviewContext {
     imaging::PageScreen& page;
     profiles::BoxRows& rows;
     ReviewSide side;
-    recognition::PreciseReader* precise = nullptr;  ///< Without one the described rules alone read forms.
+    recognition::PreciseReader* precise = nullptr;  ///< Without one there is the plain reading alone.
 };
 
 }  // namespace tavrene::review

@@ -80,7 +80,7 @@ TEST_F(PreciseReviewTest, LostPlacesAreSearchedAsFormsAreRead) {
     Okay();
     reading_ = {};
     Open(0);
-    EXPECT_NE(screen_.rects, places) << "the described rules do not look that far";
+    EXPECT_NE(screen_.rects, places) << "the plain reading does not look that far";
 }
 
 TEST_F(PreciseReviewTest, ABoxThatWasAddedLiesWhereTheOthersSay) {

@@ -8,7 +8,7 @@ namespace {
 
 using test::TestForm;
 
-// Runs over a form that lies farther off its place than the described rules look.
+// Runs over a form that lies farther off its place than the plain reading looks.
 class PreciseRunTest : public test::RunWorld {
   protected:
     void RunWith(const ReadingOptions& options) {
@@ -30,6 +30,12 @@ class PreciseRunTest : public test::RunWorld {
         const auto lines = ProcessLog();
         return std::any_of(lines.begin(), lines.end(),
                            [&line](const std::string& logged) { return logged.starts_with(line); });
+    }
+
+    FormsReadAgain ReadAgain(const std::vector<std::string>& names) {
+        const auto goesOn = [] { return true; };
+        return ReadFormsAgain({files_, log_, person_, reader_, goesOn}, names, folders_.ProcessOut, profiles_,
+                              8);
     }
 
     TestForm form_ = TestForm::Grid(4, 3);
@@ -61,7 +67,7 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
 
     const std::string before = test::ReadText(folders_.ProcessOut + "near.xml");
     const auto names = std::vector<std::string>{"far.tif", "near.tif", "gone.tif"};
-    EXPECT_EQ(ReadFormsAgain(names, folders_.ProcessOut, files_, log_, person_, reader_, profiles_, 8), 1);
+    EXPECT_EQ(ReadAgain(names).read, 1);
     ASSERT_TRUE(HasResult("far"));
     EXPECT_TRUE(Marks("far")[6].Checked);
     EXPECT_EQ(test::ReadText(folders_.ProcessOut + "near.xml"), before);
@@ -80,7 +86,9 @@ TEST_F(PreciseRunTest, AResultThatCannotBeWrittenIsNeitherMisjudgedNorHoldsUpOth
     const std::vector<std::string> unread = {"away.tif", "far.tif"};
     EXPECT_EQ(run_.Opinions().unread, unread);
     refuseWriting("away");
-    EXPECT_EQ(ReadFormsAgain(unread, folders_.ProcessOut, files_, log_, person_, reader_, profiles_, 8), 1);
+    const FormsReadAgain again = ReadAgain(unread);
+    EXPECT_EQ(again.read, 1);
+    EXPECT_EQ(again.left, std::vector<std::string>{"away.tif"});
     EXPECT_FALSE(HasResult("away"));
     EXPECT_TRUE(HasResult("far"));
     EXPECT_TRUE(Logged("away.tif: Cannot write "));
@@ -94,6 +102,19 @@ TEST_F(PreciseRunTest, ASpecimenThatCannotHelpIsToldInEveryRun) {
     AddSpecimenProfile("Form", form_);
     Process();
     EXPECT_EQ(TextOf(run_.Opinions()), "");
+    const std::string unreadable =
+        "The specimen image of profile Form is missing or cannot be read: Precise Alignment knows its forms "
+        "by "
+        "their boxes alone.";
+    AddSpecimenProfile("Form", form_);
+    files_.refuse = [](const std::string& operation, const std::string& path) {
+        return operation == "read" && path.find("Form.tif") != std::string::npos;
+    };
+    RunWith({.preciseAlignment = true});
+    EXPECT_EQ(TextOf(run_.Opinions()), unreadable);
+    files_.refuse = {};
+    RunWith({.preciseAlignment = true});
+    EXPECT_EQ(TextOf(run_.Opinions()), "") << "it was away for a moment";
     TestForm::Grid(2, 2, 40, 300, 300).SaveScan(folders_.ProfileImages + "Form.tif", {});
     RunWith({.preciseAlignment = true});
     EXPECT_EQ(TextOf(run_.Opinions()),
@@ -101,10 +122,7 @@ TEST_F(PreciseRunTest, ASpecimenThatCannotHelpIsToldInEveryRun) {
     files_.Delete(folders_.ProfileImages + "Form.tif");
     for (int run = 0; run < 2; ++run) {
         RunWith({.preciseAlignment = true});
-        EXPECT_EQ(
-            TextOf(run_.Opinions()),
-            "The specimen image of profile Form is missing or cannot be read: Precise Alignment knows its "
-            "forms by their boxes alone.");
+        EXPECT_EQ(TextOf(run_.Opinions()), unreadable);
     }
 }
 

@@ -38,8 +38,8 @@ TEST_F(SampleFolderTest, EveryScanReadsAsTheTruthSaysByBothReadings) {
     std::sort(listed.begin(), listed.end());
     ASSERT_EQ(In(folders_.ProcessIn), listed);
     Process();
-    const auto described = samples::CompareWithTruth(files_, folders_, truth);
-    EXPECT_EQ(Excused(described),
+    const auto plain = samples::CompareWithTruth(files_, folders_, truth);
+    EXPECT_EQ(Excused(plain),
               (Names{"patient-12-corrected.tif", "patient-14-tilted.tif", "patient-15-upside-down.tif",
                      "new-scanner-1-150dpi.tif", "staff-13-bent.tif"}));
 
@@ -55,7 +55,7 @@ TEST_F(SampleFolderTest, EveryScanReadsAsTheTruthSaysByBothReadings) {
     Process();
     const auto precise = samples::CompareWithTruth(files_, folders_, truth);
     EXPECT_EQ(Excused(precise), Names{"patient-12-corrected.tif"});
-    EXPECT_PRED2(test::Has, samples::TableOf(described, precise), "\nstaff-13-bent.tif ");
+    EXPECT_PRED2(test::Has, samples::TableOf(plain, precise), "\nstaff-13-bent.tif ");
 }
 
 }  // namespace

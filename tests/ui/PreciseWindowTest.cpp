@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -10,7 +11,6 @@ namespace tavrene::ui {
 namespace {
 
 using test::Find;
-using test::ReadText;
 using test::TestForm;
 
 // The commands about precise alignment in the real window.
@@ -55,6 +55,46 @@ TEST_F(PreciseWindow, FormsThatOnlyPreciseAlignmentReadsAreOfferedAndReadAgain) 
     EXPECT_EQ(Seen<QPushButton>("Read These Again"), nullptr);
     Click("Review");
     EXPECT_EQ(Lines(), 2);
+    EXPECT_FALSE(Find<QAction>(*window_, "ReadAgain").isEnabled());
+}
+
+TEST_F(PreciseWindow, ReadingAgainStopsAtEscapeAndKeepsWhatIsLeft) {
+    for (const char* const name : {"a.tif", "b.tif", "c.tif"})
+        form_.SaveScan(folders_.ProcessIn + name, {.dx = 40, .dy = -30});
+    Open();
+    Click("Process");
+    const auto hasResult = [this](const char* name) {
+        return files_.FileExists(folders_.ProcessOut + name + ".xml");
+    };
+    auto& bar = Find<QProgressBar>(*window_, "ProgressBar1");
+    {
+        const test::WhileRunning presses([&] {
+            if (Panel("Message").find("Esc stops") == std::string::npos || bar.value() == 0)
+                return;
+            EXPECT_EQ(bar.maximum(), 3);
+            EXPECT_NE(QApplication::overrideCursor(), nullptr);
+            QTest::keyClick(window_.get(), Qt::Key_F6);
+            QTest::keyClick(window_.get(), Qt::Key_Escape);
+        });
+        Choose("ReadAgain");
+    }
+    EXPECT_EQ(Notices(), "1 form was read by Precise Alignment and can be reviewed. 2 forms are left.");
+    EXPECT_TRUE(hasResult("a"));
+    EXPECT_FALSE(hasResult("b") || hasResult("c"));
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+
+    files_.refuse = [](const std::string& operation, const std::string& path) {
+        return operation == "write" && path.find("b.xml") != std::string::npos;
+    };
+    Choose("ReadAgain");
+    EXPECT_EQ(Notices(), "1 form was read by Precise Alignment and can be reviewed. 1 form is left.");
+    EXPECT_TRUE(hasResult("c"));
+    files_.refuse = {};
+    auto* const again = Seen<QPushButton>("Read These Again");
+    ASSERT_NE(again, nullptr);
+    again->click();
+    EXPECT_TRUE(hasResult("b"));
     EXPECT_FALSE(Find<QAction>(*window_, "ReadAgain").isEnabled());
 }
 

@@ -23,14 +23,6 @@ Word EvenBits(Word word) {
     return (word | (word >> 16U)) & 0x00000000FFFFFFFFU;
 }
 
-Word FromLeft(const Word* row, int index, unsigned by) {
-    return (row[index] << by) | (row[index - 1] >> (64U - by));
-}
-
-Word FromRight(const Word* row, int index, unsigned by) {
-    return (row[index] >> by) | (row[index + 1] << (64U - by));
-}
-
 // Cells with another one within two columns of the same row.
 Word BesideInk(const Word* row, int index) {
     return FromLeft(row, index, 1) | FromLeft(row, index, 2) | FromRight(row, index, 1) |

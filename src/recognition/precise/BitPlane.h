@@ -75,6 +75,16 @@ class BitPlane {
     std::vector<Word> cells_;
 };
 
+/// Word `index` of a row whose cells were all `by` columns (1 to 63) further right: cell c comes to c + by.
+inline BitPlane::Word FromLeft(const BitPlane::Word* row, int index, unsigned by) {
+    return (row[index] << by) | (row[index - 1] >> (BitPlane::kWordBits - by));
+}
+
+/// The same further left.
+inline BitPlane::Word FromRight(const BitPlane::Word* row, int index, unsigned by) {
+    return (row[index] >> by) | (row[index + 1] << (BitPlane::kWordBits - by));
+}
+
 /// The picture of a grid without the padding of its scan lines.
 BitPlane PlaneOf(const imaging::WorkGrid& grid);
 

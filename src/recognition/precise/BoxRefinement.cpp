@@ -75,7 +75,8 @@ int OutlineFinder::CountAt(int dx, int dy, int reach) const {
 }
 
 OutlineSight OutlineFinder::Find(const GridRect& expected, int reach) {
-    if (expected.row1 <= expected.row0 || expected.col1 <= expected.col0)
+    if (expected.row1 <= expected.row0 || expected.col1 <= expected.col0 ||
+        expected.row1 - expected.row0 >= pixels_.Height() || expected.col1 - expected.col0 >= pixels_.Width())
         return {};
     SumSides(expected, reach);
     const int side = 2 * reach + 1;

@@ -56,8 +56,6 @@ class CellPages {
     /// to be told from letters and coarse enough for quick work.
     CellPage& ForBoxesOf(double boxSize);
 
-    const BitPlane& Pixels() const { return page_; }
-
   private:
     const BitPlane& page_;
     std::vector<std::unique_ptr<CellPage>> scales_;

@@ -26,6 +26,11 @@ constexpr double kPrintMm = 0.5;
 constexpr double kMostChance = 0.01;
 constexpr std::size_t kFreedom = 3;  // boxes that a map meets by being fitted to them
 
+double PixelsPerMm(const imaging::Page& page, const ProfileRecord& profile) {
+    constexpr double mmPerInch = 25.4;
+    return DpiOf(page, profile) / mmPerInch;
+}
+
 int PrintReach(const CellPage& cells, double pixelsPerMm) {
     return std::clamp(static_cast<int>(std::lround(kPrintMm * pixelsPerMm / cells.Factor())), 1, 6);
 }
@@ -84,10 +89,14 @@ CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, double
     return {page.grid.Width() - 1 - column, page.grid.Rows() - 1 - row};
 }
 
-double PixelsPerMm(const imaging::Page& page, const ProfileRecord& profile) {
+CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, const PrintedBox& box,
+                       bool turned) {
+    return NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
+}
+
+double DpiOf(const imaging::Page& page, const ProfileRecord& profile) {
     constexpr double usual = 200;
-    const double dpi = page.DPI_X > 0 ? page.DPI_X : profile.DPI_X > 0 ? profile.DPI_X : usual;
-    return dpi / 25.4;
+    return page.DPI_X > 0 ? page.DPI_X : profile.DPI_X > 0 ? profile.DPI_X : usual;
 }
 
 void FormMatcher::Lay(std::size_t index, bool turned, std::vector<FormMatch>& matches) {
@@ -97,8 +106,7 @@ void FormMatcher::Lay(std::size_t index, bool turned, std::vector<FormMatch>& ma
     std::vector<SoughtBox> boxes;
     boxes.reserve(profile.Boxes.size());
     for (const PrintedBox& box : profile.Boxes) {
-        const CellPoint place =
-            NominalPlace(page_, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
+        const CellPoint place = NominalPlace(page_, scale, box, turned);
         boxes.push_back(
             {{cells.ToCells(place.x), cells.ToCells(place.y)},
              &cells.PlacesFor((box.R - box.L) * static_cast<double>(scale.sx) / cells.Factor(),

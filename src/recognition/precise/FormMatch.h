@@ -50,7 +50,11 @@ class FormMatcher {
 /// pixels, grid frame.
 CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, double x, double y, bool turned);
 
-/// Pixels of the page in a millimetre.
-double PixelsPerMm(const imaging::Page& page, const profiles::ProfileRecord& profile);
+/// The same of the middle of a box.
+CellPoint NominalPlace(const imaging::Page& page, const FormScale& scale, const profiles::PrintedBox& box,
+                       bool turned);
+
+/// The page's resolution; where it tells none, that of the profile.
+double DpiOf(const imaging::Page& page, const profiles::ProfileRecord& profile);
 
 }  // namespace tavrene::recognition::precise

@@ -117,14 +117,12 @@ class Search {
         // ex = stretchX dx - turn dy and ey = stretchY dy + turn dx leave one unknown free. The smallest sum
         // of squares solves the two by two system of their products.
         const double square = dx * dx + dy * dy;
-        const double xx = square;
-        const double yy = square;
         const double xy = -dx * dy;
-        const double determinant = xx * yy - xy * xy;
+        const double determinant = square * square - xy * xy;
         if (determinant <= 0)
             return std::nullopt;
-        const double p = (ex * yy - ey * xy) / determinant;
-        const double q = (ey * xx - ex * xy) / determinant;
+        const double p = (ex * square - ey * xy) / determinant;
+        const double q = (ey * square - ex * xy) / determinant;
         const double turn = -p * dy + q * dx;
         Trial trial;
         trial.map.middle = middle_;

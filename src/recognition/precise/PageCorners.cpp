@@ -5,15 +5,6 @@ namespace {
 
 using Word = BitPlane::Word;
 
-// The cells of a row as `shift` columns further right (the bit of column c + shift comes to c).
-Word Ahead(const Word* row, int index, unsigned shift) {
-    return (row[index] >> shift) | (row[index + 1] << (64U - shift));
-}
-
-Word Behind(const Word* row, int index, unsigned shift) {
-    return (row[index] << shift) | (row[index - 1] >> (64U - shift));
-}
-
 template <typename Combine>
 BitPlane RowByRow(const BitPlane& plane, Combine combine) {
     BitPlane result(plane.Width(), plane.Height());
@@ -34,19 +25,19 @@ BitPlane StrokesToTheRight(const BitPlane& cells) {
     });
     const BitPlane reached = RowByRow(thick, [&thick](int row, int index) {
         const Word* const r = thick.Row(row);
-        return r[index] | Behind(r, index, 1) | Behind(r, index, 2);
+        return r[index] | FromLeft(r, index, 1) | FromLeft(r, index, 2);
     });
     const BitPlane closed = RowByRow(reached, [&reached](int row, int index) {
         const Word* const r = reached.Row(row);
-        return r[index] & Ahead(r, index, 1) & Ahead(r, index, 2);
+        return r[index] & FromRight(r, index, 1) & FromRight(r, index, 2);
     });
     const BitPlane pairs = RowByRow(closed, [&closed](int row, int index) {
         const Word* const r = closed.Row(row);
-        return r[index] & Ahead(r, index, 1);
+        return r[index] & FromRight(r, index, 1);
     });
     return RowByRow(pairs, [&pairs](int row, int index) {
         const Word* const r = pairs.Row(row);
-        return r[index] & Ahead(r, index, 2) & Ahead(r, index, 4);
+        return r[index] & FromRight(r, index, 2) & FromRight(r, index, 4);
     });
 }
 
@@ -54,7 +45,7 @@ BitPlane StrokesToTheRight(const BitPlane& cells) {
 BitPlane StrokesUpwards(const BitPlane& cells) {
     const BitPlane thick = RowByRow(cells, [&cells](int row, int index) {
         const Word* const r = cells.Row(row);
-        return r[index] | Ahead(r, index, 1) | Behind(r, index, 1);
+        return r[index] | FromRight(r, index, 1) | FromLeft(r, index, 1);
     });
     const BitPlane reached = RowByRow(thick, [&thick](int row, int index) {
         return thick.Row(row)[index] | thick.Row(row - 1)[index] | thick.Row(row - 2)[index];
@@ -76,7 +67,7 @@ PageCorners FindCorners(const BitPlane& cells) {
     const BitPlane right = StrokesToTheRight(cells);
     const BitPlane up = StrokesUpwards(cells);
     constexpr auto back = static_cast<unsigned>(kStroke - 1);
-    const auto leftAt = [&right](int row, int index) { return Behind(right.Row(row), index, back); };
+    const auto leftAt = [&right](int row, int index) { return FromLeft(right.Row(row), index, back); };
     const auto downAt = [&up](int row, int index) { return up.Row(row - (kStroke - 1))[index]; };
     PageCorners corners;
     corners.lowerLeft =

@@ -25,7 +25,6 @@ struct PageMap {
     }
 
     double Turn() const { return (yByX - xByY) / 2; }  ///< Radians.
-    double Shear() const { return (yByX + xByY) / 2; }
 };
 
 /// How far paper and scanners move a form. Cells, radians and shares.

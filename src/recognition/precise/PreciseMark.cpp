@@ -1,11 +1,11 @@
 #include "recognition/precise/PreciseMark.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <vector>
 
+#include "imaging/BitCount.h"
 #include "recognition/precise/FormMatch.h"
 
 namespace tavrene::recognition::precise {
@@ -14,22 +14,6 @@ namespace {
 constexpr int kBorder = 4;
 constexpr double kLeastBeside = 0.3;  // of the area that is counted
 constexpr double kFineDpi = 300;
-
-int CountInRow(const BitPlane& pixels, int row, int first, int last) {
-    using Word = BitPlane::Word;
-    const Word* const words = pixels.Row(row);
-    int count = 0;
-    for (int index = first / BitPlane::kWordBits; index <= last / BitPlane::kWordBits; ++index) {
-        const int start = index * BitPlane::kWordBits;
-        Word word = words[index];
-        if (first > start)
-            word &= ~Word{0} << static_cast<unsigned>(first - start);
-        if (last < start + BitPlane::kWordBits - 1)
-            word &= ~Word{0} >> static_cast<unsigned>(start + BitPlane::kWordBits - 1 - last);
-        count += std::popcount(word);
-    }
-    return count;
-}
 
 }  // namespace
 
@@ -43,7 +27,7 @@ double FillInside(const BitPlane& pixels, const GridRect& place, int border) {
     const int lastRow = std::min(pixels.Height() - 1, place.row1 - border);
     std::int64_t ink = 0;
     for (int row = std::max(0, place.row0 + border); row <= lastRow && first <= last; ++row)
-        ink += CountInRow(pixels, row, first, last);
+        ink += imaging::CountBits({pixels.Row(row), static_cast<std::size_t>(pixels.Words())}, first, last);
     return static_cast<double>(ink * 100) / static_cast<double>(width * height);
 }
 
@@ -71,8 +55,7 @@ std::optional<double> FillBeside(const BitPlane& pixels, const GridRect& place, 
 }
 
 int BorderOf(const imaging::Page& page, const profiles::ProfileRecord& profile) {
-    const double dpi = PixelsPerMm(page, profile) * 25.4;
-    return std::max(kBorder, static_cast<int>(std::lround(kBorder * dpi / kFineDpi)));
+    return std::max(kBorder, static_cast<int>(std::lround(kBorder * DpiOf(page, profile) / kFineDpi)));
 }
 
 double TypicalBox(const profiles::ProfileRecord& profile, const FormScale& scale) {

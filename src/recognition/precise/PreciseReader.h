@@ -30,7 +30,7 @@ class PreciseReader {
     PreciseReading ReadAs(const imaging::Page& page, const profiles::ProfileRecord& profile,
                           std::int16_t fillThreshold);
 
-    /// What it says to a reading of `page` by the described rules, as in `CompareReadings`. It does not
+    /// What it says to a reading of `page` by the plain reading, as in `CompareReadings`. It does not
     /// doubt a profile without a specimen to know it by.
     SecondOpinion OpinionOn(const imaging::Page& page, std::span<const profiles::ProfileRecord> profiles,
                             int winner, std::span<const MarkReading> marks, std::int16_t fillThreshold);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "app/Numeric.h"
 #include "recognition/precise/BoxRefinement.h"
@@ -14,12 +15,11 @@ namespace {
 using precise::BitPlane;
 using precise::CellPoint;
 using precise::FormMatch;
-using profiles::PrintedBox;
 using profiles::ProfileRecord;
 
-// A pixel of 200 dpi, and how far ink may lie beside an outline, in pixels of the page.
+// A pixel of 200 dpi, which is also how far ink may lie beside an outline, in pixels of the page.
 double UnitOf(const imaging::Page& page, const ProfileRecord& profile) {
-    return precise::PixelsPerMm(page, profile) * 25.4 / 200;
+    return precise::DpiOf(page, profile) / 200;
 }
 
 std::vector<precise::BoxToRefine> Mapped(const FormMatch& match, const ProfileRecord& profile,
@@ -27,12 +27,10 @@ std::vector<precise::BoxToRefine> Mapped(const FormMatch& match, const ProfileRe
     std::vector<precise::BoxToRefine> boxes;
     boxes.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
-        const PrintedBox& box = profile.Boxes[k];
         const CellPoint mapped = match.alignment.map(match.boxes[k].place);
         const CellPoint seen = match.alignment.seen[k].value_or(mapped);
         // A shift is told against the upright place, whichever way the page lies.
-        const CellPoint upright =
-            precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, false);
+        const CellPoint upright = precise::NominalPlace(page, scale, profile.Boxes[k], false);
         precise::BoxToRefine refined;
         refined.x = match.page->ToPixels(mapped.x);
         refined.y = match.page->ToPixels(mapped.y);
@@ -53,7 +51,7 @@ std::vector<BoxShift> RefinedShifts(const imaging::Page& page, const ProfileReco
     std::vector<precise::BoxToRefine> boxes = Mapped(match, profile, page, scale);
     RefineBoxes(boxes, finder, unit, [&](std::size_t index, int dx, int dy) {
         return PlaceOf(page.grid, profile.Boxes[index], scale,
-                       {static_cast<std::int16_t>(dx), static_cast<std::int16_t>(dy)});
+                       {app::RoundToInt16(dx), app::RoundToInt16(dy)});
     });
     std::vector<BoxShift> shifts;
     shifts.reserve(boxes.size());
@@ -97,7 +95,14 @@ PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const ProfileR
                              const PrintSource& prints, std::int16_t fillThreshold) {
     const BitPlane pixels = WithoutNoise(precise::PlaneOf(page.grid));
     precise::CellPages cells(pixels);
-    const FormMatch match = precise::FormMatcher(page, cells, profiles, prints).Match();
+    // A profile is laid on the page in several ways, and each question for its print looks at a file.
+    std::vector<std::optional<const SpecimenPrint*>> known(profiles.size());
+    const PrintSource printOf = [&](std::size_t index) {
+        if (!known[index])
+            known[index] = prints(index);
+        return *known[index];
+    };
+    const FormMatch match = precise::FormMatcher(page, cells, profiles, printOf).Match();
     PreciseReading reading;
     if (!match.accepted)
         return reading;
@@ -106,7 +111,7 @@ PreciseReading ReadPrecisely(const imaging::Page& page, std::span<const ProfileR
     reading.turned = match.turned;
     const auto index = static_cast<std::size_t>(match.profile);
     const FormPlaces places{RefinedShifts(page, profiles[index], pixels, match), match.turned};
-    reading.marks = ReadMarksAt(page, pixels, profiles[index], places, prints(index), fillThreshold);
+    reading.marks = ReadMarksAt(page, pixels, profiles[index], places, printOf(index), fillThreshold);
     return reading;
 }
 

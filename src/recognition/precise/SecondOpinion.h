@@ -8,16 +8,16 @@
 
 namespace tavrene::recognition {
 
-/// Where a precise reading says otherwise than the described one.
+/// Where a precise reading says otherwise than the plain one.
 struct SecondOpinion {
-    bool onlyPrecise = false;        ///< The described rules took the page for no form; it looks like one.
+    bool onlyPrecise = false;        ///< The plain reading took the page for no form; it looks like one.
     bool otherProfile = false;       ///< It looks like another form than it was taken for, or like none.
     std::vector<std::size_t> boxes;  ///< Indices of the boxes whose state differs, in the profile's order.
 
     bool Agrees() const { return !onlyPrecise && !otherProfile && boxes.empty(); }
 };
 
-/// `winner` is what the described rules took the page for (-1 for nothing), `marks` what they read.
+/// `winner` is what the plain reading took the page for (-1 for nothing), `marks` what it read.
 SecondOpinion CompareReadings(int winner, std::span<const MarkReading> marks, const PreciseReading& precise);
 
 }  // namespace tavrene::recognition

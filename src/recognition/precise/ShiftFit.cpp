@@ -11,14 +11,9 @@ namespace {
 using precise::CellPoint;
 using precise::PageMap;
 using precise::Sighting;
-using profiles::PrintedBox;
 
 // How farther than usual a form may lie before its being upside down is the better explanation: pixels.
 constexpr double kShiftReach = 100;
-
-CellPoint PlaceOn(const imaging::Page& page, const FormScale& scale, const PrintedBox& box, bool turned) {
-    return precise::NominalPlace(page, scale, (box.L + box.R) / 2.0, (box.lower + box.upper) / 2.0, turned);
-}
 
 struct Fit {
     PageMap map;
@@ -32,8 +27,8 @@ Fit FitOneWay(const imaging::Page& page, const profiles::ProfileRecord& profile,
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
         if (!known[k])
             continue;
-        const CellPoint upright = PlaceOn(page, scale, profile.Boxes[k], false);
-        sightings.push_back({PlaceOn(page, scale, profile.Boxes[k], turned),
+        const CellPoint upright = precise::NominalPlace(page, scale, profile.Boxes[k], false);
+        sightings.push_back({precise::NominalPlace(page, scale, profile.Boxes[k], turned),
                              {upright.x + known[k]->dx, upright.y + known[k]->dy},
                              1});
     }
@@ -72,8 +67,8 @@ FormPlaces CompleteShifts(const imaging::Page& page, const profiles::ProfileReco
     places.turned = fit.turned;
     places.shifts.reserve(profile.Boxes.size());
     for (std::size_t k = 0; k < profile.Boxes.size(); ++k) {
-        const CellPoint nominal = PlaceOn(page, scale, profile.Boxes[k], false);
-        const CellPoint mapped = fit.map(PlaceOn(page, scale, profile.Boxes[k], fit.turned));
+        const CellPoint nominal = precise::NominalPlace(page, scale, profile.Boxes[k], false);
+        const CellPoint mapped = fit.map(precise::NominalPlace(page, scale, profile.Boxes[k], fit.turned));
         places.shifts.push_back(known[k].value_or(
             BoxShift{app::RoundToInt16(mapped.x - nominal.x), app::RoundToInt16(mapped.y - nominal.y)}));
     }

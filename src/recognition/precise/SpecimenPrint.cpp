@@ -35,10 +35,11 @@ BitPlane BoxesOf(const precise::CellPage& page, const imaging::Page& specimen,
     BitPlane boxes(page.Cells().Width(), page.Cells().Height());
     for (const profiles::PrintedBox& box : profile.Boxes) {
         const GridRect place = PlaceOf(specimen.grid, box, scale, {});
-        for (int row = place.row0 / page.Factor() - around; row <= place.row1 / page.Factor() + around;
-             ++row) {
-            for (int column = place.col0 / page.Factor() - around;
-                 column <= place.col1 / page.Factor() + around; ++column)
+        // A document can tell of boxes that are far larger than any page.
+        const int top = std::min(place.row1 / page.Factor() + around, boxes.Height() - 1);
+        const int right = std::min(place.col1 / page.Factor() + around, boxes.Width() - 1);
+        for (int row = std::max(0, place.row0 / page.Factor() - around); row <= top; ++row) {
+            for (int column = std::max(0, place.col0 / page.Factor() - around); column <= right; ++column)
                 boxes.Set(column, row);
         }
     }

@@ -40,8 +40,11 @@ class SpecimenPrints {
         std::vector<profiles::PrintedBox> boxes;
         int dpiX = 0;
         int dpiY = 0;
+        bool isTaken = false;
         std::shared_ptr<const SpecimenPrint> print;
     };
+
+    void Take(const profiles::ProfileRecord& profile, Known& known);
 
     const app::Files& files_;
     std::mutex mutex_;

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "ui/base/BusyCursor.h"
+
 namespace tavrene::ui {
 
 EscapeWatch::EscapeWatch() {
@@ -34,6 +36,12 @@ bool EscapeWatch::eventFilter(QObject*, QEvent* event) {
         default:
             return false;
     }
+}
+
+void WorkUndisturbed(const std::function<void(const std::function<bool()>& goesOn)>& work) {
+    const BusyCursor busy;
+    const EscapeWatch escape;
+    work([&escape] { return !escape.WasPressed(); });
 }
 
 }  // namespace tavrene::ui

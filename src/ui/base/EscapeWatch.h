@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 
 namespace tavrene::ui {
 
@@ -18,5 +19,9 @@ class EscapeWatch final : public QObject {
   private:
     bool wasPressed_ = false;
 };
+
+/// Calls `work` under the busy pointer while the person can do nothing but stop it; what it is handed tells
+/// whether it is to go on.
+void WorkUndisturbed(const std::function<void(const std::function<bool()>& goesOn)>& work);
 
 }  // namespace tavrene::ui

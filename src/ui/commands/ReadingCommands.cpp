@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <thread>
+#include <utility>
 
 #include "recognition/precise/ReadAgain.h"
 #include "ui/commands/Counted.h"
@@ -38,9 +39,11 @@ void ReadingCommands::RunBegins() {
 
 void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
     unread_ = opinions.unread;
-    app::Notice notice{recognition::TextOf(opinions)};
-    if (notice.text.empty())
-        return;
+    if (const std::string text = recognition::TextOf(opinions); !text.empty())
+        Tell({text});
+}
+
+void ReadingCommands::Tell(app::Notice notice) {
     if (!unread_.empty()) {
         notice.button = "Read These Again";
         notice.act = [this] { context_.gate.Run(Command::ReadAgain); };
@@ -49,13 +52,20 @@ void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
 }
 
 void ReadingCommands::ReadAgain() {
-    const int count = recognition::ReadFormsAgain(unread_, state_.folders.ProcessOut, context_.files,
-                                                  context_.log, context_.person, context_.reader,
-                                                  state_.profiles, state_.settings.FillThreshold);
-    unread_.clear();
-    context_.person.ShowNotices(
-        std::array{app::Notice{Counted(count, "form was", "forms were") + " read by Precise Alignment" +
-                               (count > 0 ? " and can be reviewed." : ".")}});
+    context_.person.SetPanel(app::Panel::Message, "Reading forms again... Esc stops.");
+    recognition::FormsReadAgain forms;
+    context_.undisturbed([&](const std::function<bool()>& goesOn) {
+        forms = recognition::ReadFormsAgain(
+            {context_.files, context_.log, context_.person, context_.reader, goesOn}, unread_,
+            state_.folders.ProcessOut, state_.profiles, state_.settings.FillThreshold);
+    });
+    context_.person.SetPanel(app::Panel::Message, "");
+    unread_ = std::move(forms.left);
+    std::string text = Counted(forms.read, "form was", "forms were") + " read by Precise Alignment" +
+                       (forms.read > 0 ? " and can be reviewed." : ".");
+    if (!unread_.empty())
+        text += " " + Counted(unread_.size(), "form is", "forms are") + " left.";
+    Tell({text});
 }
 
 }  // namespace tavrene::commands

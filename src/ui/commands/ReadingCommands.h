@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,9 @@ class ReadingCommands {
         app::Operator& person;
         recognition::PreciseReader& reader;
         CommandGate& gate;
+        /// Calls long work while the person can do nothing but stop it; it is handed what tells whether to
+        /// go on.
+        std::function<void(const std::function<void(const std::function<bool()>& goesOn)>& work)> undisturbed;
     };
 
     /// Takes the three toggles from the store. The references must outlive the object.
@@ -39,12 +43,13 @@ class ReadingCommands {
     void RunBegins();
 
     /// Tells what the second opinion on a run has come to; forms that it alone recognises are offered to
-    /// `ReadAgain` until the next run.
+    /// `ReadAgain` until they have a result or the next run begins.
     void RunEnded(const recognition::OpinionTally& opinions);
 
   private:
     void Switch(bool& option, std::string_view name);
     void ReadAgain();
+    void Tell(app::Notice notice);
 
     AppState& state_;
     Context context_;

@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "imaging/Bitmap.h"
+#include "ui/base/EscapeWatch.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
@@ -59,7 +60,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
               {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),
-      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_}),
+      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_, &WorkUndisturbed}),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }),
