@@ -28,15 +28,9 @@ struct ScoreWish {
     bool SecondOpinion = true;  ///< Precise alignment looks, too.
 };
 
-<<<<<<< HEAD
 /// Reads pages of a class by the plain reading, and doubts. Forms that it does not recognise are left out:
 /// nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted by
 /// tabs.
-=======
-/// Reads pages of a class by the plain reading, and doubts. Forms that it does not recognise are left
-/// out: nobody is shown their boxes. `tell`, if there is one, hears of every box, one line of fields parted
-/// by tabs.
->>>>>>> 82c22ab
 DoubtTally ScoreDoubts(const DoubtClass& kind, const ScoreWish& wish,
                        const std::function<void(const std::string&)>& tell = {});
 
