@@ -1,5 +1,4 @@
 #include <QListView>
-#include <QTreeView>
 
 #include "painter/ImageFiles.h"
 #include "ui/DeskWindow.h"
@@ -81,31 +80,6 @@ TEST_F(DoubtSheetWindowTest, IsJudgedScreenByScreenByKeys) {
     Press(*window_, Qt::Key_U, Qt::ControlModifier);
     EXPECT_EQ(In(folders_.ProcessFinal), Names());
     EXPECT_EQ(Panel("File"), "Reviewed: 60 of 61");
-}
-
-TEST_F(DoubtSheetWindowTest, AsksAboutTheOpenFormAndLeadsToAnother) {
-    ClickOn(Find<QTreeView>(*window_, "lvwReview"), 0);
-    ClickRow(0);
-    DialogScript script;
-    script.Press(Box::Cancel).Press(Box::No);
-    Press(*window_, Qt::Key_F9);
-    EXPECT_EQ(script.shown, Names{"Save changes to Form <form10>?"});
-    script
-        .Do([](QDialog& dialog) {
-            WaitUntilAllAreFound(dialog);
-            QListView& sheet = Sheet(dialog);
-            Press(sheet, Qt::Key_Down);
-            Press(sheet, Qt::Key_Return);
-        })
-        .Press(Box::No);
-    Press(*window_, Qt::Key_F9);
-    EXPECT_EQ(script.shown.back(),
-              "1 mark was turned round and not confirmed. Leave the sheet without them?");
-    EXPECT_EQ(Panel("Message"), "Image [form18.tif], Profile [Form]");
-    EXPECT_EQ(Rows().currentItem()->text(0) + Rows().currentItem()->text(1), "Q30");
-    const double large = View().Zoom();
-    Press(Rows(), Qt::Key_PageDown);
-    EXPECT_LT(View().Zoom(), large) << "the zoom is the person's own again";
 }
 
 }  // namespace
