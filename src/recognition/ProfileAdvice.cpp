@@ -75,6 +75,14 @@ std::string SteepSlope(const std::string& line) {
         .append(". Add or delete boxes so that others are chosen.");
 }
 
+std::string OneLine(const std::string& line) {
+    return std::string("All boxes lie in one ")
+        .append(line)
+        .append(", so this profile may match forms that are not its own. Add a box in another ")
+        .append(line)
+        .append(".");
+}
+
 // Boxes whose edges lie nearer to each other than that are in one line, as a scan has it.
 int HalfABox(const Boxes& boxes) {
     const OmrBox& box = boxes.front();
@@ -91,10 +99,7 @@ void AdviseOnSpread(const Boxes& boxes, Advice& advice) {
         else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
             Add(advice, "near one " + line, SteepSlope(line));
         if (spread > 0 && SpreadOf(boxes, ordinate) < HalfABox(boxes))
-            Add(advice, "one " + line,
-                "All boxes lie in one " + line +
-                    ", so this profile may match forms that are not its own. Add a box in another " + line +
-                    ".");
+            Add(advice, "one " + line, OneLine(line));
     }
 }
 
