@@ -65,13 +65,10 @@ TEST_F(ScanWindowTest, PagesOfTheFeederComeInAndWhatStopsItIsToldInTheDialog) {
     EXPECT_EQ(In(folders_.ProcessIn).size(), 11U);
     EXPECT_EQ(Panel("Message"), "11 pages were scanned to ProcessIn.");
 
-    // What was chosen is kept; closing waits for the scanner and keeps the pages before.
-    Connect("read-delay true\nread-delay-duration 2000\nread-limit true\nread-limit-size 100\n");
+    // What was chosen is kept.
     dialogs.Do([](QDialog& dialog) {
         WaitForButton(dialog, "cmdScan");
         EXPECT_EQ(Find<QComboBox>(dialog, "cboSource").currentText(), "Flatbed");
-        Find<QPushButton>(dialog, "cmdScan").click();
-        EXPECT_TRUE(Has(Told(dialog), "Scanning page 1"));
         dialog.reject();
     });
     Find<QAction>(*window_, "Scan").trigger();

@@ -5,8 +5,8 @@
 #include "support/TempFolder.h"
 #include "ui/shell/Composition.h"
 
-// The windows under test are real; they need an application around them, but no screen, and neither settings of
-// a person nor a scanner.
+// The windows under test are real; they need an application around them, but no screen, and neither settings
+// of a person nor a scanner.
 int main(int argc, char** argv) {
     const tavrene::test::TempFolder config;
     qputenv("QT_QPA_PLATFORM", "offscreen");
