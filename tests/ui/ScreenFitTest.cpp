@@ -36,7 +36,7 @@ TEST_F(ScreenFitTest, EveryWindowFitsASmallScreenAtTwiceTheScale) {
         expectFits(ExportDialog({}, folders_, nullptr));
         expectFits(CountsDialog("<p>none</p>", {files_, dialogs, ""}, nullptr));
         expectFits(NameBoxesDialog(
-            {}, {}, [](const auto&, const auto&) {}, nullptr));
+            {}, {}, {}, [](const auto&, const auto&) {}, nullptr));
         expectFits(AboutDialog(nullptr));
         expectFits(HelpWindow(nullptr));
         expectFits(ui::MainWindow(settings_, {store_, files_, clock_}));

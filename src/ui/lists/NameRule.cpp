@@ -5,8 +5,6 @@
 #include "profiles/NameCleaning.h"
 #include "ui/base/QtText.h"
 
-#include "ui/base/QtText.h"
-
 namespace tavrene::ui {
 namespace {
 

@@ -46,7 +46,7 @@ const BoxCrop* SheetCrops::Find(const review::SheetBox& box) {
 std::string SheetCrops::MakeNext() {
     if (wanted_.empty())
         return {};
-    const std::string document = wanted_.front().document;
+    std::string document = wanted_.front().document;
     const std::optional<review::LookedAt> form = sheet_.PictureOf(document);
     const QImage page = form ? ToImage(form->page.bitmap) : QImage();
     for (const Wanted& one : wanted_) {

@@ -201,12 +201,13 @@ void SheetDialog::Update() {
 void SheetDialog::Work() {
     constexpr int kQuiet = 150;  // milliseconds
     const std::string made = crops_.MakeNext();
-    for (SheetModel* const part : parts_)
-        if (!made.empty())
+    if (!made.empty()) {
+        for (SheetModel* const part : parts_)
             part->TellMade(made);
-    if (!made.empty())
         idle_.start(0);
-    else if (input_.LeftOf(kQuiet) > 0)
+        return;
+    }
+    if (input_.LeftOf(kQuiet) > 0)
         idle_.start(input_.LeftOf(kQuiet));
     else if (LookAtForms())
         idle_.start(0);
