@@ -49,8 +49,7 @@ class FormReader {
   private:
     void Recognise(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                    FormReading& reading) const;
-    void RecognisePrecisely(std::span<const profiles::ProfileRecord> profiles,
-                            FormReading& reading) const;
+    void RecognisePrecisely(std::span<const profiles::ProfileRecord> profiles, FormReading& reading) const;
 
     const app::Files& files_;
     PreciseReader* precise_;
