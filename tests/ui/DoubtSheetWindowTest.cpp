@@ -96,13 +96,17 @@ TEST_F(DoubtSheetWindowTest, AsksAboutWhatIsNotSavedAndLeadsToAForm) {
         QListView& sheet = Sheet(dialog);
         Press(sheet, Qt::Key_Space);
         // The question stands over a dialog that the script is still busy with.
-        QTimer::singleShot(0, &dialog, [&asked] {
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, &answer, [&asked] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
+            if (box == nullptr)
+                return;
             asked = box->text();
             box->button(Box::No)->click();
         });
+        answer.start(1);
         Press(sheet, Qt::Key_Escape);
+        answer.stop();
         EXPECT_TRUE(dialog.isVisible());
         Press(sheet, Qt::Key_Space);
         Press(sheet, Qt::Key_Down);
