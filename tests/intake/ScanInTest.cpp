@@ -3,6 +3,7 @@
 #include "intake/IntakeWorld.h"
 #include "intake/ScanIn.h"
 #include "support/Faults.h"
+#include "support/KeptTestDevice.h"
 
 namespace tavrene::intake {
 namespace {
@@ -15,6 +16,7 @@ using Names = std::vector<std::string>;
 class ScanInTest : public test::IntakeWorld {
   protected:
     static void SetUpTestSuite() {
+        test::KeepTestDevice();
         ::setenv("SANE_CONFIG_DIR", Config().Path().c_str(), 1);
         WriteText(Config().File("dll.conf"), "test\n");
     }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "support/KeptTestDevice.h"
 #include "support/TempFolder.h"
 #include "ui/shell/Composition.h"
 
@@ -9,6 +10,7 @@
 // of a person nor a scanner.
 int main(int argc, char** argv) {
     const tavrene::test::TempFolder config;
+    tavrene::test::KeepTestDevice();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_CONFIG_HOME", config.Path().c_str());
     qputenv("SANE_CONFIG_DIR", config.Path().c_str());

@@ -61,7 +61,8 @@ QModelIndex SheetView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     const auto* const step = std::ranges::find(kSteps, action, &std::pair<CursorAction, int>::first);
     const int to = currentIndex().row() + step->second;
     const bool isRowStep = step->second % kColumns == 0 && std::abs(step->second) == kColumns;
-    return isRowStep && (to < 0 || to > last) ? currentIndex() : Sheet()->index(std::clamp(to, 0, last));
+    return last < 0 || (isRowStep && (to < 0 || to > last)) ? currentIndex()
+                                                            : Sheet()->index(std::clamp(to, 0, last));
 }
 
 void SheetView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
