@@ -59,7 +59,7 @@ TEST_F(BringInWindowTest, PagesOfDroppedFilesComeInAndRubbishIsTold) {
 }
 
 TEST_F(BringInWindowTest, CancellingLeavesNothingOfTheFileAtHand) {
-    SavePdf(outside_.File("many.pdf"), 200);
+    SavePdf(outside_.File("many.pdf"), 1000);  // more than come in before the box shows
     Open();
     test::WhileRunning cancel([] {
         if (auto* const box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()))
