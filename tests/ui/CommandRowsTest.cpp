@@ -165,13 +165,17 @@ TEST_F(CommandRowsTest, TheReviewToggleShowsOneModeAndHidesTheOther) {
     EXPECT_FALSE(Find<QComboBox>(*window_, "cboProfiles").isEnabled());
 }
 
+// Saving is what Reviewed OK is for, and a form that is rejected is not saved: neither asks.
 TEST_F(CommandRowsTest, DecisionsSaveAcceptAndReject) {
-    OpenForm();
+    OpenForm(true);
+    const DialogScript noQuestions;
     Click("Okay");
+    EXPECT_TRUE(IsMarked(0));
     EXPECT_EQ(Panel("File"), "Reviewed: 1 of 2");
     Click("AcceptForm");
     EXPECT_EQ(In(folders_.ProcessFinal), (Names{"a.tif", "a.xml"}));
     Press(List(), Qt::Key_Return);
+    ClickRow(0);
     Click("RejectForm");
     EXPECT_EQ(In(folders_.ProcessReject), (Names{"b.tif", "b.xml"}));
 }
