@@ -1,5 +1,6 @@
 // The part of the profile session that gives profiles names.
 
+#include "app/Counted.h"
 #include "profiles/ProfileSession.h"
 
 namespace tavrene::profiles {
@@ -37,8 +38,7 @@ void ProfileSession::Rename() {
         return;
     const int results = context_.resultsOf ? context_.resultsOf(profile_.Name) : 0;
     const std::string question =
-        std::to_string(results) + (results == 1 ? " result was" : " results were") +
-        " read with the profile " + profile_.Name +
+        app::Counted(results, "result was", "results were") + " read with the profile " + profile_.Name +
         " and will not know it by another name: review will say that it no longer exists. "
         "Rename it all the same?";
     if (results > 0 && context_.person.AskYesNo(question, app::Answer::No) != app::Answer::Yes)

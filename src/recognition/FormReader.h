@@ -22,8 +22,9 @@ struct FormReading {
     std::optional<imaging::Page> page;        ///< Only where it was asked for.
     int furtherPages = 0;                     ///< How many more the file has.
     imaging::ScratchCopy copy;
-    std::string classification;  ///< The line for the log; empty where it did not come to one.
-    int winner = -1;             ///< Index of the profile it was read as.
+    std::string
+        classification;  ///< The log line without the name of the image; empty where it did not come to one.
+    int winner = -1;     ///< Index of the profile it was read as.
     std::int16_t Confidence = 0;
     std::vector<MarkReading> marks;
     bool turned = false;  ///< The page lies upside down.

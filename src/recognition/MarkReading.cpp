@@ -52,18 +52,23 @@ AxisSpread SpreadAlong(const std::vector<std::size_t>& sample, Ordinate ordinate
 }
 
 std::optional<double> FillOf(const imaging::WorkGrid& grid, const GridRect& place) {
-    const std::int64_t width = std::int64_t{place.col1} - place.col0 - 1;
-    const std::int64_t height = std::int64_t{place.row1} - place.row0 - 1;
     // 16 bits, as the forms that have been read were: an interior beyond 181 x 181 is misread.
-    const std::int16_t area = app::WrapToInt16(width * height);
+    const std::int16_t area = app::WrapToInt16(InteriorArea(place));
     if (area == 0)
         return std::nullopt;
-    const std::int64_t ink = CountInk(
-        grid, {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder});
+    const std::int64_t ink = CountInk(grid, CountedPart(place));
     return static_cast<double>(ink * 100) / area;
 }
 
 }  // namespace
+
+GridRect CountedPart(const GridRect& place) {
+    return {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder};
+}
+
+std::int64_t InteriorArea(const GridRect& place) {
+    return (std::int64_t{place.col1} - place.col0 - 1) * (std::int64_t{place.row1} - place.row0 - 1);
+}
 
 GridRect PlaceOf(const imaging::WorkGrid& grid, const PrintedBox& box, const FormScale& scale,
                  const BoxShift& shift) {

@@ -41,6 +41,12 @@ void SpreadShifts(const profiles::ProfileRecord& profile, std::span<BoxShift> sh
 GridRect PlaceOf(const imaging::WorkGrid& grid, const profiles::PrintedBox& box, const FormScale& scale,
                  const BoxShift& shift);
 
+/// The part of a box whose ink is counted, clear of the outline; nothing of a small box. Grid frame.
+GridRect CountedPart(const GridRect& place);
+
+/// The cells inside the outline of a box.
+std::int64_t InteriorArea(const GridRect& place);
+
 /// A place in the page frame.
 imaging::PageRect OnPage(const imaging::WorkGrid& grid, const GridRect& place);
 

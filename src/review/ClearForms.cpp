@@ -2,22 +2,21 @@
 
 #include <algorithm>
 
+#include "app/Counted.h"
+
 namespace tavrene::review {
 namespace {
 
-std::string Forms(std::size_t count) {
-    return std::to_string(count) + (count == 1 ? " form" : " forms");
-}
-
 std::string LineOf(std::size_t count, const char* one, const char* many) {
-    return count == 0 ? std::string() : "\n" + Forms(count) + (count == 1 ? one : many);
+    return count == 0 ? std::string() : "\n" + app::Counted(count, one, many);
 }
 
 std::string WhatStays(const ClearForms& forms) {
-    return LineOf(forms.inDoubt, " with boxes in doubt stays.", " with boxes in doubt stay.") +
-           LineOf(forms.unknown, " that could not be looked at yet stays.",
-                  " that could not be looked at yet stay.") +
-           LineOf(forms.hidden, " that the list does not show stays.", " that the list does not show stay.");
+    return LineOf(forms.inDoubt, "form with boxes in doubt stays.", "forms with boxes in doubt stay.") +
+           LineOf(forms.unknown, "form that could not be looked at yet stays.",
+                  "forms that could not be looked at yet stay.") +
+           LineOf(forms.hidden, "form that the list does not show stays.",
+                  "forms that the list does not show stay.");
 }
 
 }  // namespace
@@ -33,7 +32,8 @@ void ClearForms::Add(const ReviewLine& line) {
 }
 
 std::string AcceptAllQuestion(const ClearForms& forms) {
-    std::string text = "Accept " + Forms(forms.documents.size()) + " without doubt?\n";
+    std::string text =
+        "Accept " + app::Counted(forms.documents.size(), "form", "forms") + " without doubt?\n";
     for (const auto& [profile, count] : forms.perProfile)
         text += "\n" + std::to_string(count) + " of profile " + profile;
     text += "\n";

@@ -1,5 +1,7 @@
 #include "review/NextInDoubt.h"
 
+#include "app/Counted.h"
+
 namespace tavrene::review {
 
 NextInDoubt FindNextInDoubt(ReviewList& list, const ReviewLines& shown, std::optional<std::size_t> open,
@@ -30,10 +32,10 @@ NextInDoubt FindNextInDoubt(ReviewList& list, const ReviewLines& shown, std::opt
 
 std::string TextOfNone(const NextInDoubt& found) {
     if (found.unknown > 0)
-        return "No box in doubt was found yet; " + std::to_string(found.unknown) +
-               (found.unknown == 1 ? " form is" : " forms are") + " still to be looked at.";
+        return "No box in doubt was found yet; " + app::Counted(found.unknown, "form is", "forms are") +
+               " still to be looked at.";
     if (found.asking > 0)
-        return std::to_string(found.asking) + (found.asking == 1 ? " form has" : " forms have") +
+        return app::Counted(found.asking, "form has", "forms have") +
                " boxes in doubt, but a question to answer first: open by Enter.";
     return "No form of the list has a box in doubt.";
 }

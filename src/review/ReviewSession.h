@@ -71,8 +71,10 @@ class ReviewSession {
     /// The forms of the list, in its order.
     const std::vector<ReviewLine>& Lines() const { return list_.Lines(); }
 
-    /// Counts the doubts of one form of which they are not known yet; false when there is none left.
+    /// Keeps what was counted for the next start.
     void KeepCounts() { list_.KeepCounts(); }
+
+    /// Counts the doubts of one form of which they are not known yet; false when there is none left.
     bool CountNextDoubts() { return IsOn() && list_.CountNext(); }
 
     /// Counts all doubts that are not known yet.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/Counted.h"
 #include "app/Reason.h"
 #include "recognition/ResultDocument.h"
 #include "recognition/RunSummary.h"
@@ -100,8 +101,7 @@ SentBack UnreadPages::SendBack(std::span<const std::string> names) {
 }
 
 std::string TextOf(const SentBack& sent) {
-    std::string text =
-        std::to_string(sent.Moved) + (sent.Moved == 1 ? " page is" : " pages are") + " back in ProcessIn.";
+    std::string text = app::Counted(sent.Moved, "page is", "pages are") + " back in ProcessIn.";
     if (sent.Waiting > 0)
         text += " " + std::to_string(sent.Waiting) + " stayed: a file of that name waits there already.";
     if (sent.Settled > 0)

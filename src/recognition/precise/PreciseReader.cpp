@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/Counted.h"
 #include "recognition/precise/ShiftFit.h"
 
 namespace tavrene::recognition {
@@ -80,19 +81,16 @@ void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinio
 }
 
 std::string TextOf(const OpinionTally& tally) {
-    const auto count = [](int number, const std::string& one, const std::string& many) {
-        return std::to_string(number) + " " + (number == 1 ? one : many);
-    };
     std::string text;
     const auto add = [&text](const std::string& sentence) { text += (text.empty() ? "" : "\n") + sentence; };
     if (const int unread = static_cast<int>(tally.unread.size()); unread > 0)
-        add(count(unread, "form looks", "forms look") + " turned or stretched: Precise Alignment reads " +
-            (unread == 1 ? "it." : "them."));
+        add(app::Counted(unread, "form looks", "forms look") +
+            " turned or stretched: Precise Alignment reads " + (unread == 1 ? "it." : "them."));
     if (tally.boxes > 0)
-        add(count(tally.boxes, "box", "boxes") + " in " + count(tally.forms, "form", "forms") +
+        add(app::Counted(tally.boxes, "box", "boxes") + " in " + app::Counted(tally.forms, "form", "forms") +
             " read otherwise by Precise Alignment; review shows them as doubtful.");
     if (!tally.otherProfile.empty())
-        add(count(static_cast<int>(tally.otherProfile.size()), "form", "forms") +
+        add(app::Counted(tally.otherProfile.size(), "form", "forms") +
             " may belong to another profile than the one found, or to none: " + FirstOf(tally.otherProfile) +
             ".");
     for (const std::string& profile : tally.specimens.unreadable)

@@ -89,33 +89,29 @@ void AddStrayInk(std::vector<BoxEvidence>& boxes, const MeasuredForm& form,
             boxes[k].inkBeside = StrayInk(places[k], beyond[k], marks);
 }
 
-// What counting leaves out of a box on every side, and how far aside it may lie.
-constexpr int kBorder = 4;
+// How far aside a box may lie.
 constexpr int kAside = 2;
 
-double AreaOf(const GridRect& place) {
-    return (place.col1 - place.col0 - 1) * (place.row1 - place.row0 - 1);
-}
-
-GridRect Counted(const GridRect& place) {
-    return {place.row0 + kBorder, place.col0 + kBorder, place.row1 - kBorder, place.col1 - kBorder};
+double PercentOf(const GridRect& place, double cells) {
+    return 100 * cells / static_cast<double>(recognition::InteriorArea(place));
 }
 
 // The printed line of a box that lies a little aside is counted with what is in it; a mark stays in it.
 double LeastFill(const imaging::WorkGrid& grid, const GridRect& place, double fill) {
-    const GridRect counted = Counted(place);
+    const GridRect counted = recognition::CountedPart(place);
     for (int dx = -kAside; dx <= kAside; ++dx)
         for (int dy = -kAside; dy <= kAside; ++dy)
-            fill = std::min(fill, 100 * recognition::CountInk(grid, recognition::Shifted(counted, dx, dy)) /
-                                      AreaOf(place));
+            fill = std::min(
+                fill, PercentOf(place, recognition::CountInk(grid, recognition::Shifted(counted, dx, dy))));
     return fill;
 }
 
 double BlackenedFill(const GridRect& place) {
-    const GridRect counted = Counted(place);
-    const int cells =
-        std::max(0, counted.col1 - counted.col0 + 1) * std::max(0, counted.row1 - counted.row0 + 1);
-    return 100 * cells / AreaOf(place);
+    const GridRect counted = recognition::CountedPart(place);
+    const auto length = [](int first, int last) {
+        return std::max(0.0, static_cast<double>(last) - first + 1);
+    };
+    return PercentOf(place, length(counted.col0, counted.col1) * length(counted.row0, counted.row1));
 }
 
 }  // namespace

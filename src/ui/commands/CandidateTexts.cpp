@@ -1,6 +1,6 @@
 #include "ui/commands/CandidateTexts.h"
 
-#include "ui/commands/Counted.h"
+#include "app/Counted.h"
 
 namespace tavrene::commands {
 namespace {
@@ -14,14 +14,14 @@ std::string OtherSizeText(const boxes::SecondLook& look) {
     if (!look.Other)
         return {};
     const boxes::OtherSize& other = *look.Other;
-    return Counted(other.Count, "box", "boxes") + " of about " +
+    return app::Counted(other.Count, "box", "boxes") + " of about " +
            Measures(other.Size.Width, other.Size.Height) +
            (other.IsLarger ? " px: larger than the settings allow."
                            : " px: smaller than the settings allow.");
 }
 
 std::string MoreMayBe(std::size_t candidates) {
-    return Counted(candidates, "more may be a box", "more may be boxes");
+    return app::Counted(candidates, "more may be a box", "more may be boxes");
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ std::string OfferOf(int found, const boxes::SecondLook& look) {
     if (look.Candidates.empty())
         return {};
     const std::string other = OtherSizeText(look);
-    return Counted(found, "box", "boxes") + " found. " + (other.empty() ? "" : other + " ") +
+    return app::Counted(found, "box", "boxes") + " found. " + (other.empty() ? "" : other + " ") +
            MoreMayBe(look.Candidates.size()) + ": look at " + (look.Candidates.size() == 1 ? "it" : "them") +
            " with Find More Boxes (Ctrl+M).";
 }

@@ -4,8 +4,8 @@
 #include <array>
 #include <vector>
 
+#include "app/Counted.h"
 #include "results/XlsxExport.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 namespace {
@@ -22,7 +22,7 @@ void TellDamaged(app::Operator& person, const std::vector<results::LeftOut>& dam
     constexpr std::size_t kTold = 5;
     if (damaged.empty())
         return;
-    std::string text = Counted(damaged.size(), "document", "documents") + " could not be read and " +
+    std::string text = app::Counted(damaged.size(), "document", "documents") + " could not be read and " +
                        (damaged.size() == 1 ? "is" : "are") + " in no table:";
     for (std::size_t k = 0; k < std::min(kTold, damaged.size()); ++k)
         text += (k == 0 ? " " : "; ") + damaged[k].Document + " (" + damaged[k].Reason + ")";
@@ -36,10 +36,11 @@ bool MayReplace(const ExportContext& context, const std::vector<std::string>& na
     const auto there = std::count_if(names.begin(), names.end(), [&](const std::string& name) {
         return context.files.FileExists(folder + name);
     });
-    return there == 0 || context.person.AskYesNo(Counted(there, "file", "files") + " of the tables' names " +
-                                                     (there == 1 ? "is" : "are") + " in " + folder +
-                                                     " already. Replace " + (there == 1 ? "it?" : "them?"),
-                                                 app::Answer::No) == app::Answer::Yes;
+    return there == 0 ||
+           context.person.AskYesNo(app::Counted(there, "file", "files") + " of the tables' names " +
+                                       (there == 1 ? "is" : "are") + " in " + folder + " already. Replace " +
+                                       (there == 1 ? "it?" : "them?"),
+                                   app::Answer::No) == app::Answer::Yes;
 }
 
 std::optional<std::string> AskTarget(const ExportContext& context, const ExportChoice& choice,
@@ -91,9 +92,10 @@ std::optional<std::string> WriteExport(const ExportContext& context, const Expor
             : results::ExportCsv(context.files, found.Tables, groups, folder, choice.csv, progress);
     if (!isWritten)
         return std::nullopt;
-    context.person.SetPanel(app::Panel::Message, Counted(CountForms(found), "form", "forms") + " of " +
-                                                     Counted(found.Tables.size(), "profile", "profiles") +
-                                                     " exported to " + *target);
+    context.person.SetPanel(app::Panel::Message,
+                            app::Counted(CountForms(found), "form", "forms") + " of " +
+                                app::Counted(found.Tables.size(), "profile", "profiles") + " exported to " +
+                                *target);
     return folder;
 }
 

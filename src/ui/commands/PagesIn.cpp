@@ -1,8 +1,8 @@
 #include "ui/commands/PagesIn.h"
 
+#include "app/Counted.h"
 #include "app/Reason.h"
 #include "imaging/TiffHeader.h"
-#include "ui/commands/Counted.h"
 #include "ui/commands/Places.h"
 
 namespace tavrene::commands {
@@ -28,7 +28,7 @@ PagesBroughtIn BringPagesIn(std::span<const intake::Source> sources, app::Files&
         if (!file.reason.empty())
             person.ReportFile(app::FileName(file.path), file.reason);
     }
-    in.told = Counted(pages, "page", "pages") + " of " + Counted(in.paths.size(), "file", "files") +
+    in.told = app::Counted(pages, "page", "pages") + " of " + app::Counted(in.paths.size(), "file", "files") +
               (pages == 1 ? " was" : " were") + " brought in to ProcessIn." +
               (report.isCancelled ? " The rest was cancelled." : "");
     return in;

@@ -5,8 +5,8 @@
 #include <thread>
 #include <utility>
 
+#include "app/Counted.h"
 #include "recognition/precise/ReadAgain.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
 
@@ -61,10 +61,10 @@ void ReadingCommands::ReadAgain() {
     });
     context_.person.SetPanel(app::Panel::Message, "");
     unread_ = std::move(forms.left);
-    std::string text = Counted(forms.read, "form was", "forms were") + " read by Precise Alignment" +
+    std::string text = app::Counted(forms.read, "form was", "forms were") + " read by Precise Alignment" +
                        (forms.read > 0 ? " and can be reviewed." : ".");
     if (!unread_.empty())
-        text += " " + Counted(unread_.size(), "form is", "forms are") + " left.";
+        text += " " + app::Counted(unread_.size(), "form is", "forms are") + " left.";
     Tell({text});
 }
 

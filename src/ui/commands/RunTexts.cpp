@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "ui/commands/Counted.h"
+#include "app/Counted.h"
 
 namespace tavrene::commands {
 namespace {
@@ -43,17 +43,17 @@ std::string ProgressText(int done, int total, double seconds) {
 
 std::vector<SummaryPart> SummaryParts(const RunSummary& summary) {
     const std::size_t files = summary.files.size();
-    std::vector<SummaryPart> parts = {Linked(files, "Last run:", Counted(files, "file", "files"), kAll)};
+    std::vector<SummaryPart> parts = {Linked(files, "Last run:", app::Counted(files, "file", "files"), kAll)};
     for (const auto& [end, words] : kEnds) {
         const std::size_t count = summary.Count(end);
         parts.push_back(Linked(count, "", std::to_string(count) + " " + words, LinkOf(end)));
     }
-    parts.push_back({"", Counted(summary.seconds, "second", "seconds"), ""});
+    parts.push_back({"", app::Counted(summary.seconds, "second", "seconds"), ""});
     int further = 0;
     for (const FileReport& file : summary.files)
         further += file.furtherPages;
     if (further > 0)
-        parts.push_back({Counted(further, "further page was", "further pages were") + " not looked at:",
+        parts.push_back({app::Counted(further, "further page was", "further pages were") + " not looked at:",
                          "bring in to ProcessIn", kSplitLink});
     return parts;
 }

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "app/Counted.h"
 #include "app/ImageNames.h"
 #include "imaging/PageReader.h"
-#include "ui/commands/Counted.h"
 #include "ui/commands/PagesIn.h"
 
 namespace tavrene::commands {
@@ -113,13 +113,14 @@ class Intake {
     void Tell(int copied) {
         if (!pages_.empty() && found_.empty() && others_ + waiting_ == 0)
             return;
-        told_ = Counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
+        told_ = app::Counted(copied, "scan was", "scans were") + " copied to ProcessIn.";
         if (renamed_ > 0)
-            told_ += " " + Counted(renamed_, "has", "have") + " a new name.";
+            told_ += " " + app::Counted(renamed_, "has", "have") + " a new name.";
         if (others_ > 0)
-            told_ += " " + Counted(others_, "other file was", "other files were") + " left out: no image.";
+            told_ +=
+                " " + app::Counted(others_, "other file was", "other files were") + " left out: no image.";
         if (waiting_ > 0)
-            told_ += " " + Counted(waiting_, "is", "are") + " in ProcessIn already.";
+            told_ += " " + app::Counted(waiting_, "is", "are") + " in ProcessIn already.";
         person_.SetPanel(app::Panel::Message, told_);
     }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/base/MarkColors.h"
 #include "ui/page/CosmeticPen.h"
 
 namespace tavrene::ui {
@@ -29,9 +30,9 @@ struct Look {
 Look LookOf(imaging::RectStyle style) {
     switch (style) {
         case imaging::RectStyle::Checked:
-            return {QColor(0, 114, 178), 2.5, 1};
+            return {kMarkedColor, 2.5, 1};
         case imaging::RectStyle::Unchecked:
-            return {QColor(213, 94, 0), 2, 0.62};
+            return {kEmptyColor, 2, 0.62};
         case imaging::RectStyle::Skipped:
             return {QColor(110, 110, 110), 2, 0.3};
         case imaging::RectStyle::Candidate:
@@ -39,7 +40,7 @@ Look LookOf(imaging::RectStyle style) {
         case imaging::RectStyle::Editable:
             break;
     }
-    return {QColor(0, 114, 178), 1.5, 1};
+    return {kMarkedColor, 1.5, 1};
 }
 
 // A whole number of dashes a side, with half a dash on either side of every corner, so that a small box still

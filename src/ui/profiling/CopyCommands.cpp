@@ -10,11 +10,11 @@
 #include <algorithm>
 #include <variant>
 
+#include "app/Counted.h"
 #include "imaging/PageReader.h"
 #include "profiles/BoxArrangement.h"
 #include "profiles/BoxPlace.h"
 #include "ui/base/QtText.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 
@@ -89,7 +89,7 @@ void CopyCommands::Copy() {
     data->setText(names.join('\n'));
     data->setData(kBoxesFormat, "1");
     QGuiApplication::clipboard()->setMimeData(data);
-    person_.SetPanel(app::Panel::Message, commands::Counted(copied_.size(), "box", "boxes") +
+    person_.SetPanel(app::Panel::Message, app::Counted(copied_.size(), "box", "boxes") +
                                               " copied; Ctrl+V adds " +
                                               (copied_.size() == 1 ? "it" : "them") + " to a profile.");
 }
@@ -167,7 +167,7 @@ void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay 
     const profiles::BoxSelection selected(numbers, numbers.front());
     profiles::Move(after, selected, held.dx, held.dy, ExtentOf(profile_));
     if (editor_.Change([&](std::vector<OmrBox>& boxes) { boxes = after; }, selected))
-        person_.SetPanel(app::Panel::Message, commands::Counted(copied.size(), "box", "boxes") + " added.");
+        person_.SetPanel(app::Panel::Message, app::Counted(copied.size(), "box", "boxes") + " added.");
 }
 
 // Where a box goes that the person puts at a place.

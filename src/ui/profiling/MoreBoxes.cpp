@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <variant>
 
+#include "app/Counted.h"
 #include "boxes/second/CandidateChoice.h"
 #include "imaging/PageReader.h"
 #include "profiles/OmrsOfBoxes.h"
 #include "ui/base/EscapeWatch.h"
 #include "ui/base/Shown.h"
 #include "ui/commands/CandidateTexts.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 namespace {
@@ -167,8 +167,7 @@ void MoreBoxes::TakeAll() {
         boxes.push_back(one.box);
     Close();
     if (context_.editor.AddBoxes(boxes))
-        context_.person.SetPanel(app::Panel::Message,
-                                 commands::Counted(boxes.size(), "box", "boxes") + " added.");
+        context_.person.SetPanel(app::Panel::Message, app::Counted(boxes.size(), "box", "boxes") + " added.");
 }
 
 bool MoreBoxes::Close() {

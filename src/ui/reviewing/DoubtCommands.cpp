@@ -1,6 +1,6 @@
 #include "ui/reviewing/DoubtCommands.h"
 
-#include "ui/commands/Counted.h"
+#include "app/Counted.h"
 #include "ui/reviewing/SheetDialog.h"
 #include "ui/reviewing/WatchedWork.h"
 
@@ -67,7 +67,7 @@ void DoubtCommands::Accept(const review::ClearForms& forms) {
         failures = session_.AcceptAll(forms, work.Watch());
     }
     accepted -= session_.Lines().size();
-    context_.person.SetPanel(app::Panel::Message, "Accepted " + commands::Counted(accepted, "form", "forms") +
+    context_.person.SetPanel(app::Panel::Message, "Accepted " + app::Counted(accepted, "form", "forms") +
                                                       ". Undo Decision (Ctrl+U) brings them back.");
     if (!failures.empty())
         context_.person.ShowMessage("", review::TextOfFailures(failures));

@@ -3,6 +3,7 @@
 #include <QListView>
 #include <QPainter>
 
+#include "ui/base/MarkColors.h"
 #include "ui/reviewing/SheetModel.h"
 
 namespace tavrene::ui {
@@ -10,11 +11,6 @@ namespace {
 
 constexpr int kMargin = 3;
 constexpr int kSign = 18;  // pixels of the square that stands for the mark
-
-// The colours that marks have on the page.
-const QColor kMarked(0, 114, 178);
-const QColor kEmpty(213, 94, 0);
-const QColor kByHand(240, 228, 66);
 
 void PaintPicture(QPainter& painter, const QRect& room, const QImage& picture) {
     if (picture.isNull())
@@ -27,12 +23,12 @@ void PaintPicture(QPainter& painter, const QRect& room, const QImage& picture) {
 
 void PaintSign(QPainter& painter, const QRect& room, bool isMarked, bool isTurned) {
     const QRectF sign = QRectF(room.left() + 2, room.top() + 2, kSign, kSign).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen(isMarked ? kMarked : kEmpty, 2));
-    painter.setBrush(isTurned ? kByHand : Qt::white);
+    painter.setPen(QPen(isMarked ? kMarkedColor : kEmptyColor, 2));
+    painter.setBrush(isTurned ? kByHandColor : Qt::white);
     painter.drawRoundedRect(sign, 3, 3);
     if (!isMarked)
         return;
-    painter.setPen(QPen(kMarked, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(kMarkedColor, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF{sign.topLeft() + QPointF(4, 9), sign.topLeft() + QPointF(7.5, 12.5),
                                    sign.topLeft() + QPointF(13, 4.5)});
 }

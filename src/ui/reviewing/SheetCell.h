@@ -4,7 +4,7 @@
 
 namespace tavrene::ui {
 
-/// Paints a box of the sheet: its picture, its mark as a tick or an empty square with a pencil behind what
+/// Paints a box of the sheet: its picture, its mark as a tick or an empty square, on yellow where it
 /// was turned round by hand, and below them form and box.
 class SheetCell final : public QStyledItemDelegate {
   public:

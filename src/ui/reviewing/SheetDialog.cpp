@@ -7,17 +7,17 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
+#include "app/Counted.h"
 #include "review/ClearForms.h"
 #include "ui/base/BusyCursor.h"
 #include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/base/Shown.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 
-using commands::Counted;
+using app::Counted;
 
 SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidget* parent)
     : QDialog(parent),

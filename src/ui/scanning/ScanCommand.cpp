@@ -3,8 +3,8 @@
 #include <QMenu>
 #include <string>
 
+#include "app/Counted.h"
 #include "ui/base/QtText.h"
-#include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
 
@@ -57,9 +57,8 @@ void ScanCommand::Run() {
     dialog.exec();
     choice_ = dialog.Choice();
     if (dialog.Pages() > 0)
-        context_.person.SetPanel(
-            app::Panel::Message,
-            commands::Counted(dialog.Pages(), "page was", "pages were") + " scanned to ProcessIn.");
+        context_.person.SetPanel(app::Panel::Message, app::Counted(dialog.Pages(), "page was", "pages were") +
+                                                          " scanned to ProcessIn.");
 }
 
 }  // namespace tavrene::ui

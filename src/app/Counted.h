@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace tavrene::commands {
+namespace tavrene::app {
 
 /// A number with the word that goes with it: "1 box", "3 boxes".
 template <typename Count>
@@ -10,4 +10,4 @@ std::string Counted(Count count, const char* one, const char* many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-}  // namespace tavrene::commands
+}  // namespace tavrene::app
