@@ -9,7 +9,6 @@
 
 #include "review/ClearForms.h"
 #include "ui/base/BusyCursor.h"
-#include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/commands/Counted.h"
@@ -24,7 +23,7 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
       person_(person),
       crops_(sheet),
       parts_({new SheetModel(crops_, this), new SheetModel(crops_, this)}),
-      subject_(new QComboBox(this)),
+      subject_(new PopupChoice(this)),
       tabs_(new QTabBar(this)),
       view_(new SheetView(this)),
       about_(new QLabel(this)),
@@ -36,6 +35,7 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
     view_->SetListener({[this](int row) { Open(row); }, [this] { Update(); }});
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Update(); });
     connect(subject_, &QComboBox::currentIndexChanged, this, [this] { Begin(); });
+    connect(subject_, &QComboBox::activated, view_, [this] { view_->setFocus(); });
     connect(tabs_, &QTabBar::currentChanged, this, [this] { ShowPart(); });
     connect(confirm_, &QPushButton::clicked, this, [this] { Confirm(); });
     idle_.setSingleShot(true);
@@ -64,7 +64,6 @@ QWidget* SheetDialog::Head() {
     subject_->addItem("Boxes in doubt");
     for (const std::string& name : sheet_.BoxNames())
         subject_->addItem("Box " + ToQt(name), ToQt(name));
-    new CalmWheel(*subject_);
     tabs_->setObjectName("tabSheet");
     tabs_->addTab({});
     tabs_->addTab({});
@@ -180,21 +179,37 @@ void SheetDialog::Update() {
     static constexpr std::array kTitles = {"Marked (%1)", "Not marked (%1)"};
     for (std::size_t k = 0; k < parts_.size(); ++k)
         tabs_->setTabText(static_cast<int>(k), QString(kTitles[k]).arg(parts_[k]->rowCount()));
-    const QModelIndex current = view_->currentIndex();
-    const bool isEmpty = Part().rowCount() == 0;
-    const QString about = current.data(SheetModel::kForm).toString() + "  " +
-                          current.data(SheetModel::kBox).toString() + "  " +
-                          current.data(SheetModel::kReason).toString();
-    about_->setText(isEmpty ? "Nothing is in doubt here."
-                            : about.trimmed() + "   Space turns the mark round, Enter opens the form.");
+    ShowAbout();
+    view_->SetHint(HintWithoutBoxes());
     const auto left = sheet_.FormsLeft();
     progress_->setText(left == 0 ? QString()
                                  : ToQt(Counted(left, "form", "forms") + " still to be looked at"));
-    confirm_->setEnabled(!isEmpty);
+    confirm_->setEnabled(Part().rowCount() > 0);
     if (view_->model() != nullptr)
         view_->WantPictures();
     if (!idle_.isActive())
         idle_.start(0);
+}
+
+void SheetDialog::ShowAbout() {
+    const QModelIndex current = view_->currentIndex();
+    const QString about = current.data(SheetModel::kForm).toString() + "  " +
+                          current.data(SheetModel::kBox).toString() + "  " +
+                          current.data(SheetModel::kReason).toString();
+    about_->setText(Part().rowCount() == 0
+                        ? QString()
+                        : about.trimmed() + "   Space turns the mark round, Enter opens the form.");
+}
+
+QString SheetDialog::HintWithoutBoxes() {
+    if (sheet_.FormsLeft() > 0)
+        return "Nothing yet: forms are still being looked at.";
+    if (parts_[0]->rowCount() + parts_[1]->rowCount() > 0)
+        return "Nothing here.\nThe other tab holds what is left to judge.";
+    if (subject_->currentIndex() > 0)
+        return "No form of the list has this box.";
+    return "Nothing is in doubt.\nEsc leaves the sheet; Accept All Without Doubt (Shift+F9) accepts the "
+           "forms.";
 }
 
 // What is in sight is waited for; other forms are looked at once the person is not doing anything.
@@ -204,6 +219,7 @@ void SheetDialog::Work() {
     if (!made.empty()) {
         for (SheetModel* const part : parts_)
             part->TellMade(made);
+        ShowAbout();  // the name of the box has come with its picture
         idle_.start(0);
         return;
     }
