@@ -5,10 +5,15 @@
 #include <thread>
 #include <utility>
 
+#include "recognition/ReadingFlags.h"
 #include "recognition/precise/ReadAgain.h"
 #include "ui/commands/Counted.h"
 
 namespace tavrene::commands {
+
+using recognition::kPreciseAlignment;
+using recognition::kSecondOpinion;
+using recognition::kUseAllCores;
 
 int JobsOf(const recognition::ReadingOptions& reading) {
     return reading.allCores ? std::max(1, static_cast<int>(std::thread::hardware_concurrency())) : 1;
