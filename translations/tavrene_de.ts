@@ -3090,7 +3090,7 @@ Datei %2 von %3, Seite %4 von %5</translation>
         <source>Nothing here.
 The other tab holds what is left to judge.</source>
         <translation>Hier ist nichts.
-Was noch zu beurteilen ist, steht auf der anderen Karteikarte.</translation>
+Was noch zu beurteilen ist, steht unter dem anderen Reiter.</translation>
     </message>
     <message>
         <source>No form of the list has this box.</source>
@@ -3100,7 +3100,7 @@ Was noch zu beurteilen ist, steht auf der anderen Karteikarte.</translation>
         <source>Nothing is in doubt.
 Esc leaves the sheet; Shift+F9 accepts all forms without doubt.</source>
         <translation>Nichts ist zweifelhaft.
-Esc verlässt den Bogen, Umschalt+F9 nimmt alle Formulare ohne Zweifel an.</translation>
+Esc verlässt das Blatt, Umschalt+F9 nimmt alle Formulare ohne Zweifel an.</translation>
     </message>
 </context>
 <context>
