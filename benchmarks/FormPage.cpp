@@ -95,7 +95,16 @@ Workplace::Workplace(recognition::ReadingOptions options)
       log(files, clock, nobody, folders.Log),
       reading(options),
       reader(files, reading),
-      run({files, log, nobody, clock, nobody, nobody, &reader}, settings, folders) {
+      doubts(files, settings, folders, profiles, &reader),
+      run({.files = files,
+           .log = log,
+           .person = nobody,
+           .clock = clock,
+           .page = nobody,
+           .rows = nobody,
+           .precise = &reader,
+           .look = doubts.Look()},
+          settings, folders) {
     settings.FillThreshold = app::kDefaultFillThreshold;
     app::CreateWorkingFolders(files, ScratchFolder());
 }

@@ -12,6 +12,7 @@
 #include "profiles/BoxRows.h"
 #include "profiles/ProfileRecord.h"
 #include "recognition/ProcessRun.h"
+#include "review/RunDoubts.h"
 
 namespace tavrene::bench {
 
@@ -83,6 +84,8 @@ struct Workplace {
     app::ActivityLog log;
     recognition::ReadingOptions reading;
     recognition::PreciseReader reader;
+    std::vector<profiles::ProfileRecord> profiles;  ///< Those whose forms' doubts are counted.
+    review::RunDoubts doubts;
     recognition::ProcessRun run;
 };
 

@@ -21,7 +21,8 @@ void BM_Floor(benchmark::State& state) {
 // given number that never do.
 void ProcessPage(benchmark::State& state, const recognition::ReadingOptions& options) {
     Workplace work(options);
-    std::vector<profiles::ProfileRecord> profiles = {TheFormPage().profile};
+    std::vector<profiles::ProfileRecord>& profiles = work.profiles;
+    profiles = {TheFormPage().profile};
     profiles.resize(1 + static_cast<std::size_t>(state.range(0)), TheFormPage().stranger);
     const std::string waiting = work.folders.ProcessIn + "page.tif";
     const auto place = [&] {
@@ -31,6 +32,7 @@ void ProcessPage(benchmark::State& state, const recognition::ReadingOptions& opt
     };
     // The specimen is read with the first page and known from then on.
     place();
+    work.doubts.Begin();
     work.run.Run(profiles);
     for (auto _ : state) {
         state.PauseTiming();

@@ -3067,10 +3067,6 @@ Datei %2 von %3, Seite %4 von %5</translation>
         <translation>Nicht markiert (%1)</translation>
     </message>
     <message>
-        <source>Nothing is in doubt here.</source>
-        <translation>Hier ist nichts zweifelhaft.</translation>
-    </message>
-    <message>
         <source>Space turns the mark round, Enter opens the form.</source>
         <translation>Leertaste kehrt die Markierung um, Eingabe öffnet das Formular.</translation>
     </message>
@@ -3085,6 +3081,26 @@ Datei %2 von %3, Seite %4 von %5</translation>
     <message>
         <source>Boxes to judge</source>
         <translation>Zu beurteilende Kästchen</translation>
+    </message>
+    <message>
+        <source>Nothing yet: forms are still being looked at.</source>
+        <translation>Noch nichts: Formulare werden noch angesehen.</translation>
+    </message>
+    <message>
+        <source>Nothing here.
+The other tab holds what is left to judge.</source>
+        <translation>Hier ist nichts.
+Was noch zu beurteilen ist, steht unter dem anderen Reiter.</translation>
+    </message>
+    <message>
+        <source>No form of the list has this box.</source>
+        <translation>Kein Formular der Liste hat dieses Kästchen.</translation>
+    </message>
+    <message>
+        <source>Nothing is in doubt.
+Esc leaves the sheet; Shift+F9 accepts all forms without doubt.</source>
+        <translation>Nichts ist zweifelhaft.
+Esc verlässt das Blatt, Umschalt+F9 nimmt alle Formulare ohne Zweifel an.</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,7 @@ BEGIN {
     may["review"] = " review/doubts recognition profiles imaging app "
     may["results"] = " recognition profiles imaging app "
     may["intake"] = " imaging app "
-    may["batch"] = " results recognition profiles imaging app "
+    may["batch"] = " review review/doubts results recognition profiles imaging app "
     may["batch/program"] = " batch" may["batch"]
     may["ui/commands"] = " review review/doubts results intake recognition profiles boxes boxes/second imaging app "
     # The rooms of the window, from the lowest to the one that puts all together.

@@ -7,9 +7,16 @@
 #include "batch/Console.h"
 #include "batch/FolderWork.h"
 #include "batch/IniStore.h"
+#include "recognition/ReadingFlags.h"
 
 namespace tavrene::batch {
 namespace {
+
+// As the window does it that shares the settings.
+recognition::ReadingOptions WindowsWay(const app::SettingsStore& store) {
+    return {app::ReadWindowFlag(store, recognition::kPreciseAlignment, false),
+            app::ReadWindowFlag(store, recognition::kSecondOpinion, true)};
+}
 
 // A folder that is no working folder yet was named by mistake.
 std::string WhyUnusable(const app::Files& files, const Options& options, const std::string& folder) {
@@ -37,7 +44,7 @@ Exit RunInFolder(const Options& options, const Surroundings& surroundings) {
                      [&] {
                          if (!isUsable)
                              return;
-                         exit = FolderWork(options, surroundings, files, settings).Do();
+                         exit = FolderWork(options, surroundings, files, settings, WindowsWay(store)).Do();
                      }});
     if (!isUsable)
         ConsoleOperator(surroundings.messages)

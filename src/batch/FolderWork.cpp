@@ -8,6 +8,7 @@
 #include "batch/IncomingWatch.h"
 #include "profiles/ProfileLoader.h"
 #include "results/CsvExport.h"
+#include "review/RunDoubts.h"
 
 namespace tavrene::batch {
 
@@ -16,7 +17,7 @@ using recognition::FileEnd;
 using std::chrono::steady_clock;
 
 FolderWork::FolderWork(const Options& options, const Surroundings& surroundings, app::Files& files,
-                       const app::Settings& settings)
+                       const app::Settings& settings, const recognition::ReadingOptions& review)
     : options_(options),
       surroundings_(surroundings),
       files_(files),
@@ -27,6 +28,8 @@ FolderWork::FolderWork(const Options& options, const Surroundings& surroundings,
       log_(files, clock_, person_, folders_.Log),
       reading_{options.precise, false},
       precise_(files, reading_),
+      review_(review),
+      forReview_(files, review_),
       lock_(settings.WorkDir) {
     // They are about the window.
     settings_.ProcessSingle = false;
@@ -137,6 +140,8 @@ bool FolderWork::LockOrTell(FolderLock::Use use) {
 
 Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& staging,
                          const Incoming& incoming) {
+    review::RunDoubts doubts(files_, settings_, folders_, profiles_, &forReview_);
+    const bool isCounted = options_.doubts && review_.preciseAlignment == reading_.preciseAlignment;
     recognition::ProcessRun run({.files = files_,
                                  .log = log_,
                                  .person = person_,
@@ -146,7 +151,8 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
                                  .precise = &precise_,
                                  .incoming = incoming,
                                  .staging = staging,
-                                 .jobs = [this] { return options_.jobs; }},
+                                 .jobs = [this] { return options_.jobs; },
+                                 .look = isCounted ? doubts.Look() : recognition::FormLook()},
                                 settings_, folders);
     person_.onPendingEvents = [this, &run] {
         Tell(run.TakeReports());
@@ -156,7 +162,9 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders.Profiles);
     if (!run.MayStart(profiles_))
         return Exit::Failed;
+    doubts.Begin();
     run.Run(profiles_);
+    doubts.End();
     Tell(run.TakeReports());
     progress_.End(run.Summary().seconds, surroundings_.stop);
     if (surroundings_.stop)

@@ -21,9 +21,10 @@ namespace tavrene::batch {
 /// The work on one working folder: once, as long as nobody stops it, or together with others.
 class FolderWork {
   public:
-    /// All must outlive this; of the settings the present values count.
+    /// All must outlive this; of the settings the present values count. `review` is how review will look at
+    /// the forms: their doubts are not counted when it reads by another way than is read here.
     FolderWork(const Options& options, const Surroundings& surroundings, app::Files& files,
-               const app::Settings& settings);
+               const app::Settings& settings, const recognition::ReadingOptions& review);
 
     /// Throws `app::FileError` when the folder cannot be listed or a table not be written.
     Exit Do();
@@ -52,6 +53,8 @@ class FolderWork {
     app::ActivityLog log_;
     recognition::ReadingOptions reading_;
     recognition::PreciseReader precise_;
+    recognition::ReadingOptions review_;
+    recognition::PreciseReader forReview_;
     app::FolderLock lock_;
     std::vector<profiles::ProfileRecord> profiles_;
     bool isWaiting_ = false;

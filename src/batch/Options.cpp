@@ -12,17 +12,13 @@
 namespace tavrene::batch {
 namespace {
 
-constexpr ::option kOptions[] = {{"settings", required_argument, nullptr, 's'},
-                                 {"jobs", required_argument, nullptr, 'n'},
-                                 {"precise", no_argument, nullptr, 'p'},
-                                 {"export", required_argument, nullptr, 'e'},
-                                 {"groups", no_argument, nullptr, 'g'},
-                                 {"claim", optional_argument, nullptr, 'c'},
-                                 {"watch", no_argument, nullptr, 'w'},
-                                 {"json", no_argument, nullptr, 'j'},
-                                 {"help", no_argument, nullptr, 'h'},
-                                 {"version", no_argument, nullptr, 'v'},
-                                 {nullptr, 0, nullptr, 0}};
+constexpr ::option kOptions[] = {
+    {"settings", required_argument, nullptr, 's'}, {"jobs", required_argument, nullptr, 'n'},
+    {"precise", no_argument, nullptr, 'p'},        {"doubts", no_argument, nullptr, 'd'},
+    {"export", required_argument, nullptr, 'e'},   {"groups", no_argument, nullptr, 'g'},
+    {"claim", optional_argument, nullptr, 'c'},    {"watch", no_argument, nullptr, 'w'},
+    {"json", no_argument, nullptr, 'j'},           {"help", no_argument, nullptr, 'h'},
+    {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
 
 // Whole, so that a message names it wherever the program was started. Empty stays empty.
 std::string WholePath(const std::string& path) {
@@ -52,6 +48,8 @@ bool Note(Options& options, int option) {
             return ::optarg == nullptr || NoteNumber(::optarg, 86'400, options.patience);
         case 'p':
             return options.precise = true;
+        case 'd':
+            return options.doubts = true;
         case 'e':
             options.exportTo = WholePath(::optarg);
             return !options.exportTo.empty();
@@ -83,6 +81,8 @@ no meaning here.
   --settings FILE  read the settings from FILE instead of ~/.config/Tavrene CheckBoxes/settings.ini
   --jobs N         read N pages side by side; the outcome is the same as with one
   --precise        read by precise alignment
+  --doubts         count the boxes in doubt, so that review need not when the window opens FOLDER with these
+                   settings; takes nearly half as long again
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
   --groups         with --export: one column a group of boxes instead of one a box
   --claim[=SEC]    share FOLDER with other tavrene-batch --claim, on this machine or others: each takes some

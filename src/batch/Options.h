@@ -14,6 +14,7 @@ struct Options {
     int jobs = 1;
     int patience = 0;  ///< Of claims: seconds until an owner counts as dead; 0 where none are made.
     bool precise = false;
+    bool doubts = false;  ///< Count them for review.
     bool groups = false;  ///< Of tables: one column a group of boxes.
     bool watch = false;
     bool json = false;

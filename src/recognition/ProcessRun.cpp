@@ -114,9 +114,8 @@ void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles, const std::v
     context_.person.SetProgressRange(static_cast<int>(names.size()));
     std::size_t next = settings_.ProcessSingle ? FirstToTake(names) : 0;
     const int jobs = context_.jobs && !settings_.ProcessSingle ? context_.jobs() : 1;
-    ReadAhead forms(next, names.size(), jobs, [&](std::size_t index) {
-        return reader_.Read(names[index], profiles, settings_.DisplayDuringProcess);
-    });
+    ReadAhead forms(next, names.size(), jobs,
+                    [&](std::size_t index) { return Read(names[index], profiles); });
     do {
         if (!names.empty())
             TakeInTurn(names, next, profiles, forms);
@@ -124,6 +123,16 @@ void ProcessRun::TakeFiles(std::span<const ProfileRecord> profiles, const std::v
         // and must not wait for its end, to start another.
         context_.person.RunPendingEvents();
     } while (++next < names.size() && !settings_.ProcessSingle && !stop_);
+}
+
+FormReading ProcessRun::Read(const std::string& name, std::span<const ProfileRecord> profiles) const {
+    const bool isShown = settings_.DisplayDuringProcess;
+    FormReading reading = reader_.Read(name, profiles, isShown || context_.look);
+    if (context_.look && reading.winner >= 0)
+        reading.arrived = context_.look(name, reading, profiles[static_cast<std::size_t>(reading.winner)]);
+    if (!isShown)
+        reading.page.reset();
+    return reading;
 }
 
 // A single run has to reach the files behind one that cannot be moved. Where there are no others, those that
@@ -178,6 +187,8 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     if (display)
         LogFailureOf(name, [&] { ShowPage(outcome); });
     const bool moved = MoveToProcessOut(outcome.report);
+    if (moved && !outcome.marks.empty() && outcome.reading.arrived)
+        outcome.reading.arrived();
     summary_.files.push_back(std::move(outcome.report));
     return moved;
 }

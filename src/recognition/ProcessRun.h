@@ -43,6 +43,7 @@ struct RunContext {
     std::function<std::vector<std::string>()> incoming = {};
     std::string staging = {};        ///< As for `FormDelivery`.
     std::function<int()> jobs = {};  ///< How many forms are read side by side; without it one.
+    FormLook look = {};  ///< Has a look at each form that is read, from the thread that has read it.
 };
 
 /// The system's main loop: takes the images of `ProcessIn` one by one, reads each against the loaded profiles
@@ -89,6 +90,7 @@ class ProcessRun {
     void TakeFiles(std::span<const profiles::ProfileRecord> profiles, const std::vector<std::string>& names);
     void TakeInTurn(const std::vector<std::string>& names, std::size_t index,
                     std::span<const profiles::ProfileRecord> profiles, ReadAhead& forms);
+    FormReading Read(const std::string& name, std::span<const profiles::ProfileRecord> profiles) const;
     std::size_t FirstToTake(const std::vector<std::string>& names);
     bool TakeFile(const std::string& name, std::span<const profiles::ProfileRecord> profiles,
                   ReadAhead& forms);

@@ -1,7 +1,6 @@
 #include "review/DoubtFinder.h"
 
 #include <algorithm>
-#include <cmath>
 #include <exception>
 #include <utility>
 #include <variant>
@@ -74,20 +73,18 @@ const FormDoubts* DoubtFinder::Find(const FormOnDisk& form) {
     const std::optional<LookedAt> found = LookAt(form);
     if (!found)
         return nullptr;
-    FormDoubts doubts;
-    for (std::size_t k = 0; k < found->form.Boxes.size(); ++k) {
-        const FormBox& box = found->form.Boxes[k];
-        if (box.doubt)
-            doubts.push_back({static_cast<int>(k) + 1, *box.doubt, found->form.Marks[k].Checked,
-                              static_cast<int>(std::lround(10 * box.ink.value_or(0)))});
-    }
-    cache_.Put(form.Document, stamp, std::move(doubts));
+    cache_.Put(form.Document, stamp, DoubtsOf(found->form));
     return cache_.Find(form.Document, stamp);
 }
 
 void DoubtFinder::Set(const FormOnDisk& form, FormDoubts doubts) {
     if (const std::string stamp = StampOf(form); !stamp.empty())
         cache_.Put(form.Document, stamp, std::move(doubts));
+}
+
+void DoubtFinder::KeepBesideOthers() {
+    cache_.AddToFile(
+        [this](const std::string& form) { return files_.FileExists(folders_.ProcessOut + form); });
 }
 
 std::optional<LookedAt> DoubtFinder::LookAt(const FormOnDisk& form) {

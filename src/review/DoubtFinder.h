@@ -60,6 +60,9 @@ class DoubtFinder {
     /// Writes what was found where the next start finds it.
     void Keep() { cache_.Save(); }
 
+    /// The same for what was set here, beside what others have written meanwhile; nothing is known here then.
+    void KeepBesideOthers();
+
   private:
     std::string StampOf(const FormOnDisk& form);
     std::string WayOfReading() const;

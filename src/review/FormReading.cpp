@@ -1,6 +1,7 @@
 #include "review/FormReading.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "recognition/Classification.h"
@@ -104,28 +105,39 @@ std::vector<recognition::MarkReading> ReadingsOf(std::span<const recognition::Bo
     return readings;
 }
 
+DoubtfulBox DoubtAt(std::size_t k, DoubtReason reason, bool isChecked, double ink) {
+    return {static_cast<int>(k) + 1, reason, isChecked, static_cast<int>(std::lround(10 * ink))};
+}
+
 // Precise alignment reads with no other way to ask.
-recognition::SecondOpinion OpinionOn(const OpenForm& form, const imaging::Page& page,
+recognition::SecondOpinion OpinionOn(const profiles::ProfileRecord& profile, const imaging::Page& page,
                                      std::span<const recognition::BoxMeasure> measures,
                                      std::int16_t fillThreshold, recognition::PreciseReader* precise) {
     if (precise == nullptr || !precise->GivesSecondOpinion())
         return {};
-    return precise->OpinionOn(page, form.Profile, ReadingsOf(measures, fillThreshold), fillThreshold);
+    return precise->OpinionOn(page, profile, ReadingsOf(measures, fillThreshold), fillThreshold);
 }
 
-// In the order of the profile's boxes; `marks` are theirs in the document.
+// In the order of the profile's boxes.
+BoxDoubts DoubtsAbout(const MeasuredForm& measured, const recognition::SecondOpinion& opinion,
+                      const GroupedProfile& profile, std::int16_t fillThreshold,
+                      recognition::PreciseReader* precise) {
+    const std::vector<BoxEvidence> evidence =
+        EvidenceOf(measured, opinion, precise != nullptr ? precise->PrintOf(profile.record) : nullptr);
+    BoxDoubts doubts = DoubtsOf(evidence, fillThreshold);
+    AddGroupDoubts(doubts, evidence, profiles::NamesOf(profile.record), profile.groups);
+    return doubts;
+}
+
+// `marks` are those of the profile's boxes in the document.
 BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page, const Measures& measures,
                       std::span<const std::optional<std::size_t>> marks, std::int16_t fillThreshold,
                       recognition::PreciseReader* precise) {
     MeasuredForm measured{page, measures.boxes, {}, form.IsUpsideDown, measures.precise};
     for (const std::optional<std::size_t>& mark : marks)
         measured.checked.push_back(mark ? std::optional(form.Marks[*mark].Checked) : std::nullopt);
-    const std::vector<BoxEvidence> evidence =
-        EvidenceOf(measured, OpinionOn(form, page, measures.boxes, fillThreshold, precise),
-                   precise != nullptr ? precise->PrintOf(form.Profile) : nullptr);
-    BoxDoubts doubts = DoubtsOf(evidence, fillThreshold);
-    AddGroupDoubts(doubts, evidence, profiles::NamesOf(form.Profile), form.Groups);
-    return doubts;
+    return DoubtsAbout(measured, OpinionOn(form.Profile, page, measures.boxes, fillThreshold, precise),
+                       {form.Profile, form.Groups}, fillThreshold, precise);
 }
 
 // The precise reading of a form against a profile; nothing where it is not wanted or does not see the form.
@@ -220,6 +232,37 @@ OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profile
     read.Changed = form.Changed;
     MeasureForm(read, &page, fillThreshold, precise);
     return read;
+}
+
+FormDoubts DoubtsOf(const recognition::FormReading& reading, const GroupedProfile& profile,
+                    std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+    std::vector<recognition::BoxMeasure> measures;
+    std::vector<std::optional<bool>> checked;
+    for (const recognition::MarkReading& mark : reading.marks) {
+        measures.push_back({mark.rect, mark.fill});
+        checked.emplace_back(mark.Checked);
+    }
+    // A run asks about all profiles; where another one comes of that, it is asked as review asks.
+    const bool isKnown = reading.opinion && !reading.opinion->otherProfile;
+    const bool isPrecise = precise != nullptr && precise->Reads();
+    const BoxDoubts found =
+        DoubtsAbout({*reading.page, measures, std::move(checked), reading.turned, isPrecise},
+                    isKnown ? *reading.opinion
+                            : OpinionOn(profile.record, *reading.page, measures, fillThreshold, precise),
+                    profile, fillThreshold, precise);
+    FormDoubts doubts;
+    for (std::size_t k = 0; k < found.size(); ++k)
+        if (found[k])
+            doubts.push_back(DoubtAt(k, *found[k], reading.marks[k].Checked, reading.marks[k].fill));
+    return doubts;
+}
+
+FormDoubts DoubtsOf(const OpenForm& form) {
+    FormDoubts doubts;
+    for (std::size_t k = 0; k < form.Boxes.size(); ++k)
+        if (const FormBox& box = form.Boxes[k]; box.doubt)
+            doubts.push_back(DoubtAt(k, *box.doubt, form.Marks[k].Checked, box.ink.value_or(0)));
+    return doubts;
 }
 
 std::vector<std::string> CorrectionsOf(const OpenForm& form) {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "imaging/PageReader.h"
+#include "recognition/FormReader.h"
 #include "recognition/precise/PreciseReader.h"
 #include "review/OpenForm.h"
+#include "review/doubts/DoubtCache.h"
 
 namespace tavrene::review {
 
@@ -32,6 +35,20 @@ void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fill
 OpenForm ReadForm(const OpenForm& form, const imaging::Page& page, const profiles::ProfileRecord& profile,
                   std::vector<profiles::BoxGroup> groups, std::int16_t fillThreshold,
                   recognition::PreciseReader* precise);
+
+/// A profile with the groups of its boxes.
+struct GroupedProfile {
+    const profiles::ProfileRecord& record;
+    std::span<const profiles::BoxGroup> groups;
+};
+
+/// What is in doubt of a form whose result has just been read from its page and has become its document: as
+/// measuring it again would find it.
+FormDoubts DoubtsOf(const recognition::FormReading& reading, const GroupedProfile& profile,
+                    std::int16_t fillThreshold, recognition::PreciseReader* precise);
+
+/// What was found to be in doubt of a form that was measured.
+FormDoubts DoubtsOf(const OpenForm& form);
 
 /// What a person has changed since the document was last read or written: a line for another profile, then
 /// one for every box that was turned round, with what it was and what it is now.

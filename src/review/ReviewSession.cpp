@@ -19,6 +19,7 @@ ReviewSession::ReviewSession(const ReviewContext& context, const app::Settings& 
       folders_(folders),
       profiles_(profiles),
       doubts_(context.files, settings, folders, profiles, context.precise),
+      runDoubts_(context.files, settings, folders, profiles, context.precise),
       list_(context, folders, doubts_),
       form_(context, settings, folders, profiles, list_),
       decisions_(context.files, context.log, folders),
@@ -44,9 +45,12 @@ void ReviewSession::End() {
 void ReviewSession::RunBegins() {
     form_.Close();
     TrySettle();
+    doubts_.Keep();
+    runDoubts_.Begin();
 }
 
-void ReviewSession::Refill() {
+void ReviewSession::RunEnds() {
+    runDoubts_.End();
     if (IsOn())
         ShowList();
 }

@@ -16,6 +16,7 @@
 #include "review/NextInDoubt.h"
 #include "review/ReviewList.h"
 #include "review/ReviewScreen.h"
+#include "review/RunDoubts.h"
 #include "review/UnreadPages.h"
 
 namespace tavrene::review {
@@ -45,8 +46,11 @@ class ReviewSession {
     /// Takes the open form from the screen, and leaves no decision half done: a run begins.
     void RunBegins();
 
+    /// Has the doubts of the forms counted that a run reads.
+    recognition::FormLook LookAtRead() { return runDoubts_.Look(); }
+
     /// Fills the list anew when the person is in review: a run has ended.
-    void Refill();
+    void RunEnds();
 
     /// Takes over what has come and gone in the folder, while the person is in review.
     void FollowFolder();
@@ -170,6 +174,7 @@ class ReviewSession {
     const app::WorkingFolders& folders_;
     const std::vector<profiles::ProfileRecord>& profiles_;
     DoubtFinder doubts_;
+    RunDoubts runDoubts_;
     ReviewList list_;
     FormReview form_;
     Decisions decisions_;

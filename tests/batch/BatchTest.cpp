@@ -11,6 +11,7 @@
 #include "batch/FolderContent.h"
 #include "imaging/TiffPages.h"
 #include "painter/ImageFiles.h"
+#include "review/DoubtFinder.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 #include "support/SourceFolder.h"
@@ -202,6 +203,34 @@ TEST_F(BatchTest, EightClaimersMakeTheDocumentsOfOneProgram) {
         };
         EXPECT_EQ(tableIn("tables"), tableIn("tables of one"));
         EXPECT_PRED2(Has, tableIn("tables"), "|") << "several boxes of a group in one cell";
+    }
+}
+
+TEST_F(BatchTest, CountsDoubtsForAWindowThatReadsAlike) {
+    AddSpecimenProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1, 4}});
+    CopyFolder();
+    profiles_ = profiles::LoadActiveProfiles(files_, log_, person_, folders_.Profiles);
+    const auto isKnown = [&](const recognition::ReadingOptions& window) {
+        reading_ = window;
+        const app::WorkingFolders folders = app::PathsUnder(other_.Path());
+        review::DoubtFinder finder(files_, settings_, folders, profiles_, &reader_);
+        finder.Begin();
+        const std::string document = folders.ProcessOut + "a.xml";
+        return finder.Known({"a.xml", files_.Fingerprint(document), folders.ProcessOut + "a.tif", "Form"}) !=
+               nullptr;
+    };
+    options_.doubts = true;
+    EXPECT_EQ(Run(), Exit::Done);
+    EXPECT_TRUE(isKnown({.secondOpinion = true})) << "which is how the window begins";
+    EXPECT_FALSE(isKnown({}));
+    EXPECT_FALSE(isKnown({.preciseAlignment = true}));
+    WriteText(settings_file_, ReadText(settings_file_) + "[Window]\nPreciseAlignment=1\n");
+    for (const bool isPrecise : {false, true}) {
+        std::filesystem::rename(other_.File("ProcessOut/a.tif"), other_.File("ProcessIn/a.tif"));
+        options_.precise = isPrecise;
+        EXPECT_EQ(Run(), Exit::Done);
+        EXPECT_EQ(isKnown({.preciseAlignment = true}), isPrecise);
     }
 }
 

@@ -20,7 +20,7 @@ std::optional<Options> Read(std::vector<std::string> words) {
 
 TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
     const auto read = Read({"--settings", "s.ini", "forms/.//", "--export=/x/../tables/", "--jobs", "12",
-                            "--precise", "--watch", "--json"});
+                            "--precise", "--doubts", "--watch", "--json"});
     ASSERT_TRUE(read);
     const std::string here = std::filesystem::current_path().string() + "/";
     EXPECT_EQ(read->folder + "|" + read->settings + "|" + read->exportTo,
@@ -28,7 +28,7 @@ TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
     EXPECT_EQ(read->jobs, 12);
     EXPECT_EQ(Read({"forms", "--claim=5"})->patience, 5);
     EXPECT_EQ(Read({"forms", "--claim"})->patience, 60);
-    EXPECT_TRUE(read->precise && read->watch && read->json);
+    EXPECT_TRUE(read->precise && read->doubts && read->watch && read->json);
     EXPECT_TRUE(Read({"--help"})->help);
     EXPECT_TRUE(Read({"--version", "a", "b"})->version);
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{},

@@ -59,10 +59,10 @@ TEST_F(BadFormsTest, DamagedDocumentsAreLoggedAndLeftOut) {
 
     // A folder and a log that are gone cost the list, not the program.
     Refuse("append", "");
-    Do([this] { review_.Refill(); });
+    Do([this] { review_.RunEnds(); });
     EXPECT_EQ(list_.lines.size(), 2U);
     Refuse("list", "");
-    Do([this] { review_.Refill(); });
+    Do([this] { review_.RunEnds(); });
     EXPECT_TRUE(list_.lines.empty());
     EXPECT_EQ(Messages().size(), 1U);
 }

@@ -152,7 +152,7 @@ TEST_F(DecisionsTest, ADecisionIsTakenBackWholeOrNotAtAll) {
         EXPECT_FALSE(files_.FileExists(Note()));
         for (const std::string& name : In(folders_.ProcessReject))
             files_.Move(folders_.ProcessReject + name, folders_.ProcessOut + name);
-        Do([this] { review_.Refill(); });
+        Do([this] { review_.RunEnds(); });
         Open(0);
     }
     Reject();
@@ -211,7 +211,7 @@ TEST_F(DecisionsTest, TheNextListingTakesBackWhatIsHalfDone) {
     for (const char* bad :
          {"<Decision Kind=\"accept\" Image=\"../b.tif\" Document=\"b.xml\"/>", "<Deci", ""}) {
         WriteText(Note(), bad);
-        Do([this] { review_.Refill(); });
+        Do([this] { review_.RunEnds(); });
         EXPECT_FALSE(files_.FileExists(Note()));
         EXPECT_EQ(In(folders_.ProcessOut), (Names{"a.xml", "b.tif", "b.xml"}));
     }

@@ -1,8 +1,12 @@
+#include <algorithm>
+
 #include "ReviewWorld.h"
 #include "painter/ImageFiles.h"
 #include "profiles/BoxGroups.h"
+#include "profiles/SampleForms.h"
 #include "review/doubts/Doubts.h"
 #include "review/doubts/GroupDoubts.h"
+#include "support/SourceFolder.h"
 
 namespace tavrene::review {
 namespace {
@@ -153,6 +157,59 @@ TEST_F(CountedDoubtsTest, ACacheThatIsGoneOrBrokenIsMadeAnew) {
     EnterAnew();
     CountAll();
     EXPECT_EQ(Counts(), counted_);
+}
+
+class RunDoubtsTest : public CountedDoubtsTest {
+  protected:
+    void SetUp() override {}
+
+    void ReadSamples() {
+        profiles::CopySampleForms(files_, test::SourceFolder() + "/samples", work_.Path());
+        for (const std::string& scan : In(folders_.ProcessIn))
+            if (scan.find("-1") == std::string::npos)
+                files_.Delete(folders_.ProcessIn + scan);
+        LoadProfiles();
+        recognition::ProcessRun run({.files = files_,
+                                     .log = log_,
+                                     .person = person_,
+                                     .clock = clock_,
+                                     .page = screen_,
+                                     .rows = screen_,
+                                     .precise = &reader_,
+                                     .jobs = [] { return 2; },
+                                     .look = review_.LookAtRead()},
+                                    settings_, folders_);
+        review_.RunBegins();
+        run.Run(profiles_);
+        review_.RunEnds();
+    }
+
+    // What review finds by reading the forms again.
+    std::string CountedByReview() {
+        files_.Delete(cache_);
+        Toggle();
+        while (review_.CountNextDoubts()) {
+        }
+        Toggle();
+        return test::ReadText(cache_);
+    }
+
+    const std::string cache_ = folders_.Temp + "doubts.txt";
+};
+
+TEST_F(RunDoubtsTest, AreThoseThatReviewFinds) {
+    for (const recognition::ReadingOptions& way :
+         {recognition::ReadingOptions{}, {.secondOpinion = true}, {.preciseAlignment = true}}) {
+        reading_ = way;
+        ReadSamples();
+        Toggle();
+        const auto counts = Counts();
+        EXPECT_GE(counts.size(), 7U);
+        EXPECT_EQ(std::ranges::count(counts, std::optional<int>()), 0);
+        Toggle();
+        const std::string counted = test::ReadText(cache_);
+        EXPECT_EQ(CountedByReview(), counted);
+    }
 }
 
 }  // namespace

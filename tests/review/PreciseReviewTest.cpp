@@ -16,6 +16,17 @@ class PreciseReviewTest : public test::ReviewWorld {
         reading_.preciseAlignment = true;
     }
 
+    // The forms were read before the profile got its last box, and are opened and read anew with it.
+    void OpenWithAnotherBox(TestForm before) {
+        before.boxes.pop_back();
+        test::WriteText(folders_.Profiles + "Form.Tvp", before.ProfileText(folders_.ProfileImages + "Form"));
+        Process();
+        AddSpecimenProfile("Form", form_);
+        EnterReview();
+        person_.answers = {app::Answer::Yes};
+        Open(0);
+    }
+
     // Where box `number` of the form lies on a scan of it that is upside down.
     imaging::PageRect Turned(int number) const {
         const profiles::OmrBox& box = form_.boxes[static_cast<std::size_t>(number) - 1];
@@ -85,14 +96,7 @@ TEST_F(PreciseReviewTest, LostPlacesAreSearchedAsFormsAreRead) {
 
 TEST_F(PreciseReviewTest, ABoxThatWasAddedLiesWhereTheOthersSay) {
     AddScan("a.tif", {.checked = {2, 12}, .dx = 40, .dy = -30});
-    TestForm before = form_;
-    before.boxes.pop_back();
-    test::WriteText(folders_.Profiles + "Form.Tvp", before.ProfileText(folders_.ProfileImages + "Form"));
-    Process();
-    AddSpecimenProfile("Form", form_);
-    EnterReview();
-    person_.answers = {app::Answer::Yes};
-    Open(0);
+    OpenWithAnotherBox(form_);
     EXPECT_EQ(transcript_.LinesOf("ask: ").size(), 1U);
     EXPECT_TRUE(ResultHas("a.xml", "<OMR Name=\"Q12\" Shift=\"40,-30\" Checked=\"1\""));
 }
@@ -101,14 +105,7 @@ TEST_F(PreciseReviewTest, ABoxThatWasMovedInTheProfileIsNotReadAtItsOldShift) {
     form_.boxes[6].L += 60;
     form_.boxes[6].R += 60;
     AddScan("a.tif", {.checked = {7}, .upsideDown = true});
-    TestForm before = TestForm::Grid(4, 3);
-    before.boxes.pop_back();
-    test::WriteText(folders_.Profiles + "Form.Tvp", before.ProfileText(folders_.ProfileImages + "Form"));
-    Process();
-    AddSpecimenProfile("Form", form_);
-    EnterReview();
-    person_.answers = {app::Answer::Yes};
-    Open(0);
+    OpenWithAnotherBox(TestForm::Grid(4, 3));
     ExpectTurned();
     const auto marks = recognition::ResultDocument::Load(files_, folders_.ProcessOut + "a.xml").Marks();
     EXPECT_TRUE(marks[6].Checked);

@@ -41,6 +41,14 @@ class DoubtSheetWindowTest : public test::DeskWindow {
 
     static void WaitUntilAllAreFound(const QDialog& dialog) { WaitUntil(dialog, 60); }
 
+    // The subject above or below the present one, from the opened list.
+    static void Choose(const QDialog& dialog, Qt::Key key) {
+        auto& subject = Find<QComboBox>(dialog, "cboSheet");
+        Press(subject, Qt::Key_Space);
+        QTest::keyClick(subject.view(), key);
+        QTest::keyClick(subject.view(), Qt::Key_Return);
+    }
+
     test::TestForm form_ = test::TestForm::Grid(2, 2);
 };
 
@@ -49,6 +57,10 @@ TEST_F(DoubtSheetWindowTest, IsJudgedScreenByScreenByKeys) {
     script.Do([](QDialog& dialog) {
         WaitUntilAllAreFound(dialog);
         QListView& sheet = Sheet(dialog);
+        Choose(dialog, Qt::Key_Down);
+        EXPECT_EQ(QApplication::focusWidget(), &sheet) << "the arrows move there again";
+        Choose(dialog, Qt::Key_Up);
+        WaitUntilAllAreFound(dialog);
         EXPECT_TRUE(QTest::qWaitFor(
             [&sheet] { return sheet.model()->index(39, 0).data(SheetModel::kBox).toString() == "Q3"; },
             60'000))

@@ -21,7 +21,8 @@ void Walker::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* const dialog = QApplication::activeModalWidget();
     QWidget* const top = dialog != nullptr ? dialog : &window_;
     top->activateWindow();
-    if (!QTest::qWaitForWindowActive(top))
+    // To QTest a dialog is active as soon as the window that it belongs to is, and the keys go there.
+    if (!QTest::qWaitFor([top] { return QApplication::activeWindow() == top; }))
         throw std::runtime_error("The window does not get the keys.");
     QWidget* const focus = QApplication::focusWidget();
     QTest::keyClick(focus != nullptr ? focus : &window_, key, modifiers);
@@ -148,6 +149,8 @@ void Walker::WorkThroughSheet(const QDialog& sheet) {
         JudgeScreen(driving::Find<QListView>(sheet, "lvwSheet"));
         Press(Qt::Key_Return, Qt::ControlModifier);
     }
+    if (sheet.isVisible())
+        throw std::runtime_error("The sheet does not come to an end.");
 }
 
 // The dialog takes the keys while the key that opens it is still being worked on.

@@ -126,6 +126,20 @@ void DoubtCache::Put(const std::string& form, const std::string& stamp, FormDoub
     isChanged_ = true;
 }
 
+void DoubtCache::AddToFile(const std::function<bool(const std::string& form)>& isThere) {
+    if (!isChanged_)
+        return;
+    std::map<std::string, Entry> found = std::exchange(entries_, {});
+    Load();
+    for (auto& [form, entry] : entries_)
+        entry.isAlive = isThere(form);
+    found.merge(entries_);
+    entries_.swap(found);
+    isChanged_ = true;
+    Save();
+    entries_.clear();
+}
+
 void DoubtCache::Save() {
     if (!std::exchange(isChanged_, false))
         return;

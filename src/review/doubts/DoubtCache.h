@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -39,6 +40,10 @@ class DoubtCache {
     /// Writes what was found or put since loading, if there is anything new. What cannot be written is found
     /// out again the next time.
     void Save();
+
+    /// Writes what was put without having been loaded beside what the file holds by now, as far as `isThere`
+    /// says that the form is still there.
+    void AddToFile(const std::function<bool(const std::string& form)>& isThere);
 
   private:
     struct Entry {

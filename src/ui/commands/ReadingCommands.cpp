@@ -6,9 +6,14 @@
 #include <utility>
 
 #include "app/Counted.h"
+#include "recognition/ReadingFlags.h"
 #include "recognition/precise/ReadAgain.h"
 
 namespace tavrene::commands {
+
+using recognition::kPreciseAlignment;
+using recognition::kSecondOpinion;
+using recognition::kUseAllCores;
 
 int JobsOf(const recognition::ReadingOptions& reading) {
     return reading.allCores ? std::max(1, static_cast<int>(std::thread::hardware_concurrency())) : 1;

@@ -12,11 +12,6 @@
 
 namespace tavrene::commands {
 
-/// The values of what the window remembers about itself.
-inline constexpr std::string_view kPreciseAlignment = "PreciseAlignment";
-inline constexpr std::string_view kSecondOpinion = "SecondOpinion";
-inline constexpr std::string_view kUseAllCores = "UseAllCores";
-
 /// How many forms a run reads side by side.
 int JobsOf(const recognition::ReadingOptions& reading);
 

@@ -244,10 +244,9 @@ void ReviewMode::RectClicked(int group) {
 }
 
 void ReviewMode::RunEnded() {
-    if (!session_.IsOn())
-        return;
-    session_.Refill();
-    TakeFirstLine();
+    session_.RunEnds();
+    if (session_.IsOn())
+        TakeFirstLine();
 }
 
 void ReviewMode::Update() {

@@ -52,9 +52,15 @@ class ReviewMode final : public QObject {
     /// The prompt before the open form is left; false when the command at hand is to be abandoned.
     bool MayLeave() { return session_.MayLeave(); }
 
+    /// Takes the open form from the screen, as `ReviewSession` does.
+    void CloseForm() { session_.CloseForm(); }
+
     /// A run takes the form from the screen; when it has ended, the list is filled anew.
     void RunBegins() { session_.RunBegins(); }
     void RunEnded();
+
+    /// As `ReviewSession` does.
+    recognition::FormLook LookAtRead() { return session_.LookAtRead(); }
 
     /// Moves all pages that were not read back to `ProcessIn`.
     void SendAllBack() { session_.SendAllBack(); }

@@ -1,16 +1,14 @@
 #include "ui/reviewing/ReviewPane.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QTabWidget>
-#include <QWheelEvent>
 
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 
-ReviewChoice::ReviewChoice(QWidget* parent) : QComboBox(parent) {
+ReviewChoice::ReviewChoice(QWidget* parent) : PopupChoice(parent) {
     setObjectName("cboProfiles");
     setAccessibleName(Tr("ReviewPane", "Profile to read the form against"));
     setToolTip(Tr("ReviewPane", "Reads the open form again, against another profile"));
@@ -34,25 +32,6 @@ void ReviewChoice::SetChoice(std::string_view name) {
 void ReviewChoice::TakeAway() {
     setCurrentIndex(-1);
     setEnabled(false);
-}
-
-void ReviewChoice::wheelEvent(QWheelEvent* event) {
-    event->ignore();
-}
-
-void ReviewChoice::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_F4:
-            showPopup();
-            break;
-        default:
-            event->ignore();
-    }
 }
 
 ReviewPane::ReviewPane(QWidget* parent)

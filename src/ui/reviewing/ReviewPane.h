@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QComboBox>
 #include <QFrame>
 
 #include "review/ReviewScreen.h"
 #include "ui/reviewing/FilterBar.h"
+#include "ui/reviewing/PopupChoice.h"
 #include "ui/reviewing/ReviewListView.h"
 #include "ui/reviewing/UnreadPane.h"
 
@@ -12,19 +12,14 @@ class QTabWidget;
 
 namespace tavrene::ui {
 
-/// The choice `cboProfiles`. Only a choice from its opened list counts: a wheel or a key that runs through
-/// the names would read the form again with every step.
-class ReviewChoice final : public QComboBox, public review::ProfileChoice {
+/// The choice `cboProfiles`: with every step the form is read again.
+class ReviewChoice final : public PopupChoice, public review::ProfileChoice {
   public:
     explicit ReviewChoice(QWidget* parent);
 
     void ShowProfiles(std::span<const std::string> names) override;
     void SetChoice(std::string_view name) override;
     void TakeAway() override;
-
-  protected:
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 };
 
 /// The review side of the window: the list of forms with the choice of the profile to read one against, and

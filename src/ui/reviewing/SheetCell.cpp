@@ -33,6 +33,13 @@ void PaintSign(QPainter& painter, const QRect& room, bool isMarked, bool isTurne
                                    sign.topLeft() + QPointF(13, 4.5)});
 }
 
+// Neither name hides the other, however narrow the cell is.
+QString Caption(const QFontMetrics& metrics, const QString& form, const QString& box, int width) {
+    const QString end =
+        box.isEmpty() ? QString() : " · " + metrics.elidedText(box, Qt::ElideMiddle, width * 3 / 5);
+    return metrics.elidedText(form, Qt::ElideMiddle, width - metrics.horizontalAdvance(end)) + end;
+}
+
 }  // namespace
 
 void SheetCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -49,11 +56,10 @@ void SheetCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     PaintSign(*painter, room, index.data(SheetModel::kChecked).toBool(),
               index.data(SheetModel::kTurned).toBool());
     const QRect caption(cell.left(), room.bottom() + 2, cell.width(), line);
-    const QString box = index.data(SheetModel::kBox).toString();
-    const QString text = index.data(SheetModel::kForm).toString() + (box.isEmpty() ? "" : " · " + box);
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(caption, Qt::AlignCenter,
-                      option.fontMetrics.elidedText(text, Qt::ElideMiddle, caption.width()));
+                      Caption(option.fontMetrics, index.data(SheetModel::kForm).toString(),
+                              index.data(SheetModel::kBox).toString(), caption.width()));
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         painter->setPen(QPen(option.palette.color(QPalette::Text), 2, Qt::DotLine));
         painter->setBrush(Qt::NoBrush);

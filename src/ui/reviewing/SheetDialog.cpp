@@ -10,7 +10,6 @@
 #include "app/Counted.h"
 #include "review/ClearForms.h"
 #include "ui/base/BusyCursor.h"
-#include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
 #include "ui/base/Shown.h"
@@ -25,7 +24,7 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
       person_(person),
       crops_(sheet),
       parts_({new SheetModel(crops_, this), new SheetModel(crops_, this)}),
-      subject_(new QComboBox(this)),
+      subject_(new PopupChoice(this)),
       tabs_(new QTabBar(this)),
       view_(new SheetView(this)),
       about_(new QLabel(this)),
@@ -37,6 +36,7 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
     view_->SetListener({[this](int row) { Open(row); }, [this] { Update(); }});
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Update(); });
     connect(subject_, &QComboBox::currentIndexChanged, this, [this] { ChangeSubject(); });
+    connect(subject_, &QComboBox::activated, view_, [this] { view_->setFocus(); });
     connect(tabs_, &QTabBar::currentChanged, this, [this] { ShowPart(); });
     connect(confirm_, &QPushButton::clicked, this, [this] { Confirm(); });
     idle_.setSingleShot(true);
@@ -65,7 +65,6 @@ QWidget* SheetDialog::Head() {
     subject_->addItem(Tr("SheetDialog", "Boxes in doubt"));
     for (const std::string& name : sheet_.BoxNames())
         subject_->addItem(Tr("SheetDialog", "Box %1").arg(ToQt(name)), ToQt(name));
-    new CalmWheel(*subject_);
     tabs_->setObjectName("tabSheet");
     tabs_->addTab({});
     tabs_->addTab({});
@@ -193,22 +192,38 @@ void SheetDialog::Update() {
                                            QT_TRANSLATE_NOOP("SheetDialog", "Not marked (%1)")};
     for (std::size_t k = 0; k < parts_.size(); ++k)
         tabs_->setTabText(static_cast<int>(k), Tr("SheetDialog", kTitles[k]).arg(parts_[k]->rowCount()));
-    const QModelIndex current = view_->currentIndex();
-    const bool isEmpty = Part().rowCount() == 0;
-    const QString about = current.data(SheetModel::kForm).toString() + "  " +
-                          current.data(SheetModel::kBox).toString() + "  " +
-                          current.data(SheetModel::kReason).toString();
-    about_->setText(isEmpty ? Tr("SheetDialog", "Nothing is in doubt here.")
-                            : about.trimmed() + "   " +
-                                  Tr("SheetDialog", "Space turns the mark round, Enter opens the form."));
+    ShowAbout();
+    view_->SetHint(HintWithoutBoxes());
     const auto left = sheet_.FormsLeft();
     progress_->setText(left == 0 ? QString()
                                  : Shown(Counted(left, "form", "forms") + " still to be looked at"));
-    confirm_->setEnabled(!isEmpty);
+    confirm_->setEnabled(Part().rowCount() > 0);
     if (view_->model() != nullptr)
         view_->WantPictures();
     if (!idle_.isActive())
         idle_.start(0);
+}
+
+void SheetDialog::ShowAbout() {
+    const QModelIndex current = view_->currentIndex();
+    const QString about = current.data(SheetModel::kForm).toString() + "  " +
+                          current.data(SheetModel::kBox).toString() + "  " +
+                          current.data(SheetModel::kReason).toString();
+    about_->setText(Part().rowCount() == 0
+                        ? QString()
+                        : about.trimmed() + "   " +
+                              Tr("SheetDialog", "Space turns the mark round, Enter opens the form."));
+}
+
+QString SheetDialog::HintWithoutBoxes() {
+    if (sheet_.FormsLeft() > 0)
+        return Tr("SheetDialog", "Nothing yet: forms are still being looked at.");
+    if (parts_[0]->rowCount() + parts_[1]->rowCount() > 0)
+        return Tr("SheetDialog", "Nothing here.\nThe other tab holds what is left to judge.");
+    if (subject_->currentIndex() > 0)
+        return Tr("SheetDialog", "No form of the list has this box.");
+    return Tr("SheetDialog",
+              "Nothing is in doubt.\nEsc leaves the sheet; Shift+F9 accepts all forms without doubt.");
 }
 
 // What is in sight is waited for; other forms are looked at once the person is not doing anything.
@@ -218,6 +233,7 @@ void SheetDialog::Work() {
     if (!made.empty()) {
         for (SheetModel* const part : parts_)
             part->TellMade(made);
+        ShowAbout();  // the name of the box has come with its picture
         idle_.start(0);
         return;
     }

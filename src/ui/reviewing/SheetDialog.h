@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -11,6 +10,7 @@
 
 #include "app/Operator.h"
 #include "ui/base/InputWatch.h"
+#include "ui/reviewing/PopupChoice.h"
 #include "ui/reviewing/SheetView.h"
 
 namespace tavrene::ui {
@@ -49,6 +49,8 @@ class SheetDialog final : public QDialog {
     int TurnedCount() const;
     bool MayDropTurned();
     void Update();
+    void ShowAbout();
+    QString HintWithoutBoxes();
     void Work();
     bool LookAtForms();
 
@@ -56,7 +58,7 @@ class SheetDialog final : public QDialog {
     app::Operator& person_;
     SheetCrops crops_;
     std::array<SheetModel*, 2> parts_;  ///< Marked, and not marked.
-    QComboBox* subject_;
+    PopupChoice* subject_;
     QTabBar* tabs_;
     SheetView* view_;
     QLabel* about_;

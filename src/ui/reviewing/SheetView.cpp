@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ui/base/EmptyHint.h"
 #include "ui/base/QtText.h"
 #include "ui/reviewing/SheetCell.h"
 
@@ -120,6 +121,17 @@ void SheetView::mouseDoubleClickEvent(QMouseEvent* event) {
 void SheetView::resizeEvent(QResizeEvent* event) {
     QListView::resizeEvent(event);
     FitCells();
+}
+
+void SheetView::SetHint(const QString& hint) {
+    if (std::exchange(hint_, hint) != hint)
+        viewport()->update();
+}
+
+void SheetView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (model() == nullptr || model()->rowCount() == 0)
+        PaintEmptyHint(*viewport(), hint_);
 }
 
 void SheetView::FitCells() {

@@ -29,6 +29,9 @@ class SheetView final : public QListView {
     /// The first row in sight, whole; the screen is this one and those that follow.
     int FirstOnScreen() const;
 
+    /// What stands in the middle while there is no box.
+    void SetHint(const QString& hint);
+
     /// Asks for the pictures of the next screen, and then of this one, so that those come first.
     void WantPictures();
 
@@ -43,6 +46,7 @@ class SheetView final : public QListView {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     SheetModel* Sheet() const { return dynamic_cast<SheetModel*>(model()); }
@@ -50,6 +54,7 @@ class SheetView final : public QListView {
     void FitCells();
 
     Listener listener_;
+    QString hint_;
     QPersistentModelIndex pressed_;  ///< Under the plain left button.
 };
 

@@ -52,7 +52,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             .page = *view_,
             .rows = *boxes_,
             .precise = &precise_,
-            .jobs = [this] { return commands::JobsOf(state_.reading); }},
+            .jobs = [this] { return commands::JobsOf(state_.reading); },
+            .look = [this](const auto&... read) { return review_.LookAtRead()(read...); }},
            state_.settings, state_.folders),
       gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
              [this] { return review_.MayLeave(); }}),
@@ -256,7 +257,7 @@ void MainWindow::ShowFile(const ReasonRow& file) {
     if (commands::WaitsForReview(context_.files, state_.folders, file.name) && review_.OpenFormOf(file.name))
         return;
     desk_.Close();
-    review_.RunBegins();
+    review_.CloseForm();
     view_->ShowFile(commands::ImageInUse(context_.files, state_.folders, file.name));
     const app::Notice notice{file.name + ": " + file.reason};
     operator_.ShowNotices({&notice, 1});
