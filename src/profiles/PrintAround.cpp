@@ -16,6 +16,9 @@ using imaging::PageRect;
 constexpr double kReach = 3;
 constexpr double kWordGap = 1.2;
 
+// Nothing else stands at the left of a table's row, where the reader may have missed a word.
+constexpr double kRowWordGap = 3;
+
 // The head of a column stands within so many heights of its box; its lines follow each other closely. Boxes
 // of one column are not further apart than that.
 constexpr double kHeadReach = 2.5;
@@ -95,8 +98,7 @@ std::vector<PrintAround::Found> PrintAround::OnLine(std::size_t box, Side side) 
     return found;
 }
 
-std::string PrintAround::WordsWithin(std::size_t box, Side side, double reach) const {
-    const double gap = kWordGap * boxes_[box].height;
+std::string PrintAround::WordsWithin(std::size_t box, Side side, double reach, double gap) const {
     std::vector<const PrintedWord*> taken;
     double most = reach;
     for (const Found& one : OnLine(box, side)) {
@@ -111,7 +113,7 @@ std::string PrintAround::WordsWithin(std::size_t box, Side side, double reach) c
 }
 
 std::string PrintAround::Beside(std::size_t box, Side side) const {
-    return WordsWithin(box, side, kReach * boxes_[box].width);
+    return WordsWithin(box, side, kReach * boxes_[box].width, kWordGap * boxes_[box].height);
 }
 
 // The next one in the same column.
@@ -152,7 +154,7 @@ std::string PrintAround::HeadOf(std::size_t box) const {
         for (const PrintedWord* const word : line)
             edge = std::min(edge, word->place.top);
         std::ranges::sort(line, {}, [](const auto* word) { return word->place.left; });
-        head = Joined(line) + (head.empty() ? "" : " ") + head;
+        head.insert(0, Joined(line) + (head.empty() ? "" : " "));
         gap = kLineGap * place.height;
     }
     return head;
@@ -191,7 +193,8 @@ std::vector<std::string> PrintAround::InTables() const {
     const std::vector<std::string> heads = Heads();
     std::vector<std::string> names(boxes_.size());
     for (const std::vector<std::size_t>& row : Rows()) {
-        const std::string text = WordsWithin(row.front(), Side::Left, kEndless);
+        const std::size_t first = row.front();
+        const std::string text = WordsWithin(first, Side::Left, kEndless, kRowWordGap * boxes_[first].height);
         const bool hasHeads = std::ranges::none_of(row, [&](std::size_t box) { return heads[box].empty(); });
         if (row.size() < 2 || text.empty() || !hasHeads)
             continue;

@@ -30,7 +30,7 @@ class PrintAround {
         double to;
     };
     std::vector<Found> OnLine(std::size_t box, Side side) const;
-    std::string WordsWithin(std::size_t box, Side side, double reach) const;
+    std::string WordsWithin(std::size_t box, Side side, double reach, double gap) const;
     std::optional<std::size_t> Next(std::size_t box, Side side) const;
     std::optional<std::size_t> Above(std::size_t box) const;
     std::string HeadOf(std::size_t box) const;
