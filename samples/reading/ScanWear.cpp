@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <numbers>
 #include <variant>
 #include <vector>
 
 #include "app/Files.h"
+#include "app/TemporaryFolder.h"
 #include "boxes/BoxSheet.h"
 #include "boxes/PageWear.h"
 #include "painter/ImageFiles.h"
@@ -150,12 +150,10 @@ WorkGrid ThroughJpeg(Canvas page, int quality, Random& dice) {
             page.Set(x, y, static_cast<Shade>(std::clamp(shade, 0.0, 255.0)));
         }
     }
-    const std::string file =
-        (std::filesystem::temp_directory_path() / ("tavrene-scan-" + std::to_string(dice.Next()) + ".jpg"))
-            .string();
+    const app::TemporaryFolder folder("tavrene-scan");
+    const std::string file = folder.File("page.jpg");
     SaveImage(ToGrey(page), imaging::ImageFormat::Jpeg, file, quality);
     auto read = imaging::ReadPage(app::DiskFiles(), file, imaging::ImageFormat::Jpeg);
-    std::filesystem::remove(file);
     return std::move(std::get<imaging::Page>(read).grid);
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <string>
+#include <string_view>
 
 #include "app/DiskFile.h"
 #include "app/Files.h"
@@ -69,15 +70,13 @@ class FileCopy {
     FileCopy(const std::string& from, const std::string& temporary, const std::string& to)
         : from_(from),
           to_(to),
-          source_(::open(from.c_str(), O_RDONLY | O_CLOEXEC)),
-          target_(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
+          source_(Open("read", from, from, O_RDONLY)),
+          target_(Open("write", to, temporary, O_WRONLY | O_CREAT | O_TRUNC)) {}
 
     void Run() {
         struct ::stat status {};
-        if (source_.Number() < 0 || ::fstat(source_.Number(), &status) != 0)
+        if (::fstat(source_.Number(), &status) != 0)
             Refuse("read", from_, errno);
-        if (target_.Number() < 0)
-            Refuse("write", to_, errno);
         CheckRoomFor(status);
         for (::off_t data = NextData(0, status.st_size); data < status.st_size;) {
             const ::off_t hole = ::lseek(source_.Number(), data, SEEK_HOLE);
@@ -91,6 +90,14 @@ class FileCopy {
     }
 
   private:
+    // The file that a refusal names is not the temporary one.
+    static int Open(std::string_view action, const std::string& named, const std::string& path, int flags) {
+        const int number = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+        if (number < 0)
+            Refuse(action, named, errno);
+        return number;
+    }
+
     // Better than to fill the disk first.
     void CheckRoomFor(const struct ::stat& source) {
         constexpr std::uint64_t kBlock = 512;  // whatever the blocks of the file system are
@@ -162,7 +169,7 @@ void DiskFiles::MoveAcross(const std::string& from, const std::string& to) {
         FileCopy(from, temporary, to).Run();
         if (Fingerprint(from) != before)
             throw FileError("Cannot move " + from + ": somebody is still writing to it");
-    } catch (const FileError&) {
+    } catch (...) {
         ::unlink(temporary.c_str());
         throw;
     }

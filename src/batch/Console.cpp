@@ -74,7 +74,7 @@ void Progress::Add(std::span<const recognition::FileReport> files) {
         if (asJson_)
             out_ << R"({"event":"file","name":)" << Quoted(file.name) << R"(,"outcome":)"
                  << Quoted(kEnds.at(static_cast<std::size_t>(file.end)).second) << R"(,"reason":)"
-                 << Quoted(file.reason) << '}' << std::endl;
+                 << Quoted(file.reason) << R"(,"further pages":)" << file.furtherPages << '}' << std::endl;
     }
 }
 

@@ -86,6 +86,12 @@ Exit FolderWork::Share() {
     }
     if (surroundings_.stop)
         return Exit::Stopped;
+    if (const std::string why = claims.Hindrance();
+        !why.empty() && !files_.List(folders_.ProcessIn, "*").empty()) {
+        person_.ShowMessage("",
+                            "Files are left in " + folders_.ProcessIn + " that cannot be claimed: " + why);
+        exit = exit == Exit::Done ? Exit::SomeLeft : exit;
+    }
     // Only now all documents are there; one that is stopped leaves the tables to those that go on.
     if (exit != Exit::Failed)
         Export();
@@ -143,7 +149,7 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
                                  .jobs = [this] { return options_.jobs; }},
                                 settings_, folders);
     person_.onPendingEvents = [this, &run] {
-        progress_.Add(run.TakeReports());
+        Tell(run.TakeReports());
         if (surroundings_.stop)
             run.Stop();
     };
@@ -151,12 +157,23 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     if (!run.MayStart(profiles_))
         return Exit::Failed;
     run.Run(profiles_);
-    progress_.Add(run.TakeReports());
+    Tell(run.TakeReports());
     progress_.End(run.Summary().seconds, surroundings_.stop);
     if (surroundings_.stop)
         return Exit::Stopped;
     const std::size_t left = progress_.Count(FileEnd::Refused) + progress_.Count(FileEnd::NotWritten);
     return left > 0 ? Exit::SomeLeft : Exit::Done;
+}
+
+// Pages that nobody reads are no fault of the run, but by night there is no summary that offers to split
+// them.
+void FolderWork::Tell(std::span<const recognition::FileReport> files) {
+    for (const recognition::FileReport& file : files)
+        if (const int further = file.furtherPages; further > 0)
+            person_.ReportFile(file.name, std::to_string(further) +
+                                              (further == 1 ? " further page was" : " further pages were") +
+                                              " not looked at");
+    progress_.Add(files);
 }
 
 void FolderWork::Export() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,7 @@ class FolderWork {
     bool ShareNext(Claims& claims, Exit& exit);
     bool LockOrTell(app::FolderLock::Use use);
     Exit Process(const app::WorkingFolders& folders, const std::string& staging, const Incoming& incoming);
+    void Tell(std::span<const recognition::FileReport> files);
     void Export();
 
     const Options& options_;

@@ -257,7 +257,10 @@ void Scanner::Set(const ScanSettings& settings) {
         Choose(SANE_NAME_SCAN_RESOLUTION, settings.resolution);
     resolution_ = settings.resolution;
     SetPaper(settings);
+    // Some devices have to be told what to do about a double feed before they look for any.
     Choose("df-action", std::string("Stop"));
+    for (const char* const look : {"df-thickness", "double-feed"})
+        Choose(look, SANE_TRUE);
 }
 
 SANE_Status Scanner::ReadAll(std::vector<SANE_Byte>& data, const std::function<bool()>& goOn) {
@@ -294,7 +297,7 @@ Scanner::Page Scanner::Next(const std::function<bool()>& goOn) {
     status = ReadAll(data, goOn);
     if (status == SANE_STATUS_CANCELLED && !goOn())
         return Cancelled{};
-    if (status == SANE_STATUS_NO_DOCS)
+    if (status == SANE_STATUS_NO_DOCS && data.empty())
         return NoMore{};
     if (status != SANE_STATUS_EOF)
         return ReasonOf(status);

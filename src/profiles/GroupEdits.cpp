@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 #include <tuple>
 #include <utility>
 
@@ -36,8 +35,9 @@ std::vector<std::pair<std::string, std::string>> RenamesIn(const std::vector<Box
             renames.emplace_back(change.before->Name, change.after->Name);
     }
     const auto wereKept = [](const BoxChange& change) { return change.before && change.before->Checked; };
+    const auto isSamePlace = [](const auto& one, const auto& other) { return one.first == other.first; };
     if (static_cast<std::ptrdiff_t>(before.size()) != std::ranges::count_if(changes, wereKept) ||
-        !std::ranges::equal(std::views::keys(before), std::views::keys(after)))
+        !std::ranges::equal(before, after, isSamePlace))
         return renames;
     renames.clear();
     for (const auto& [place, name] : before)

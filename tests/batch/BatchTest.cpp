@@ -9,6 +9,8 @@
 #include "app/FolderLock.h"
 #include "batch/Batch.h"
 #include "batch/FolderContent.h"
+#include "imaging/TiffPages.h"
+#include "painter/ImageFiles.h"
 #include "support/Faults.h"
 #include "support/RunWorld.h"
 #include "support/SourceFolder.h"
@@ -91,7 +93,11 @@ TEST_F(BatchTest, MakesTheSameFolderAsTheWindow) {
 TEST_F(BatchTest, TellsOfEachFileInJsonAndWritesTables) {
     AddProfile("Form", form_);
     form_.SaveScan(folders_.ProcessIn + "a\"\t.tif", {.checked = {1, 4}});
-    form_.SaveScan(folders_.ProcessIn + "b.tif", {.checked = {1}});
+    const auto page = [this](int mark) {
+        return imaging::TiffPage{samples::ToBilevel(form_.Paint({.checked = {mark}})), {}};
+    };
+    files_.Write(folders_.ProcessIn + "b.tif",
+                 imaging::EncodeTiffPages(std::array{page(1), page(2), page(3)}), app::Keep::AsScratch);
     CopyFolder();
     options_.json = true;
     options_.exportTo = home_.File("tables");
@@ -99,12 +105,13 @@ TEST_F(BatchTest, TellsOfEachFileInJsonAndWritesTables) {
     EXPECT_EQ(out_.str().substr(0, out_.str().find("\"seconds\"")),
               "{\"event\":\"begin\",\"files\":2}\n"
               "{\"event\":\"file\",\"name\":\"a\\\"\\u0009.tif\",\"outcome\":\"read\","
-              "\"reason\":\"classified as [Form] with confidence [100.00]\"}\n"
+              "\"reason\":\"classified as [Form] with confidence [100.00]\",\"further pages\":0}\n"
               "{\"event\":\"file\",\"name\":\"b.tif\",\"outcome\":\"read\","
-              "\"reason\":\"classified as [Form] with confidence [100.00]\"}\n"
+              "\"reason\":\"classified as [Form] with confidence [100.00]\",\"further pages\":2}\n"
               "{\"event\":\"end\",\"files\":2,");
     EXPECT_PRED2(Has, out_.str(),
                  "\"read\":2,\"not recognised\":0,\"refused\":0,\"not written\":0,\"stopped\":false}\n");
+    EXPECT_EQ(messages_.str(), "b.tif: 2 further pages were not looked at\n");
     EXPECT_PRED2(Has, ReadText(home_.File("tables/Form.csv")), "\r\nb.tif,Form,0,100,");
 }
 
@@ -196,6 +203,20 @@ TEST_F(BatchTest, EightClaimersMakeTheDocumentsOfOneProgram) {
         EXPECT_EQ(tableIn("tables"), tableIn("tables of one"));
         EXPECT_PRED2(Has, tableIn("tables"), "|") << "several boxes of a group in one cell";
     }
+}
+
+TEST_F(BatchTest, ScansThatCannotBeClaimedAreNotTakenForDone) {
+    AddProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {});
+    CopyFolder();
+    WriteText(other_.File("ProcessIn/.claims"), "where the claims would be");
+    options_.patience = 60;
+    EXPECT_EQ(Run(), Exit::SomeLeft);
+    EXPECT_PRED2(Has, messages_.str(), "ProcessIn/ that cannot be claimed: Not a directory");
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessIn/a.tif")));
+    std::filesystem::remove(other_.File("ProcessIn/.claims"));
+    EXPECT_EQ(Run(), Exit::Done);
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessOut/a.xml")));
 }
 
 // Only the waiting itself needs the clock; which files it takes is tested below.

@@ -133,6 +133,48 @@ TEST_F(ScanInTest, WhatEndsItIsToldAndThePagesBeforeStay) {
     EXPECT_PRED2(Has, scanned.reason, "Cannot write ");
 }
 
+TEST_F(ScanInTest, WhatTheDeviceItselfReportsIsToldInPlainWords) {
+    for (const auto& [status, reason] :
+         {std::pair{"SANE_STATUS_JAMMED",
+                    "The paper is jammed, or the feeder has drawn in two sheets at once."},
+          {"SANE_STATUS_COVER_OPEN", "The cover of the scanner is open."},
+          {"SANE_STATUS_NO_DOCS", "The feeder is empty."}}) {
+        const Scanned scanned = Scan("read-status-code \"" + std::string(status) + "\"\n", "Grey");
+        EXPECT_EQ(scanned.images, Names());
+        EXPECT_EQ(scanned.reason, reason);
+    }
+    EXPECT_EQ(In(folders_.ProcessIn), Names()) << "no half page";
+}
+
+// The test device has no such options.
+TEST_F(ScanInTest, ADeviceThatCanNoticeDoubleFeedsIsToldToStopAtThem) {
+    static const SANE_String_Const actions[] = {"Default", "Continue", "Stop", nullptr};
+    std::vector<SANE_Option_Descriptor> options(4);
+    const char* const names[] = {"", "df-action", "df-thickness", "double-feed"};
+    for (std::size_t k = 1; k < options.size(); ++k) {
+        options[k].name = names[k];
+        options[k].type = k == 1 ? SANE_TYPE_STRING : SANE_TYPE_BOOL;
+        options[k].size = k == 1 ? 9 : sizeof(SANE_Word);
+        options[k].cap = SANE_CAP_SOFT_SELECT;
+    }
+    options[1].constraint_type = SANE_CONSTRAINT_STRING_LIST;
+    options[1].constraint.string_list = actions;
+    options[3].cap = SANE_CAP_SOFT_DETECT;  // a sensor, which cannot be set
+    sane_.GetOption = [&](SANE_Handle, SANE_Int k) -> const SANE_Option_Descriptor* {
+        return k < static_cast<SANE_Int>(options.size()) ? &options[static_cast<std::size_t>(k)] : nullptr;
+    };
+    std::string set;
+    sane_.ControlOption = [&](SANE_Handle, SANE_Int k, SANE_Action, void* value, SANE_Int*) {
+        set += names[k];
+        set += k == 1 ? std::string("=") + static_cast<const char*>(value) + " "
+                      : "=" + std::to_string(*static_cast<const SANE_Word*>(value)) + " ";
+        return SANE_STATUS_GOOD;
+    };
+    sane_.Start = [](SANE_Handle) { return SANE_STATUS_JAMMED; };
+    EXPECT_PRED2(Has, Scan("", "").reason, "drawn in two sheets at once");
+    EXPECT_EQ(set, "df-action=Stop df-thickness=1 ");
+}
+
 TEST_F(ScanInTest, CancellingTakesEffectInTheMiddleOfAPage) {
     bool isStopped = false;
     sane_.Start = [](SANE_Handle) { return SANE_STATUS_GOOD; };
