@@ -2630,6 +2630,16 @@ Verarbeiten Sie noch einmal, wenn es fertig ist.</translation>
         <source>The program tesseract could not read the specimen image.</source>
         <translation>Das Programm tesseract konnte das Musterbild nicht lesen.</translation>
     </message>
+    <message>
+        <source>S&amp;ort the list in this order</source>
+        <translation>Die Liste ebenso &amp;ordnen</translation>
+    </message>
+    <message>
+        <source>The list, and so the results, has the boxes as they are counted here:
+one block of columns after the other</source>
+        <translation>In der Liste und damit in den Ergebnissen folgen die Kästchen einander,
+wie sie hier gezählt werden: ein Spaltenblock nach dem anderen</translation>
+    </message>
 </context>
 <context>
     <name>NameRule</name>

@@ -157,9 +157,14 @@ std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const i
     return cells;
 }
 
+std::vector<int> PutInOrder(std::vector<OmrBox>& boxes, const std::vector<int>& order) {
+    std::vector<int> places = order;
+    std::sort(places.begin(), places.end());
+    return Renumbered(boxes, places, order);
+}
+
 std::vector<int> SortByPlace(std::vector<OmrBox>& boxes) {
-    const std::vector<int> kept = KeptNumbers(boxes);
-    std::vector<BoxCell> cells = GridOf(boxes, kept).cells;
+    std::vector<BoxCell> cells = GridOf(boxes, KeptNumbers(boxes)).cells;
     const auto left = [&](const BoxCell& cell) { return boxes[static_cast<std::size_t>(cell.number) - 1].L; };
     std::stable_sort(cells.begin(), cells.end(), [&](const BoxCell& a, const BoxCell& b) {
         return std::pair(a.row, left(a)) < std::pair(b.row, left(b));
@@ -168,7 +173,7 @@ std::vector<int> SortByPlace(std::vector<OmrBox>& boxes) {
     order.reserve(cells.size());
     for (const BoxCell& cell : cells)
         order.push_back(cell.number);
-    return Renumbered(boxes, kept, order);
+    return PutInOrder(boxes, order);
 }
 
 std::vector<int> MoveInList(std::vector<OmrBox>& boxes, std::span<const int> numbers, int by) {

@@ -27,6 +27,10 @@ std::vector<BoxCell> CellsOf(const std::vector<OmrBox>& boxes, std::span<const i
 /// their places. Gives the new number of each box.
 std::vector<int> SortByPlace(std::vector<OmrBox>& boxes);
 
+/// The boxes of these numbers in this order, in the places that they have in the list together. Gives the new
+/// number of each box.
+std::vector<int> PutInOrder(std::vector<OmrBox>& boxes, const std::vector<int>& order);
+
 /// Moves the boxes of these numbers by one place to the front (-1) or to the end (1) of the list, past the
 /// one that stands there; at the end of the list they stay. Gives the new number of each box.
 std::vector<int> MoveInList(std::vector<OmrBox>& boxes, std::span<const int> numbers, int by);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include "profiles/BoxCells.h"
@@ -11,6 +12,38 @@ namespace tavrene::profiles {
 namespace {
 
 using Names = std::vector<std::string>;
+
+// What each changed box is called before and after, where it is kept. Boxes that stand where some stood
+// before, in whatever order, are the same ones; others go by their numbers.
+std::vector<std::pair<std::string, std::string>> RenamesIn(const std::vector<BoxChange>& changes) {
+    using Place = std::tuple<double, double, double, double>;
+    const auto placeOf = [](const OmrBox& box) {
+        const imaging::PageRect place = PlaceOf(box);
+        return Place(place.left, place.top, place.width, place.height);
+    };
+    std::map<Place, std::string> before;
+    std::map<Place, std::string> after;
+    std::vector<std::pair<std::string, std::string>> renames;
+    for (const BoxChange& change : changes) {
+        const bool wasKept = change.before && change.before->Checked;
+        const bool isKept = change.after && change.after->Checked;
+        if (wasKept)
+            before[placeOf(*change.before)] = change.before->Name;
+        if (isKept)
+            after[placeOf(*change.after)] = change.after->Name;
+        if (wasKept && isKept && IsSamePlace(*change.before, *change.after))
+            renames.emplace_back(change.before->Name, change.after->Name);
+    }
+    const auto wereKept = [](const BoxChange& change) { return change.before && change.before->Checked; };
+    const auto isSamePlace = [](const auto& one, const auto& other) { return one.first == other.first; };
+    if (static_cast<std::ptrdiff_t>(before.size()) != std::ranges::count_if(changes, wereKept) ||
+        !std::ranges::equal(before, after, isSamePlace))
+        return renames;
+    renames.clear();
+    for (const auto& [place, name] : before)
+        renames.emplace_back(name, after[place]);
+    return renames;
+}
 
 // What the boxes of each name are called now. Of two boxes with one name a group has both, so it keeps both
 // when one of them gets a name of its own.
@@ -29,10 +62,10 @@ std::map<std::string, Names> FollowersOf(const std::vector<BoxChange>& changes,
             --before[change.after->Name];
         if (wasKept)
             ++before[change.before->Name];
-        if (wasKept && isKept && IsSamePlace(*change.before, *change.after) &&
-            change.before->Name != change.after->Name)
-            renamed[change.before->Name].push_back(change.after->Name);
     }
+    for (const auto& [was, is] : RenamesIn(changes))
+        if (was != is)
+            renamed[was].push_back(is);
     std::map<std::string, Names> followers = renamed;
     for (const auto& [name, count] : after)
         if (const auto gone = renamed.find(name);

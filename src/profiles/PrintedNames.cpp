@@ -2,24 +2,20 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
+#include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "profiles/BoxPlace.h"
+#include "profiles/BoxSelection.h"
 #include "profiles/NameCleaning.h"
+#include "profiles/PrintAround.h"
 
 namespace tavrene::profiles {
 namespace {
 
-using imaging::PageRect;
-
 constexpr double kLeastConfidence = 30;
-
-// A box's words begin within so many widths of it, and go on while no gap is wider than so many heights of
-// the box, which is about as high as a line.
-constexpr double kReach = 3;
-constexpr double kWordGap = 1.2;
 
 std::vector<std::string_view> CellsIn(std::string_view line) {
     std::vector<std::string_view> cells;
@@ -56,62 +52,6 @@ std::optional<PrintedWord> WordOf(std::string_view line) {
     return word;
 }
 
-// The page as seen from a box, towards one side: how far away things begin and end.
-struct Beside {
-    double from = 0;
-    double to = 0;
-};
-
-Beside AtSide(const PageRect& box, const PageRect& other, bool isRight) {
-    if (isRight)
-        return {other.left - box.left - box.width, other.left + other.width - box.left - box.width};
-    return {box.left - other.left - other.width, box.left - other.left};
-}
-
-bool IsOnLine(const PageRect& box, const PageRect& other) {
-    const double middle = other.top + other.height / 2;
-    return middle > box.top - box.height / 4 && middle < box.top + box.height * 5 / 4;
-}
-
-bool HasMiddleOf(const PageRect& box, const PageRect& other) {
-    const double x = other.left + other.width / 2;
-    const double y = other.top + other.height / 2;
-    return x > box.left && x < box.left + box.width && y > box.top && y < box.top + box.height;
-}
-
-struct Found {
-    const PrintedWord* word;
-    Beside at;
-};
-
-std::string WordsAt(const PageRect& box, const std::vector<PageRect>& boxes,
-                    std::span<const PrintedWord> words, bool isRight) {
-    double end = kReach * box.width * 100;
-    for (const PageRect& other : boxes)
-        if (const Beside at = AtSide(box, other, isRight); IsOnLine(box, other) && at.from > 0)
-            end = std::min(end, at.from);
-    std::vector<Found> found;
-    for (const PrintedWord& word : words)
-        if (const Beside at = AtSide(box, word.place, isRight);
-            IsOnLine(box, word.place) && at.from > -box.width / 4 && at.to < end + box.width / 4)
-            found.push_back({&word, at});
-    std::ranges::sort(found, {}, [](const Found& one) { return one.at.from; });
-    std::vector<const PrintedWord*> taken;
-    double last = (kReach * box.width) - (kWordGap * box.height);
-    for (const Found& one : found) {
-        if (one.at.from > last + kWordGap * box.height)
-            break;
-        taken.push_back(one.word);
-        last = one.at.to;
-    }
-    if (!isRight)
-        std::ranges::reverse(taken);
-    std::string text;
-    for (const PrintedWord* const word : taken)
-        text += (text.empty() ? "" : " ") + word->text;
-    return text;
-}
-
 }  // namespace
 
 std::vector<PrintedWord> WordsOfTable(const std::string& table) {
@@ -126,28 +66,30 @@ std::vector<PrintedWord> WordsOfTable(const std::string& table) {
 }
 
 std::vector<NewName> NamesFromPrint(const std::vector<OmrBox>& boxes, std::span<const BoxCell> cells,
-                                    std::span<const PrintedWord> read) {
-    std::vector<PageRect> places;
-    for (const OmrBox& box : boxes)
-        if (box.Checked)
-            places.push_back(PlaceOf(box));
-    // The outline of a box may have been taken for a letter.
-    std::vector<PrintedWord> words(read.begin(), read.end());
-    std::erase_if(words, [&](const PrintedWord& word) {
-        return std::ranges::any_of(places, [&](const PageRect& box) { return HasMiddleOf(box, word.place); });
-    });
-    const auto namesAt = [&](bool isRight) {
+                                    std::span<const PrintedWord> words) {
+    std::map<int, std::size_t> indices;
+    std::vector<imaging::PageRect> places;
+    for (const int number : KeptNumbers(boxes)) {
+        indices[number] = places.size();
+        places.push_back(PlaceOf(boxes[static_cast<std::size_t>(number) - 1]));
+    }
+    const PrintAround print(std::move(places), {words.begin(), words.end()});
+    const std::vector<std::string> inTables = print.InTables();
+    const auto namesBeside = [&](PrintAround::Side side) {
         std::vector<NewName> names;
-        for (const BoxCell& cell : cells) {
-            const PageRect box = PlaceOf(boxes[static_cast<std::size_t>(cell.number) - 1]);
-            if (std::string text = WordsAt(box, places, words, isRight); !text.empty())
-                names.push_back({cell.number, std::move(text)});
-        }
+        for (const BoxCell& cell : cells)
+            if (const std::size_t box = indices[cell.number]; inTables[box].empty())
+                if (std::string text = print.Beside(box, side); !text.empty())
+                    names.push_back({cell.number, std::move(text)});
         return names;
     };
-    std::vector<NewName> right = namesAt(true);
-    std::vector<NewName> left = namesAt(false);
-    return left.size() > right.size() ? left : right;
+    const std::vector<NewName> right = namesBeside(PrintAround::Side::Right);
+    const std::vector<NewName> left = namesBeside(PrintAround::Side::Left);
+    std::vector<NewName> names = left.size() > right.size() ? left : right;
+    for (const BoxCell& cell : cells)
+        if (const std::string& text = inTables[indices[cell.number]]; !text.empty())
+            names.push_back({cell.number, text});
+    return names;
 }
 
 }  // namespace tavrene::profiles

@@ -20,8 +20,8 @@ struct PrintedWord {
 /// twelfth. Words that are hardly more than a guess are left out.
 std::vector<PrintedWord> WordsOfTable(const std::string& table);
 
-/// The words beside each box, as its name: those at the side at which most boxes of the form have some. Boxes
-/// without such words get none.
+/// The print around each box, as its name: in a table the words of its row and of its column, elsewhere the
+/// words at the side at which most boxes of the form have some. Boxes without such words get none.
 std::vector<NewName> NamesFromPrint(const std::vector<OmrBox>& boxes, std::span<const BoxCell> cells,
                                     std::span<const PrintedWord> words);
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <stdexcept>
 
 #include "profiles/BoxArrangement.h"
@@ -190,6 +191,38 @@ TEST(PrintedNamesTest, TheWordsBesideBoxesAreTheirNames) {
     EXPECT_EQ(names({{"a", 230, 100, 254, 124}, {"b", 550, 200, 574, 224}}),
               (std::vector<NewName>{{1, "female not"}, {2, "far"}}));
     EXPECT_TRUE(names({{"a", 800, 800, 824, 824}}).empty());
+}
+
+// Two blocks beside each other, the first with its words far off and a head of two lines; below them a line
+// whose boxes have their words beside them.
+TEST(PrintedNamesTest, InATableTheRowAndTheHeadOfTheColumnAreTheNames) {
+    std::vector<OmrBox> boxes;
+    std::vector<PrintedWord> words = {{"very", {690, 20, 40, 20}},  {"often", {690, 44, 44, 20}},
+                                      {"never", {770, 44, 44, 20}}, {"A", {1140, 44, 12, 20}},
+                                      {"B", {1220, 44, 12, 20}},    {"Questions", {20, 44, 90, 20}}};
+    for (const int row : {0, 1, 2}) {
+        const auto top = static_cast<std::int16_t>(80 + 60 * row);
+        for (const int left : {700, 780, 1134, 1214})
+            boxes.push_back({"", static_cast<std::int16_t>(left), top, static_cast<std::int16_t>(left + 24),
+                             static_cast<std::int16_t>(top + 24)});
+        words.push_back({"walk", {20, top + 2.0, 40, 20}});
+        words.push_back({std::to_string(row), {70, top + 2.0, 12, 20}});
+        words.push_back({std::to_string(row + 21) + ".", {1090, top + 2.0, 30, 20}});
+    }
+    boxes.push_back({"", 700, 300, 724, 324});
+    boxes.push_back({"", 780, 300, 804, 324});
+    words.push_back({"yes", {730, 302, 30, 20}});
+    words.push_back({"no", {810, 302, 30, 20}});
+    std::string text;
+    const std::vector<int> numbers = KeptNumbers(boxes);
+    std::map<int, std::string> names;
+    for (const NewName& name : NamesFromPrint(boxes, CellsOf(boxes, numbers, CellOrder::Across), words))
+        names[name.number] = name.name;
+    for (const auto& [number, name] : names)
+        text += name + "; ";
+    EXPECT_EQ(text,
+              "walk 0 very often; walk 0 never; 21. A; 21. B; walk 1 very often; walk 1 never; 22. A; 22. B; "
+              "walk 2 very often; walk 2 never; 23. A; 23. B; yes; no; ");
 }
 
 }  // namespace

@@ -157,6 +157,14 @@ TEST_F(SeveralBoxesTest, GroupsFollowTheirBoxesThroughEveryEdit) {
     }
     editor_.Redo();
     EXPECT_EQ(groups(), steps[0].second);
+    editor_.Undo();
+    editor_.Change([](std::vector<OmrBox>& boxes) {
+        for (OmrBox& box : boxes)
+            box.Name.front() = 'N';
+        PutInOrder(boxes, {6, 5, 4, 3, 2, 1});
+    });
+    EXPECT_EQ(groups(), "Q1: N1 N2; Q4: N5 N6; hand: N3 N4; ") << "named and sorted in one step";
+    EXPECT_EQ(Box(1).Name, "N6");
     const std::string words[] = {"Sex of child male", "Sex of child mixed"};
     EXPECT_EQ(NameForGroup(words), "Sex of child");
 }

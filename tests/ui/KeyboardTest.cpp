@@ -165,9 +165,9 @@ TEST_F(KeyboardTest, TheMenuOfABoxOnThePageActsOnItAndChangesNothingByItself) {
     form_.SaveScan(folders_.ProcessIn + "scan.tif", {.checked = {2}});
     Open();
     ClickThumbnail(1);
-    EXPECT_EQ(MenuAt(View(), OnPage(3)), (Names{"Rename", "Delete"}));
+    EXPECT_EQ(MenuAt(View(), OnPage(3)), (Names{"Rename", "NameBoxes", "DuplicateBoxes", "Delete"}));
     EXPECT_EQ(Rows().indexOfTopLevelItem(Rows().currentItem()), 2);
-    EXPECT_EQ(MenuByKey(View()), (Names{"Rename", "Delete"}));
+    EXPECT_EQ(MenuByKey(View()), (Names{"Rename", "NameBoxes", "DuplicateBoxes", "Delete"}));
     EXPECT_EQ(MenuAt(View(), {2, 2}), Names()) << "no box lies there";
     Click("Process");
     Click("Review");

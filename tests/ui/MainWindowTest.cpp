@@ -229,12 +229,12 @@ TEST_F(MainWindowTest, TheMenuOfALineActsOnThatLine) {
     Find<QMenu>(Strip(), "ContextMenu").close();
     rightClick(Rows(), 1);
     auto& menu = Find<QMenu>(Rows(), "ContextMenu");
-    EXPECT_EQ(menu.actions().size(), 2) << "rename and delete, nothing of review";
+    EXPECT_EQ(menu.actions().size(), 4) << "nothing of review, and no group of one box";
     menu.actions().back()->trigger();
     menu.close();
     EXPECT_EQ(RowTexts(), (Names{"Q1", "Q3", "Q4"}));
     rightClick(Strip(), 1);
-    EXPECT_EQ(Find<QMenu>(Strip(), "ContextMenu").actions().size(), 3) << "and nothing is asked";
+    EXPECT_EQ(Find<QMenu>(Strip(), "ContextMenu").actions().size(), 6) << "and nothing is asked";
     EXPECT_EQ(RowTexts().size(), 3U) << "it is open already";
 }
 

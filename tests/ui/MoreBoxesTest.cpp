@@ -76,6 +76,7 @@ TEST_F(MoreBoxesTest, AllAtOnceAreOneEditAndEscapeClosesTheListBeforeTheWindow) 
     ASSERT_TRUE(AreShown());
     QTest::keyClick(&Candidates(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(AreShown());
+    EXPECT_TRUE(Rows().hasFocus()) << "the keys go on with the boxes";
     EXPECT_EQ(Rows().topLevelItemCount(), 9);
     EXPECT_EQ(Panel("Message"), "3 boxes added.");
     Press(*window_, Qt::Key_M, Qt::ControlModifier);

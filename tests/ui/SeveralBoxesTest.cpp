@@ -1,5 +1,4 @@
 #include <QAccessible>
-#include <QClipboard>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <filesystem>
@@ -118,59 +117,6 @@ TEST_F(SeveralBoxesWindowTest, NamesAreShownOnThePageBeforeTheyAreTaken) {
     EXPECT_EQ(View().Boxes().SelectedBox(), 5);
 }
 
-// The first and the last box of a grid whose other boxes are printed between them.
-TEST_F(SeveralBoxesWindowTest, AGridIsDrawnAndCopiesSnapToThePrint) {
-    TestForm whole = TestForm::Grid(5, 6);
-    form_.width = whole.width = 700;
-    form_.boxes.resize(1);
-    AddSpecimenProfile("Form", whole);
-    form_.boxes.front() = whole.boxes[7];
-    test::WriteText(folders_.Profiles + "Form.Tvp", form_.ProfileText(folders_.ProfileImages + "Form"));
-    Open();
-    ClickThumbnail(1);
-    View().SetZoom(100);
-    DialogScript dialogs;
-    dialogs.Do([](QDialog& dialog) {
-        EXPECT_EQ(Find<QSpinBox>(dialog, "numRows").value(), 6);
-        EXPECT_EQ(Find<QSpinBox>(dialog, "numColumns").value(), 5);
-        dialog.accept();
-    });
-    Press(*window_, Qt::Key_F8, Qt::ShiftModifier);
-    Drag(PlaceOf(whole.boxes.front()).topLeft() + QPointF(2, -2),
-         PlaceOf(whole.boxes.front()).bottomRight() + QPointF(-2, 1));
-    ClickPage(PlaceOf(whole.boxes.back()).center() + QPointF(2, 3));
-    Click("Save");
-    const std::vector<OmrBox> saved = Saved("Form");
-    ASSERT_EQ(saved.size(), 30U) << "the box that was there is one of them";
-    for (std::size_t k = 0; k < saved.size(); ++k)
-        EXPECT_EQ(PlaceOf(saved[k]), PlaceOf(whole.boxes[k])) << k;
-    EXPECT_EQ(SelectedRows(), 29);
-
-    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
-    ClickRow(0);
-    Press(*window_, Qt::Key_D, Qt::ControlModifier);
-    const QPointF off(3, 2);
-    Drag(PlaceOf(whole.boxes[12]).center(), PlaceOf(whole.boxes[13]).center() + off, Qt::ControlModifier);
-    Click("Save");
-    EXPECT_EQ(PlaceOf(Saved("Form").at(2)), PlaceOf(whole.boxes[13]).translated(off));
-    Press(*window_, Qt::Key_Z, Qt::ControlModifier);
-    Trigger("SnapToPrint");
-    Drag(PlaceOf(whole.boxes[12]).center(), PlaceOf(whole.boxes[13]).center() + QPointF(3, 2),
-         Qt::ControlModifier);
-    Press(*window_, Qt::Key_C, Qt::ControlModifier);
-    Press(*window_, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Panel("Message"), "1 box added.");
-    EXPECT_EQ(RowTexts(), (Names{"Q8", "Q9", "Q10", "Q11"}));
-    Click("Save");
-    EXPECT_EQ(PlaceOf(Saved("Form").at(2)), PlaceOf(whole.boxes[13]));
-
-    const QPointF free = PlaceOf(whole.boxes[20]).topLeft() + QPointF(2, 2);
-    Click("Add", "CfgToolbar");
-    Drag(free, free + QPointF(22, 22));
-    Click("Save");
-    EXPECT_EQ(PlaceOf(Saved("Form").back()), PlaceOf(whole.boxes[20]));
-}
-
 TEST_F(SeveralBoxesWindowTest, GroupsAreFramedAndKeptBesideTheProfile) {
     OpenForm();
     Trigger("GroupByRows");
@@ -192,6 +138,12 @@ TEST_F(SeveralBoxesWindowTest, GroupsAreFramedAndKeptBesideTheProfile) {
     Trigger("GroupBoxes");
     EXPECT_EQ(frames(), "Q1: one mark|Q4: one mark|Sizes: at least one mark|");
     EXPECT_EQ(View().Boxes().Groups().back().place, PlaceOf(form_.boxes[2]).united(PlaceOf(form_.boxes[5])));
+    dialogs.Do([](QDialog& dialog) {
+        EXPECT_EQ(Find<QLineEdit>(dialog, "txtGroup").text(), "Sizes") << "what was said of it is kept";
+        EXPECT_EQ(Find<QComboBox>(dialog, "cboTakes").currentIndex(), 2);
+        dialog.reject();
+    });
+    Trigger("GroupBoxes");
     Click("Save");
     const auto kept = profiles::ReadBoxGroups(files_, folders_.Profiles + "Form.Tvp");
     ASSERT_TRUE(kept && kept->size() == 3);
@@ -228,27 +180,6 @@ TEST_F(SeveralBoxesWindowTest, MenusAndSpaceLeaveThemSelectedAndReadersHearOfAll
     ClickPage(Middle(1));
     ClickPage(Middle(2), Qt::ControlModifier);
     EXPECT_EQ(ask(View(), onScreen(Middle(5))), 1) << "that of another box means this one";
-}
-
-// At its edges they would lie over those that they are copies of.
-TEST_F(SeveralBoxesWindowTest, CopiesStayOnThePageAndTheClipboardTellsWhatIsPasted) {
-    form_.height = 150;
-    OpenForm();
-    Press(*window_, Qt::Key_A, Qt::ControlModifier);
-    Press(*window_, Qt::Key_D, Qt::ControlModifier);
-    EXPECT_EQ(RowTexts().size(), 6U);
-    EXPECT_EQ(Panel("Message"), "There is no room on the page for the copies there.");
-    ClickRow(0);
-    Press(*window_, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Panel("Message"), "1 box copied; Ctrl+V adds it to a profile.");
-    Press(*window_, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(RowTexts().size(), 7U);
-    QGuiApplication::clipboard()->setText("something else");
-    Press(*window_, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(RowTexts().size(), 7U);
-    EXPECT_PRED2(test::Has, Panel("Message"), "holds no files");
-    Press(*window_, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(RowTexts().size(), 8U);
 }
 
 // A stand-in takes the place of the reader, which need not be there.
@@ -326,7 +257,8 @@ TEST_F(SeveralBoxesWindowTest, AProfileIsCompleteAfterFewKeys) {
         DialogScript dialogs;
         dialogs.Type(type("P" + std::string(1, *name))).Type(type(name + std::string(".tif")));
         dialogs.Do([&](QDialog& dialog) {
-            ++effort;
+            effort += 2;
+            Find<QCheckBox>(dialog, "chkSort").click();
             QTest::keyClick(&dialog, Qt::Key_Return);
         });
         press(Qt::Key_N);
@@ -343,7 +275,9 @@ TEST_F(SeveralBoxesWindowTest, AProfileIsCompleteAfterFewKeys) {
         EXPECT_LE(effort, most) << name;
         RecordProperty(name, static_cast<int>(effort));
     }
-    EXPECT_EQ(Saved("PE").back().Name, "Q40 5");
+    EXPECT_EQ(Saved("PE").back().Name + Saved("PE").at(5).Name, "Q40 5Q2 1")
+        << "one block of columns after the other";
+    EXPECT_EQ(Notices(), "") << "the boxes by which a page is aligned are of both";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "ui/lists/CandidatePane.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -59,6 +60,11 @@ void CandidatePane::ShowRows(const QString& heading, const std::vector<Row>& row
         auto* const item = new QListWidgetItem(row.text, list_);
         item->setData(Qt::UserRole, row.id);
         item->setSizeHint({0, fontMetrics().height() + kRowMargin});
+    }
+    // Hidden, it would leave the keys to whatever comes next in the window, and not to the list over it.
+    if (heading.isEmpty() && isAncestorOf(QApplication::focusWidget())) {
+        list_->setFocus();
+        focusPreviousChild();
     }
     setVisible(!heading.isEmpty());
     if (rows.empty())

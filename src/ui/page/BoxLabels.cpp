@@ -69,12 +69,11 @@ void BoxLabels::SetPlaces(std::map<int, QRectF> places) {
 
 void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     const QTransform toScreen = painter->worldTransform();
-    const double dots = painter->device()->devicePixelRatio();
     const QRectF sight(painter->viewport());
     painter->save();
     painter->resetTransform();
     QFont font = QApplication::font();
-    font.setPixelSize(qRound(12 * dots));
+    font.setPixelSize(12);
     painter->setFont(font);
     const QFontMetricsF metrics(font);
     // What is out of sight takes no room.
@@ -87,8 +86,8 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
         if (place == places_.end() || label.text.isEmpty())
             continue;
         const QRectF box = toScreen.mapRect(place->second);
-        const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest * dots);
-        const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding * dots, metrics.height());
+        const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest);
+        const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding, metrics.height());
         const QRectF at = sight.intersects(box) ? LabelPlace(box, size, sight, taken) : QRectF();
         if (at.isNull())
             continue;

@@ -1,30 +1,17 @@
 #pragma once
 
-#include <QRectF>
-
-#include "ui/page/PageTool.h"
+#include "ui/page/RectTool.h"
 
 namespace tavrene::ui {
 
-class BoxLayer;
-
-/// Draws new boxes, on whole pixels. A click that draws nothing selects the box under it.
-class DrawTool final : public PageTool {
+/// Draws new boxes. A click that draws nothing selects the box under it.
+class DrawTool final : public RectTool {
   public:
-    explicit DrawTool(BoxLayer& layer) : layer_(layer) {}
-
-    void Press(const QPointF& point, Qt::KeyboardModifiers keys) override;
-    void Drag(const QPointF& point, Qt::KeyboardModifiers keys) override;
-    void Release(const QPointF& point, Qt::KeyboardModifiers keys) override;
-    bool Cancel() override;
-    QCursor CursorAt(const QPointF& point) const override;
+    using RectTool::RectTool;
 
   private:
-    QRectF Drawn(const QPointF& point) const;
-
-    BoxLayer& layer_;
-    bool isDrawing_ = false;
-    QPointF from_;
+    QRectF Shown(const QPointF& point) const override { return Drawn(point); }
+    void Finish(const QPointF& point) override;
 };
 
 }  // namespace tavrene::ui

@@ -1,6 +1,5 @@
 #include "ui/page/GridTool.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "ui/page/BoxLayer.h"
@@ -13,54 +12,40 @@ void GridTool::Start(std::function<void(const QRectF&, const QRectF&)> done) {
 }
 
 // A click means a box as large as the first one.
-QRectF GridTool::Drawn(const QPointF& point) const {
-    const QRectF drawn = QRectF(layer_.Snapped(from_), layer_.Snapped(point)).normalized();
-    if (std::max(drawn.width(), drawn.height()) * layer_.Scale() > kTremble)
+QRectF GridTool::Box(const QPointF& point) const {
+    const QRectF drawn = Drawn(point);
+    if (!IsClick(drawn))
         return drawn;
     QRectF clicked = first_;
     clicked.moveCenter(layer_.Snapped(point));
     return first_.isNull() ? QRectF() : clicked;
 }
 
-void GridTool::Press(const QPointF& point, Qt::KeyboardModifiers) {
-    from_ = point;
-    isDrawing_ = true;
+QRectF GridTool::Shown(const QPointF& point) const {
+    return first_.isNull() ? Box(point) : first_.united(Box(point));
 }
 
-void GridTool::Drag(const QPointF& point, Qt::KeyboardModifiers) {
-    if (isDrawing_)
-        layer_.ShowDrawn(first_.isNull() ? Drawn(point) : first_.united(Drawn(point)));
-}
-
-void GridTool::Release(const QPointF& point, Qt::KeyboardModifiers) {
-    if (!std::exchange(isDrawing_, false))
-        return;
-    const QRectF drawn = Drawn(point);
-    if (drawn.isEmpty()) {
-        layer_.ShowDrawn(first_);
-    } else if (first_.isNull()) {
-        first_ = drawn;
-        layer_.ShowDrawn(first_);
-    } else {
+void GridTool::Finish(const QPointF& point) {
+    const QRectF box = Box(point);
+    if (!box.isEmpty() && !first_.isNull()) {
         const QRectF first = first_;
         Cancel();
-        done_(first, drawn);
+        done_(first, box);
+        return;
     }
+    if (!box.isEmpty())
+        first_ = box;
+    layer_.ShowDrawn(first_);
 }
 
 // The tool of before comes back, which gives this one up once more.
 bool GridTool::Cancel() {
+    RectTool::Cancel();
+    first_ = {};
     if (!std::exchange(isActive_, false))
         return false;
-    isDrawing_ = false;
-    first_ = {};
-    layer_.ShowDrawn({});
     layer_.EndGrid();
     return true;
-}
-
-QCursor GridTool::CursorAt(const QPointF&) const {
-    return Qt::CrossCursor;
 }
 
 }  // namespace tavrene::ui

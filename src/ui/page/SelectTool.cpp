@@ -99,6 +99,8 @@ void SelectTool::Finish(Deed deed, const QPointF& point, Qt::KeyboardModifiers k
             layer_.TellSelected(pressed_, place);
         layer_.TellMovedTogether(layer_.Way(before_, point - from_), true);
     } else if (deed == Deed::MoveTogether && !way_.isNull()) {
+        // Where they go, who hears of it says; it may be where they were.
+        layer_.ShowMarkedAt(-way_);
         layer_.TellMovedTogether(way_, false);
     } else if ((deed == Deed::Move || deed == Deed::Resize) && place != before_) {
         layer_.TellMoved(pressed_);

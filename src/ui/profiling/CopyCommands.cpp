@@ -138,20 +138,33 @@ std::vector<OmrBox> CopyCommands::SelectedBoxes() const {
     return boxes;
 }
 
+void CopyCommands::MoveBy(int dx, int dy) {
+    const std::vector<OmrBox> boxes = SelectedBoxes();
+    if (boxes.empty())
+        return;
+    const profiles::PixelWay way = Placed(boxes.front(), {dx, dy});
+    editor_.Nudge(way.dx, way.dy);
+}
+
 void CopyCommands::CopyBy(int dx, int dy) {
     Append(SelectedBoxes(), {dx, dy});
 }
 
-// All keep their distances: they go as a whole where the first one finds an outline. Copies that the edge of
-// the page holds back would lie over what is there.
+// Several keep their distances: they go as a whole where the first one finds an outline.
+profiles::PixelWay CopyCommands::Placed(const OmrBox& first, profiles::PixelWay way) {
+    PageRect place = profiles::PlaceOf(first);
+    place.left += way.dx;
+    place.top += way.dy;
+    const PageRect printed = Placed(place);
+    return {way.dx + static_cast<int>(printed.left - place.left),
+            way.dy + static_cast<int>(printed.top - place.top)};
+}
+
+// Copies that the edge of the page holds back would lie over what is there.
 void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay way) {
     if (copied.empty())
         return;
-    const PageRect first = profiles::PlaceOf(copied.front());
-    const PageRect place{first.left + way.dx, first.top + way.dy, first.width, first.height};
-    const PageRect printed = Placed(place);
-    const profiles::PixelWay wanted{way.dx + static_cast<int>(printed.left - place.left),
-                                    way.dy + static_cast<int>(printed.top - place.top)};
+    const profiles::PixelWay wanted = Placed(copied.front(), way);
     const profiles::PixelWay held = profiles::HeldOnPage(wanted, copied, ExtentOf(profile_));
     const auto meetsOthers = [&](const OmrBox& box) {
         const PageRect before = profiles::PlaceOf(box);
@@ -170,9 +183,13 @@ void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay 
         person_.SetPanel(app::Panel::Message, app::Counted(copied.size(), "box", "boxes") + " added.");
 }
 
+bool CopyCommands::KeepsFree() const {
+    return view_.HeldKeys().testFlag(Qt::AltModifier);
+}
+
 // Where a box goes that the person puts at a place.
 PageRect CopyCommands::Placed(const PageRect& place) {
-    return snaps_ && !view_.HeldKeys().testFlag(Qt::AltModifier) ? InPrint(place) : place;
+    return snaps_ && !KeepsFree() ? InPrint(place) : place;
 }
 
 void CopyCommands::DrawGrid(commands::CommandGate& gate) {
@@ -186,8 +203,11 @@ void CopyCommands::DrawGrid(commands::CommandGate& gate) {
 }
 
 void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast) {
-    const PageRect first = InPrint(drawnFirst);
-    const PageRect last = InPrint(drawnLast);
+    const auto placed = [this, isFree = KeepsFree()](const PageRect& place) {
+        return isFree ? place : InPrint(place);
+    };
+    const PageRect first = placed(drawnFirst);
+    const PageRect last = placed(drawnLast);
     const profiles::GridShape guess =
         Print() == nullptr ? profiles::GridShape{2, 2} : profiles::ShapeInPrint(*Print(), first, last);
     const std::optional<profiles::GridShape> shape = AskShape(guess);
@@ -196,7 +216,7 @@ void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast
     std::vector<OmrBox> added;
     for (const PageRect& place : profiles::PlacesOfGrid(first, last, *shape)) {
         OmrBox box;
-        profiles::PutAt(box, profiles::OntoPage(InPrint(place), ExtentOf(profile_)));
+        profiles::PutAt(box, profiles::OntoPage(placed(place), ExtentOf(profile_)));
         if (!IsTaken(profile_.BoxList, profiles::PlaceOf(box)))
             added.push_back(box);
     }

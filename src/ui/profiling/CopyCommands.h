@@ -24,7 +24,8 @@ class CopyCommands {
 
     bool SnapsToPrint() const { return snaps_; }
 
-    /// Puts copies of the selected boxes that far away.
+    /// Puts the selected boxes, or copies of them, that far away.
+    void MoveBy(int dx, int dy);
     void CopyBy(int dx, int dy);
 
     /// What was copied last, in whatever program, are boxes.
@@ -38,7 +39,9 @@ class CopyCommands {
     void Copy();
     void Paste();
     void Append(const std::vector<profiles::OmrBox>& copied, profiles::PixelWay way);
+    bool KeepsFree() const;
     imaging::PageRect Placed(const imaging::PageRect& place);
+    profiles::PixelWay Placed(const profiles::OmrBox& first, profiles::PixelWay way);
     std::vector<profiles::OmrBox> SelectedBoxes() const;
     int WayDown(const std::vector<profiles::OmrBox>& boxes);
     imaging::PageRect InPrint(const imaging::PageRect& place);

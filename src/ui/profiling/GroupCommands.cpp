@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -90,12 +91,19 @@ std::optional<BoxGroup> GroupCommands::AskGroup(std::vector<std::string> names) 
     dialog.setObjectName("frmGroup");
     dialog.setWindowTitle(Tr("GroupCommands", "Group of Boxes"));
     auto* const form = new QFormLayout(&dialog);
-    auto* const name = new QLineEdit(ToQt(profiles::NameForGroup(names)));
+    // Boxes that are a group already are to keep what was said of it.
+    const std::vector<BoxGroup> groups = Groups();
+    const auto same = std::ranges::find_if(
+        groups, [&](const BoxGroup& group) { return std::ranges::is_permutation(group.Boxes, names); });
+    const bool isKnown = same != groups.end();
+    auto* const name = new QLineEdit(ToQt(isKnown ? same->Name : profiles::NameForGroup(names)));
     name->setObjectName("txtGroup");
     auto* const takes = new QComboBox;
     takes->setObjectName("cboTakes");
     for (const auto& [known, text] : kTakes)
         takes->addItem(Tr("GroupCommands", text));
+    if (isKnown)
+        takes->setCurrentText(TextOf(same->Marks));
     form->addRow(Tr("GroupCommands", "&Name"), name);
     form->addRow(Tr("GroupCommands", "The question &takes"), takes);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

@@ -43,6 +43,7 @@ NameBoxesDialog::NameBoxesDialog(const std::vector<profiles::OmrBox>& boxes, std
       image_(std::move(image)),
       preview_(std::move(preview)),
       ways_(new QTabWidget(this)),
+      sorts_(new QCheckBox(Tr("NameBoxesDialog", "S&ort the list in this order"), this)),
       outcome_(new QLabel(this)) {
     setObjectName("frmNameBoxes");
     setWindowTitle(Tr("NameBoxesDialog", "Name Boxes"));
@@ -116,22 +117,33 @@ QWidget* NameBoxesDialog::ReplacePage() {
     return page;
 }
 
-void NameBoxesDialog::Build() {
-    ways_->setObjectName("tabWays");
-    ways_->addTab(PatternPage(), Tr("NameBoxesDialog", "P&attern"));
-    ways_->addTab(ListPage(), Tr("NameBoxesDialog", "Li&st"));
-    ways_->addTab(ReplacePage(), Tr("NameBoxesDialog", "F&ind and Replace"));
-    connect(ways_, &QTabWidget::currentChanged, this, [this] { Update(); });
+QLayout* NameBoxesDialog::OrderRow() {
     auto* const across = new QRadioButton(Tr("NameBoxesDialog", "Row &by row"));
     across->setObjectName("optAcross");
     across->setChecked(true);
     down_ = new QRadioButton(Tr("NameBoxesDialog", "Column by colu&mn"));
     down_->setObjectName("optDown");
     connect(down_, &QRadioButton::toggled, this, [this] { Update(); });
-    auto* const order = new QHBoxLayout;
-    order->addWidget(across);
-    order->addWidget(down_);
-    order->addStretch(1);
+    sorts_->setObjectName("chkSort");
+    sorts_->setToolTip(Tr("NameBoxesDialog",
+                          "The list, and so the results, has the boxes as they are counted here:\n"
+                          "one block of columns after the other"));
+    auto* const ways = new QHBoxLayout;
+    ways->addWidget(across);
+    ways->addWidget(down_);
+    ways->addStretch(1);
+    auto* const order = new QVBoxLayout;
+    order->addLayout(ways);
+    order->addWidget(sorts_);
+    return order;
+}
+
+void NameBoxesDialog::Build() {
+    ways_->setObjectName("tabWays");
+    ways_->addTab(PatternPage(), Tr("NameBoxesDialog", "P&attern"));
+    ways_->addTab(ListPage(), Tr("NameBoxesDialog", "Li&st"));
+    ways_->addTab(ReplacePage(), Tr("NameBoxesDialog", "F&ind and Replace"));
+    connect(ways_, &QTabWidget::currentChanged, this, [this] { Update(); });
     outcome_->setObjectName("lblOutcome");
     outcome_->setWordWrap(true);
     outcome_->setMinimumHeight(4 * fontMetrics().height());
@@ -148,7 +160,7 @@ void NameBoxesDialog::Build() {
         (isAll ? Tr("NameBoxesDialog", "All %1 boxes") : Tr("NameBoxesDialog", "The %1 selected boxes"))
             .arg(numbers_.size())));
     layout->addWidget(ways_);
-    layout->addLayout(order);
+    layout->addLayout(OrderRow());
     layout->addWidget(outcome_);
     layout->addWidget(buttons);
     // Only a button that is in its dialog can be the one that Enter means.
@@ -161,6 +173,14 @@ void NameBoxesDialog::Build() {
 std::vector<profiles::BoxCell> NameBoxesDialog::Cells() const {
     const auto order = down_->isChecked() ? profiles::CellOrder::Down : profiles::CellOrder::Across;
     return profiles::CellsOf(boxes_, numbers_, order);
+}
+
+std::vector<int> NameBoxesDialog::Order() const {
+    std::vector<int> numbers;
+    if (sorts_->isChecked())
+        for (const profiles::BoxCell& cell : Cells())
+            numbers.push_back(cell.number);
+    return numbers;
 }
 
 // One line a box; boxes beside which nothing was read keep their names.

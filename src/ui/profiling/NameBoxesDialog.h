@@ -32,10 +32,14 @@ class NameBoxesDialog final : public QDialog {
     /// What the dialog was closed with.
     const std::vector<profiles::NewName>& Names() const { return names_; }
 
+    /// The numbers of the boxes as they are to follow each other in the list; none where they are to stay.
+    std::vector<int> Order() const;
+
   private:
     QWidget* PatternPage();
     QWidget* ListPage();
     QWidget* ReplacePage();
+    QLayout* OrderRow();
     void Build();
     QLineEdit* Field(const char* name, const QString& label, const QString& text = {});
     std::vector<profiles::BoxCell> Cells() const;
@@ -58,6 +62,7 @@ class NameBoxesDialog final : public QDialog {
     QLineEdit* find_ = nullptr;
     QLineEdit* replace_ = nullptr;
     QRadioButton* down_ = nullptr;
+    QCheckBox* sorts_;
     QLabel* outcome_;
     QPushButton* rename_ = nullptr;
 };

@@ -75,9 +75,10 @@ void NameCommands::NameBoxes() {
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     Update();
     if (isAccepted)
-        editor_.Change([&](std::vector<OmrBox>& boxes) {
+        Reorder([&](std::vector<OmrBox>& boxes) {
             for (const profiles::NewName& name : dialog.Names())
                 boxes[static_cast<std::size_t>(name.number) - 1].Name = name.name;
+            return profiles::PutInOrder(boxes, dialog.Order());
         });
 }
 

@@ -141,7 +141,7 @@ void ProfileDesk::ConnectControls() {
          [this](const imaging::PageRect& area, bool isFurther) {
              gate_.Take(Command::EditBoxes, [&] { session_.Editor().AreaPicked(area, isFurther); });
          },
-         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { session_.Editor().Nudge(dx, dy); }); },
+         [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { copies_.MoveBy(dx, dy); }); },
          [this](int dx, int dy) { gate_.Take(Command::EditBoxes, [&] { copies_.CopyBy(dx, dy); }); }});
     for (QWidget* const widget : std::initializer_list<QWidget*>{&controls_.view, &controls_.rows})
         new QShortcut(

@@ -205,13 +205,15 @@ void MainWindow::AddContextMenus() {
             actions += toolbars_.ActionOf(command);
         new ContextMenu(area, std::move(target), actions);
     };
-    const auto ofBox = {Command::RenameBox, Command::DeleteBox, Command::FlipBox, Command::NextDoubt};
+    const auto ofBox = {Command::RenameBox, Command::NameBoxes, Command::DuplicateBoxes, Command::GroupBoxes,
+                        Command::DeleteBox, Command::FlipBox,   Command::NextDoubt};
     ReasonList& unread = forms_->Unread().List();
     const auto isOpenProfile = [this](const QModelIndex& line) {
         return desk_.Session().Profile().CurrentProfile == line.row() + 1;
     };
     add(profiles_->Strip(), ClickedLine(profiles_->Strip(), isOpenProfile),
-        {Command::Save, Command::FindMoreBoxes, Command::DeleteProfile});
+        {Command::Save, Command::FindMoreBoxes, Command::TestProfile, Command::DuplicateProfile,
+         Command::RenameProfile, Command::DeleteProfile});
     const auto isOpenForm = [this](const QModelIndex& line) { return forms_->List().IsOpen(line); };
     add(forms_->List(), ClickedLine(forms_->List(), isOpenForm),
         {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubt});
