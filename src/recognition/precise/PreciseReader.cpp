@@ -75,7 +75,7 @@ void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinio
     if (opinion.otherProfile)
         otherProfile.push_back(imageName);
     if (!opinion.boxes.empty())
-        ++forms;
+        otherwise.push_back(imageName);
     boxes += static_cast<int>(opinion.boxes.size());
 }
 
@@ -89,7 +89,8 @@ std::string TextOf(const OpinionTally& tally) {
         add(count(unread, "form looks", "forms look") + " turned or stretched: Precise Alignment reads " +
             (unread == 1 ? "it." : "them."));
     if (tally.boxes > 0)
-        add(count(tally.boxes, "box", "boxes") + " in " + count(tally.forms, "form", "forms") +
+        add(count(tally.boxes, "box", "boxes") + " in " +
+            count(static_cast<int>(tally.otherwise.size()), "form", "forms") +
             " read otherwise by Precise Alignment; review shows them as doubtful.");
     if (!tally.otherProfile.empty())
         add(count(static_cast<int>(tally.otherProfile.size()), "form", "forms") +
