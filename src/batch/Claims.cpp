@@ -38,18 +38,25 @@ std::optional<std::chrono::seconds> PatienceOf(std::string_view claim) {
     return std::chrono::seconds(seconds);
 }
 
-// False when `to` is there, or `from` is not. Where files cannot have two names, what comes to `to` in the
-// very moment between asking and moving is replaced.
-bool MoveUnlessThere(const fs::path& from, const fs::path& to) {
+enum class Moved { Yes, IsTaken, Failed };
+
+// Where files cannot have two names, what comes to `to` in the very moment between asking and moving is
+// replaced.
+Moved MoveUnlessThere(const fs::path& from, const fs::path& to) {
     std::error_code error;
+    std::error_code none;
     fs::create_hard_link(from, to, error);
-    if (!error)
-        return fs::remove(from, error);
-    if (error == std::errc::file_exists || error == std::errc::no_such_file_or_directory ||
-        fs::exists(to, error))
-        return false;
+    if (!error) {
+        fs::remove(from, error);
+        // In a folder of another account, perhaps. One scan must not wait under two names.
+        if (error)
+            fs::remove(to, none);
+        return error ? Moved::Failed : Moved::Yes;
+    }
+    if (error == std::errc::file_exists || fs::exists(to, none))
+        return Moved::IsTaken;
     fs::rename(from, to, error);
-    return !error;
+    return error ? Moved::Failed : Moved::Yes;
 }
 
 std::vector<fs::path> EntriesOf(const std::string& folder, std::error_code& error) {
@@ -91,15 +98,18 @@ std::set<std::string> Claims::HeldByOthers() const {
     constexpr int kMostLooks = 10;
     std::set<std::string> held;
     // A folder that has another owner meanwhile has another name, too.
-    std::error_code moved;
-    for (int look = 0; look == 0 || (moved && look < kMostLooks); ++look) {
-        moved.clear();
-        for (const std::string& other : Others())
-            for (const fs::path& entry : EntriesOf(claims_ + other, moved)) {
+    bool hasMoved = true;
+    for (int look = 0; hasMoved && look < kMostLooks; ++look) {
+        hasMoved = false;
+        for (const std::string& other : Others()) {
+            std::error_code error;
+            for (const fs::path& entry : EntriesOf(claims_ + other, error)) {
                 const std::string path = app::FromPath(entry);
                 const bool isNote = app::FileName(path).starts_with('.');
                 held.insert(app::BaseName(isNote ? recognition::ImageOfResult(files_, path) : path));
             }
+            hasMoved = hasMoved || error;
+        }
     }
     return held;
 }
@@ -129,9 +139,12 @@ void Claims::ListWaiting() {
 void Claims::MakeFolder() {
     constexpr int kMostTries = 10;
     std::error_code error;
+    std::error_code none;
     // Another one may just remove the folder of all claims as the last one to leave.
-    for (int k = 0; k < kMostTries && !fs::is_directory(app::ToPath(own_), error); ++k)
+    for (int k = 0; k < kMostTries && !fs::is_directory(app::ToPath(own_), none); ++k)
         fs::create_directories(app::ToPath(own_), error);
+    if (error && !fs::is_directory(app::ToPath(own_), none))
+        hindrance_ = error;
     heart_.Keep(own_);
 }
 
@@ -155,6 +168,8 @@ bool Claims::Claim(const std::string& name) {
     fs::rename(app::ToPath(folder_ + name), app::ToPath(own_ + name), error);
     if (!error)
         MakeLinkWhole(app::ToPath(own_ + name));
+    else if (error != std::errc::no_such_file_or_directory)
+        hindrance_ = error;
     return !error;
 }
 
@@ -239,18 +254,20 @@ std::optional<std::string> Claims::TakeOver(Moment now) {
     return std::nullopt;
 }
 
-// Gives the name that it has got.
+// Gives the name that it has got; none where it stays.
 std::string Claims::GiveBackFile(const std::string& path) {
     constexpr int kMost = 1000;
     const std::string stem = app::BaseName(path);
     const std::string ending = app::FileName(path).substr(stem.size());
     std::string name = stem + ending;
-    for (int k = 2; k < kMost && !MoveUnlessThere(app::ToPath(path), app::ToPath(folder_ + name)); ++k) {
+    Moved moved = MoveUnlessThere(app::ToPath(path), app::ToPath(folder_ + name));
+    for (int k = 2; k < kMost && moved == Moved::IsTaken; ++k) {
         name = stem;
         name += "-" + std::to_string(k);
         name += ending;
+        moved = MoveUnlessThere(app::ToPath(path), app::ToPath(folder_ + name));
     }
-    return name;
+    return moved == Moved::Yes ? name : std::string();
 }
 
 std::string Claims::GiveBack(const std::string& claim) {
@@ -258,8 +275,8 @@ std::string Claims::GiveBack(const std::string& claim) {
     if (!files_.FolderExists(claim))
         return {};
     for (const std::string& name : files_.List(claim, "*")) {
-        const std::string place = GiveBackFile(claim + name);
-        tried_[place] = files_.Fingerprint(folder_ + place);
+        if (const std::string place = GiveBackFile(claim + name); !place.empty())
+            tried_[place] = files_.Fingerprint(folder_ + place);
     }
     // Half-written documents of an owner that died.
     for (const std::string& name : files_.List(claim, ".*.tmp"))

@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "app/Files.h"
@@ -41,6 +42,9 @@ class Claims {
     /// is not claimed again while it stays as it is. Throws `app::FileError` when the folder cannot be
     /// listed.
     std::vector<std::string> Take(std::size_t count);
+
+    /// Why a file that waited could not be claimed, though nobody else had it; empty where there was none.
+    std::string Hindrance() const { return hindrance_ ? hindrance_.message() : std::string(); }
 
     /// Whether others hold claims at the moment, dead ones among them.
     bool OthersWork() const { return !Others().empty(); }
@@ -83,6 +87,7 @@ class Claims {
     std::map<std::string, Seen> seen_;          // claims of others
     std::set<std::string> hopeless_;            // claims with which nothing can be done
     std::map<std::string, std::string> names_;  // own folders that were taken over, and their names before
+    std::error_code hindrance_;
     int takenOver_ = 0;
     Heartbeat heart_;
 };

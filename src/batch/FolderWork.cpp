@@ -86,6 +86,12 @@ Exit FolderWork::Share() {
     }
     if (surroundings_.stop)
         return Exit::Stopped;
+    if (const std::string why = claims.Hindrance();
+        !why.empty() && !files_.List(folders_.ProcessIn, "*").empty()) {
+        person_.ShowMessage("",
+                            "Files are left in " + folders_.ProcessIn + " that cannot be claimed: " + why);
+        exit = exit == Exit::Done ? Exit::SomeLeft : exit;
+    }
     // Only now all documents are there; one that is stopped leaves the tables to those that go on.
     if (exit != Exit::Failed)
         Export();

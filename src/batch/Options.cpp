@@ -102,7 +102,7 @@ Exit status:
   1  the work could not be done: no folder, no active profile, no image library, no tables written
   2  the command line makes no sense
   3  another program works on the folder
-  4  all files were taken, but some could not be read or not be written
+  4  some files could not be read, not be written or not be claimed
   5  a signal ended the work; the page at hand was finished
 )";
 

@@ -217,6 +217,20 @@ TEST_F(BatchTest, EightClaimersMakeTheDocumentsOfOneProgram) {
     }
 }
 
+TEST_F(BatchTest, ScansThatCannotBeClaimedAreNotTakenForDone) {
+    AddProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {});
+    CopyFolder();
+    WriteText(other_.File("ProcessIn/.claims"), "where the claims would be");
+    options_.patience = 60;
+    EXPECT_EQ(Run(), Exit::SomeLeft);
+    EXPECT_PRED2(Has, messages_.str(), "ProcessIn/ that cannot be claimed: Not a directory");
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessIn/a.tif")));
+    std::filesystem::remove(other_.File("ProcessIn/.claims"));
+    EXPECT_EQ(Run(), Exit::Done);
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessOut/a.xml")));
+}
+
 // Only the waiting itself needs the clock; which files it takes is tested below.
 TEST_F(BatchTest, WatchesUntilItIsStopped) {
     AddProfile("Form", form_);

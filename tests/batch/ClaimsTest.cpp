@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "batch/Claims.h"
+#include "support/FaultyFiles.h"
 #include "support/TempFolder.h"
 
 namespace tavrene::batch {
@@ -82,6 +84,29 @@ TEST_F(ClaimsTest, FilesThatShareAResultAreTakenByOneInTheirOrder) {
     test::WriteText(folder_.File(".claims/dead/.delivery-new-1-.xml"), "<Tavrene Image=\"d.tif\"/>");
     Put({"d.jpg"});
     EXPECT_EQ(one.Take(9), Names());
+}
+
+TEST_F(ClaimsTest, AScanOfANameWhoseClaimIsTakenOverMeanwhileWaitsToo) {
+    const std::filesystem::path claims = folder_.File(".claims");
+    for (const std::string name : {"a", "b", "c"}) {
+        std::filesystem::create_directories(claims / name);
+        Put({".claims/" + name + "/" + name + ".tif", name + ".jpg"});
+        test::WriteText(folder_.File(".claims/" + name + "/.note.xml"), "<Tavrene/>");
+    }
+    const std::vector<std::filesystem::path> inOrder(std::filesystem::directory_iterator{claims}, {});
+    test::FaultyFiles files;
+    bool isFirst = true;
+    // While the first is looked into, somebody takes the second over, and the third stays.
+    files.refuse = [&](const std::string& operation, const std::string& /*path*/) {
+        if (operation == "read" && std::exchange(isFirst, false))
+            std::filesystem::rename(inOrder[1], claims / "new owner");
+        return false;
+    };
+    Claims one(files, path_, kPatience);
+    EXPECT_EQ(one.Take(9), Names());
+    EXPECT_FALSE(isFirst);
+    EXPECT_TRUE(files.FolderExists(folder_.File(".claims/new owner")));
+    EXPECT_EQ(Waiting(), (Names{"a.jpg", "b.jpg", "c.jpg"}));
 }
 
 TEST_F(ClaimsTest, WhatWasGivenBackIsTakenAgainWhenItHasChanged) {

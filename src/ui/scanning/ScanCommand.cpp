@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <string>
 
+#include "ui/base/QtText.h"
 #include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
@@ -27,7 +28,7 @@ ScanCommand::ScanCommand(QWidget& window, const Context& context)
 
 void ScanCommand::Look() {
     if (sane_ == nullptr) {
-        Offer("Scanning needs the scanner library SANE (libsane1), which is not installed");
+        Offer(Tr("ScanDialog", "Scanning needs the scanner library SANE (libsane1), which is not installed"));
         return;
     }
     if (std::exchange(isLooking_, true))
@@ -36,7 +37,9 @@ void ScanCommand::Look() {
         this, [&sane = *sane_] { return intake::Scanners(sane).Find().empty(); },
         [this](bool isNone) {
             isLooking_ = false;
-            Offer(isNone ? "No scanner was found. Switch it on, connect it and open this menu again" : "");
+            Offer(isNone ? Tr("ScanDialog",
+                              "No scanner was found. Switch it on, connect it and open this menu again")
+                         : QString());
         });
 }
 
