@@ -18,10 +18,13 @@ function(tavrene_library name)
   set_target_properties(tavrene_${name} PROPERTIES LINKER_LANGUAGE CXX)
 endfunction()
 
-# tavrene_test(NAME DEPENDS ...): one test program from all sources of the calling folder.
+# tavrene_test(NAME DEPENDS ... [EXCEPT REGEX]): one test program from all sources of the calling folder but those.
 function(tavrene_test name)
-  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "EXCEPT" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  if(ARG_EXCEPT)
+    list(FILTER sources EXCLUDE REGEX "${ARG_EXCEPT}")
+  endif()
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(test_${name} PRIVATE ${ARG_DEPENDS} tavrene_test_support GTest::gtest_main tavrene_warnings)

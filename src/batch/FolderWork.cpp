@@ -167,6 +167,10 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     doubts.End();
     Tell(run.TakeReports());
     progress_.End(run.Summary().seconds, surroundings_.stop);
+    // Once, however many lots there are.
+    const std::string specimens = recognition::TextOf(run.Opinions());
+    if (!specimens.empty() && std::exchange(toldOfSpecimens_, specimens) != specimens)
+        person_.ShowMessage("", specimens);
     if (surroundings_.stop)
         return Exit::Stopped;
     const std::size_t left = progress_.Count(FileEnd::Refused) + progress_.Count(FileEnd::NotWritten);

@@ -58,6 +58,7 @@ class FolderWork {
     app::FolderLock lock_;
     std::vector<profiles::ProfileRecord> profiles_;
     bool isWaiting_ = false;
+    std::string toldOfSpecimens_;
 };
 
 }  // namespace tavrene::batch

@@ -8,7 +8,9 @@
 namespace tavrene::imaging {
 
 std::string ImageLibraryVersion() {
-    return HasImageLibrary() ? Library().GetVersion() : "";
+    // The library puts its answer into one buffer, whoever asks.
+    static const std::string version = HasImageLibrary() ? Library().GetVersion() : "";
+    return version;
 }
 
 Bitmap Bitmap::BilevelPage(int width, int height, int dpi) {

@@ -91,6 +91,12 @@ void ProcessRun::ForgetFurtherPages(const std::string& name) {
             file.furtherPages = 0;
 }
 
+void ProcessRun::Correct(std::span<const FileReport> files) {
+    for (const FileReport& now : files)
+        std::ranges::replace_if(
+            summary_.files, [&now](const FileReport& file) { return file.name == now.name; }, now);
+}
+
 void ProcessRun::Settle() {
     try {
         for (const std::string& line : delivery_.Settle())

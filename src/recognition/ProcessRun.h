@@ -76,6 +76,9 @@ class ProcessRun {
     /// The further pages of a file of the last run have become files of their own.
     void ForgetFurtherPages(const std::string& name);
 
+    /// Files of the last run of which something else has become since.
+    void Correct(std::span<const FileReport> files);
+
     /// What the second opinion on the forms of the last run has come to.
     const OpinionTally& Opinions() const { return opinions_; }
 

@@ -116,6 +116,18 @@ TEST_F(BatchTest, TellsOfEachFileInJsonAndWritesTables) {
     EXPECT_PRED2(Has, ReadText(home_.File("tables/Form.csv")), "\r\nb.tif,Form,0,100,");
 }
 
+TEST_F(BatchTest, TellsOfASpecimenThatPreciseAlignmentMisses) {
+    AddSpecimenProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {.checked = {1}});
+    CopyFolder();
+    files_.Delete(folders_.ProfileImages + "Form.tif");
+    options_.precise = true;
+    EXPECT_EQ(Run(), Exit::Done);
+    EXPECT_EQ(messages_.str(),
+              "tavrene-batch: The specimen image of profile Form is missing or cannot be read: Precise "
+              "Alignment knows its forms by their boxes alone.\n");
+}
+
 TEST_F(BatchTest, SaysWhyItDoesNothing) {
     struct Case {
         std::string folder;

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "painter/ImageFiles.h"
 #include "recognition/precise/ReadAgain.h"
 #include "support/RunWorld.h"
 
@@ -32,9 +33,13 @@ class PreciseRunTest : public test::RunWorld {
                            [&line](const std::string& logged) { return logged.starts_with(line); });
     }
 
-    FormsReadAgain ReadAgain(const std::vector<std::string>& names) {
+    std::vector<FormToRead> Offered() const {
+        return FormsToRead(files_, run_.Opinions(), folders_.ProcessOut);
+    }
+
+    FormsReadAgain ReadAgain(const std::vector<FormToRead>& forms) {
         const auto goesOn = [] { return true; };
-        return ReadFormsAgain({files_, log_, person_, reader_, goesOn}, names, folders_.ProcessOut, profiles_,
+        return ReadFormsAgain({files_, log_, person_, reader_, goesOn}, forms, folders_.ProcessOut, profiles_,
                               8);
     }
 
@@ -66,8 +71,12 @@ TEST_F(PreciseRunTest, ASecondOpinionCountsAndChangesNothing) {
     EXPECT_EQ(TextOf(run_.Opinions()), "1 form looks turned or stretched: Precise Alignment reads it.");
 
     const std::string before = test::ReadText(folders_.ProcessOut + "near.xml");
-    const auto names = std::vector<std::string>{"far.tif", "near.tif", "gone.tif"};
-    EXPECT_EQ(ReadAgain(names).read, 1);
+    const FormsReadAgain again = ReadAgain({{"far.tif", {}}, {"near.tif", {}}, {"gone.tif", {}}});
+    ASSERT_EQ(again.read.size(), 1U);
+    EXPECT_EQ(again.read[0].name + ": " + again.read[0].reason,
+              "far.tif: classified as [Form] with confidence [100.00]");
+    run_.Correct(again.read);
+    EXPECT_EQ(run_.Summary().Count(FileEnd::Read), 2U);
     ASSERT_TRUE(HasResult("far"));
     EXPECT_TRUE(Marks("far")[6].Checked);
     EXPECT_EQ(test::ReadText(folders_.ProcessOut + "near.xml"), before);
@@ -86,12 +95,42 @@ TEST_F(PreciseRunTest, AResultThatCannotBeWrittenIsNeitherMisjudgedNorHoldsUpOth
     const std::vector<std::string> unread = {"away.tif", "far.tif"};
     EXPECT_EQ(run_.Opinions().unread, unread);
     refuseWriting("away");
-    const FormsReadAgain again = ReadAgain(unread);
-    EXPECT_EQ(again.read, 1);
-    EXPECT_EQ(again.left, std::vector<std::string>{"away.tif"});
+    const FormsReadAgain again = ReadAgain(Offered());
+    EXPECT_EQ(again.read.size(), 1U);
+    ASSERT_EQ(again.left.size(), 1U);
+    EXPECT_EQ(again.left[0].image, "away.tif");
     EXPECT_FALSE(HasResult("away"));
     EXPECT_TRUE(HasResult("far"));
     EXPECT_TRUE(Logged("away.tif: Cannot write "));
+}
+
+TEST_F(PreciseRunTest, FormsWithBoxesReadOtherwiseAreReadAgainUnlessSomebodyTouchedThem) {
+    // 26 pixels: 5 % of the whole box and 9 % of its inner part.
+    samples::Canvas page = form_.Paint({});
+    page.FillRect(form_.boxes[2].L + 8, form_.boxes[2].T + 10, 13, 2);
+    const auto faint = [&](const std::string& name, imaging::ImageFormat format) {
+        samples::SaveImage(samples::ToBilevel(page), format, folders_.ProcessIn + name);
+    };
+    faint("a.tif", imaging::ImageFormat::Tiff);
+    faint("b.tif", imaging::ImageFormat::Tiff);
+    faint("twin.bmp", imaging::ImageFormat::Bmp);
+    form_.SaveScan(folders_.ProcessIn + "twin.tif", {.checked = {5}});  // takes the place of its result
+    reading_ = {.secondOpinion = true};
+    Process();
+    EXPECT_EQ(TextOf(run_.Opinions()),
+              "3 boxes in 3 forms read otherwise by Precise Alignment; review shows them as doubtful.");
+    const std::vector<FormToRead> offered = Offered();
+    ASSERT_EQ(offered.size(), 2U);
+    const std::string reviewed = "<!-- by hand -->" + test::ReadText(folders_.ProcessOut + "b.xml");
+    test::WriteText(folders_.ProcessOut + "b.xml", reviewed);
+
+    const FormsReadAgain again = ReadAgain(offered);
+    EXPECT_EQ(again.read.size(), 1U);
+    EXPECT_TRUE(again.left.empty());
+    EXPECT_TRUE(Marks("a")[2].Checked);
+    EXPECT_TRUE(Logged("a.tif: Result replaces the earlier a.xml"));
+    EXPECT_EQ(test::ReadText(folders_.ProcessOut + "b.xml"), reviewed);
+    EXPECT_TRUE(Marks("twin")[4].Checked);
 }
 
 TEST_F(PreciseRunTest, ASpecimenThatCannotHelpIsToldInEveryRun) {

@@ -45,17 +45,21 @@ TEST_F(BringInWindowTest, PagesOfDroppedFilesComeInAndRubbishIsTold) {
     test::WriteText(outside_.File("mail/cut.pdf"), "%PDF-1.4 and no more");
     test::WriteText(outside_.File("mail/notes.txt"), "x");
     form_.SaveScan(outside_.File("mail/one.tif"), {});
+    const samples::Canvas page = form_.Paint({});
+    samples::SaveImage(samples::ToColour(page, page, page), imaging::ImageFormat::Webp,
+                       outside_.File("mail/phone.webp"));
     test::WriteText(folders_.ProcessOut + "letters-p001.xml", "of another form");
     Open();
     Drop({outside_.File("mail")});
-    EXPECT_EQ(In(folders_.ProcessIn), (Names{"fax-p001.tif", "fax-p002.tif", "letters-2-p001.tif",
-                                             "letters-2-p002.tif", "letters-2-p003.tif", "one.tif"}));
+    EXPECT_EQ(In(folders_.ProcessIn),
+              (Names{"fax-p001.tif", "fax-p002.tif", "letters-2-p001.tif", "letters-2-p002.tif",
+                     "letters-2-p003.tif", "one.tif", "phone.png"}));
     EXPECT_EQ(Panel("Message"),
               "1 scan was copied to ProcessIn. 1 other file was left out: no image. "
-              "5 pages of 2 files were brought in to ProcessIn.");
+              "6 pages of 3 files were brought in to ProcessIn.");
     EXPECT_EQ(FromQt(Find<QPlainTextEdit>(*window_, "Lines").toPlainText()).substr(0, 9), "cut.pdf: ");
     Click("Process");
-    EXPECT_EQ(files_.List(folders_.ProcessOut, "*.xml").size(), 7U);
+    EXPECT_EQ(files_.List(folders_.ProcessOut, "*.xml").size(), 8U);
 }
 
 TEST_F(BringInWindowTest, CancellingLeavesNothingOfTheFileAtHand) {

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include "painter/ImageFiles.h"
 #include "ui/DeskWindow.h"
 #include "ui/page/ImageView.h"
 
@@ -56,6 +57,35 @@ TEST_F(PreciseWindow, FormsThatOnlyPreciseAlignmentReadsAreOfferedAndReadAgain) 
     Click("Review");
     EXPECT_EQ(Lines(), 2);
     EXPECT_FALSE(Find<QAction>(*window_, "ReadAgain").isEnabled());
+}
+
+TEST_F(PreciseWindow, FormsReadOtherwiseAreReadAgainTooAndTheSummaryFollows) {
+    form_.SaveScan(folders_.ProcessIn + "far.tif", {.checked = {2}, .dx = 40, .dy = -30});
+    // 26 pixels: 5 % of the whole box and 9 % of its inner part.
+    samples::Canvas page = form_.Paint({});
+    page.FillRect(form_.boxes[2].L + 8, form_.boxes[2].T + 10, 13, 2);
+    samples::SaveImage(samples::ToBilevel(page), imaging::ImageFormat::Tiff,
+                       folders_.ProcessIn + "faint.tif");
+    Open();
+    Click("Process");
+    const auto summary = [this] { return FromQt(Find<QLabel>(*window_, "lblSummary").text()); };
+    EXPECT_TRUE(test::Has(summary(), ">1 read<") && test::Has(summary(), ">1 not recognised<")) << summary();
+    Click("Review");
+    OpenForm(0);
+    EXPECT_EQ(Rows().topLevelItem(2)->text(1), "0");
+    Rows().setCurrentItem(Rows().topLevelItem(0));
+    Choose("FlipBox");
+    test::DialogScript dialogs;
+    dialogs.Press(QMessageBox::Cancel);
+    Choose("ReadAgain");
+    EXPECT_FALSE(files_.FileExists(folders_.ProcessOut + "far.xml"));
+    dialogs.Press(QMessageBox::No);
+    Choose("ReadAgain");
+    EXPECT_EQ(Notices(), "2 forms were read by Precise Alignment and can be reviewed.");
+    EXPECT_TRUE(test::Has(summary(), ">2 read<") && test::Has(summary(), "0 not recognised")) << summary();
+    EXPECT_EQ(Lines(), 2);
+    OpenForm(0);
+    EXPECT_EQ(Rows().topLevelItem(2)->text(1), "1");
 }
 
 TEST_F(PreciseWindow, ReadingAgainStopsAtEscapeAndKeepsWhatIsLeft) {

@@ -30,6 +30,12 @@ int PrintReach(const CellPage& cells, double pixelsPerMm) {
     return std::clamp(static_cast<int>(std::lround(kPrintMm * pixelsPerMm / cells.Factor())), 1, 6);
 }
 
+// Forms are read side by side, and std::lgamma writes to a variable that all of them share.
+double LogFactorial(double n) {
+    int sign = 0;
+    return ::lgamma_r(n + 1, &sign);
+}
+
 // How many maps as good as this one are to be expected of boxes strewn at random.
 double ExpectedByChance(const Alignment& alignment, std::span<const SoughtBox> boxes) {
     double coverage = 0;
@@ -41,8 +47,8 @@ double ExpectedByChance(const Alignment& alignment, std::span<const SoughtBox> b
     const auto n = static_cast<double>(boxes.size() - kFreedom);
     double tail = 0;
     for (auto k = static_cast<double>(alignment.found - kFreedom); k <= n; ++k)
-        tail += std::exp(std::lgamma(n + 1) - std::lgamma(k + 1) - std::lgamma(n - k + 1) +
-                         k * std::log(coverage) + (n - k) * std::log(1 - coverage));
+        tail += std::exp(LogFactorial(n) - LogFactorial(k) - LogFactorial(n - k) + k * std::log(coverage) +
+                         (n - k) * std::log(1 - coverage));
     return tail * static_cast<double>(std::max<std::size_t>(alignment.tried, 1));
 }
 

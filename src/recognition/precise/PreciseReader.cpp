@@ -76,7 +76,7 @@ void OpinionTally::Add(const std::string& imageName, const SecondOpinion& opinio
     if (opinion.otherProfile)
         otherProfile.push_back(imageName);
     if (!opinion.boxes.empty())
-        ++forms;
+        otherwise.push_back(imageName);
     boxes += static_cast<int>(opinion.boxes.size());
 }
 
@@ -87,7 +87,8 @@ std::string TextOf(const OpinionTally& tally) {
         add(app::Counted(unread, "form looks", "forms look") +
             " turned or stretched: Precise Alignment reads " + (unread == 1 ? "it." : "them."));
     if (tally.boxes > 0)
-        add(app::Counted(tally.boxes, "box", "boxes") + " in " + app::Counted(tally.forms, "form", "forms") +
+        add(app::Counted(tally.boxes, "box", "boxes") + " in " +
+            app::Counted(tally.otherwise.size(), "form", "forms") +
             " read otherwise by Precise Alignment; review shows them as doubtful.");
     if (!tally.otherProfile.empty())
         add(app::Counted(tally.otherProfile.size(), "form", "forms") +

@@ -59,8 +59,8 @@ class PreciseReader {
 
 /// What the second opinion has come to in a run.
 struct OpinionTally {
-    int boxes = 0;  ///< Boxes whose state differs,
-    int forms = 0;  ///< in so many forms.
+    int boxes = 0;                       ///< Boxes whose state differs,
+    std::vector<std::string> otherwise;  ///< in the forms of these image names.
     /// Image names of the forms that look like another one than they were taken for, or like none.
     std::vector<std::string> otherProfile;
     std::vector<std::string> unread;  ///< Image names of the forms that only precise alignment recognises.

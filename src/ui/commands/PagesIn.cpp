@@ -1,5 +1,9 @@
 #include "ui/commands/PagesIn.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "app/Counted.h"
 #include "app/Reason.h"
 #include "imaging/TiffHeader.h"
@@ -9,7 +13,10 @@ namespace tavrene::commands {
 
 bool HoldsPages(const app::Files& files, const std::string& path) {
     const std::string extension = app::UpperCase(app::Extension(path));
-    int pages = extension == "PDF" ? 2 : 1;
+    constexpr std::array<std::string_view, 5> kAlways = {"PDF", "JP2", "J2K", "J2C", "WEBP"};
+    if (std::ranges::find(kAlways, extension) != kAlways.end())
+        return true;
+    int pages = 1;
     // What cannot be read is told when it is to be copied.
     if (extension == "TIF" || extension == "TIFF")
         app::FailureOf([&] { pages = imaging::CountTiffPictures(files.Read(path)); });

@@ -12,7 +12,8 @@
 
 namespace tavrene::commands {
 
-/// Whether a file is one of pages, a PDF or a TIFF of several, and no scan that is copied as it is.
+/// Whether images are made of the pages of a file: a PDF, a TIFF of several, or a picture of a kind that runs do
+/// not read. Another one is a scan that is copied as it is, or none.
 bool HoldsPages(const app::Files& files, const std::string& path);
 
 /// What came of bringing in.

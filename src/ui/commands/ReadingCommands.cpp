@@ -7,7 +7,6 @@
 
 #include "app/Counted.h"
 #include "recognition/ReadingFlags.h"
-#include "recognition/precise/ReadAgain.h"
 
 namespace tavrene::commands {
 
@@ -29,7 +28,7 @@ ReadingCommands::ReadingCommands(AppState& state, const Context& context) : stat
     gate.SetHandler(Command::SecondOpinion, [this] { Switch(state_.reading.secondOpinion, kSecondOpinion); });
     gate.SetHandler(Command::UseAllCores, [this] { Switch(state_.reading.allCores, kUseAllCores); });
     gate.SetHandler(
-        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !unread_.empty(); });
+        Command::ReadAgain, [this] { ReadAgain(); }, [this] { return !forms_.empty(); });
 }
 
 void ReadingCommands::Switch(bool& option, std::string_view name) {
@@ -38,18 +37,18 @@ void ReadingCommands::Switch(bool& option, std::string_view name) {
 }
 
 void ReadingCommands::RunBegins() {
-    unread_.clear();
+    forms_.clear();
     context_.person.ShowNotices({});
 }
 
 void ReadingCommands::RunEnded(const recognition::OpinionTally& opinions) {
-    unread_ = opinions.unread;
+    forms_ = recognition::FormsToRead(context_.files, opinions, state_.folders.ProcessOut);
     if (const std::string text = recognition::TextOf(opinions); !text.empty())
         Tell({text});
 }
 
 void ReadingCommands::Tell(app::Notice notice) {
-    if (!unread_.empty()) {
+    if (!forms_.empty()) {
         notice.button = "Read These Again";
         notice.act = [this] { context_.gate.Run(Command::ReadAgain); };
     }
@@ -57,19 +56,21 @@ void ReadingCommands::Tell(app::Notice notice) {
 }
 
 void ReadingCommands::ReadAgain() {
+    context_.closeForm();
     context_.person.SetPanel(app::Panel::Message, "Reading forms again... Esc stops.");
-    recognition::FormsReadAgain forms;
+    recognition::FormsReadAgain again;
     context_.undisturbed([&](const std::function<bool()>& goesOn) {
-        forms = recognition::ReadFormsAgain(
-            {context_.files, context_.log, context_.person, context_.reader, goesOn}, unread_,
+        again = recognition::ReadFormsAgain(
+            {context_.files, context_.log, context_.person, context_.reader, goesOn}, forms_,
             state_.folders.ProcessOut, state_.profiles, state_.settings.FillThreshold);
     });
     context_.person.SetPanel(app::Panel::Message, "");
-    unread_ = std::move(forms.left);
-    std::string text = app::Counted(forms.read, "form was", "forms were") + " read by Precise Alignment" +
-                       (forms.read > 0 ? " and can be reviewed." : ".");
-    if (!unread_.empty())
-        text += " " + app::Counted(unread_.size(), "form is", "forms are") + " left.";
+    forms_ = std::move(again.left);
+    context_.wereRead(again.read);
+    std::string text = app::Counted(again.read.size(), "form was", "forms were") + " read by Precise Alignment" +
+                       (again.read.empty() ? "." : " and can be reviewed.");
+    if (!forms_.empty())
+        text += " " + app::Counted(forms_.size(), "form is", "forms are") + " left.";
     Tell({text});
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "app/SettingsStore.h"
 #include "recognition/precise/PreciseReader.h"
+#include "recognition/precise/ReadAgain.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 
@@ -26,6 +27,9 @@ class ReadingCommands {
         app::Operator& person;
         recognition::PreciseReader& reader;
         CommandGate& gate;
+        std::function<void()> closeForm;  ///< Takes the open form from the screen.
+        /// Is told of forms of the last run that have another result now.
+        std::function<void(std::span<const recognition::FileReport> forms)> wereRead;
         /// Calls long work while the person can do nothing but stop it; it is handed what tells whether to
         /// go on.
         std::function<void(const std::function<void(const std::function<bool()>& goesOn)>& work)> undisturbed;
@@ -37,8 +41,9 @@ class ReadingCommands {
     /// What was told of the run before is over.
     void RunBegins();
 
-    /// Tells what the second opinion on a run has come to; forms that it alone recognises are offered to
-    /// `ReadAgain` until they have a result or the next run begins.
+    /// Tells what the second opinion on a run has come to; forms that it alone recognises, and those of which
+    /// it reads boxes otherwise, are offered to `ReadAgain` as long as nobody has touched their results,
+    /// until the next run begins.
     void RunEnded(const recognition::OpinionTally& opinions);
 
   private:
@@ -48,7 +53,7 @@ class ReadingCommands {
 
     AppState& state_;
     Context context_;
-    std::vector<std::string> unread_;  ///< Forms of the last run that only precise alignment recognises.
+    std::vector<recognition::FormToRead> forms_;  ///< Those that are offered.
 };
 
 }  // namespace tavrene::commands

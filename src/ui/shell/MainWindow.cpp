@@ -61,7 +61,9 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
               {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),
-      reading_(state_, {context.store, context.files, log_, operator_, precise_, gate_, &WorkUndisturbed}),
+      reading_(state_,
+               {context.store, context.files, log_, operator_, precise_, gate_,
+                [this] { review_.RunBegins(); }, [this](auto forms) { WereRead(forms); }, &WorkUndisturbed}),
       export_(*this, {context.store, context.files, operator_, dialogs_}, state_.folders),
       runs_(state_, run_, {[this] { RunBegins(); }, [this] { RunEnded(); }, [this] { close(); }}),
       toolbars_(*this, [this](Command command) { RunCommand(command); }),
@@ -181,6 +183,12 @@ void MainWindow::RunEnded() {
         summary_->Show(run_.Summary());
     reading_.RunEnded(run_.Opinions());
     review_.RunEnded();
+}
+
+void MainWindow::WereRead(std::span<const recognition::FileReport> forms) {
+    run_.Correct(forms);
+    if (summary_->isVisible())
+        summary_->Show(run_.Summary());
 }
 
 void MainWindow::ConnectSummary() {

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "app/ActivityLog.h"
@@ -65,6 +66,7 @@ class MainWindow final : public QMainWindow {
     commands::Mode CurrentMode() const;
     void RunBegins();
     void RunEnded();
+    void WereRead(std::span<const recognition::FileReport> forms);
     void RunCommand(commands::Command command);
     void OfferCommands();
     void UpdateCommands();

@@ -154,7 +154,8 @@ void ScanIntake::TakeIn(const std::vector<std::string>& paths) {
 void ScanIntake::Choose() {
     const QStringList chosen = QFileDialog::getOpenFileNames(
         &window_, Tr("ScanIntake", "Bring In Scans"), folder_,
-        Tr("ScanIntake", "Scans") + " (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp);;" +
+        Tr("ScanIntake", "Scans") +
+            " (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp *.jp2 *.j2k *.j2c *.webp);;" +
             Tr("ScanIntake", "All Files") + " (*)");
     std::vector<std::string> paths;
     for (const QString& path : chosen)
