@@ -42,7 +42,7 @@ class ScanDialog final : public QDialog {
 
     ScanChoice Choice() const { return choice_; }
 
-    /// While a page is on its way it is waited for, once.
+    /// While a page is on its way it is waited for, once; what went wrong with it is shown first.
     void reject() override;
 
   private:
@@ -63,7 +63,7 @@ class ScanDialog final : public QDialog {
     QComboBox* List(const char* name, const QString& accessibleName);
     void BuildLayout();
     void Look();
-    void ShowDevices(const std::vector<intake::ScanDevice>& devices);
+    void ShowDevices(std::vector<intake::ScanDevice> devices);
     void OpenDevice();
     void ShowChoices(const Opened& opened);
     void Fill(QComboBox& list, const QStringList& texts, const QString& usual);
@@ -77,6 +77,7 @@ class ScanDialog final : public QDialog {
     Context context_;
     ScanChoice choice_;
     std::shared_ptr<Session> session_ = std::make_shared<Session>();
+    std::vector<intake::ScanDevice> found_;
     intake::ScanChoices choices_;
     State state_ = State::Looking;
     bool closesAtEnd_ = false;
