@@ -429,7 +429,7 @@
         <translation>Die ausgewählten Kästchen in der Liste, und so in den Ergebnissen, nach oben schieben</translation>
     </message>
     <message>
-        <source>Move &amp;Up in the List</source>
+        <source>&amp;Move Up in the List</source>
         <translation>In der Liste nach o&amp;ben</translation>
     </message>
     <message>
@@ -1709,10 +1709,6 @@ Selecting No would keep the same profile but skip the modified fields.</source>
         <translation>Kein Formular der Liste hat ein zweifelhaftes Kästchen.</translation>
     </message>
     <message>
-        <source>No box in doubt was found yet; forms are still being looked at.</source>
-        <translation>Noch wurde kein zweifelhaftes Kästchen gefunden; die Formulare werden noch angesehen.</translation>
-    </message>
-    <message>
         <source>Form [%1] stays in %2: it was changed there or is gone</source>
         <translation>Formular [%1] bleibt in %2: es wurde dort geändert oder ist weg</translation>
     </message>
@@ -1867,6 +1863,346 @@ Selecting No would keep the same profile but skip the modified fields.</source>
     <message>
         <source>%L1 forms are left.</source>
         <translation>%L1 Formulare bleiben übrig.</translation>
+    </message>
+    <message>
+        <source>1 box copied; Ctrl+V adds it to a profile.</source>
+        <translation>1 Kästchen kopiert; Strg+V fügt es einem Profil hinzu.</translation>
+    </message>
+    <message>
+        <source>%L1 boxes copied; Ctrl+V adds them to a profile.</source>
+        <translation>%L1 Kästchen kopiert; Strg+V fügt sie einem Profil hinzu.</translation>
+    </message>
+    <message>
+        <source>There is no room on the page for the copies there.</source>
+        <translation>Dort ist auf der Seite kein Platz für die Kopien.</translation>
+    </message>
+    <message>
+        <source>The clipboard holds boxes. Open a profile to add them to it.</source>
+        <translation>In der Zwischenablage sind Kästchen. Öffnen Sie ein Profil, um sie ihm hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>1 page was scanned to ProcessIn.</source>
+        <translation>1 Seite wurde nach ProcessIn gescannt.</translation>
+    </message>
+    <message>
+        <source>%L1 pages were scanned to ProcessIn.</source>
+        <translation>%L1 Seiten wurden nach ProcessIn gescannt.</translation>
+    </message>
+    <message>
+        <source>Looking for the next doubt...</source>
+        <translation>Das nächste zweifelhafte Kästchen wird gesucht...</translation>
+    </message>
+    <message>
+        <source>Looking at forms that were not looked at yet...</source>
+        <translation>Noch nicht angesehene Formulare werden angesehen...</translation>
+    </message>
+    <message>
+        <source>Accepting forms...</source>
+        <translation>Formulare werden angenommen...</translation>
+    </message>
+    <message>
+        <source>Bringing forms back...</source>
+        <translation>Formulare werden zurückgeholt...</translation>
+    </message>
+    <message>
+        <source>Esc stops.</source>
+        <translation>Esc bricht ab.</translation>
+    </message>
+    <message>
+        <source>Accepted 1 form.</source>
+        <translation>1 Formular angenommen.</translation>
+    </message>
+    <message>
+        <source>Accepted %L1 forms.</source>
+        <translation>%L1 Formulare angenommen.</translation>
+    </message>
+    <message>
+        <source>Undo Decision (Ctrl+U) brings them back.</source>
+        <translation>„Entscheidung zurücknehmen“ (Strg+U) holt sie zurück.</translation>
+    </message>
+    <message>
+        <source>1 form still to be looked at</source>
+        <translation>1 Formular noch anzusehen</translation>
+    </message>
+    <message>
+        <source>%L1 forms still to be looked at</source>
+        <translation>%L1 Formulare noch anzusehen</translation>
+    </message>
+    <message>
+        <source>1 mark was turned round and not confirmed. Leave the sheet without them?</source>
+        <translation>1 Markierung wurde umgekehrt und nicht bestätigt. Das Blatt ohne sie verlassen?</translation>
+    </message>
+    <message>
+        <source>%L1 marks were turned round and not confirmed. Leave the sheet without them?</source>
+        <translation>%L1 Markierungen wurden umgekehrt und nicht bestätigt. Das Blatt ohne sie verlassen?</translation>
+    </message>
+    <message>
+        <source>1 form reviewed, 1 box corrected on the sheet.</source>
+        <translation>Auf dem Blatt 1 Formular geprüft, 1 Kästchen berichtigt.</translation>
+    </message>
+    <message>
+        <source>1 form reviewed, %L1 boxes corrected on the sheet.</source>
+        <translation>Auf dem Blatt 1 Formular geprüft, %L1 Kästchen berichtigt.</translation>
+    </message>
+    <message>
+        <source>%L1 forms reviewed, 1 box corrected on the sheet.</source>
+        <translation>Auf dem Blatt %L1 Formulare geprüft, 1 Kästchen berichtigt.</translation>
+    </message>
+    <message>
+        <source>%L1 forms reviewed, %L2 boxes corrected on the sheet.</source>
+        <translation>Auf dem Blatt %L1 Formulare geprüft, %L2 Kästchen berichtigt.</translation>
+    </message>
+    <message>
+        <source>Renamed Profile: %1</source>
+        <translation>Profil umbenannt: %1</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <translation>Profil duplizieren</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <translation>Profil umbenennen</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already. Choose another name.</source>
+        <translation>Es gibt schon ein Profil %1. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>This copy is not active, for it would match the same forms as %1. Change its boxes or its image before you switch it on</source>
+        <translation>Diese Kopie ist nicht aktiv, denn sie passte zu denselben Formularen wie %1. Ändern Sie ihre Kästchen oder ihr Bild, ehe Sie sie einschalten</translation>
+    </message>
+    <message>
+        <source>1 result was read with the profile %1 and will not know it by another name: review will say that it no longer exists. Rename it all the same?</source>
+        <translation>1 Ergebnis wurde mit dem Profil %1 gelesen und kennt es unter einem anderen Namen nicht: die Prüfung wird sagen, dass es das Profil nicht mehr gibt. Trotzdem umbenennen?</translation>
+    </message>
+    <message>
+        <source>%L1 results were read with the profile %2 and will not know it by another name: review will say that it no longer exists. Rename it all the same?</source>
+        <translation>%L1 Ergebnisse wurden mit dem Profil %2 gelesen und kennen es unter einem anderen Namen nicht: die Prüfung wird sagen, dass es das Profil nicht mehr gibt. Trotzdem umbenennen?</translation>
+    </message>
+    <message>
+        <source>Setting groups and saving writes them anew.</source>
+        <translation>Wer Gruppen setzt und speichert, schreibt sie neu.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not there any more. Save the profile, which writes it anew, and then locate its image.</source>
+        <translation>Die Datei %1 ist nicht mehr da. Speichern Sie das Profil, das schreibt sie neu, und suchen Sie dann das Bild.</translation>
+    </message>
+    <message>
+        <source>All boxes lie in one column, so this profile may match forms that are not its own. Add a box in another column.</source>
+        <translation>Alle Kästchen liegen in einer Spalte, deshalb könnte dieses Profil auf fremde Formulare passen. Fügen Sie ein Kästchen in einer anderen Spalte hinzu.</translation>
+    </message>
+    <message>
+        <source>All boxes lie in one row, so this profile may match forms that are not its own. Add a box in another row.</source>
+        <translation>Alle Kästchen liegen in einer Zeile, deshalb könnte dieses Profil auf fremde Formulare passen. Fügen Sie ein Kästchen in einer anderen Zeile hinzu.</translation>
+    </message>
+    <message>
+        <source>A run takes this page for &quot;%1&quot; (%L2 %).</source>
+        <translation>Ein Lauf hält diese Seite für „%1“ (%L2 %).</translation>
+    </message>
+    <message>
+        <source>Recognised: %L1 of the %L2 box outlines that are looked for were found.</source>
+        <translation>Erkannt: %L1 der %L2 gesuchten Umrisse von Kästchen wurden gefunden.</translation>
+    </message>
+    <message>
+        <source>Recognised: %L1 of the %L2 box outlines that are looked for were found, but it cannot be read: %3.</source>
+        <translation>Erkannt: %L1 der %L2 gesuchten Umrisse von Kästchen wurden gefunden, aber die Seite lässt sich nicht lesen: %3.</translation>
+    </message>
+    <message>
+        <source>This profile matches, too: %L1 of the %L2 box outlines that are looked for were found.</source>
+        <translation>Auch dieses Profil passt: %L1 der %L2 gesuchten Umrisse von Kästchen wurden gefunden.</translation>
+    </message>
+    <message>
+        <source>This profile matches, too: %L1 of the %L2 box outlines that are looked for were found, but it cannot be read: %3.</source>
+        <translation>Auch dieses Profil passt: %L1 der %L2 gesuchten Umrisse von Kästchen wurden gefunden, aber die Seite lässt sich nicht lesen: %3.</translation>
+    </message>
+    <message>
+        <source>This profile does not match: %L1 of the %L2 box outlines that are looked for were found, and more than half have to be.</source>
+        <translation>Dieses Profil passt nicht: %L1 der %L2 gesuchten Umrisse von Kästchen wurden gefunden, und mehr als die Hälfte müssen es sein.</translation>
+    </message>
+    <message>
+        <source>This profile does not match: it has no boxes, or one before it in the list has none, so it is not looked for.</source>
+        <translation>Dieses Profil passt nicht: es hat keine Kästchen, oder eines vor ihm in der Liste hat keine, deshalb wird es nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>This profile does not match: its boxes and the print of its specimen do not lie on this page, turned or stretched as it may be.</source>
+        <translation>Dieses Profil passt nicht: seine Kästchen und der Druck seines Musters liegen nicht auf dieser Seite, auch nicht gedreht oder gedehnt.</translation>
+    </message>
+    <message>
+        <source>Recognised: %L1 % of the boxes lie where they should.</source>
+        <translation>Erkannt: %L1 % der Kästchen liegen, wo sie sollen.</translation>
+    </message>
+    <message>
+        <source>This profile matches, too: %L1 % of the boxes lie where they should.</source>
+        <translation>Auch dieses Profil passt: %L1 % der Kästchen liegen, wo sie sollen.</translation>
+    </message>
+    <message>
+        <source>The page lies upside down.</source>
+        <translation>Die Seite steht auf dem Kopf.</translation>
+    </message>
+    <message>
+        <source>The boxes are shown where the profile has them.</source>
+        <translation>Die Kästchen werden gezeigt, wo das Profil sie hat.</translation>
+    </message>
+    <message>
+        <source>Runs leave this profile out, for it is not active.</source>
+        <translation>Läufe lassen dieses Profil aus, denn es ist nicht aktiv.</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 boxes are ticked; the faintest tick has %3, the fullest empty box %4.</source>
+        <translation>%L1 von %L2 Kästchen sind angekreuzt; das schwächste Kreuz hat %3, das vollste leere Kästchen %4.</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 boxes are ticked; the faintest tick has %3.</source>
+        <translation>%L1 von %L2 Kästchen sind angekreuzt; das schwächste Kreuz hat %3.</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 boxes are ticked; the fullest empty box has %3.</source>
+        <translation>%L1 von %L2 Kästchen sind angekreuzt; das vollste leere Kästchen hat %3.</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 boxes are ticked.</source>
+        <translation>%L1 von %L2 Kästchen sind angekreuzt.</translation>
+    </message>
+    <message>
+        <source>%L1 needed nothing: gone, or read meanwhile.</source>
+        <translation>%L1 brauchten nichts: weg, oder inzwischen gelesen.</translation>
+    </message>
+    <message>
+        <source>No box in doubt was found yet; 1 form is still to be looked at.</source>
+        <translation>Noch wurde kein zweifelhaftes Kästchen gefunden; 1 Formular ist noch anzusehen.</translation>
+    </message>
+    <message>
+        <source>No box in doubt was found yet; %L1 forms are still to be looked at.</source>
+        <translation>Noch wurde kein zweifelhaftes Kästchen gefunden; %L1 Formulare sind noch anzusehen.</translation>
+    </message>
+    <message>
+        <source>1 form has boxes in doubt, but a question to answer first: open by Enter.</source>
+        <translation>1 Formular hat zweifelhafte Kästchen, aber erst ist eine Frage zu beantworten: mit Eingabe öffnen.</translation>
+    </message>
+    <message>
+        <source>%L1 forms have boxes in doubt, but a question to answer first: open by Enter.</source>
+        <translation>%L1 Formulare haben zweifelhafte Kästchen, aber erst ist eine Frage zu beantworten: mit Eingabe öffnen.</translation>
+    </message>
+    <message>
+        <source>Accept 1 form without doubt?</source>
+        <translation>1 Formular ohne Zweifel annehmen?</translation>
+    </message>
+    <message>
+        <source>Accept %L1 forms without doubt?</source>
+        <translation>%L1 Formulare ohne Zweifel annehmen?</translation>
+    </message>
+    <message>
+        <source>%L1 of profile %2</source>
+        <translation>%L1 vom Profil %2</translation>
+    </message>
+    <message>
+        <source>%L1 of them were reviewed.</source>
+        <translation>%L1 davon wurden geprüft.</translation>
+    </message>
+    <message>
+        <source>1 form with boxes in doubt stays.</source>
+        <translation>1 Formular mit zweifelhaften Kästchen bleibt.</translation>
+    </message>
+    <message>
+        <source>%L1 forms with boxes in doubt stay.</source>
+        <translation>%L1 Formulare mit zweifelhaften Kästchen bleiben.</translation>
+    </message>
+    <message>
+        <source>1 form that could not be looked at yet stays.</source>
+        <translation>1 Formular, das noch nicht angesehen werden konnte, bleibt.</translation>
+    </message>
+    <message>
+        <source>%L1 forms that could not be looked at yet stay.</source>
+        <translation>%L1 Formulare, die noch nicht angesehen werden konnten, bleiben.</translation>
+    </message>
+    <message>
+        <source>1 form that the list does not show stays.</source>
+        <translation>1 Formular, das die Liste nicht zeigt, bleibt.</translation>
+    </message>
+    <message>
+        <source>%L1 forms that the list does not show stay.</source>
+        <translation>%L1 Formulare, die die Liste nicht zeigt, bleiben.</translation>
+    </message>
+    <message>
+        <source>They move to ProcessFinal. Undo Decision brings all of them back.</source>
+        <translation>Sie kommen nach ProcessFinal. „Entscheidung zurücknehmen“ holt alle zurück.</translation>
+    </message>
+    <message>
+        <source>No form to accept.</source>
+        <translation>Kein Formular anzunehmen.</translation>
+    </message>
+    <message>
+        <source>and %L1 more.</source>
+        <translation>und %L1 weitere.</translation>
+    </message>
+    <message>
+        <source>Form [%1] stays as it is: it was changed by somebody else, or is gone</source>
+        <translation>Formular [%1] bleibt, wie es ist: es wurde von jemand anderem geändert oder ist weg</translation>
+    </message>
+    <message>
+        <source>Form [%1] stays: it was changed by somebody else, or is gone</source>
+        <translation>Formular [%1] bleibt: es wurde von jemand anderem geändert oder ist weg</translation>
+    </message>
+    <message>
+        <source>The scanner gave an empty page.</source>
+        <translation>Der Scanner hat eine leere Seite geliefert.</translation>
+    </message>
+    <message>
+        <source>It was cancelled at the scanner.</source>
+        <translation>Am Scanner wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The scanner is busy. Another program may be using it.</source>
+        <translation>Der Scanner ist beschäftigt. Vielleicht benutzt ihn ein anderes Programm.</translation>
+    </message>
+    <message>
+        <source>The paper is jammed, or the feeder has drawn in two sheets at once.</source>
+        <translation>Das Papier klemmt, oder der Einzug hat zwei Blätter auf einmal gezogen.</translation>
+    </message>
+    <message>
+        <source>The feeder is empty.</source>
+        <translation>Der Einzug ist leer.</translation>
+    </message>
+    <message>
+        <source>The cover of the scanner is open.</source>
+        <translation>Der Deckel des Scanners ist offen.</translation>
+    </message>
+    <message>
+        <source>The scanner does not answer as it should. Is it switched on and connected?</source>
+        <translation>Der Scanner antwortet nicht, wie er soll. Ist er eingeschaltet und angeschlossen?</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the page.</source>
+        <translation>Für die Seite reicht der Arbeitsspeicher nicht.</translation>
+    </message>
+    <message>
+        <source>This account may not use the scanner.</source>
+        <translation>Dieses Benutzerkonto darf den Scanner nicht benutzen.</translation>
+    </message>
+    <message>
+        <source>The scanner does not do what it was asked for.</source>
+        <translation>Der Scanner tut nicht, was verlangt wurde.</translation>
+    </message>
+    <message>
+        <source>The scanner gives pages of this kind in a way that is not known here. Choose another.</source>
+        <translation>Der Scanner liefert Seiten dieser Art in einer Weise, die hier nicht bekannt ist. Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Process interrupted by user</source>
+        <translation>Die Verarbeitung wurde angehalten</translation>
     </message>
 </context>
 <context>
@@ -2215,7 +2551,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>Replace &amp;with</source>
-        <translation>Ersetzen d&amp;urch</translation>
+        <translation>Ersetzen &amp;durch</translation>
     </message>
     <message>
         <source>P&amp;attern</source>
@@ -2226,7 +2562,7 @@ Soll die Datei ersetzt werden?</translation>
         <translation>&amp;Liste</translation>
     </message>
     <message>
-        <source>Find and Repla&amp;ce</source>
+        <source>F&amp;ind and Replace</source>
         <translation>Suchen und &amp;Ersetzen</translation>
     </message>
     <message>
@@ -2252,6 +2588,42 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>... and %1 more.</source>
         <translation>... und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>Su&amp;ggest From Print</source>
+        <translation>&amp;Vorschläge aus dem Druck</translation>
+    </message>
+    <message>
+        <source>Fills the list with the words that are printed beside the boxes</source>
+        <translation>Füllt die Liste mit den Wörtern, die neben den Kästchen gedruckt sind</translation>
+    </message>
+    <message>
+        <source>No print was found beside the boxes.</source>
+        <translation>Neben den Kästchen wurde kein Druck gefunden.</translation>
+    </message>
+    <message>
+        <source>Double quotes, &lt; and &amp; are left out: no profile can hold them.</source>
+        <translation>Doppelte Anführungszeichen, &lt; und &amp; werden weggelassen: kein Profil kann sie enthalten.</translation>
+    </message>
+    <message>
+        <source>The program tesseract, which reads print, is not installed.</source>
+        <translation>Das Programm tesseract, das Druck liest, ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Reading what is printed beside the boxes...</source>
+        <translation>Was neben den Kästchen gedruckt ist, wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Reading the print takes too long; it was given up.</source>
+        <translation>Das Lesen des Drucks dauert zu lange; es wurde aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The program tesseract could not read the specimen image.</source>
+        <translation>Das Programm tesseract konnte das Musterbild nicht lesen.</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2750,129 @@ oder lesen Sie mit „Verarbeiten“ die Scans, die im Ordner ProcessIn warten.<
     <message>
         <source>Reviewed</source>
         <translation>Geprüft</translation>
+    </message>
+</context>
+<context>
+    <name>ScanDialog</name>
+    <message>
+        <source>Scanning needs the scanner library SANE (libsane1), which is not installed</source>
+        <translation>Zum Scannen fehlt die Scannerbibliothek SANE (libsane1)</translation>
+    </message>
+    <message>
+        <source>No scanner was found. Switch it on, connect it and open this menu again a minute later</source>
+        <translation>Kein Scanner gefunden. Schalten Sie ihn ein, schließen Sie ihn an und öffnen Sie dieses Menü nach einer Minute noch einmal</translation>
+    </message>
+    <message>
+        <source>All that the scanner takes</source>
+        <translation>Alles, was der Scanner fasst</translation>
+    </message>
+    <message>
+        <source>No page has come in.</source>
+        <translation>Keine Seite ist angekommen.</translation>
+    </message>
+    <message>
+        <source>1 page is in ProcessIn.</source>
+        <translation>1 Seite ist in ProcessIn.</translation>
+    </message>
+    <message>
+        <source>%1 pages are in ProcessIn.</source>
+        <translation>%1 Seiten sind in ProcessIn.</translation>
+    </message>
+    <message>
+        <source>Scanner</source>
+        <translation>Scanner</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Scannen</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Wird abgebrochen...</translation>
+    </message>
+    <message>
+        <source>Sca&amp;nner:</source>
+        <translation>Sca&amp;nner:</translation>
+    </message>
+    <message>
+        <source>S&amp;ource:</source>
+        <translation>&amp;Quelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Mode:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>Au&amp;flösung:</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>The scanner is at work</source>
+        <translation>Der Scanner arbeitet</translation>
+    </message>
+    <message>
+        <source>Looking for scanners...</source>
+        <translation>Scanner werden gesucht...</translation>
+    </message>
+    <message>
+        <source>No scanner was found. Is it switched on and connected?</source>
+        <translation>Kein Scanner gefunden. Ist er eingeschaltet und angeschlossen?</translation>
+    </message>
+    <message>
+        <source>Asking the scanner what it can do...</source>
+        <translation>Der Scanner wird gefragt, was er kann...</translation>
+    </message>
+    <message>
+        <source>As the scanner is set</source>
+        <translation>Wie der Scanner eingestellt ist</translation>
+    </message>
+    <message>
+        <source>Pages go to ProcessIn as they are scanned.</source>
+        <translation>Jede gescannte Seite kommt gleich nach ProcessIn.</translation>
+    </message>
+    <message>
+        <source>Scanning page %1...</source>
+        <translation>Seite %1 wird gescannt...</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>&amp;Erneut suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Scan</source>
+        <translation>&amp;Scannen</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Sch&amp;ließen</translation>
     </message>
 </context>
 <context>
@@ -2525,6 +3020,69 @@ Datei %2 von %3, Seite %4 von %5</translation>
     </message>
 </context>
 <context>
+    <name>SheetDialog</name>
+    <message>
+        <source>&amp;Confirm Screen</source>
+        <translation>Bildschirm &amp;bestätigen</translation>
+    </message>
+    <message>
+        <source>Sheet of Doubts</source>
+        <translation>Zweifelsblatt</translation>
+    </message>
+    <message>
+        <source>Which boxes the sheet shows</source>
+        <translation>Welche Kästchen das Blatt zeigt</translation>
+    </message>
+    <message>
+        <source>The boxes in doubt, or those of one name of all forms</source>
+        <translation>Die zweifelhaften Kästchen, oder die eines Namens aus allen Formularen</translation>
+    </message>
+    <message>
+        <source>Boxes in doubt</source>
+        <translation>Zweifelhafte Kästchen</translation>
+    </message>
+    <message>
+        <source>Box %1</source>
+        <translation>Kästchen %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen is as it is shown now: save it (Ctrl+Enter)</source>
+        <translation>Was auf dem Bildschirm steht, ist so, wie es jetzt gezeigt wird: speichern (Strg+Eingabe)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Marked (%1)</source>
+        <translation>Markiert (%1)</translation>
+    </message>
+    <message>
+        <source>Not marked (%1)</source>
+        <translation>Nicht markiert (%1)</translation>
+    </message>
+    <message>
+        <source>Nothing is in doubt here.</source>
+        <translation>Hier ist nichts zweifelhaft.</translation>
+    </message>
+    <message>
+        <source>Space turns the mark round, Enter opens the form.</source>
+        <translation>Leertaste kehrt die Markierung um, Eingabe öffnet das Formular.</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>markiert</translation>
+    </message>
+    <message>
+        <source>not marked</source>
+        <translation>nicht markiert</translation>
+    </message>
+    <message>
+        <source>Boxes to judge</source>
+        <translation>Zu beurteilende Kästchen</translation>
+    </message>
+</context>
+<context>
     <name>StatusPanels</name>
     <message>
         <source>Current file or profile counts</source>
@@ -2572,6 +3130,81 @@ Datei %2 von %3, Seite %4 von %5</translation>
     <message>
         <source>Close the summary</source>
         <translation>Die Übersicht schließen</translation>
+    </message>
+</context>
+<context>
+    <name>TestProfileDialog</name>
+    <message>
+        <source>Scans</source>
+        <translation>Scans</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Scan with the boxes of the profile</source>
+        <translation>Scan mit den Kästchen des Profils</translation>
+    </message>
+    <message>
+        <source>Check boxes of the scan</source>
+        <translation>Kästchen des Scans</translation>
+    </message>
+    <message>
+        <source>Plai&amp;n reading</source>
+        <translation>&amp;Einfaches Lesen</translation>
+    </message>
+    <message>
+        <source>Plain reading</source>
+        <translation>Einfaches Lesen</translation>
+    </message>
+    <message>
+        <source>Precise &amp;Alignment</source>
+        <translation>&amp;Genaues Ausrichten</translation>
+    </message>
+    <message>
+        <source>Precise Alignment</source>
+        <translation>Genaues Ausrichten</translation>
+    </message>
+    <message>
+        <source>Fill threshold in percent</source>
+        <translation>Füllschwelle in Prozent</translation>
+    </message>
+    <message>
+        <source>Test Profile %1</source>
+        <translation>Profil %1 testen</translation>
+    </message>
+    <message>
+        <source>There are no scans in %1. Choose some with Other Scans.</source>
+        <translation>In %1 sind keine Scans. Wählen Sie welche mit „Andere Scans“.</translation>
+    </message>
+    <message>
+        <source>&amp;Other Scans...</source>
+        <translation>&amp;Andere Scans...</translation>
+    </message>
+    <message>
+        <source>Other scans</source>
+        <translation>Andere Scans</translation>
+    </message>
+    <message>
+        <source>PgUp, PgDown: other scans</source>
+        <translation>Bild↑, Bild↓: andere Scans</translation>
+    </message>
+    <message>
+        <source>Fill &amp;threshold</source>
+        <translation>&amp;Füllschwelle</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Let Runs &amp;Use %1 %</source>
+        <translation>&amp;Läufe nehmen %1 %</translation>
+    </message>
+    <message>
+        <source>Runs use %1 % now</source>
+        <translation>Läufe nehmen jetzt %1 %</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@ bool IsMatch(const ProfileMatch& match) {
 
 std::string WhyNoMatch(const ProfileMatch& match) {
     if (match.tested == 0)
-        return "This profile is not looked for: it has no boxes, or one before it in the list has none.";
+        return "it has no boxes, or one before it in the list has none, so it is not looked for.";
     return Outlines(match) + " were found, and more than half have to be.";
 }
 

@@ -117,8 +117,9 @@ TEST_F(KeyboardTest, EveryLetterThatIsUnderlinedMeansOneThing) {
     for (const char* const code : {"en", "de"}) {
         speak(code);
         Open();
-        for (const QAction* const menu : window_->menuBar()->actions())
-            expectUnique(lettersOf(menu->menu()->actions()), menu->text());
+        for (const QMenu* const menu : window_->menuBar()->findChildren<QMenu*>())
+            if (menu->objectName() != "Language")
+                expectUnique(lettersOf(menu->actions()), menu->title());
         QStringList letters = lettersOf(window_->menuBar()->actions());
         for (const auto* const button : window_->centralWidget()->findChildren<QAbstractButton*>())
             if (button->text().contains('&'))

@@ -5,11 +5,8 @@
 #include <QTabWidget>
 #include <QTranslator>
 
-#include "ui/DeskWindow.h"
+#include "ui/DialogWalk.h"
 #include "ui/base/Shown.h"
-#include "ui/exporting/ExportDialog.h"
-#include "ui/settings/SettingsDialog.h"
-#include "ui/shell/AboutDialog.h"
 #include "ui/shell/Language.h"
 
 namespace tavrene::ui {
@@ -97,6 +94,23 @@ TEST_F(LanguageTest, TextsOfTheRoomsBelowAreTranslatedAtTheBorder) {
          "Formular "
          "liest „Genaues Ausrichten“ anders; die Prüfung zeigt sie als zweifelhaft."},
         {"Image [a.tif], Profile [B of 1]", "Bild [a.tif], Profil [B of 1]"},
+        {"Accept 3 forms without doubt?\n\n2 of profile A\n1 of profile B: c\n\n2 of them were reviewed.\n1 "
+         "form with "
+         "boxes in doubt stays.\n\nThey move to ProcessFinal. Undo Decision brings all of them back.",
+         "3 Formulare ohne Zweifel annehmen?\n\n2 vom Profil A\n1 vom Profil B: c\n\n2 davon wurden "
+         "geprüft.\n1 Formular mit zweifelhaften Kästchen bleibt.\n\nSie kommen nach ProcessFinal. "
+         "„Entscheidung zurücknehmen“ holt alle zurück."},
+        {"A run takes this page for \"B. C\" (98 %). This profile matches, too: 6 of the 9 box outlines that "
+         "are "
+         "looked for were found.",
+         "Ein Lauf hält diese Seite für „B. C“ (98 %). Auch dieses Profil passt: 6 der 9 gesuchten Umrisse "
+         "von "
+         "Kästchen wurden gefunden."},
+        {"2 of 6 boxes are ticked; the faintest tick has 30.1 %, the fullest empty box 0.0 %.",
+         "2 von 6 Kästchen sind angekreuzt; das schwächste Kreuz hat 30.1 %, das vollste leere Kästchen 0.0 "
+         "%."},
+        {"a: b.tif: unclassified", "a: b.tif: nicht erkannt"},
+        {"Nobody knows this.\nEsc stops.", "Nobody knows this.\nEsc bricht ab."},
         {"A sentence of nobody. Saved.", "A sentence of nobody. Saved."}};
     for (const auto& [english, german] : texts)
         EXPECT_EQ(FromQt(Shown(english)), german);
@@ -149,25 +163,13 @@ QStringList Untranslated(const QWidget& top) {
     return untranslated;
 }
 
-TEST_F(LanguageTest, NothingThatIsShownIsLeftUntranslated) {
+using DialogLanguageTest = test::DialogWalk;
+
+TEST_F(DialogLanguageTest, NothingThatIsShownIsLeftUntranslated) {
     const Marks marks;
-    BringScans();
-    const auto expectNone = [](const QWidget& top, const char* where) {
-        EXPECT_EQ(FromQt(Untranslated(top).join('\n')), "") << where;
-    };
-    Open();
-    expectNone(*window_, "start");
-    ClickThumbnail(1);
-    expectNone(*window_, "profile");
-    Click("Process");
-    EXPECT_TRUE(Find<QLabel>(*window_, "lblSummary").text().contains("1 refused")) << "there is a summary";
-    expectNone(*window_, "run");
-    Click("Review");
-    Press(Find<QTreeView>(*window_, "lvwReview"), Qt::Key_Return);
-    expectNone(*window_, "review");
-    expectNone(SettingsDialog(settings_, store_, files_, nullptr), "settings");
-    expectNone(ExportDialog({}, folders_, nullptr), "export");
-    expectNone(AboutDialog(nullptr), "about");
+    LookAtAll([](const QWidget& window, const char* where) {
+        EXPECT_EQ(FromQt(Untranslated(window).join('\n')), "") << where;
+    });
 }
 
 }  // namespace

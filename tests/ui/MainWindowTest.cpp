@@ -326,8 +326,7 @@ TEST_F(MainWindowTest, TheSummaryOfARunLeadsToEachOfItsFiles) {
     EXPECT_EQ(behind(recognition::FileEnd::Read),
               (Names{"scan1.tif|classified as [Form] with confidence [100.00]",
                      "scan2.tif|classified as [Form] with confidence [100.00]"}));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(list.topLevelItem(1)).center());
+    ClickOn(list, 1);
     EXPECT_EQ(FromQt(window_->windowTitle()), "scan2[*] - Tavrene CheckBoxes") << "open in review";
     EXPECT_EQ(behind(recognition::FileEnd::Refused), Names{"torn.png|Image not in bitmap format"});
     EXPECT_EQ(behind(recognition::FileEnd::NotRecognised), Names{"strange.tif|unclassified"});

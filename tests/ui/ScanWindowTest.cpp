@@ -152,7 +152,8 @@ TEST_F(ScanWindowTest, TheWindowGoesWhileScannersAreStillLookedForButWaitsForPag
         ScanThread::OfProgram().Ask(
             window_.get(), atEnd,
             [&] {
-                const auto longest = std::chrono::milliseconds(atEnd == ScanThread::AtEnd::Wait ? 200 : 20'000);
+                const auto longest =
+                    std::chrono::milliseconds(atEnd == ScanThread::AtEnd::Wait ? 200 : 20'000);
                 return wentBefore = windowIsGone.try_acquire_for(longest);
             },
             [](bool) { ADD_FAILURE() << "nobody is there to be told"; });

@@ -55,6 +55,9 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("Engine", "%L1 boxes added."),
     QT_TRANSLATE_NOOP("Engine", "Draw the first box at the upper left, then draw or click the last at the lower right."),
     QT_TRANSLATE_NOOP("Engine", "All boxes of this grid are there already."),
+    QT_TRANSLATE_NOOP("Engine", "1 box copied; Ctrl+V adds it to a profile."),
+    QT_TRANSLATE_NOOP("Engine", "%L1 boxes copied; Ctrl+V adds them to a profile."),
+    QT_TRANSLATE_NOOP("Engine", "There is no room on the page for the copies there."),
 
     // bringing in
     QT_TRANSLATE_NOOP("Engine", "%1 of %2 scans have names of scans that wait in ProcessIn.\nYes puts the new ones in their place, No gives the new ones other names."),
@@ -71,6 +74,27 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("Engine", "%1 pages of %2 files were brought in to ProcessIn."),
     QT_TRANSLATE_NOOP("Engine", "The rest was cancelled."),
     QT_TRANSLATE_NOOP("Engine", "The clipboard holds no files. Copy scans or folders in a file manager first."),
+    QT_TRANSLATE_NOOP("Engine", "The clipboard holds boxes. Open a profile to add them to it."),
+    QT_TRANSLATE_NOOP("Engine", "1 page was scanned to ProcessIn."),
+    QT_TRANSLATE_NOOP("Engine", "%L1 pages were scanned to ProcessIn."),
+
+    // doubts
+    QT_TRANSLATE_NOOP("Engine", "Looking for the next doubt..."),
+    QT_TRANSLATE_NOOP("Engine", "Looking at forms that were not looked at yet..."),
+    QT_TRANSLATE_NOOP("Engine", "Accepting forms..."),
+    QT_TRANSLATE_NOOP("Engine", "Bringing forms back..."),
+    QT_TRANSLATE_NOOP("Engine", "Esc stops."),
+    QT_TRANSLATE_NOOP("Engine", "Accepted 1 form."),
+    QT_TRANSLATE_NOOP("Engine", "Accepted %L1 forms."),
+    QT_TRANSLATE_NOOP("Engine", "Undo Decision (Ctrl+U) brings them back."),
+    QT_TRANSLATE_NOOP("Engine", "1 form still to be looked at"),
+    QT_TRANSLATE_NOOP("Engine", "%L1 forms still to be looked at"),
+    QT_TRANSLATE_NOOP("Engine", "1 mark was turned round and not confirmed. Leave the sheet without them?"),
+    QT_TRANSLATE_NOOP("Engine", "%L1 marks were turned round and not confirmed. Leave the sheet without them?"),
+    QT_TRANSLATE_NOOP("Engine", "1 form reviewed, 1 box corrected on the sheet."),
+    QT_TRANSLATE_NOOP("Engine", "1 form reviewed, %L1 boxes corrected on the sheet."),
+    QT_TRANSLATE_NOOP("Engine", "%L1 forms reviewed, 1 box corrected on the sheet."),
+    QT_TRANSLATE_NOOP("Engine", "%L1 forms reviewed, %L2 boxes corrected on the sheet."),
 
     // export
     QT_TRANSLATE_NOOP("Engine", "Export Results"),

@@ -43,10 +43,12 @@ Sentence SentenceOf(const QString& english, const QString& translated) {
         if (words.size() > sentence.longestWords.size())
             sentence.longestWords = words;
     };
+    // What is put into a text of one line has no other lines behind it.
+    const char* const any = english.contains('\n') ? "(.+?)" : "([^\n]+?)";
     for (auto found = place.globalMatch(english); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
         takeWords(match.capturedStart());
-        pattern += match.captured(1).isEmpty() ? "(.+?)" : "(\\d+)";
+        pattern += match.captured(1).isEmpty() ? any : "(\\d+)";
         sentence.numbers.push_back(match.captured(2).toInt());
         from = match.capturedEnd();
     }
@@ -95,7 +97,7 @@ class Translation {
         for (const QString& end : {QString("\n"), QString(" "), QString("; ")})
             if (const std::optional<QString> parts = InParts(text, end, depth))
                 return *parts;
-        return text;
+        return BehindName(text, depth);
     }
 
   private:
@@ -138,7 +140,18 @@ class Translation {
             if (const std::optional<QString> head = Known(text.left(at), depth))
                 return *head + end + Of(text.mid(at + end.size()), depth);
         }
+        // A line that nobody knows, or an empty one, leaves those below to be looked up.
+        if (const qsizetype at = text.indexOf(end); end == "\n" && at >= 0)
+            return Of(text.left(at), depth + 1) + end + Of(text.mid(at + 1), depth);
         return std::nullopt;
+    }
+
+    // What is said of a file, behind its name, which can hold any text itself.
+    QString BehindName(const QString& text, int depth) const {
+        for (qsizetype at = text.indexOf(": "); at >= 0; at = text.indexOf(": ", at + 1))
+            if (const std::optional<QString> said = Known(text.mid(at + 2), depth))
+                return text.left(at + 2) + *said;
+        return text;
     }
 
     const Catalogue& catalogue_;

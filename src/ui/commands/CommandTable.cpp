@@ -125,7 +125,7 @@ constexpr std::array kCommands = {
     CommandInfo{C::SortByPlace, T::None, "SortByPlace", Words("Commands", "Sort the boxes row by row from the top of the page down"),
                 M::Arrange, Words("Commands", "&Sort by Place"), "Ctrl+T", "", false, true, kOfBoxes},
     CommandInfo{C::MoveRowsUp, T::None, "MoveRowsUp", Words("Commands", "Move the selected boxes up in the list, and so in the results"),
-                M::Arrange, Words("Commands", "Move &Up in the List"), "Alt+Up", "", false, false, kOfBoxes},
+                M::Arrange, Words("Commands", "&Move Up in the List"), "Alt+Up", "", false, false, kOfBoxes},
     CommandInfo{C::MoveRowsDown, T::None, "MoveRowsDown", Words("Commands", "Move the selected boxes down in the list, and so in the results"),
                 M::Arrange, Words("Commands", "Move D&own in the List"), "Alt+Down", "", false, false, kOfBoxes},
     CommandInfo{C::GroupBoxes, T::None, "GroupBoxes", Words("Commands", "Let the selected boxes answer one question together"),

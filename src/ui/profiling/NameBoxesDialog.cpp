@@ -89,13 +89,15 @@ QWidget* NameBoxesDialog::ListPage() {
     lines_->setPlaceholderText(Tr("NameBoxesDialog", "One name a line, as a column of a table is pasted"));
     lines_->setTabChangesFocus(true);
     connect(lines_, &QPlainTextEdit::textChanged, this, [this] { Update(); });
-    auto* const suggest = new QPushButton("Su&ggest From Print");
+    auto* const suggest = new QPushButton(Tr("NameBoxesDialog", "Su&ggest From Print"));
     suggest->setObjectName("cmdSuggest");
     suggest->setAutoDefault(false);
     const QString whyNot = WhyNoPrintIsRead();
     suggest->setEnabled(whyNot.isEmpty());
-    suggest->setToolTip(whyNot.isEmpty() ? "Fills the list with the words that are printed beside the boxes"
-                                         : whyNot);
+    suggest->setToolTip(
+        whyNot.isEmpty()
+            ? Tr("NameBoxesDialog", "Fills the list with the words that are printed beside the boxes")
+            : whyNot);
     connect(suggest, &QPushButton::clicked, this, [this] { SuggestFromPrint(); });
     auto* const page = new QWidget;
     auto* const column = new QVBoxLayout(page);
@@ -118,7 +120,7 @@ void NameBoxesDialog::Build() {
     ways_->setObjectName("tabWays");
     ways_->addTab(PatternPage(), Tr("NameBoxesDialog", "P&attern"));
     ways_->addTab(ListPage(), Tr("NameBoxesDialog", "Li&st"));
-    ways_->addTab(ReplacePage(), Tr("NameBoxesDialog", "Find and Repla&ce"));
+    ways_->addTab(ReplacePage(), Tr("NameBoxesDialog", "F&ind and Replace"));
     connect(ways_, &QTabWidget::currentChanged, this, [this] { Update(); });
     auto* const across = new QRadioButton(Tr("NameBoxesDialog", "Row &by row"));
     across->setObjectName("optAcross");
@@ -175,7 +177,7 @@ void NameBoxesDialog::SuggestFromPrint() {
     for (const profiles::NewName& name : profiles::NamesFromPrint(boxes_, cells, words))
         names[name.number] = ToQt(name.name);
     if (names.empty()) {
-        outcome_->setText("No print was found beside the boxes.");
+        outcome_->setText(Tr("NameBoxesDialog", "No print was found beside the boxes."));
         return;
     }
     QStringList lines;
@@ -226,7 +228,8 @@ void NameBoxesDialog::Update() {
     if (troubles.texts.size() > kMostTroubles)
         text += '\n' + Tr("NameBoxesDialog", "... and %1 more.").arg(troubles.texts.size() - kMostTroubles);
     if (LosesCharacters())
-        text += "\nDouble quotes, < and & are left out: no profile can hold them.";
+        text +=
+            '\n' + Tr("NameBoxesDialog", "Double quotes, < and & are left out: no profile can hold them.");
     outcome_->setText(text);
     rename_->setEnabled(!names_.empty() && !troubles.mayNotBe);
     preview_(names_, troubles.numbers);

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "ui/base/BusyCursor.h"
+#include "ui/base/QtText.h"
 
 namespace tavrene::ui {
 namespace {
@@ -18,7 +19,9 @@ QString Reader() {
 }  // namespace
 
 QString WhyNoPrintIsRead() {
-    return Reader().isEmpty() ? "The program tesseract, which reads print, is not installed." : QString();
+    return Reader().isEmpty()
+               ? Tr("NameBoxesDialog", "The program tesseract, which reads print, is not installed.")
+               : QString();
 }
 
 ReadPrint ReadPrintOf(const QString& image, QWidget& window, int limit) {
@@ -29,9 +32,10 @@ ReadPrint ReadPrintOf(const QString& image, QWidget& window, int limit) {
     environment.insert("OMP_THREAD_LIMIT", "1");
     reader.setProcessEnvironment(environment);
     // Modal, so that nothing else is done to the profile meanwhile.
-    QProgressDialog box("Reading what is printed beside the boxes...", "Cancel", 0, 0, &window);
+    QProgressDialog box(Tr("NameBoxesDialog", "Reading what is printed beside the boxes..."),
+                        Tr("NameBoxesDialog", "Cancel"), 0, 0, &window);
     box.setObjectName("PrintProgress");
-    box.setWindowTitle("Name Boxes");
+    box.setWindowTitle(Tr("NameBoxesDialog", "Name Boxes"));
     QObject::connect(&reader, &QProcess::finished, &box, &QDialog::accept);
     QObject::connect(&reader, &QProcess::errorOccurred, &box, &QDialog::accept);
     bool isLate = false;
@@ -49,11 +53,11 @@ ReadPrint ReadPrintOf(const QString& image, QWidget& window, int limit) {
         reader.waitForFinished();
     }
     if (isLate)
-        return {{}, "Reading the print takes too long; it was given up."};
+        return {{}, Tr("NameBoxesDialog", "Reading the print takes too long; it was given up.")};
     if (!isDone)
         return {};
     if (reader.error() != QProcess::UnknownError || reader.exitCode() != 0)
-        return {{}, "The program tesseract could not read the specimen image."};
+        return {{}, Tr("NameBoxesDialog", "The program tesseract could not read the specimen image.")};
     return {reader.readAllStandardOutput().toStdString(), {}};
 }
 

@@ -13,6 +13,7 @@
 #include "ui/base/BusyCursor.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -23,7 +24,10 @@ using recognition::MarkReading;
 // Zeros at all empty boxes would cover what is printed beside them.
 constexpr double kLeastShown = 0.5;
 
-constexpr const char* kScanFilter = "Scans (*.tif *.jpg *.png *.gif *.pcx *.bmp);;All Files (*)";
+QString ScanFilter() {
+    return Tr("TestProfileDialog", "Scans") + " (*.tif *.jpg *.png *.gif *.pcx *.bmp);;" +
+           Tr("TestProfileDialog", "All files") + " (*)";
+}
 
 template <typename Control>
 Control* Named(Control* control, const char* name, const QString& accessible) {
@@ -63,22 +67,28 @@ TestProfileDialog::TestProfileDialog(TrialContext context, QWidget* parent)
     : QDialog(parent),
       context_(std::move(context)),
       precise_(context_.files, options_),
-      scans_(Named(new QListWidget, "lvwScans", "Scans")),
-      page_(Named(new ImageView(context_.files, this), "TestPage", "Scan with the boxes of the profile")),
-      boxes_(Named(new BoxListView(this), "TestBoxes", "Check boxes of the scan")),
-      plain_(Named(new QRadioButton("Plai&n reading"), "optPlain", "Plain reading")),
-      exact_(Named(new QRadioButton("Precise &Alignment"), "optPrecise", "Precise Alignment")),
-      threshold_(Named(new QSlider(Qt::Horizontal), "sldThreshold", "Fill threshold in percent")),
+      scans_(Named(new QListWidget, "lvwScans", Tr("TestProfileDialog", "Scans"))),
+      page_(Named(new ImageView(context_.files, this), "TestPage",
+                  Tr("TestProfileDialog", "Scan with the boxes of the profile"))),
+      boxes_(Named(new BoxListView(this), "TestBoxes", Tr("TestProfileDialog", "Check boxes of the scan"))),
+      plain_(Named(new QRadioButton(Tr("TestProfileDialog", "Plai&n reading")), "optPlain",
+                   Tr("TestProfileDialog", "Plain reading"))),
+      exact_(Named(new QRadioButton(Tr("TestProfileDialog", "Precise &Alignment")), "optPrecise",
+                   Tr("TestProfileDialog", "Precise Alignment"))),
+      threshold_(Named(new QSlider(Qt::Horizontal), "sldThreshold",
+                       Tr("TestProfileDialog", "Fill threshold in percent"))),
       percent_(new QLabel),
       verdict_(Sentence("lblVerdict")),
       counts_(Sentence("lblCounts")),
       use_(new QPushButton) {
     setObjectName("frmTestProfile");
-    setWindowTitle("Test Profile " + ToQt(context_.profiles[context_.tried].Name));
+    setWindowTitle(
+        Tr("TestProfileDialog", "Test Profile %1").arg(ToQt(context_.profiles[context_.tried].Name)));
     Build();
     AddScans(ScansIn(context_.files, context_.folder));
     if (scans_->count() == 0)
-        ShowNothing("There are no scans in " + ToQt(context_.folder) + ". Choose some with Other Scans.");
+        ShowNothing(Tr("TestProfileDialog", "There are no scans in %1. Choose some with Other Scans.")
+                        .arg(ToQt(context_.folder)));
 }
 
 void TestProfileDialog::Build() {
@@ -112,11 +122,12 @@ QWidget* TestProfileDialog::ScanColumn() {
     column->setContentsMargins(0, 0, 0, 0);
     scans_->setTextElideMode(Qt::ElideMiddle);
     column->addWidget(scans_, 1);
-    auto* const other = Named(new QPushButton("&Other Scans..."), "cmdOtherScans", "Other scans");
+    auto* const other = Named(new QPushButton(Tr("TestProfileDialog", "&Other Scans...")), "cmdOtherScans",
+                              Tr("TestProfileDialog", "Other scans"));
     other->setAutoDefault(false);
     connect(other, &QPushButton::clicked, this, [this] { ChooseScans(); });
     column->addWidget(other);
-    column->addWidget(new QLabel("PgUp, PgDown: other scans"));
+    column->addWidget(new QLabel(Tr("TestProfileDialog", "PgUp, PgDown: other scans")));
     return pane;
 }
 
@@ -129,7 +140,7 @@ QWidget* TestProfileDialog::Controls() {
     threshold_->setRange(1, 100);
     threshold_->setValue(context_.threshold);
     percent_->setMinimumWidth(percent_->fontMetrics().horizontalAdvance("100 %"));
-    auto* const caption = new QLabel("Fill &threshold");
+    auto* const caption = new QLabel(Tr("TestProfileDialog", "Fill &threshold"));
     caption->setBuddy(threshold_);
     row->addWidget(plain_);
     row->addWidget(exact_);
@@ -145,12 +156,15 @@ QWidget* TestProfileDialog::Controls() {
         ShowMarks();
     });
     row->addWidget(use_);
-    auto* const close = Named(new QPushButton("Close"), "cmdClose", "Close");
+    auto* const close = Named(new QPushButton(Tr("TestProfileDialog", "Close")), "cmdClose",
+                              Tr("TestProfileDialog", "Close"));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    row->addWidget(close);
-    column->addWidget(counts_);
+    auto* const foot = new QHBoxLayout;
+    foot->addWidget(counts_, 1);
+    foot->addWidget(close, 0, Qt::AlignBottom);
     column->addLayout(row);
+    column->addLayout(foot);
     return pane;
 }
 
@@ -169,8 +183,8 @@ void TestProfileDialog::AddScans(const std::vector<std::string>& paths) {
 }
 
 void TestProfileDialog::ChooseScans() {
-    const QStringList chosen =
-        QFileDialog::getOpenFileNames(this, "Scans", ToQt(context_.folder), kScanFilter);
+    const QStringList chosen = QFileDialog::getOpenFileNames(this, Tr("TestProfileDialog", "Scans"),
+                                                             ToQt(context_.folder), ScanFilter());
     std::vector<std::string> paths;
     for (const QString& path : chosen)
         paths.push_back(FromQt(path));
@@ -200,12 +214,12 @@ void TestProfileDialog::ShowScan() {
     const std::string failure = app::FailureOf([&] {
         auto read = imaging::ReadPage(context_.files, FromQt(chosen->data(Qt::UserRole).toString()));
         if (const auto* const error = std::get_if<imaging::PageError>(&read))
-            ShowNothing(name + ": " + ToQt(std::string(imaging::ReasonOf(*error))));
+            ShowNothing(name + ": " + Shown(imaging::ReasonOf(*error)));
         else
             scan_ = std::get<imaging::Page>(std::move(read));
     });
     if (!failure.empty())
-        ShowNothing(name + ": " + ToQt(failure));
+        ShowNothing(name + ": " + Shown(failure));
     else if (scan_)
         ReadScan();
 }
@@ -218,14 +232,14 @@ void TestProfileDialog::ReadScan() {
     const std::string failure = app::FailureOf(
         [&] { trial_ = recognition::TryProfile(*scan_, context_.profiles, context_.tried, way, precise_); });
     if (!failure.empty()) {
-        ShowNothing(ToQt(failure));
+        ShowNothing(Shown(failure));
         return;
     }
     page_->ClearRects();
     page_->ShowPicture(scan_->bitmap);
     page_->TurnPage(trial_.turned);
     boxes_->ClearRows(profiles::BoxColumns::NameValInk);
-    verdict_->setText(ToQt(trial_.verdict));
+    verdict_->setText(Shown(trial_.verdict));
     ShowMarks();
 }
 
@@ -233,9 +247,9 @@ void TestProfileDialog::ReadScan() {
 void TestProfileDialog::ShowMarks() {
     const int threshold = threshold_->value();
     percent_->setText(QString::number(threshold) + " %");
-    use_->setText("Let Runs &Use " + QString::number(threshold) + " %");
+    use_->setText(Tr("TestProfileDialog", "Let Runs &Use %1 %").arg(threshold));
     use_->setEnabled(threshold != context_.threshold);
-    use_->setToolTip("Runs use " + QString::number(context_.threshold) + " % now");
+    use_->setToolTip(Tr("TestProfileDialog", "Runs use %1 % now").arg(context_.threshold));
     std::map<int, BoxLabel> labels;
     int number = 0;
     for (const MarkReading& mark : trial_.marks) {
@@ -248,7 +262,7 @@ void TestProfileDialog::ShowMarks() {
             labels[number] = {QString::number(mark.fill, 'f', 0) + '%'};
     }
     page_->Boxes().ShowLabels(std::move(labels));
-    counts_->setText(trial_.isRead ? ToQt(recognition::CountsOf(trial_.marks, threshold)) : QString());
+    counts_->setText(trial_.isRead ? Shown(recognition::CountsOf(trial_.marks, threshold)) : QString());
 }
 
 }  // namespace tavrene::ui

@@ -76,6 +76,9 @@ ReviewPane::ReviewPane(QWidget* parent)
     below->addWidget(choice_);
     tabs_->addTab(forms, Tr("ReviewPane", "Forms"));
     tabs_->addTab(unread_, Tr("ReviewPane", "Not read"));
+    // Less than what lists ask for by themselves, for the summary of a run may lie below on a small screen.
+    for (QWidget* const list : {static_cast<QWidget*>(list_), static_cast<QWidget*>(&unread_->List())})
+        list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     FillingColumn(this)->addWidget(tabs_);
 }
 

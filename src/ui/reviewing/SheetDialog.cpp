@@ -12,6 +12,7 @@
 #include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 #include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
@@ -29,9 +30,9 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
       view_(new SheetView(this)),
       about_(new QLabel(this)),
       progress_(new QLabel(this)),
-      confirm_(new QPushButton("&Confirm Screen", this)) {
+      confirm_(new QPushButton(Tr("SheetDialog", "&Confirm Screen"), this)) {
     setObjectName("frmSheet");
-    setWindowTitle("Sheet of Doubts");
+    setWindowTitle(Tr("SheetDialog", "Sheet of Doubts"));
     LayOut();
     view_->SetListener({[this](int row) { Open(row); }, [this] { Update(); }});
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Update(); });
@@ -59,11 +60,11 @@ QWidget* SheetDialog::Head() {
     auto* const row = new QHBoxLayout(head);
     row->setContentsMargins(0, 0, 0, 0);
     subject_->setObjectName("cboSheet");
-    subject_->setAccessibleName("Which boxes the sheet shows");
-    subject_->setToolTip("The boxes in doubt, or those of one name of all forms");
-    subject_->addItem("Boxes in doubt");
+    subject_->setAccessibleName(Tr("SheetDialog", "Which boxes the sheet shows"));
+    subject_->setToolTip(Tr("SheetDialog", "The boxes in doubt, or those of one name of all forms"));
+    subject_->addItem(Tr("SheetDialog", "Boxes in doubt"));
     for (const std::string& name : sheet_.BoxNames())
-        subject_->addItem("Box " + ToQt(name), ToQt(name));
+        subject_->addItem(Tr("SheetDialog", "Box %1").arg(ToQt(name)), ToQt(name));
     new CalmWheel(*subject_);
     tabs_->setObjectName("tabSheet");
     tabs_->addTab({});
@@ -89,9 +90,10 @@ QWidget* SheetDialog::Foot() {
     confirm->setShortcuts({QKeySequence("Ctrl+Return"), QKeySequence("Ctrl+Enter")});
     connect(confirm, &QAction::triggered, this, [this] { Confirm(); });
     addAction(confirm);
-    confirm_->setToolTip("What is on the screen is as it is shown now: save it (Ctrl+Enter)");
+    confirm_->setToolTip(
+        Tr("SheetDialog", "What is on the screen is as it is shown now: save it (Ctrl+Enter)"));
     confirm_->setAutoDefault(false);
-    auto* const close = new QPushButton("Close", this);
+    auto* const close = new QPushButton(Tr("SheetDialog", "Close"), this);
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     row->addWidget(about_, 1);
@@ -177,19 +179,21 @@ std::string SheetDialog::Report() const {
 }
 
 void SheetDialog::Update() {
-    static constexpr std::array kTitles = {"Marked (%1)", "Not marked (%1)"};
+    static constexpr std::array kTitles = {QT_TRANSLATE_NOOP("SheetDialog", "Marked (%1)"),
+                                           QT_TRANSLATE_NOOP("SheetDialog", "Not marked (%1)")};
     for (std::size_t k = 0; k < parts_.size(); ++k)
-        tabs_->setTabText(static_cast<int>(k), QString(kTitles[k]).arg(parts_[k]->rowCount()));
+        tabs_->setTabText(static_cast<int>(k), Tr("SheetDialog", kTitles[k]).arg(parts_[k]->rowCount()));
     const QModelIndex current = view_->currentIndex();
     const bool isEmpty = Part().rowCount() == 0;
     const QString about = current.data(SheetModel::kForm).toString() + "  " +
                           current.data(SheetModel::kBox).toString() + "  " +
                           current.data(SheetModel::kReason).toString();
-    about_->setText(isEmpty ? "Nothing is in doubt here."
-                            : about.trimmed() + "   Space turns the mark round, Enter opens the form.");
+    about_->setText(isEmpty ? Tr("SheetDialog", "Nothing is in doubt here.")
+                            : about.trimmed() + "   " +
+                                  Tr("SheetDialog", "Space turns the mark round, Enter opens the form."));
     const auto left = sheet_.FormsLeft();
     progress_->setText(left == 0 ? QString()
-                                 : ToQt(Counted(left, "form", "forms") + " still to be looked at"));
+                                 : Shown(Counted(left, "form", "forms") + " still to be looked at"));
     confirm_->setEnabled(!isEmpty);
     if (view_->model() != nullptr)
         view_->WantPictures();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -12,7 +13,7 @@ QString NameOfForm(const review::SheetBox& box) {
 }
 
 QString ReasonOf(const review::SheetBox& box) {
-    return box.Reason ? ToQt(review::TextOf(*box.Reason)) : QString();
+    return box.Reason ? Shown(review::TextOf(*box.Reason)) : QString();
 }
 
 }  // namespace
@@ -99,7 +100,10 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return ToolTipOf(NameOfForm(box) + (box.Reason ? ": " + ReasonOf(box) : ""));
         case Qt::AccessibleTextRole:
-            return NameOfForm(box) + (box.IsChecked ? ", marked, " : ", not marked, ") + ReasonOf(box);
+            return QStringList{NameOfForm(box),
+                               box.IsChecked ? Tr("SheetDialog", "marked") : Tr("SheetDialog", "not marked"),
+                               ReasonOf(box)}
+                .join(", ");
         default:
             return {};
     }

@@ -4,13 +4,14 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ui/base/QtText.h"
 #include "ui/reviewing/SheetCell.h"
 
 namespace tavrene::ui {
 
 SheetView::SheetView(QWidget* parent) : QListView(parent) {
     setObjectName("lvwSheet");
-    setAccessibleName("Boxes to judge");
+    setAccessibleName(Tr("SheetDialog", "Boxes to judge"));
     setFlow(QListView::LeftToRight);
     setWrapping(true);
     setResizeMode(QListView::Adjust);

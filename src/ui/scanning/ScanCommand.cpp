@@ -1,6 +1,8 @@
 #include "ui/scanning/ScanCommand.h"
 
 #include <QMenu>
+
+#include "ui/base/QtText.h"
 #include "ui/commands/Counted.h"
 
 namespace tavrene::ui {
@@ -25,7 +27,7 @@ ScanCommand::ScanCommand(QWidget& window, const Context& context)
 
 void ScanCommand::Look() {
     if (sane_ == nullptr) {
-        Offer("Scanning needs the scanner library SANE (libsane1), which is not installed");
+        Offer(Tr("ScanDialog", "Scanning needs the scanner library SANE (libsane1), which is not installed"));
         return;
     }
     constexpr double kAgain = 60;
@@ -39,7 +41,10 @@ void ScanCommand::Look() {
         this, ScanThread::AtEnd::LetGo, [&sane = *sane_] { return intake::Scanners(sane).Find().empty(); },
         [this](bool isNone) {
             isLooking_ = false;
-            Offer(isNone ? "No scanner was found. Switch it on, connect it and open this menu again a minute later" : "");
+            Offer(isNone ? Tr("ScanDialog",
+                              "No scanner was found. Switch it on, connect it and open this menu again a "
+                              "minute later")
+                         : QString());
         });
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/Reason.h"
 #include "ui/base/QtText.h"
+#include "ui/base/Shown.h"
 
 namespace tavrene::ui {
 namespace {
@@ -22,12 +23,14 @@ struct Paper {
 };
 
 constexpr std::array kPapers = {Paper{"A4", 210, 297}, Paper{"A5", 148, 210}, Paper{"Letter", 215.9, 279.4},
-                                Paper{"Legal", 215.9, 355.6}, Paper{"All that the scanner takes", 0, 0}};
+                                Paper{"Legal", 215.9, 355.6},
+                                Paper{QT_TRANSLATE_NOOP("ScanDialog", "All that the scanner takes"), 0, 0}};
 
 QString CountedPages(std::size_t pages) {
     if (pages == 0)
-        return "No page has come in.";
-    return QString::number(pages) + (pages == 1 ? " page is in ProcessIn." : " pages are in ProcessIn.");
+        return Tr("ScanDialog", "No page has come in.");
+    return pages == 1 ? Tr("ScanDialog", "1 page is in ProcessIn.")
+                      : Tr("ScanDialog", "%1 pages are in ProcessIn.").arg(pages);
 }
 
 }  // namespace
@@ -36,20 +39,20 @@ ScanDialog::ScanDialog(Context context, ScanChoice choice, QWidget* parent)
     : QDialog(parent),
       context_(std::move(context)),
       choice_(std::move(choice)),
-      devices_(List("cboScanner", "Scanner")),
-      sources_(List("cboSource", "Source")),
-      modes_(List("cboScanMode", "Mode")),
-      resolutions_(List("cboResolution", "Resolution")),
-      papers_(List("cboPaper", "Paper")) {
+      devices_(List("cboScanner", Tr("ScanDialog", "Scanner"))),
+      sources_(List("cboSource", Tr("ScanDialog", "Source"))),
+      modes_(List("cboScanMode", Tr("ScanDialog", "Mode"))),
+      resolutions_(List("cboResolution", Tr("ScanDialog", "Resolution"))),
+      papers_(List("cboPaper", Tr("ScanDialog", "Paper"))) {
     setObjectName("frmScan");
-    setWindowTitle("Scan");
+    setWindowTitle(Tr("ScanDialog", "Scan"));
     BuildLayout();
     connect(devices_, &QComboBox::activated, this, [this] { OpenDevice(); });
     connect(again_, &QPushButton::clicked, this, [this] { Look(); });
     connect(scan_, &QPushButton::clicked, this, [this] { Scan(); });
     connect(cancel_, &QPushButton::clicked, this, [this] {
         session_->isCancelled = true;
-        told_->setText("Cancelling...");
+        told_->setText(Tr("ScanDialog", "Cancelling..."));
     });
     connect(close_, &QPushButton::clicked, this, &QDialog::reject);
     Look();
@@ -84,12 +87,12 @@ void ScanDialog::BuildLayout() {
     devices_->setMinimumContentsLength(36);
     device->addWidget(devices_, 1);
     device->addWidget(again_);
-    rows->addRow("Sca&nner:", device);
+    rows->addRow(Tr("ScanDialog", "Sca&nner:"), device);
     qobject_cast<QLabel*>(rows->labelForField(device))->setBuddy(devices_);
-    rows->addRow("S&ource:", sources_);
-    rows->addRow("&Mode:", modes_);
-    rows->addRow("&Resolution:", resolutions_);
-    rows->addRow("&Paper:", papers_);
+    rows->addRow(Tr("ScanDialog", "S&ource:"), sources_);
+    rows->addRow(Tr("ScanDialog", "&Mode:"), modes_);
+    rows->addRow(Tr("ScanDialog", "&Resolution:"), resolutions_);
+    rows->addRow(Tr("ScanDialog", "&Paper:"), papers_);
     layout->addLayout(rows);
     told_->setObjectName("lblScan");
     told_->setWordWrap(true);
@@ -99,7 +102,7 @@ void ScanDialog::BuildLayout() {
     busy_->setObjectName("barScan");
     busy_->setRange(0, 0);
     busy_->setTextVisible(false);
-    busy_->setAccessibleName("The scanner is at work");
+    busy_->setAccessibleName(Tr("ScanDialog", "The scanner is at work"));
     QSizePolicy policy = busy_->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     busy_->setSizePolicy(policy);
@@ -119,7 +122,7 @@ void ScanDialog::BuildLayout() {
 }
 
 void ScanDialog::Look() {
-    SetState(State::Looking, "Looking for scanners...");
+    SetState(State::Looking, Tr("ScanDialog", "Looking for scanners..."));
     context_.thread.Ask(
         this, ScanThread::AtEnd::LetGo,
         [session = session_, &sane = context_.sane] {
@@ -138,7 +141,7 @@ void ScanDialog::ShowDevices(std::vector<intake::ScanDevice> devices) {
     for (const intake::ScanDevice& device : found_)
         devices_->addItem(ToQt(device.label));
     if (found_.empty()) {
-        SetState(State::None, "No scanner was found. Is it switched on and connected?");
+        SetState(State::None, Tr("ScanDialog", "No scanner was found. Is it switched on and connected?"));
         return;
     }
     devices_->setCurrentIndex(std::max(devices_->findText(choice_[devices_->objectName()]), 0));
@@ -146,7 +149,7 @@ void ScanDialog::ShowDevices(std::vector<intake::ScanDevice> devices) {
 }
 
 void ScanDialog::OpenDevice() {
-    SetState(State::Opening, "Asking the scanner what it can do...");
+    SetState(State::Opening, Tr("ScanDialog", "Asking the scanner what it can do..."));
     context_.thread.Ask(
         this, ScanThread::AtEnd::LetGo,
         [session = session_, &sane = context_.sane,
@@ -168,7 +171,7 @@ void ScanDialog::Fill(QComboBox& list, const QStringList& texts, const QString& 
     const int before = list.findText(choice_[list.objectName()]);
     list.setCurrentIndex(std::max(before < 0 ? list.findText(usual, Qt::MatchContains) : before, 0));
     if (texts.isEmpty())
-        list.addItem("As the scanner is set");
+        list.addItem(Tr("ScanDialog", "As the scanner is set"));
 }
 
 void ScanDialog::ShowChoices(const Opened& opened) {
@@ -180,19 +183,19 @@ void ScanDialog::ShowChoices(const Opened& opened) {
     for (const std::string& source : choices_.sources)
         sources += ToQt(source);
     for (const intake::ScanMode& mode : choices_.modes)
-        modes += ToQt(mode.label);
+        modes += Shown(mode.label);
     for (const int resolution : choices_.resolutions)
         resolutions += QString::number(resolution) + " dpi";
     for (const Paper& paper : kPapers)
-        papers += paper.name;
+        papers += Tr("ScanDialog", paper.name);
     Fill(*sources_, sources, "Feeder");
-    Fill(*modes_, modes, "Black and white");
+    Fill(*modes_, modes, Shown("Black and white"));
     Fill(*resolutions_, resolutions, "300 dpi");
     Fill(*papers_, papers, "A4");
     if (opened.reason.empty())
-        SetState(State::Ready, "Pages go to ProcessIn as they are scanned.");
+        SetState(State::Ready, Tr("ScanDialog", "Pages go to ProcessIn as they are scanned."));
     else
-        SetState(State::Unusable, ToQt(opened.reason));
+        SetState(State::Unusable, Shown(opened.reason));
 }
 
 void ScanDialog::Remember() {
@@ -213,7 +216,7 @@ intake::ScanSettings ScanDialog::Settings() const {
 void ScanDialog::Scan() {
     Remember();
     session_->isCancelled = false;
-    SetState(State::Scanning, "Scanning page 1...");
+    SetState(State::Scanning, Tr("ScanDialog", "Scanning page %1...").arg(1));
     const auto watch = [session = session_, guard = QPointer(this),
                         before = std::size_t{0}](std::size_t pages) mutable {
         // It is asked many times a page.
@@ -240,12 +243,12 @@ void ScanDialog::Scan() {
 
 void ScanDialog::ShowPages(std::size_t pages) {
     if (state_ == State::Scanning && !session_->isCancelled)
-        told_->setText(CountedPages(pages) + " Scanning page " + QString::number(pages + 1) + "...");
+        told_->setText(CountedPages(pages) + ' ' + Tr("ScanDialog", "Scanning page %1...").arg(pages + 1));
 }
 
 void ScanDialog::ShowEnd(const intake::Scanned& scanned) {
     pages_ += scanned.images.size();
-    QString text = scanned.isCancelled ? "Cancelled." : ToQt(scanned.reason);
+    QString text = scanned.isCancelled ? Tr("ScanDialog", "Cancelled.") : Shown(scanned.reason);
     if (!text.isEmpty())
         text += ' ';
     SetState(State::Ready, text + CountedPages(scanned.images.size()));

@@ -15,6 +15,7 @@
 #include "app/Files.h"
 #include "app/WorkingFolders.h"
 #include "intake/ScanIn.h"
+#include "ui/base/QtText.h"
 #include "ui/scanning/ScanThread.h"
 
 namespace tavrene::ui {
@@ -89,10 +90,10 @@ class ScanDialog final : public QDialog {
     QComboBox* papers_;
     QLabel* told_ = new QLabel;
     QProgressBar* busy_ = new QProgressBar;
-    QPushButton* again_ = new QPushButton("&Look Again");
-    QPushButton* scan_ = new QPushButton("&Scan");
-    QPushButton* cancel_ = new QPushButton("C&ancel");
-    QPushButton* close_ = new QPushButton("&Close");
+    QPushButton* again_ = new QPushButton(Tr("ScanDialog", "&Look Again"));
+    QPushButton* scan_ = new QPushButton(Tr("ScanDialog", "&Scan"));
+    QPushButton* cancel_ = new QPushButton(Tr("ScanDialog", "C&ancel"));
+    QPushButton* close_ = new QPushButton(Tr("ScanDialog", "&Close"));
 };
 
 }  // namespace tavrene::ui

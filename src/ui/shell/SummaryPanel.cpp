@@ -86,8 +86,11 @@ void SummaryPanel::ShowList(const QString& link) {
     for (const recognition::FileReport& file : commands::FilesBehind(summary_, FromQt(link)))
         rows.push_back({file.name, file.reason});
     const int lines = static_cast<int>(std::min(rows.size(), kMostLines));
-    // On a small screen the page keeps the greater part.
-    files_->setFixedHeight(std::min(files_->HeightOf(lines), window()->height() / 4));
+    // On a small screen the page keeps the greater part; a window that is made smaller takes it from the
+    // list.
+    files_->setMinimumHeight(files_->HeightOf(1));
+    files_->setMaximumHeight(
+        std::max(files_->HeightOf(1), std::min(files_->HeightOf(lines), window()->height() / 4)));
     files_->setVisible(lines > 0);
     files_->Show(std::move(rows));
 }
