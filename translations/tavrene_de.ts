@@ -2774,8 +2774,8 @@ oder lesen Sie mit „Verarbeiten“ die Scans, die im Ordner ProcessIn warten.<
         <translation>Zum Scannen fehlt die Scannerbibliothek SANE (libsane1)</translation>
     </message>
     <message>
-        <source>No scanner was found. Switch it on, connect it and open this menu again</source>
-        <translation>Kein Scanner gefunden. Schalten Sie ihn ein, schließen Sie ihn an und öffnen Sie dieses Menü noch einmal</translation>
+        <source>No scanner was found. Switch it on, connect it and open this menu again a minute later</source>
+        <translation>Kein Scanner gefunden. Schalten Sie ihn ein, schließen Sie ihn an und öffnen Sie dieses Menü nach einer Minute noch einmal</translation>
     </message>
     <message>
         <source>All that the scanner takes</source>

@@ -69,7 +69,7 @@ Scanned ScanIn(app::Files& files, const app::WorkingFolders& folders, const app:
     scanner.Set(settings);
     // What is there stays, so it is told even where a page could not be written.
     const std::string failure = app::FailureOf([&] {
-        while (go.Take(scanner.Next(goOn)) && IsFeeder(settings.source)) {
+        while (go.Take(scanner.Next(goOn)) && scanner.FeedsFrom(settings.source)) {
         }
     });
     scanner.Stop();

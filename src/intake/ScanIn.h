@@ -24,7 +24,8 @@ using ScanWatch = std::function<bool(std::size_t pages)>;
 /// Makes an image in `ProcessIn` of each page that the scanner gives: one, or as many as lie in its feeder.
 /// Each is there as soon as it is whole, and stays whatever becomes of those behind it. They are named after
 /// the time ("scan-20240305-140907-p001.tif"); no name is given that an image or result of the processing
-/// folders has. Throws `app::FileError` when the working folders cannot be listed or a page not be written.
+/// folders has. Throws what `Scanner::Set` throws, and `app::FileError` when the working folders cannot be
+/// listed.
 Scanned ScanIn(app::Files& files, const app::WorkingFolders& folders, const app::LocalTime& now,
                Scanner& scanner, const ScanSettings& settings, const ScanWatch& watch);
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
 #include <span>
 #include <stdexcept>
 #include <string_view>
@@ -91,11 +92,15 @@ std::variant<Bitmap, Reason> PictureOf(std::span<const SANE_Byte> data, const SA
     return picture;
 }
 
-// A page that is put together of several frames, or of samples of another size, is none that can be taken.
+// A page that is put together of several frames, or of samples of another size, is none that can be taken,
+// nor one whose lines are shorter than its width.
 bool CanBeTaken(const SANE_Parameters& kind) {
     const bool isWhole = kind.format == SANE_FRAME_GRAY || kind.format == SANE_FRAME_RGB;
     const bool isBits = kind.format == SANE_FRAME_GRAY && kind.depth == 1;
-    return isWhole && kind.last_frame && (isBits || kind.depth == 8 || kind.depth == 16);
+    const std::int64_t samples = kind.format == SANE_FRAME_RGB ? 3 : 1;
+    const std::int64_t bits = samples * kind.pixels_per_line * kind.depth;
+    return isWhole && kind.last_frame && (isBits || kind.depth == 8 || kind.depth == 16) &&
+           kind.bytes_per_line >= (bits + 7) / 8;
 }
 
 std::string_view WhatItMeans(SANE_Status status) {
@@ -121,11 +126,19 @@ std::string_view WhatItMeans(SANE_Status status) {
     }
 }
 
-}  // namespace
-
-bool IsFeeder(const std::string& source) {
-    return HasOneOf(source, {"adf", "feeder", "duplex"});
+Reason ReasonOf(SANE_Status status) {
+    return {std::string(WhatItMeans(status))};
 }
+
+// With what it has instead, the pages would be others than the person means.
+void Demand(const std::string& what, SANE_Status status) {
+    if (status == SANE_STATUS_INVAL || status == SANE_STATUS_UNSUPPORTED)
+        throw std::runtime_error("The scanner refuses the " + what + " that was chosen.");
+    if (status != SANE_STATUS_GOOD)
+        throw std::runtime_error(ReasonOf(status).text);
+}
+
+}  // namespace
 
 Scanners::Scanners(const SaneLibrary& sane) : sane_(sane) {
     SANE_Int version = 0;
@@ -144,13 +157,16 @@ std::vector<ScanDevice> Scanners::Find() {
     // Cameras come with the scanners.
     for (; *list != nullptr; ++list)
         if (!HasOneOf((*list)->type, {"camera"}))
-            devices.push_back({(*list)->name, std::string((*list)->vendor) + " " + (*list)->model + " (" +
-                                                  (*list)->name + ")"});
+            devices.push_back(
+                {(*list)->name,
+                 std::string((*list)->vendor) + " " + (*list)->model + " (" + (*list)->name + ")",
+                 HasOneOf((*list)->type, {"sheetfed"})});
     return devices;
 }
 
-Scanner::Scanner(const SaneLibrary& sane, const std::string& device) : sane_(sane) {
-    if (const SANE_Status status = sane_.Open(device.c_str(), &handle_); status != SANE_STATUS_GOOD)
+Scanner::Scanner(const SaneLibrary& sane, const ScanDevice& device)
+    : sane_(sane), isNothingButFeeder_(device.isNothingButFeeder) {
+    if (const SANE_Status status = sane_.Open(device.name.c_str(), &handle_); status != SANE_STATUS_GOOD)
         throw std::runtime_error(ReasonOf(status).text);
 }
 
@@ -158,8 +174,8 @@ Scanner::~Scanner() {
     sane_.Close(handle_);
 }
 
-Reason Scanner::ReasonOf(SANE_Status status) const {
-    return {std::string(WhatItMeans(status))};
+bool Scanner::FeedsFrom(const std::string& source) const {
+    return source.empty() ? isNothingButFeeder_ : HasOneOf(source, {"adf", "feeder", "duplex"});
 }
 
 Scanner::Option Scanner::Find(const char* name) const {
@@ -173,19 +189,19 @@ Scanner::Option Scanner::Find(const char* name) const {
     }
 }
 
-void Scanner::Choose(const char* name, const std::string& value) {
+SANE_Status Scanner::Choose(const char* name, const std::string& value) {
     const Option option = Find(name);
     if (!CanBeSet(option.descriptor) || option.descriptor->type != SANE_TYPE_STRING || value.empty())
-        return;
+        return SANE_STATUS_GOOD;
     std::string text = value;
     text.resize(std::max(text.size() + 1, static_cast<std::size_t>(option.descriptor->size)));
-    sane_.ControlOption(handle_, option.index, SANE_ACTION_SET_VALUE, text.data(), nullptr);
+    return sane_.ControlOption(handle_, option.index, SANE_ACTION_SET_VALUE, text.data(), nullptr);
 }
 
-void Scanner::Choose(const char* name, double value) {
+SANE_Status Scanner::Choose(const char* name, double value) {
     const Option option = Find(name);
     if (!CanBeSet(option.descriptor) || option.descriptor->size != sizeof(SANE_Word))
-        return;
+        return SANE_STATUS_GOOD;
     if (option.descriptor->constraint_type == SANE_CONSTRAINT_RANGE) {
         const SANE_Range& range = *option.descriptor->constraint.range;
         value = std::clamp(value, NumberOf(*option.descriptor, range.min),
@@ -193,7 +209,18 @@ void Scanner::Choose(const char* name, double value) {
     }
     SANE_Word word =
         option.descriptor->type == SANE_TYPE_FIXED ? SANE_FIX(value) : static_cast<SANE_Word>(value);
-    sane_.ControlOption(handle_, option.index, SANE_ACTION_SET_VALUE, &word, nullptr);
+    return sane_.ControlOption(handle_, option.index, SANE_ACTION_SET_VALUE, &word, nullptr);
+}
+
+// Devices may round what they are told, and have a value where there is no choice.
+int Scanner::Resolution(int chosen) const {
+    const Option option = Find(SANE_NAME_SCAN_RESOLUTION);
+    SANE_Word word = 0;
+    const bool isTold =
+        option.descriptor != nullptr && SANE_OPTION_IS_ACTIVE(option.descriptor->cap) &&
+        option.descriptor->size == sizeof word &&
+        sane_.ControlOption(handle_, option.index, SANE_ACTION_GET_VALUE, &word, nullptr) == SANE_STATUS_GOOD;
+    return isTold ? static_cast<int>(std::lround(NumberOf(*option.descriptor, word))) : chosen;
 }
 
 // One for each kind of page, by whatever name the device has for it; some make black and white of grey.
@@ -249,14 +276,14 @@ void Scanner::SetPaper(const ScanSettings& settings) {
 }
 
 void Scanner::Set(const ScanSettings& settings) {
-    Choose(SANE_NAME_SCAN_SOURCE, settings.source);
-    Choose(SANE_NAME_SCAN_MODE, settings.mode.mode);
+    Demand("source", Choose(SANE_NAME_SCAN_SOURCE, settings.source));
+    Demand("mode", Choose(SANE_NAME_SCAN_MODE, settings.mode.mode));
     if (settings.mode.depth > 0)
         Choose(SANE_NAME_BIT_DEPTH, settings.mode.depth);
     if (settings.resolution > 0)
-        Choose(SANE_NAME_SCAN_RESOLUTION, settings.resolution);
-    resolution_ = settings.resolution;
+        Demand("resolution", Choose(SANE_NAME_SCAN_RESOLUTION, settings.resolution));
     SetPaper(settings);
+    resolution_ = Resolution(settings.resolution);
     // Some devices have to be told what to do about a double feed before they look for any.
     Choose("df-action", std::string("Stop"));
     for (const char* const look : {"df-thickness", "double-feed"})

@@ -15,6 +15,7 @@ namespace tavrene::intake {
 struct ScanDevice {
     std::string name;
     std::string label;
+    bool isNothingButFeeder = false;
 };
 
 /// How a device is told to give pages of one kind; `label` is for the person.
@@ -39,9 +40,6 @@ struct ScanSettings {
     double paperHeight = 0;
 };
 
-/// Whether it gives one sheet after the other by itself.
-bool IsFeeder(const std::string& source);
-
 /// The scanners of this machine and its network. All is called from one thread; calls may take seconds.
 class Scanners {
   public:
@@ -61,12 +59,16 @@ class Scanners {
 class Scanner {
   public:
     /// The `Scanners` must be there as long as this, and `sane`.
-    Scanner(const SaneLibrary& sane, const std::string& device);
+    Scanner(const SaneLibrary& sane, const ScanDevice& device);
     ~Scanner();
     Scanner(const Scanner&) = delete;
     Scanner& operator=(const Scanner&) = delete;
 
     ScanChoices Choices();
+
+    /// Whether one sheet after the other comes from there by itself; `source` is empty where there is no
+    /// choice.
+    bool FeedsFrom(const std::string& source) const;
 
     /// Sets what the device has, and passes over the rest. Double feeds shall stop it where it notices them.
     void Set(const ScanSettings& settings);
@@ -90,14 +92,15 @@ class Scanner {
     };
 
     Option Find(const char* name) const;
-    void Choose(const char* name, const std::string& value);
-    void Choose(const char* name, double value);
+    SANE_Status Choose(const char* name, const std::string& value);
+    SANE_Status Choose(const char* name, double value);
+    int Resolution(int chosen) const;
     void SetPaper(const ScanSettings& settings);
     std::vector<ScanMode> Modes() const;
-    Reason ReasonOf(SANE_Status status) const;
     SANE_Status ReadAll(std::vector<SANE_Byte>& data, const std::function<bool()>& goOn);
 
     const SaneLibrary& sane_;
+    const bool isNothingButFeeder_;
     SANE_Handle handle_ = nullptr;
     int resolution_ = 0;
 };

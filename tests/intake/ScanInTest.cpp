@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include "app/Reason.h"
 #include "intake/IntakeWorld.h"
 #include "intake/ScanIn.h"
 #include "support/Faults.h"
@@ -33,7 +34,7 @@ class ScanInTest : public test::IntakeWorld {
         const std::vector<ScanDevice> devices = scanners.Find();
         if (devices.size() != 2)
             return {{}, "there is no test device"};
-        Scanner scanner(sane_, devices[0].name);
+        Scanner scanner(sane_, devices[0]);
         choices_ = scanner.Choices();
         ScanSettings settings{source_, {}, 100, 50, 70};
         for (const ScanMode& each : choices_.modes)
@@ -173,6 +174,81 @@ TEST_F(ScanInTest, ADeviceThatCanNoticeDoubleFeedsIsToldToStopAtThem) {
     sane_.Start = [](SANE_Handle) { return SANE_STATUS_JAMMED; };
     EXPECT_PRED2(Has, Scan("", "").reason, "drawn in two sheets at once");
     EXPECT_EQ(set, "df-action=Stop df-thickness=1 ");
+}
+
+TEST_F(ScanInTest, WhatTheDeviceMakesOfItsSettingsCounts) {
+    const auto usual = sane_.ControlOption;
+    const auto setsTo = [&](const std::string& name, SANE_Status status, SANE_Word number) {
+        sane_.ControlOption = [=, this](SANE_Handle handle, SANE_Int k, SANE_Action action, void* value,
+                                        SANE_Int* info) {
+            if (action != SANE_ACTION_SET_VALUE || sane_.GetOption(handle, k)->name != name)
+                return usual(handle, k, action, value, info);
+            if (status == SANE_STATUS_GOOD)
+                return usual(handle, k, action, &(*static_cast<SANE_Word*>(value) = number), info);
+            return status;
+        };
+        return app::FailureOf([&] { EXPECT_EQ(Scan("", "Grey").reason, ""); });
+    };
+    source_ = "Flatbed";
+    for (const std::string name : {"source", "mode", "resolution"})
+        EXPECT_EQ(setsTo(name, SANE_STATUS_INVAL, 0),
+                  "The scanner refuses the " + name + " that was chosen.");
+    EXPECT_PRED2(Has, setsTo("mode", SANE_STATUS_IO_ERROR, 0), "does not answer");
+    EXPECT_EQ(setsTo("enable-test-options", SANE_STATUS_INVAL, 0), "");
+    // Rounded, so that the page comes with the resolution that it has.
+    EXPECT_EQ(setsTo("resolution", SANE_STATUS_GOOD, SANE_FIX(75)), "");
+    const Names images = In(folders_.ProcessIn);
+    ASSERT_EQ(images.size(), 2U);
+    EXPECT_EQ(std::to_string(DpiOf(Incoming(images[0]))) + " " + std::to_string(DpiOf(Incoming(images[1]))),
+              "75 100");
+}
+
+// The test device is not like that.
+TEST_F(ScanInTest, ADeviceThatIsNothingButAFeederGoesOnWithoutAChoiceOfSource) {
+    const auto devices = sane_.GetDevices;
+    const auto option = sane_.GetOption;
+    const auto start = sane_.Start;
+    SANE_Device first{};
+    SANE_Option_Descriptor nameless{};
+    std::vector<const SANE_Device*> list;
+    const auto pagesOf = [&](const char* type) {
+        sane_.GetDevices = [&, type](const SANE_Device*** found, SANE_Bool local) {
+            const SANE_Status status = devices(found, local);
+            first = ***found;
+            first.type = type;
+            list = {&first, (*found)[1], nullptr};
+            *found = list.data();
+            return status;
+        };
+        sane_.GetOption = [&](SANE_Handle handle, SANE_Int k) {
+            const SANE_Option_Descriptor* const usual = option(handle, k);
+            const bool isSource = usual != nullptr && usual->name == std::string("source");
+            return isSource ? &nameless : usual;
+        };
+        int page = 0;
+        sane_.Start = [&](SANE_Handle handle) { return ++page == 4 ? SANE_STATUS_NO_DOCS : start(handle); };
+        const Scanned scanned = Scan("", "Grey");
+        EXPECT_EQ(scanned.reason, "");
+        return scanned.images.size();
+    };
+    source_ = "";
+    EXPECT_EQ(pagesOf("sheetfed scanner"), 3U);
+    EXPECT_EQ(pagesOf("flatbed scanner"), 1U);
+    EXPECT_EQ(pagesOf("multi-function peripheral"), 1U) << "it would take the page on its glass for ever";
+}
+
+TEST_F(ScanInTest, LinesThatAreShorterThanTheirPageAreRefused) {
+    sane_.Start = [](SANE_Handle) { return SANE_STATUS_GOOD; };
+    for (const SANE_Parameters& each : {SANE_Parameters{SANE_FRAME_GRAY, SANE_TRUE, 12, 100, -1, 1},
+                                        {SANE_FRAME_GRAY, SANE_TRUE, 99, 100, -1, 8},
+                                        {SANE_FRAME_GRAY, SANE_TRUE, 199, 100, -1, 16},
+                                        {SANE_FRAME_RGB, SANE_TRUE, 299, 100, -1, 8}}) {
+        sane_.GetParameters = [&](SANE_Handle, SANE_Parameters* kind) {
+            *kind = each;
+            return SANE_STATUS_GOOD;
+        };
+        EXPECT_PRED2(Has, Scan("", "Grey").reason, "in a way that is not known here");
+    }
 }
 
 TEST_F(ScanInTest, CancellingTakesEffectInTheMiddleOfAPage) {

@@ -1,7 +1,11 @@
 #include <QAction>
 #include <QMenu>
+#include <atomic>
+#include <chrono>
+#include <semaphore>
 
 #include "ui/DeskWindow.h"
+#include "ui/scanning/ScanThread.h"
 
 namespace tavrene::ui {
 namespace {
@@ -28,6 +32,15 @@ class ScanWindowTest : public test::DeskWindow {
     static void Disconnect() { test::WriteText(Config("dll.conf"), ""); }
 
     static std::string Told(QDialog& dialog) { return FromQt(Find<QLabel>(dialog, "lblScan").text()); }
+
+    // What was asked before is done, and told, by then.
+    static bool IsThreadDone() {
+        bool isDone = false;
+        QObject here;
+        ScanThread::OfProgram().Ask(
+            &here, ScanThread::AtEnd::LetGo, [] { return true; }, [&](bool) { isDone = true; });
+        return QTest::qWaitFor([&] { return isDone; }, 20'000);
+    }
 
     static void WaitForButton(QDialog& dialog, const char* name) {
         auto& button = Find<QPushButton>(dialog, name);
@@ -94,6 +107,38 @@ TEST_F(ScanWindowTest, AJamIsToldAndItCanBeTriedAgain) {
     EXPECT_EQ(In(folders_.ProcessIn), std::vector<std::string>());
 }
 
+TEST_F(ScanWindowTest, WhatStoppedAPageIsShownEvenToWhoIsClosingTheDialog) {
+    std::atomic<bool> isWriting = false;
+    std::atomic<bool> isClosing = false;
+    files_.refuse = [&](const std::string& operation, const std::string& path) {
+        const bool isPage = operation == "write" && Has(path, "-p001");
+        if (isPage) {
+            isWriting = true;
+            isClosing.wait(false);
+        }
+        return isPage;
+    };
+    Connect("test-picture \"Grid\"\n");
+    Open();
+    DialogScript dialogs;
+    dialogs.Do([&](QDialog& dialog) {
+        WaitForButton(dialog, "cmdScan");
+        Choose(dialog, "cboResolution", "100 dpi");
+        Find<QPushButton>(dialog, "cmdScan").click();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isWriting.load(); }, 20'000));
+        dialog.reject();
+        isClosing = true;
+        isClosing.notify_all();
+        WaitForButton(dialog, "cmdScan");
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(Has(Told(dialog), "Cannot write ")) << Told(dialog);
+        dialog.reject();
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Find<QAction>(*window_, "Scan").trigger();
+    EXPECT_EQ(In(folders_.ProcessIn).size(), 0U);
+}
+
 TEST_F(ScanWindowTest, WithoutAScannerTheCommandIsGreyAndSaysWhy) {
     Open();
     auto& action = Find<QAction>(*window_, "Scan");
@@ -102,15 +147,40 @@ TEST_F(ScanWindowTest, WithoutAScannerTheCommandIsGreyAndSaysWhy) {
     for (QObject* const place : action.associatedObjects())
         menu = qobject_cast<QMenu*>(place) != nullptr ? qobject_cast<QMenu*>(place) : menu;
     ASSERT_NE(menu, nullptr);
-    const auto openMenu = [&](bool hasScanner) {
+    const auto openMenu = [&] {
         Q_EMIT menu->aboutToShow();
-        return QTest::qWaitFor([&] { return action.isEnabled() == hasScanner; }, 20'000);
+        EXPECT_TRUE(IsThreadDone());
     };
-    EXPECT_TRUE(openMenu(false));
+    openMenu();
+    EXPECT_FALSE(action.isEnabled());
     EXPECT_TRUE(Has(FromQt(action.toolTip()), "No scanner was found"));
     Connect("");
-    EXPECT_TRUE(openMenu(true));
+    openMenu();
+    EXPECT_FALSE(action.isEnabled()) << "a minute has not passed";
+    clock_.tick = 60;
+    openMenu();
+    EXPECT_TRUE(action.isEnabled());
     EXPECT_EQ(action.toolTip(), "Take pages from a scanner to ProcessIn");
+}
+
+TEST_F(ScanWindowTest, TheWindowGoesWhileScannersAreStillLookedForButWaitsForPages) {
+    for (const auto atEnd : {ScanThread::AtEnd::LetGo, ScanThread::AtEnd::Wait}) {
+        Open();
+        std::binary_semaphore windowIsGone(0);
+        bool wentBefore = false;
+        ScanThread::OfProgram().Ask(
+            window_.get(), atEnd,
+            [&] {
+                const auto longest =
+                    std::chrono::milliseconds(atEnd == ScanThread::AtEnd::Wait ? 200 : 20'000);
+                return wentBefore = windowIsGone.try_acquire_for(longest);
+            },
+            [](bool) { ADD_FAILURE() << "nobody is there to be told"; });
+        window_.reset();
+        windowIsGone.release();
+        EXPECT_TRUE(IsThreadDone());
+        EXPECT_EQ(wentBefore, atEnd == ScanThread::AtEnd::LetGo);
+    }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "ui/scanning/ScanCommand.h"
 
 #include <QMenu>
-#include <string>
 
 #include "app/Counted.h"
 #include "ui/base/QtText.h"
@@ -31,14 +30,20 @@ void ScanCommand::Look() {
         Offer(Tr("ScanDialog", "Scanning needs the scanner library SANE (libsane1), which is not installed"));
         return;
     }
-    if (std::exchange(isLooking_, true))
+    constexpr double kAgain = 60;
+    const double now = context_.clock.Seconds();
+    // All devices of the network are asked.
+    if (isLooking_ || (lookedAt_ && now - *lookedAt_ < kAgain))
         return;
+    isLooking_ = true;
+    lookedAt_ = now;
     thread_.Ask(
-        this, [&sane = *sane_] { return intake::Scanners(sane).Find().empty(); },
+        this, ScanThread::AtEnd::LetGo, [&sane = *sane_] { return intake::Scanners(sane).Find().empty(); },
         [this](bool isNone) {
             isLooking_ = false;
             Offer(isNone ? Tr("ScanDialog",
-                              "No scanner was found. Switch it on, connect it and open this menu again")
+                              "No scanner was found. Switch it on, connect it and open this menu again a "
+                              "minute later")
                          : QString());
         });
 }

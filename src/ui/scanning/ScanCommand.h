@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QWidget>
+#include <optional>
 
 #include "app/Clock.h"
 #include "app/Files.h"
@@ -12,8 +13,8 @@
 
 namespace tavrene::ui {
 
-/// The command `Scan`. It is there while a scanner may be: whether one is, is looked for whenever the menu
-/// opens, which takes a while and does not hold up the menu.
+/// The command `Scan`. It is there while a scanner may be: whether one is, is looked for when the menu opens,
+/// at most once a minute, which takes a while and holds up neither the menu nor the end of the program.
 class ScanCommand final : public QObject {
   public:
     struct Context {
@@ -28,6 +29,9 @@ class ScanCommand final : public QObject {
     /// the state, which is needed only while the window is there.
     ScanCommand(QWidget& window, const Context& context);
 
+    /// Pages that are on their way are waited for.
+    ~ScanCommand() override { thread_.WaitForWork(); }
+
   private:
     void Look();
     void Offer(const QString& whyNot);
@@ -40,8 +44,9 @@ class ScanCommand final : public QObject {
     const intake::SaneLibrary* sane_ = intake::FindSane();
     bool isThere_ = sane_ != nullptr;  ///< As far as is known.
     bool isLooking_ = false;
+    std::optional<double> lookedAt_;  ///< By the clock's seconds.
     ScanChoice choice_;
-    ScanThread thread_;
+    ScanThread& thread_ = ScanThread::OfProgram();
 };
 
 }  // namespace tavrene::ui

@@ -62,7 +62,7 @@ ScanDialog::~ScanDialog() {
     session_->isCancelled = true;
     // The device is let go where it was opened.
     context_.thread.Ask(
-        nullptr,
+        nullptr, ScanThread::AtEnd::LetGo,
         [session = std::move(session_)] {
             session->scanner.reset();
             session->scanners.reset();
@@ -124,7 +124,7 @@ void ScanDialog::BuildLayout() {
 void ScanDialog::Look() {
     SetState(State::Looking, Tr("ScanDialog", "Looking for scanners..."));
     context_.thread.Ask(
-        this,
+        this, ScanThread::AtEnd::LetGo,
         [session = session_, &sane = context_.sane] {
             session->scanner.reset();
             // Begun anew, for some devices are found only then.
@@ -132,14 +132,15 @@ void ScanDialog::Look() {
             session->scanners = std::make_unique<intake::Scanners>(sane);
             return session->scanners->Find();
         },
-        [this](const std::vector<intake::ScanDevice>& devices) { ShowDevices(devices); });
+        [this](std::vector<intake::ScanDevice> devices) { ShowDevices(std::move(devices)); });
 }
 
-void ScanDialog::ShowDevices(const std::vector<intake::ScanDevice>& devices) {
+void ScanDialog::ShowDevices(std::vector<intake::ScanDevice> devices) {
+    found_ = std::move(devices);
     devices_->clear();
-    for (const intake::ScanDevice& device : devices)
-        devices_->addItem(ToQt(device.label), ToQt(device.name));
-    if (devices.empty()) {
+    for (const intake::ScanDevice& device : found_)
+        devices_->addItem(ToQt(device.label));
+    if (found_.empty()) {
         SetState(State::None, Tr("ScanDialog", "No scanner was found. Is it switched on and connected?"));
         return;
     }
@@ -150,12 +151,13 @@ void ScanDialog::ShowDevices(const std::vector<intake::ScanDevice>& devices) {
 void ScanDialog::OpenDevice() {
     SetState(State::Opening, Tr("ScanDialog", "Asking the scanner what it can do..."));
     context_.thread.Ask(
-        this,
-        [session = session_, &sane = context_.sane, name = FromQt(devices_->currentData().toString())] {
+        this, ScanThread::AtEnd::LetGo,
+        [session = session_, &sane = context_.sane,
+         device = found_.at(static_cast<std::size_t>(devices_->currentIndex()))] {
             Opened opened;
             opened.reason = app::FailureOf([&] {
                 session->scanner.reset();
-                session->scanner = std::make_unique<intake::Scanner>(sane, name);
+                session->scanner = std::make_unique<intake::Scanner>(sane, device);
                 opened.choices = session->scanner->Choices();
             });
             return opened;
@@ -226,7 +228,7 @@ void ScanDialog::Scan() {
         return !session->isCancelled;
     };
     context_.thread.Ask(
-        this,
+        this, ScanThread::AtEnd::Wait,
         [session = session_, &files = context_.files, folders = context_.folders, now = context_.clock.Now(),
          settings = Settings(), watch] {
             intake::Scanned scanned;
@@ -250,7 +252,8 @@ void ScanDialog::ShowEnd(const intake::Scanned& scanned) {
     if (!text.isEmpty())
         text += ' ';
     SetState(State::Ready, text + CountedPages(scanned.images.size()));
-    if (closesAtEnd_)
+    // A jam or a full disk must not go by unseen.
+    if (std::exchange(closesAtEnd_, false) && scanned.reason.empty())
         QDialog::reject();
 }
 

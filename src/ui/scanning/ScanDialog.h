@@ -43,7 +43,7 @@ class ScanDialog final : public QDialog {
 
     ScanChoice Choice() const { return choice_; }
 
-    /// While a page is on its way it is waited for, once.
+    /// While a page is on its way it is waited for, once; what went wrong with it is shown first.
     void reject() override;
 
   private:
@@ -64,7 +64,7 @@ class ScanDialog final : public QDialog {
     QComboBox* List(const char* name, const QString& accessibleName);
     void BuildLayout();
     void Look();
-    void ShowDevices(const std::vector<intake::ScanDevice>& devices);
+    void ShowDevices(std::vector<intake::ScanDevice> devices);
     void OpenDevice();
     void ShowChoices(const Opened& opened);
     void Fill(QComboBox& list, const QStringList& texts, const QString& usual);
@@ -78,6 +78,7 @@ class ScanDialog final : public QDialog {
     Context context_;
     ScanChoice choice_;
     std::shared_ptr<Session> session_ = std::make_shared<Session>();
+    std::vector<intake::ScanDevice> found_;
     intake::ScanChoices choices_;
     State state_ = State::Looking;
     bool closesAtEnd_ = false;
