@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -16,6 +17,7 @@
 #include <stdexcept>
 
 #include "driving/Controls.h"
+#include "tour/Story.h"
 
 namespace tavrene::tour {
 namespace {
@@ -64,7 +66,7 @@ Driver::Driver(ui::MainWindow& window, const QString& shotsFolder)
 }
 
 void Driver::Drive() {
-    window_.resize(kWidth, kHeight);
+    window_.resize(QSize(kWidth, kHeight).boundedTo(window_.screen()->availableSize()));
     QApplication::processEvents();
     ShootWindow("1-before-the-run");
     // The run lets pending events in once a file; that is when the timer strikes.
@@ -96,7 +98,13 @@ void Driver::ReadPrecisely() {
     Press("Review");
     Find<QAction>(window_, "Manual").trigger();
     QApplication::processEvents();
-    Shoot(Find<QDialog>(window_, "frmManual"), "11-manual");
+    auto& manual = Find<QDialog>(window_, "frmManual");
+    Shoot(manual, "11-manual");
+    manual.close();
+}
+
+void Driver::TellStory(const app::WorkingFolders& folders) {
+    Story(window_, folders, [this](QWidget& widget, const QString& name) { Shoot(widget, name); }).Tell();
     window_.close();
 }
 

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "app/WorkingFolders.h"
 #include "ui/shell/MainWindow.h"
 
 namespace tavrene::tour {
@@ -20,9 +21,12 @@ class Driver final : public QObject {
     /// Runs all stages; returns when that is done.
     void Drive();
 
-    /// Reads what waits by Precise Alignment, opens a form that lies upside down, and closes the window. The
-    /// program then reads as it did at first.
+    /// Reads what waits by Precise Alignment, opens a form that lies upside down, and looks into the manual.
+    /// The program then reads as it did at first.
     void ReadPrecisely();
+
+    /// Makes a profile, tries it, reviews and exports; closes the window.
+    void TellStory(const app::WorkingFolders& folders);
 
     /// Paths of the pictures taken.
     const QStringList& Shots() const { return shots_; }

@@ -27,8 +27,9 @@ constexpr const char* kUsage =
     "         settings below XDG_CONFIG_HOME at it\n"
     "--drive  opens the program's window on FOLDER, presses Process, writes pictures of the window to\n"
     "         SHOTS, lets Precise Alignment read the same scans after that, and compares both with the\n"
-    "         truth of SAMPLES; the exit code is 0 when all scans are right, but for those that the\n"
-    "         truth calls beyond the rules\n";
+    "         truth of SAMPLES; makes a profile of a blank form then, tries it, reviews and exports;\n"
+    "         the exit code is 0 when all scans are right, but for those that the truth calls beyond\n"
+    "         the rules\n";
 
 std::string FullPath(const std::string& path) {
     std::string full = app::FromPath(std::filesystem::absolute(app::ToPath(path)).lexically_normal());
@@ -73,6 +74,7 @@ int Drive(const std::string& samplesFolder, const std::string& folder, const std
     driver.ReadPrecisely();
     const auto precise = samples::CompareWithTruth(files, folders, truth);
     std::cout << samples::TableOf(plain, precise);
+    driver.TellStory(folders);
     PrintPlaces(folders, driver.Shots());
     return HasWrong(plain) || HasWrong(precise) ? 1 : 0;
 }

@@ -3078,7 +3078,7 @@ Datei %2 von %3, Seite %4 von %5</translation>
     </message>
     <message>
         <source>Space turns the mark round, Enter opens the form.</source>
-        <translation>Leertaste kehrt die Markierung um, Eingabe öffnet das Formular.</translation>
+        <translation>Leertaste kehrt um, Eingabe öffnet das Formular.</translation>
     </message>
     <message>
         <source>marked</source>

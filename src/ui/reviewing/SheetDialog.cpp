@@ -69,6 +69,8 @@ QWidget* SheetDialog::Head() {
     tabs_->addTab({});
     tabs_->addTab({});
     tabs_->setDrawBase(false);
+    tabs_->setUsesScrollButtons(false);
+    progress_->setObjectName("lblSheetLeft");
     row->addWidget(tabs_);
     row->addStretch(1);
     row->addWidget(progress_);
