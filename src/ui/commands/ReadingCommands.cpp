@@ -67,8 +67,8 @@ void ReadingCommands::ReadAgain() {
     context_.person.SetPanel(app::Panel::Message, "");
     forms_ = std::move(again.left);
     context_.wereRead(again.read);
-    std::string text = app::Counted(again.read.size(), "form was", "forms were") + " read by Precise Alignment" +
-                       (again.read.empty() ? "." : " and can be reviewed.");
+    std::string text = app::Counted(again.read.size(), "form was", "forms were") +
+                       " read by Precise Alignment" + (again.read.empty() ? "." : " and can be reviewed.");
     if (!forms_.empty())
         text += " " + app::Counted(forms_.size(), "form is", "forms are") + " left.";
     Tell({text});
