@@ -585,10 +585,6 @@
         <translation>&amp;Zweite Meinung</translation>
     </message>
     <message>
-        <source>Read the forms of the last run that only Precise Alignment recognises</source>
-        <translation>Die Formulare des letzten Laufs lesen, die nur „Genaues Ausrichten“ erkennt</translation>
-    </message>
-    <message>
         <source>Read Turned Forms A&amp;gain</source>
         <translation>Gedrehte Formulare e&amp;rneut lesen</translation>
     </message>
@@ -791,6 +787,10 @@
     <message>
         <source>The same with the files and folders of the clipboard, or dropped on the window; boxes that were copied last are added to the profile</source>
         <translation>Dasselbe mit den Dateien und Ordnern der Zwischenablage, auch auf das Fenster gezogen; zuletzt kopierte Kästchen kommen in das Profil</translation>
+    </message>
+    <message>
+        <source>Read the forms of the last run again that Precise Alignment reads otherwise</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
