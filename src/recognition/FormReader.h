@@ -22,7 +22,7 @@ struct FormReading {
     std::optional<imaging::Page> page;        ///< Only where it was asked for.
     int furtherPages = 0;                     ///< How many more the file has.
     imaging::ScratchCopy copy;
-    std::string classification;  ///< The line for the log; empty where it did not come to one.
+    std::string classification;  ///< As what, in the words of the log; empty where it came to nothing.
     int winner = -1;             ///< Index of the profile it was read as.
     std::int16_t Confidence = 0;
     std::vector<MarkReading> marks;

@@ -93,8 +93,9 @@ void AddStrayInk(std::vector<BoxEvidence>& boxes, const MeasuredForm& form,
 constexpr int kBorder = 4;
 constexpr int kAside = 2;
 
+// A document may have boxes that are far larger than any page.
 double AreaOf(const GridRect& place) {
-    return (place.col1 - place.col0 - 1) * (place.row1 - place.row0 - 1);
+    return (place.col1 - place.col0 - 1.0) * (place.row1 - place.row0 - 1.0);
 }
 
 GridRect Counted(const GridRect& place) {
@@ -106,15 +107,15 @@ double LeastFill(const imaging::WorkGrid& grid, const GridRect& place, double fi
     const GridRect counted = Counted(place);
     for (int dx = -kAside; dx <= kAside; ++dx)
         for (int dy = -kAside; dy <= kAside; ++dy)
-            fill = std::min(fill, 100 * recognition::CountInk(grid, recognition::Shifted(counted, dx, dy)) /
+            fill = std::min(fill, 100.0 * recognition::CountInk(grid, recognition::Shifted(counted, dx, dy)) /
                                       AreaOf(place));
     return fill;
 }
 
 double BlackenedFill(const GridRect& place) {
     const GridRect counted = Counted(place);
-    const int cells =
-        std::max(0, counted.col1 - counted.col0 + 1) * std::max(0, counted.row1 - counted.row0 + 1);
+    const double cells =
+        std::max(0.0, counted.col1 - counted.col0 + 1.0) * std::max(0.0, counted.row1 - counted.row0 + 1.0);
     return 100 * cells / AreaOf(place);
 }
 
