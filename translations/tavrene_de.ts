@@ -1929,12 +1929,12 @@ Selecting No would keep the same profile but skip the modified fields.</source>
         <translation>%L1 Formulare noch anzusehen</translation>
     </message>
     <message>
-        <source>1 mark was turned round and not confirmed. Leave the sheet without them?</source>
-        <translation>1 Markierung wurde umgekehrt und nicht bestätigt. Das Blatt ohne sie verlassen?</translation>
+        <source>1 mark was turned round and not confirmed. Go on without them?</source>
+        <translation>1 Markierung wurde umgekehrt und nicht bestätigt. Ohne sie weitermachen?</translation>
     </message>
     <message>
-        <source>%L1 marks were turned round and not confirmed. Leave the sheet without them?</source>
-        <translation>%L1 Markierungen wurden umgekehrt und nicht bestätigt. Das Blatt ohne sie verlassen?</translation>
+        <source>%L1 marks were turned round and not confirmed. Go on without them?</source>
+        <translation>%L1 Markierungen wurden umgekehrt und nicht bestätigt. Ohne sie weitermachen?</translation>
     </message>
     <message>
         <source>1 form reviewed, 1 box corrected on the sheet.</source>
@@ -2139,10 +2139,6 @@ Selecting No would keep the same profile but skip the modified fields.</source>
     <message>
         <source>Form [%1] stays as it is: it was changed by somebody else, or is gone</source>
         <translation>Formular [%1] bleibt, wie es ist: es wurde von jemand anderem geändert oder ist weg</translation>
-    </message>
-    <message>
-        <source>Form [%1] stays: it was changed by somebody else, or is gone</source>
-        <translation>Formular [%1] bleibt: es wurde von jemand anderem geändert oder ist weg</translation>
     </message>
     <message>
         <source>The scanner gave an empty page.</source>
@@ -2456,6 +2452,15 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>L&amp;anguage</source>
         <translation>S&amp;prache</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Another program works on the forms in %1.
+Process again when it has ended.</source>
+        <translation>Ein anderes Programm arbeitet an den Formularen in %1.
+Verarbeiten Sie noch einmal, wenn es fertig ist.</translation>
     </message>
 </context>
 <context>

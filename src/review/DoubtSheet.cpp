@@ -140,9 +140,7 @@ DoubtSheet::Outcome DoubtSheet::Confirm(std::span<const SheetBox> judged) {
 
 void DoubtSheet::ConfirmForm(std::span<const SheetBox> judged, Outcome& outcome) {
     const std::string& document = judged.front().Document;
-    if (!list_.IsAsItWas(document))
-        throw app::FileError("Form [" + app::BaseName(document) +
-                             "] stays as it is: it was changed by somebody else, or is gone");
+    list_.RequireAsItWas(document);
     OpenForm form = Load(document);
     const int corrected = Correct(form, judged);
     const FormDoubts* known = form.Result.IsReviewed() ? nullptr : list_.DoubtsOf(document);
@@ -157,8 +155,11 @@ void DoubtSheet::ConfirmForm(std::span<const SheetBox> judged, Outcome& outcome)
         saver_.SaveReviewed(form);
     else if (corrected > 0)
         saver_.SaveCorrected(form);
-    if (known != nullptr || corrected > 0)
+    // What cannot be read is not free of doubt because one of its boxes was corrected.
+    if (known != nullptr || form.Result.IsReviewed())
         list_.SetDoubts(document, std::move(left));
+    else
+        list_.Saved(document);
     outcome.reviewed += isReviewed ? 1 : 0;
     outcome.corrected += corrected;
     outcome.done.push_back(document);

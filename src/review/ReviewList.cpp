@@ -80,6 +80,12 @@ FormOnDisk ReviewList::FormOf(const std::string& document) const {
     return OnDisk(*std::ranges::find(entries_, document, &Entry::document));
 }
 
+void ReviewList::RequireAsItWas(const std::string& document) const {
+    if (!IsAsItWas(document))
+        throw app::FileError("Form [" + app::BaseName(document) +
+                             "] stays as it is: it was changed by somebody else, or is gone");
+}
+
 bool ReviewList::IsAsItWas(const std::string& document) const {
     const auto entry = std::ranges::find(entries_, document, &Entry::document);
     return entry != entries_.end() && entry->line && IsCurrent(*entry);
@@ -100,13 +106,18 @@ void ReviewList::SetDoubts(const std::string& document, FormDoubts doubts) {
     const std::optional<std::size_t> index = IndexOf(document);
     if (!index)
         return;
-    Entry& entry = EntryOf(document);
-    entry.fingerprint = context_.files.Fingerprint(folders_.ProcessOut + document);
     ReviewLine& line = lines_[*index];
     line.Doubts = line.Reviewed ? std::nullopt : std::optional(static_cast<int>(doubts.size()));
-    entry.line = line;
-    doubts_.Set(OnDisk(entry), std::move(doubts));
-    context_.side.lines.ChangeLine(*index, line);
+    doubts_.Set(OnDisk(TakeOver(*index)), std::move(doubts));
+}
+
+// What this program has written is no change by somebody else.
+const ReviewList::Entry& ReviewList::TakeOver(std::size_t index) {
+    Entry& entry = EntryOf(lines_[index].Document);
+    entry.fingerprint = context_.files.Fingerprint(folders_.ProcessOut + entry.document);
+    entry.line = lines_[index];
+    context_.side.lines.ChangeLine(index, lines_[index]);
+    return entry;
 }
 
 bool ReviewList::CountNext() {
@@ -237,7 +248,12 @@ void ReviewList::Change(const std::string& document, bool reviewed, const std::s
     lines_[*index].Reviewed = reviewed;
     lines_[*index].Confidence = confidence;
     lines_[*index].Doubts.reset();
-    context_.side.lines.ChangeLine(*index, lines_[*index]);
+    TakeOver(*index);
+}
+
+void ReviewList::Saved(const std::string& document) {
+    if (const std::optional<std::size_t> index = IndexOf(document))
+        TakeOver(*index);
 }
 
 void ReviewList::Remove(const std::string& document) {

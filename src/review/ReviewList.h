@@ -39,7 +39,7 @@ class ReviewList {
     /// The line of a document; none when it is not listed.
     std::optional<std::size_t> IndexOf(const std::string& document) const;
 
-    /// Sets tick and confidence of a document's line. One that is not listed changes nothing.
+    /// A document was saved, with this tick and confidence. One that is not listed changes nothing.
     void Change(const std::string& document, bool reviewed, const std::string& confidence);
     void Remove(const std::string& document);
 
@@ -69,11 +69,17 @@ class ReviewList {
     /// A person has saved the form, or has left so much of it in doubt.
     void SetDoubts(const std::string& document, FormDoubts doubts);
 
+    /// A document was saved, and nobody knows what is in doubt of it now.
+    void Saved(const std::string& document);
+
     /// The form of a document that is listed, as it was when it was last looked at.
     FormOnDisk FormOf(const std::string& document) const;
 
     /// Whether the document is still as it was when it was last looked at.
     bool IsAsItWas(const std::string& document) const;
+
+    /// Throws `app::FileError` when it is not.
+    void RequireAsItWas(const std::string& document) const;
 
     /// Puts "Reviewed: 2 of 5" into the `File` panel.
     void ShowCounts() const;
@@ -95,6 +101,7 @@ class ReviewList {
     void Count(std::size_t line);
     std::optional<int> KnownDoubts(const Entry& entry);
     Entry& EntryOf(const std::string& document);
+    const Entry& TakeOver(std::size_t index);
     FormOnDisk OnDisk(const Entry& entry) const;
 
     ReviewContext context_;

@@ -269,9 +269,7 @@ std::vector<std::string> ReviewSession::AcceptAll(const ClearForms& forms, const
     for (std::size_t done = 0; done < total && goesOn(done, total); ++done) {
         const std::string& document = forms.documents[done];
         try {
-            if (!list_.IsAsItWas(document))
-                throw app::FileError("Form [" + app::BaseName(document) +
-                                     "] stays: it was changed by somebody else, or is gone");
+            list_.RequireAsItWas(document);
             decisions_.Move({Decision::Accept, app::FileName(list_.FormOf(document).Image), document});
             if (HasForm() && form_.Form()->Document == document)
                 form_.Close();

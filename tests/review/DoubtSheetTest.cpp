@@ -111,6 +111,18 @@ TEST_F(DoubtSheetTest, BoxesOfOneNameAreCorrectedWithoutReviewingTheirForms) {
     EXPECT_EQ(picture->form.Boxes[0].rect->left, form_.boxes[0].L);
 }
 
+TEST_F(DoubtSheetTest, ACorrectionMakesNoFormFreeOfDoubtThatCannotBeRead) {
+    test::WriteText(folders_.ProcessOut + "a.tif", "no image any more");
+    Toggle();
+    Toggle();
+    std::vector<SheetBox> boxes = Begin("Q1");
+    boxes[0].IsChecked = false;
+    EXPECT_EQ(review_.Sheet().Confirm({boxes.data(), 1}).corrected, 1);
+    EXPECT_PRED2(test::Has, Result("a.xml"), "Q1\" Shift=\"0,0\" Checked=\"0\"");
+    EXPECT_EQ(review_.Lines()[0].Doubts, std::nullopt);
+    EXPECT_EQ(review_.FindClear().documents, (Names{"c.xml", "d.xml"}));
+}
+
 TEST_F(DoubtSheetTest, WhatSomebodyElseHasWrittenStays) {
     std::vector<SheetBox> boxes = Begin();
     for (SheetBox& box : boxes)

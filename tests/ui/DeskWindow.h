@@ -30,8 +30,9 @@ class DeskWindow : public RunWorld {
         settings_.BoxMaxHeight = 34;
     }
 
-    ui::MainWindow& Open() {
-        window_ = std::make_unique<ui::MainWindow>(settings_, ui::WindowContext{store_, files_, clock_});
+    ui::MainWindow& Open(app::FolderLock* folder = nullptr) {
+        window_ =
+            std::make_unique<ui::MainWindow>(settings_, ui::WindowContext{store_, files_, clock_, folder});
         window_->Load();
         window_->show();
         window_->activateWindow();

@@ -1,3 +1,4 @@
+#include <QComboBox>
 #include <QListView>
 #include <QTreeView>
 
@@ -34,9 +35,11 @@ class DoubtSheetWindowTest : public test::DeskWindow {
 
     static int Count(const QDialog& dialog) { return Sheet(dialog).model()->rowCount(); }
 
-    static void WaitUntilAllAreFound(const QDialog& dialog) {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Count(dialog) == 60; }, 60'000));
+    static void WaitUntil(const QDialog& dialog, int count) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Count(dialog) == count; }, 60'000));
     }
+
+    static void WaitUntilAllAreFound(const QDialog& dialog) { WaitUntil(dialog, 60); }
 
     test::TestForm form_ = test::TestForm::Grid(2, 2);
 };
@@ -108,17 +111,49 @@ TEST_F(DoubtSheetWindowTest, AsksAboutWhatIsNotSavedAndLeadsToAForm) {
         Press(sheet, Qt::Key_Escape);
         answer.stop();
         EXPECT_TRUE(dialog.isVisible());
+        answer.start(1);
+        auto& subject = Find<QComboBox>(dialog, "cboSheet");
+        subject.setCurrentIndex(1);
+        answer.stop();
+        EXPECT_EQ(subject.currentIndex(), 0);
+        EXPECT_EQ(Count(dialog), 60) << "what was turned round is still there";
         Press(sheet, Qt::Key_Space);
         Press(sheet, Qt::Key_Down);
         Press(sheet, Qt::Key_Return);
     });
     Press(*window_, Qt::Key_F9);
-    EXPECT_EQ(asked, "1 mark was turned round and not confirmed. Leave the sheet without them?");
+    EXPECT_EQ(asked, "1 mark was turned round and not confirmed. Go on without them?");
     EXPECT_EQ(Panel("Message"), "Image [form18.tif], Profile [Form]");
     EXPECT_EQ(Rows().currentItem()->text(0) + Rows().currentItem()->text(1), "Q30");
     const double large = View().Zoom();
     Press(Rows(), Qt::Key_PageDown);
     EXPECT_LT(View().Zoom(), large) << "the zoom is the person's own again";
+}
+
+TEST_F(DoubtSheetWindowTest, GoingOnFromAFormThatIsNotSavedAsksAndSavesIt) {
+    ClickOn(Find<QTreeView>(*window_, "lvwReview"), 0);
+    ClickRow(0);
+    Press(*window_, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Rows().currentItem()->text(0), "Q3");
+    DialogScript script;
+    script.PressEnter();
+    Press(*window_, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(script.shown, Names{"Save changes to Form <form10>?"});
+    EXPECT_EQ(Panel("Message"), "Image [form11.tif], Profile [Form]");
+    EXPECT_EQ(Panel("File"), "Reviewed: 1 of 61");
+
+    ClickRow(0);
+    script.PressEnter().Do([](QDialog& dialog) {
+        WaitUntil(dialog, 58);
+        dialog.reject();
+    });
+    Press(*window_, Qt::Key_F9);
+    ClickOn(Find<QTreeView>(*window_, "lvwReview"), 2);
+    ClickRow(0);
+    script.PressEnter().PressEnter();
+    Press(*window_, Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_EQ(script.shown.back().substr(0, 30), "Accept 4 forms without doubt?\n");
+    EXPECT_EQ(In(folders_.ProcessFinal).size(), 8U) << "what was just saved is as it was";
 }
 
 }  // namespace

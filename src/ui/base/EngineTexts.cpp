@@ -205,7 +205,6 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("Engine", "No form to accept."),
     QT_TRANSLATE_NOOP("Engine", "and %L1 more."),
     QT_TRANSLATE_NOOP("Engine", "Form [%1] stays as it is: it was changed by somebody else, or is gone"),
-    QT_TRANSLATE_NOOP("Engine", "Form [%1] stays: it was changed by somebody else, or is gone"),
     QT_TRANSLATE_NOOP("Engine", "Form [%1] stays in %2: it was changed there or is gone"),
     QT_TRANSLATE_NOOP("Engine", "Form [%1] lies half in %2, but is not there. It has to be taken back first."),
     QT_TRANSLATE_NOOP("Engine", "Form [%1] lies half in %2 and cannot be taken back yet: %3"),

@@ -1,17 +1,20 @@
 #include "ui/base/EscapeWatch.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "ui/base/BusyCursor.h"
 
 namespace tavrene::ui {
 
-EscapeWatch::EscapeWatch() {
+EscapeWatch::EscapeWatch() : below_(QApplication::activeModalWidget()) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool EscapeWatch::eventFilter(QObject*, QEvent* event) {
+    // A question that the work itself asks has to be answered.
+    if (QApplication::activeModalWidget() != below_)
+        return false;
     switch (event->type()) {
         case QEvent::KeyPress:
         case QEvent::ShortcutOverride:

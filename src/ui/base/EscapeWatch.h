@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 #include <functional>
 
 namespace tavrene::ui {
 
 /// While it lives, the person can do nothing but press Escape, which it notes: for a computation that takes
-/// pending events in order to be stopped, and that nothing else may disturb.
+/// pending events in order to be stopped, and that nothing else may disturb. Dialogs that open meanwhile are
+/// answered as ever.
 class EscapeWatch final : public QObject {
   public:
     EscapeWatch();
@@ -17,6 +20,7 @@ class EscapeWatch final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    QPointer<QWidget> below_;  ///< The dialog that the work was begun in, if any.
     bool wasPressed_ = false;
 };
 

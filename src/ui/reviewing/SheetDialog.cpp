@@ -36,7 +36,7 @@ SheetDialog::SheetDialog(review::DoubtSheet& sheet, app::Operator& person, QWidg
     LayOut();
     view_->SetListener({[this](int row) { Open(row); }, [this] { Update(); }});
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Update(); });
-    connect(subject_, &QComboBox::currentIndexChanged, this, [this] { Begin(); });
+    connect(subject_, &QComboBox::currentIndexChanged, this, [this] { ChangeSubject(); });
     connect(tabs_, &QTabBar::currentChanged, this, [this] { ShowPart(); });
     connect(confirm_, &QPushButton::clicked, this, [this] { Confirm(); });
     idle_.setSingleShot(true);
@@ -102,7 +102,17 @@ QWidget* SheetDialog::Foot() {
     return foot;
 }
 
+void SheetDialog::ChangeSubject() {
+    if (MayDropTurned()) {
+        Begin();
+        return;
+    }
+    const QSignalBlocker quiet(subject_);
+    subject_->setCurrentIndex(begun_);
+}
+
 void SheetDialog::Begin() {
+    begun_ = subject_->currentIndex();
     for (SheetModel* const part : parts_)
         part->Clear();
     Add(sheet_.Begin(FromQt(subject_->currentData().toString())));
@@ -245,10 +255,9 @@ int SheetDialog::TurnedCount() const {
 // Turned marks that nobody has confirmed are not saved.
 bool SheetDialog::MayDropTurned() {
     const int turned = TurnedCount();
-    return turned == 0 ||
-           person_.AskYesNo(Counted(turned, "mark was", "marks were") +
-                                " turned round and not confirmed. Leave the sheet without them?",
-                            app::Answer::No) == app::Answer::Yes;
+    return turned == 0 || person_.AskYesNo(Counted(turned, "mark was", "marks were") +
+                                               " turned round and not confirmed. Go on without them?",
+                                           app::Answer::No) == app::Answer::Yes;
 }
 
 void SheetDialog::done(int result) {

@@ -38,6 +38,7 @@ class SheetDialog final : public QDialog {
     void LayOut();
     QWidget* Head();
     QWidget* Foot();
+    void ChangeSubject();
     void Begin();
     void Add(const std::vector<review::SheetBox>& boxes);
     SheetModel& Part() { return *parts_[static_cast<std::size_t>(std::max(0, tabs_->currentIndex()))]; }
@@ -64,6 +65,7 @@ class SheetDialog final : public QDialog {
     QTimer idle_;
     InputWatch input_;
     review::SheetBox chosen_;
+    int begun_ = 0;  ///< The subject that is shown.
     int reviewed_ = 0;
     int corrected_ = 0;
 };

@@ -51,7 +51,8 @@ bool Composition::Start() {
         [this] {
             if (!MayUseFolder())
                 return;
-            window_ = std::make_unique<MainWindow>(settings_, WindowContext{store_, files_, clock_});
+            window_ =
+                std::make_unique<MainWindow>(settings_, WindowContext{store_, files_, clock_, &*folder_});
             window_->Load();
             window_->show();
             QApplication::setQuitOnLastWindowClosed(true);
@@ -59,7 +60,7 @@ bool Composition::Start() {
     return app::RunStartup(settings_, context) && window_ != nullptr;
 }
 
-// What a window settles at its start would be what another program is in the middle of.
+// The forms can be reviewed meanwhile; the window begins no run before it has the folder to itself.
 bool Composition::MayUseFolder() {
     folder_.emplace(settings_.WorkDir);
     return folder_->Take(app::FolderLock::Use::Alone) ||

@@ -131,7 +131,7 @@ void MainWindow::ConnectViewCommands() {
 }
 
 void MainWindow::ConnectCommands() {
-    gate_.SetHandler(Command::Process, [this] { runs_.Process(); });
+    gate_.SetHandler(Command::Process, [this] { Process(); });
     gate_.SetHandler(Command::Stop, [this] { runs_.Stop(); });
     gate_.SetHandler(Command::Settings, [this] { ShowSettings(); });
     gate_.SetHandler(Command::ExportResults, [this] { export_.Run(); });
@@ -225,8 +225,27 @@ void MainWindow::AddContextMenus() {
 }
 
 // What cannot be processed stays where the list of unread pages shows it.
+bool MainWindow::HasFolder() const {
+    return context_.folder == nullptr || context_.folder->Take(app::FolderLock::Use::Alone);
+}
+
+bool MainWindow::MayRun() {
+    const bool mayRun = HasFolder();
+    if (!mayRun)
+        operator_.ShowMessage("", FromQt(Tr("MainWindow",
+                                            "Another program works on the forms in %1.\n"
+                                            "Process again when it has ended.")
+                                             .arg(ToQt(state_.settings.WorkDir))));
+    return mayRun;
+}
+
+void MainWindow::Process() {
+    if (MayRun())
+        runs_.Process();
+}
+
 void MainWindow::ProcessUnread() {
-    if (!run_.MayStart(state_.profiles))
+    if (!run_.MayStart(state_.profiles) || !MayRun())
         return;
     review_.SendAllBack();
     runs_.Process();
@@ -295,7 +314,9 @@ void MainWindow::Load() {
     commands::LoadWindow(state_,
                          {log_, operator_, &imaging::ImageLibraryVersion,
                           [this] {
-                              run_.Settle();
+                              // It would be what another program is in the middle of.
+                              if (HasFolder())
+                                  run_.Settle();
                               desk_.Load();
                           }},
                          gate_);

@@ -7,6 +7,7 @@
 #include "app/ActivityLog.h"
 #include "app/Clock.h"
 #include "app/Files.h"
+#include "app/FolderLock.h"
 #include "app/SettingsStore.h"
 #include "recognition/ProcessRun.h"
 #include "recognition/precise/PreciseReader.h"
@@ -38,6 +39,9 @@ struct WindowContext {
     app::SettingsStore& store;
     app::Files& files;
     const app::Clock& clock;
+    /// Held while nobody else may work on the forms, and tried again before each run; null where nobody else
+    /// can.
+    app::FolderLock* folder = nullptr;
 };
 
 /// The working screen `frmTavrene`. It builds, lays out and forwards; what its commands do lies in
@@ -67,7 +71,10 @@ class MainWindow final : public QMainWindow {
     void ShowTitle();
     void ConnectSummary();
     void AddContextMenus();
+    void Process();
     void ProcessUnread();
+    bool HasFolder() const;
+    bool MayRun();
     void ShowFile(const ReasonRow& file);
     bool CloseWhatIsOver();
     void ShowSettings();

@@ -181,6 +181,8 @@ std::optional<std::string> QtFileDialogs::AskSaveFile(const app::FileQuestion& q
 std::optional<std::string> QtFileDialogs::AskOpenFile(const app::FileQuestion& question) {
     FileDialog dialog(window_, question);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    // To choose a scan must not be a way to delete or rename one.
+    dialog.setOption(QFileDialog::ReadOnly);
     dialog.ShowPictures(files_);
     return dialog.Ask();
 }
