@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/Reason.h"
 #include "profiles/BoxGroups.h"
 #include "profiles/ProfileLoader.h"
 #include "profiles/XmlFile.h"
@@ -73,8 +74,6 @@ void ProfileFiles::Write(OpenProfile& profile, pugi::xml_document document) {
     log_.LogProfileEvent("Saved Profile: " + profile.Name);
 }
 
-// Groups come before their document, and go after it: those of a profile that is not there are nobody's, but
-// a profile never lacks its own.
 void ProfileFiles::CopyGroups(const std::string& from, const std::string& to) {
     if (files_.FileExists(BoxGroupsPath(from)))
         files_.Write(BoxGroupsPath(to), files_.Read(BoxGroupsPath(from)));
@@ -82,18 +81,30 @@ void ProfileFiles::CopyGroups(const std::string& from, const std::string& to) {
         DeleteBoxGroups(files_, to);
 }
 
+// Groups come before their document, and go after it: a profile never lacks its own. Those of one that did
+// not come must not wait for another of that name.
+void ProfileFiles::WithGroups(const std::string& from, const std::string& to,
+                              const std::function<void()>& writeTo) {
+    CopyGroups(from, to);
+    try {
+        writeTo();
+    } catch (const std::exception&) {
+        if (!files_.FileExists(to))
+            app::FailureOf([&] { DeleteBoxGroups(files_, to); });
+        throw;
+    }
+}
+
 void ProfileFiles::Duplicate(const OpenProfile& profile, const std::string& path) {
     pugi::xml_document document = LoadProfileDocument(files_, profile.Path);
     SetRoot(document, "Profile", app::BaseName(path));
     SetRoot(document, "Active", "0");
-    CopyGroups(profile.Path, path);
-    SaveProfileDocument(files_, path, document);
+    WithGroups(profile.Path, path, [&] { SaveProfileDocument(files_, path, document); });
     log_.LogProfileEvent("Created Profile: " + app::BaseName(path));
 }
 
 void ProfileFiles::Rename(const OpenProfile& profile, const std::string& path) {
-    CopyGroups(profile.Path, path);
-    files_.Move(profile.Path, path);
+    WithGroups(profile.Path, path, [&] { files_.Move(profile.Path, path); });
     DeleteBoxGroups(files_, profile.Path);
     log_.LogProfileEvent("Renamed Profile: " + profile.Name + " to " + app::BaseName(path));
 }

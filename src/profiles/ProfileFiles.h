@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <pugixml.hpp>
 #include <span>
 #include <string>
@@ -56,6 +57,7 @@ class ProfileFiles {
 
   private:
     void CopyGroups(const std::string& from, const std::string& to);
+    void WithGroups(const std::string& from, const std::string& to, const std::function<void()>& writeTo);
     void Write(OpenProfile& profile, pugi::xml_document document);
 
     app::Files& files_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -23,23 +22,15 @@ struct FormReading {
     std::optional<imaging::Page> page;        ///< Only where it was asked for.
     int furtherPages = 0;                     ///< How many more the file has.
     imaging::ScratchCopy copy;
-    std::string
-        classification;  ///< The log line without the name of the image; empty where it did not come to one.
-    int winner = -1;     ///< Index of the profile it was read as.
+    std::string classification;  ///< As what, in the words of the log; empty where it came to nothing.
+    int winner = -1;             ///< Index of the profile it was read as.
     std::int16_t Confidence = 0;
     std::vector<MarkReading> marks;
     bool turned = false;  ///< The page lies upside down.
     std::string failure;  ///< Why it could not be read, though there is a page and perhaps a profile.
     std::optional<SecondOpinion> opinion;
     std::string opinionFailure;
-    /// Called once image and result lie in `ProcessOut`; empty where nobody wants to know.
-    std::function<void()> arrived = {};
 };
-
-/// Looks at what was read of an image (file name) as a form of a profile, with its page, before it is
-/// written; what it gives is for `FormReading::arrived`. Throws nothing.
-using FormLook = std::function<std::function<void()>(const std::string& image, const FormReading& reading,
-                                                     const profiles::ProfileRecord& profile)>;
 
 /// Reads forms by the plain reading or by precise alignment. Several threads may read at the same time.
 class FormReader {

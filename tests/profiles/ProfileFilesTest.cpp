@@ -128,6 +128,23 @@ TEST_F(ProfileFilesTest, IsDuplicatedAndRenamedWithItsGroupsUnderFreeNames) {
     EXPECT_EQ(Logged().back(), "Renamed Profile: C to D");
 }
 
+TEST_F(ProfileFilesTest, ANameThatCouldNotBeGivenLeavesNoGroupsForAnotherProfile) {
+    AddProfiles({"A"});
+    ASSERT_TRUE(Pick(1));
+    session_.Editor().SetGroups({{{"Q", {"Q2", "Q3"}, Takes::One}}});
+    ASSERT_TRUE(session_.Save());
+    const Names before = In(folders_.Profiles);
+    dialogs_.answers = {PathOf("B"), PathOf("B")};
+    files_.refuse = [this](const std::string& operation, const std::string& path) {
+        return operation == "move" || (operation == "write" && path == PathOf("B"));
+    };
+    EXPECT_THROW(session_.Rename(), app::FileError);
+    EXPECT_EQ(In(folders_.Profiles), before);
+    EXPECT_THROW(session_.Duplicate(), app::FileError);
+    EXPECT_EQ(In(folders_.Profiles), before);
+    EXPECT_EQ(Profile().Path, PathOf("A"));
+}
+
 // Each write of a save in turn is cut off, once refused and once as if the program had died in it, with half
 // of the neighbour written.
 TEST_F(ProfileFilesTest, ASaveThatIsCutOffLeavesAWholeDocument) {

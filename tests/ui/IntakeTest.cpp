@@ -141,5 +141,21 @@ TEST_F(IntakeTest, APictureThatIsPastedBecomesAPageThatIsRead) {
     QGuiApplication::clipboard()->clear();
 }
 
+TEST_F(IntakeTest, BoxesOfAnEarlierProgramOnTheClipboardAreToldFromNoProfile) {
+    AddSpecimenProfile("Form", form_);
+    Open();
+    auto* const boxes = new QMimeData;
+    boxes->setData("application/x-tavrene-boxes", "1");
+    QGuiApplication::clipboard()->setMimeData(boxes);
+    Find<QAction>(*window_, "PasteScans").trigger();
+    EXPECT_EQ(Panel("Message"), "The clipboard holds boxes. Open a profile to add them to it.");
+    ClickThumbnail(1);
+    Find<QAction>(*window_, "PasteScans").trigger();
+    EXPECT_EQ(Panel("Message"),
+              "These boxes were copied before the program was started. Copy them once more.");
+    EXPECT_EQ(Rows().topLevelItemCount(), 4);
+    QGuiApplication::clipboard()->clear();
+}
+
 }  // namespace
 }  // namespace tavrene::ui

@@ -40,7 +40,7 @@ class PreciseReader {
                             std::span<const MarkReading> marks, std::int16_t fillThreshold);
 
     /// What is printed on a profile's specimen; null where that is not known, or the boxes do not lie on it.
-    /// Holds until the profile is next asked for.
+    /// Holds as long as this object.
     const SpecimenPrint* PrintOf(const profiles::ProfileRecord& profile);
 
     /// The boxes of a profile at known shifts, one entry a box; the others take their place from these.

@@ -1,6 +1,7 @@
 #include "ui/shell/ScanIntake.h"
 
 #include <QBuffer>
+#include <QClipboard>
 #include <QDateTime>
 #include <QDropEvent>
 #include <QFile>
@@ -129,14 +130,19 @@ void ScanIntake::Paste(const QClipboard& clipboard) {
     CopyIn({FromQt(file.fileName())});
 }
 
+std::string ScanIntake::WhyNothingIsPasted() const {
+    if (!CopyCommands::AreBoxesOnClipboard())
+        return "The clipboard holds no files. Copy scans or folders in a file manager first.";
+    // The clipboard may outlive the program that knew them.
+    return context_.gate.CurrentMode() == commands::Mode::Profile
+               ? "These boxes were copied before the program was started. Copy them once more."
+               : "The clipboard holds boxes. Open a profile to add them to it.";
+}
+
 void ScanIntake::CopyIn(const std::vector<std::string>& paths) {
     const BusyCursor busy;
     if (paths.empty())
-        context_.person.SetPanel(
-            app::Panel::Message,
-            CopyCommands::AreBoxesOnClipboard()
-                ? "The clipboard holds boxes. Open a profile to add them to it."
-                : "The clipboard holds no files. Copy scans or folders in a file manager first.");
+        context_.person.SetPanel(app::Panel::Message, WhyNothingIsPasted());
     else
         TakeIn(paths);
 }

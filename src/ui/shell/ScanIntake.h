@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QClipboard>
 #include <QObject>
 #include <QWidget>
 #include <string>
@@ -12,6 +11,8 @@
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/PagesIn.h"
+
+class QClipboard;
 
 namespace tavrene::ui {
 
@@ -45,6 +46,7 @@ class ScanIntake final : public QObject {
     void TakeWhenIdle(const std::vector<std::string>& paths);
 
     void Paste(const QClipboard& clipboard);
+    std::string WhyNothingIsPasted() const;
     void Choose();
     void TakeIn(const std::vector<std::string>& paths);
     void CopyIn(const std::vector<std::string>& paths);
