@@ -1,16 +1,12 @@
-#include <random>
-
 #include "EditorWorld.h"
 #include "profiles/BoxArrangement.h"
-#include "profiles/BoxGrid.h"
-#include "profiles/BoxNaming.h"
+#include "profiles/BoxCells.h"
 #include "profiles/BoxPlace.h"
 #include "profiles/GroupEdits.h"
 
 namespace tavrene::profiles {
 namespace {
 
-using imaging::BoxTool;
 using imaging::PageRect;
 using Numbers = std::vector<int>;
 
@@ -167,104 +163,6 @@ TEST_F(SeveralBoxesTest, GroupsFollowTheirBoxesThroughEveryEdit) {
     EXPECT_EQ(Box(1).Name, "N6");
     const std::string words[] = {"Sex of child male", "Sex of child mixed"};
     EXPECT_EQ(NameForGroup(words), "Sex of child");
-}
-
-// Whatever was done, and however often it goes back and forth, the way back ends where it began.
-TEST_F(SeveralBoxesTest, EveryActionIsUndoneAndDoneAgainInAnyOrder) {
-    const auto state = [this] {
-        EXPECT_EQ(KeptNumbers(profile_.BoxList).size(), screen_.rows.size());
-        for (const int number : KeptNumbers(profile_.BoxList)) {
-            const PageRect& drawn = screen_.rects.at(number);
-            EXPECT_EQ((std::vector<int>{int(drawn.left), int(drawn.top), int(drawn.left + drawn.width),
-                                        int(drawn.top + drawn.height)}),
-                      Place(number));
-            EXPECT_EQ(screen_.rows.at(number), Box(number).Name);
-            EXPECT_GE(Box(number).L, 0);
-            EXPECT_LE(Box(number).R, profile_.ImageWidth);
-        }
-        EXPECT_EQ(screen_.rects.size(), screen_.rows.size());
-        return std::tuple(profile_.BoxList, profile_.Count, profile_.NextBoxId, profile_.Groups);
-    };
-    profile_.ImageWidth = 560;
-    profile_.ImageHeight = 460;
-    std::mt19937 random(15);  // NOLINT(cert-msc51-cpp): the same sequence in every run
-    const auto any = [&](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
-    editor_.SetTool(BoxTool::Add);
-    const auto change = [this](auto&& how) { editor_.Change(how); };
-    const std::vector<std::function<void()>> actions = {
-        [&] { editor_.Nudge(any(-9, 9), any(-9, 9), any(0, 1) == 1); },
-        [&] { editor_.Stretch(any(-9, 9), any(-9, 9)); },
-        [&] { Draw(any(0, 500), any(0, 400), any(5, 40), any(5, 40)); },
-        [&] {
-            std::vector<OmrBox> grid(6);
-            const auto places = PlacesOfGrid({40, 60, 20, 20}, {400.0 + any(0, 90), 300, 20, 20}, {2, 3});
-            for (std::size_t k = 0; k < grid.size(); ++k)
-                PutAt(grid[k], places[k]);
-            editor_.AddBoxes(grid);
-        },
-        [&] { editor_.DeleteBox(); },
-        [&] { Arrange(MakeEqualSize); },
-        [&] {
-            Arrange([&](auto& boxes, auto& on, auto page) {
-                Align(boxes, on, static_cast<Side>(any(0, 3)), page);
-            });
-        },
-        [&] {
-            Arrange([&](auto& boxes, auto& on, auto) {
-                Distribute(boxes, on, static_cast<Direction>(any(0, 1)));
-            });
-        },
-        [&] { Rename(profile_.Selected.Current(), "name " + std::to_string(any(1, 99))); },
-        [&] {
-            change([&](std::vector<OmrBox>& boxes) {
-                const auto cells = CellsOf(boxes, profile_.Selected.Numbers(), CellOrder::Across);
-                for (const NewName& name : NamesByPattern(boxes, cells, {"Q{row} {column:A}"}))
-                    boxes[static_cast<std::size_t>(name.number) - 1].Name = name.name;
-            });
-        },
-        [&] { change([](std::vector<OmrBox>& boxes) { SortByPlace(boxes); }); },
-        [&] {
-            change([&](std::vector<OmrBox>& boxes) {
-                MoveInList(boxes, profile_.Selected.Numbers(), any(0, 1) == 1 ? 1 : -1);
-            });
-        },
-        [&] {
-            change([&](std::vector<OmrBox>& boxes) {
-                const std::vector<OmrBox> copied = {
-                    boxes[static_cast<std::size_t>(profile_.Selected.Current()) - 1]};
-                const Numbers copies = AppendCopies(boxes, copied);
-                Move(boxes, BoxSelection(copies, copies.front()), any(9, 50), any(9, 50), ExtentOf(profile_));
-            });
-        },
-        [&] { editor_.SetGroups(GroupsByRow(profile_.BoxList, profile_.Selected.Numbers())); },
-    };
-    const auto began = state();
-    for (int k = 0; k < 140; ++k) {
-        const Numbers kept = KeptNumbers(profile_.BoxList);
-        if (kept.empty())
-            break;
-        editor_.Select(
-            BoxSelection(kept[static_cast<std::size_t>(any(0, static_cast<int>(kept.size()) - 1))]));
-        for (const int number : kept)
-            if (any(0, 3) == 0)
-                editor_.RowClicked(number, Pick::Toggle);
-        actions[static_cast<std::size_t>(k) % actions.size()]();
-    }
-    const auto ended = state();
-    for (int k = 0; k < 100; ++k) {
-        for (int steps = any(1, 160); steps > 0; --steps)
-            editor_.Undo();
-        state();
-        for (int steps = any(1, 160); steps > 0; --steps)
-            editor_.Redo();
-    }
-    while (editor_.CanRedo())
-        editor_.Redo();
-    EXPECT_EQ(state(), ended);
-    while (editor_.CanUndo())
-        editor_.Undo();
-    EXPECT_EQ(state(), began);
-    EXPECT_FALSE(profile_.ProfileChanged);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
+#include <QDebug>
 #include <QRadioButton>
 #include <random>
-#include <sstream>
 
 #include "ui/FormWindow.h"
 
@@ -19,10 +19,8 @@ class UndoTest : public test::FormWindow {
     int Any(int least, int most) { return std::uniform_int_distribution(least, most)(random_); }
     QPointF AnyBox() {
         const std::vector<int> numbers = View().Boxes().Numbers();
-        return View()
-            .Boxes()
-            .PlaceOf(numbers[static_cast<std::size_t>(Any(0, int(numbers.size()) - 1))])
-            .center();
+        const int index = Any(0, static_cast<int>(numbers.size()) - 1);
+        return View().Boxes().PlaceOf(numbers[static_cast<std::size_t>(index)]).center();
     }
     QPointF AnyWay() { return {double(Any(-40, 60)), double(Any(-40, 60))}; }
 
@@ -34,18 +32,19 @@ class UndoTest : public test::FormWindow {
 
     // What the person sees of the profile.
     std::string State() {
-        std::ostringstream state;
+        QString state;
+        QDebug shown(&state);
         for (const std::string& name : RowTexts())
-            state << name << ' ';
+            shown << name.c_str();
         for (const int number : View().Boxes().Numbers()) {
             const QRectF place = View().Boxes().PlaceOf(number);
-            state << number << ':' << place.x() << ',' << place.y() << ',' << place.width() << ','
-                  << place.height() << ' ';
+            EXPECT_TRUE(QRectF(0, 0, form_.width, form_.height).contains(place)) << number;
+            shown << number << place;
         }
         for (const GroupFrame& frame : View().Boxes().Groups())
-            state << FromQt(frame.text) << frame.place.x() << ',' << frame.place.width() << ' ';
+            shown << frame.text << frame.place;
         EXPECT_EQ(View().Boxes().Numbers().size(), RowTexts().size());
-        return state.str();
+        return FromQt(state);
     }
 
     bool Can(const char* command) { return Find<QAction>(*window_, command).isEnabled(); }
