@@ -12,8 +12,8 @@
 
 namespace tavrene::commands {
 
-/// Whether images are made of the pages of a file: a PDF, a TIFF of several, or a picture of a kind that runs do
-/// not read. Another one is a scan that is copied as it is, or none.
+/// Whether images are made of the pages of a file: a PDF, a TIFF of several, or a picture of a kind that runs
+/// do not read. Another one is a scan that is copied as it is, or none.
 bool HoldsPages(const app::Files& files, const std::string& path);
 
 /// What came of bringing in.
