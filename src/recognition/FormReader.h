@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -30,7 +31,14 @@ struct FormReading {
     std::string failure;  ///< Why it could not be read, though there is a page and perhaps a profile.
     std::optional<SecondOpinion> opinion;
     std::string opinionFailure;
+    /// Called once image and result lie in `ProcessOut`; empty where nobody wants to know.
+    std::function<void()> arrived = {};
 };
+
+/// Looks at what was read of an image (file name) as a form of a profile, with its page, before it is
+/// written; what it gives is for `FormReading::arrived`. Throws nothing.
+using FormLook = std::function<std::function<void()>(const std::string& image, const FormReading& reading,
+                                                     const profiles::ProfileRecord& profile)>;
 
 /// Reads forms by the plain reading or by precise alignment. Several threads may read at the same time.
 class FormReader {
