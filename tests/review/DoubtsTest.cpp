@@ -166,7 +166,7 @@ class RunDoubtsTest : public CountedDoubtsTest {
     void ReadSamples() {
         profiles::CopySampleForms(files_, test::SourceFolder() + "/samples", work_.Path());
         for (const std::string& scan : In(folders_.ProcessIn))
-            if (scan.find("-1") == std::string::npos)
+            if (scan.find("-13") == std::string::npos && scan.find("-14") == std::string::npos)
                 files_.Delete(folders_.ProcessIn + scan);
         LoadProfiles();
         recognition::ProcessRun run({.files = files_,
@@ -204,7 +204,7 @@ TEST_F(RunDoubtsTest, AreThoseThatReviewFinds) {
         ReadSamples();
         Toggle();
         const auto counts = Counts();
-        EXPECT_GE(counts.size(), 7U);
+        EXPECT_GE(counts.size(), 3U);
         EXPECT_EQ(std::ranges::count(counts, std::optional<int>()), 0);
         Toggle();
         const std::string counted = test::ReadText(cache_);
