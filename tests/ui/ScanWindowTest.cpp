@@ -107,25 +107,6 @@ TEST_F(ScanWindowTest, PagesOfTheFeederComeInAndWhatStopsItIsToldInTheDialog) {
     EXPECT_EQ(In(folders_.ProcessIn).size(), 11U);
 }
 
-TEST_F(ScanWindowTest, AJamIsToldAndItCanBeTriedAgain) {
-    Connect("read-status-code \"SANE_STATUS_JAMMED\"\n");
-    Open();
-    DialogScript dialogs;
-    dialogs.Do([](QDialog& dialog) {
-        for (int k = 0; k < 2; ++k) {
-            WaitForButton(dialog, "cmdScan");
-            Find<QPushButton>(dialog, "cmdScan").click();
-            WaitForButton(dialog, "cmdScan");
-            EXPECT_EQ(
-                Told(dialog),
-                "The paper is jammed, or the feeder has drawn in two sheets at once. No page has come in.");
-        }
-        dialog.reject();
-    });
-    Find<QAction>(*window_, "Scan").trigger();
-    EXPECT_EQ(In(folders_.ProcessIn), std::vector<std::string>());
-}
-
 TEST_F(ScanWindowTest, WhatStoppedAPageIsShownEvenToWhoIsClosingTheDialog) {
     std::atomic<bool> isWriting = false;
     std::atomic<bool> isClosing = false;

@@ -132,10 +132,8 @@ QLayout* NameBoxesDialog::OrderRow() {
     ways->addWidget(across);
     ways->addWidget(down_);
     ways->addStretch(1);
-    auto* const order = new QVBoxLayout;
-    order->addLayout(ways);
-    order->addWidget(sorts_);
-    return order;
+    ways->addWidget(sorts_);
+    return ways;
 }
 
 void NameBoxesDialog::Build() {
