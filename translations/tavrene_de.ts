@@ -585,8 +585,8 @@
         <translation>&amp;Zweite Meinung</translation>
     </message>
     <message>
-        <source>Read the forms of the last run that only Precise Alignment recognises</source>
-        <translation>Die Formulare des letzten Laufs lesen, die nur „Genaues Ausrichten“ erkennt</translation>
+        <source>Read the forms of the last run again that Precise Alignment reads otherwise</source>
+        <translation>Die Formulare des letzten Laufs noch einmal lesen, die „Genaues Ausrichten“ anders liest</translation>
     </message>
     <message>
         <source>Read Turned Forms A&amp;gain</source>
