@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -71,7 +72,7 @@ class IntakeWorld : public ::testing::Test {
     }
 
     static int DpiOf(const imaging::Bitmap& picture) {
-        return static_cast<int>(FreeImage_GetDotsPerMeterX(picture.Get()) * 0.0254 + 0.5);
+        return static_cast<int>(std::lround(FreeImage_GetDotsPerMeterX(picture.Get()) * 0.0254));
     }
 
     TempFolder work_;
