@@ -1,10 +1,12 @@
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTextBrowser>
 #include <algorithm>
 
 #include "support/SourceFolder.h"
 #include "ui/DeskWindow.h"
+#include "ui/base/EngineTexts.h"
 #include "ui/commands/ManualText.h"
 
 namespace tavrene::ui {
@@ -58,6 +60,45 @@ TEST_F(HelpWindowTest, TheManualKnowsEveryKeyAndItsLinksLeadSomewhere) {
         const std::string anchor = manual.substr(at + 3, manual.find(')', at) - at - 3);
         EXPECT_TRUE(std::ranges::count(pages, anchor, &commands::ManualPage::anchor) == 1) << anchor;
     }
+}
+
+// Phrases of the messages, as the table has them: "…" stands for what is put in.
+std::vector<QStringList> ToldPhrases(const QString& page) {
+    std::vector<QStringList> phrases;
+    for (const QString& row : page.split('\n'))
+        for (const QString& phrase : row.section('|', 1, 1).split(", ")) {
+            QStringList parts;
+            for (const QString& part : phrase.split(QChar(0x2026)))
+                if (part.trimmed().size() > 2)
+                    parts += part.trimmed();
+            if (!parts.isEmpty())
+                phrases.push_back(parts);
+        }
+    return phrases;
+}
+
+// Whatever asks, or says that something cannot be done, leaves a person with the question what to do.
+TEST_F(HelpWindowTest, TheManualTellsWhatToDoAboutEveryMessageThatAsksOrFails) {
+    static const QRegularExpression asks(
+        "\\?$|cannot|could not|not there|not enough|not match|no room|damaged|missing|jammed|changed by "
+        "somebody|[Cc]hoose|will fail|misread");
+    const std::string manual = test::ReadText(test::SourceFolder() + "/docs/manual.md");
+    const auto pages = commands::PagesOf(manual);
+    const auto messages = std::ranges::find(pages, "Messages", &commands::ManualPage::title);
+    ASSERT_NE(messages, pages.end());
+    const auto phrases = ToldPhrases(ToQt(messages->text));
+    int asked = 0;
+    for (const auto texts : {EngineTexts(), CommandTexts()})
+        for (const QString text : texts) {
+            if (!text.contains(asks))
+                continue;
+            ++asked;
+            EXPECT_TRUE(std::ranges::any_of(phrases, [&](const QStringList& parts) {
+                return std::ranges::all_of(
+                    parts, [&](const QString& part) { return text.contains(part, Qt::CaseInsensitive); });
+            })) << FromQt(text);
+        }
+    EXPECT_GT(asked, 60);
 }
 
 TEST_F(HelpWindowTest, TitleAndZoomTellWhatIsOnTheScreen) {

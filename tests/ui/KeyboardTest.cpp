@@ -96,6 +96,46 @@ TEST_F(KeyboardTest, WhateverHasTheKeyboardLooksLikeItInEveryMode) {
     EXPECT_GT(reached.size(), 12U);
 }
 
+// As the parts stand on the screen: the side, the page, its boxes, the status bar.
+TEST_F(KeyboardTest, TabGoesThroughThePartsAsTheyStandOnTheScreen) {
+    for (int i = 1; i <= 2; ++i)
+        form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
+    Open();
+    const auto order = [this](const Names& wanted) {
+        Names reached;
+        for (const QWidget* const stop : Stops())
+            if (const std::string name = FromQt(stop->objectName()); std::ranges::count(wanted, name) > 0)
+                reached.push_back(name);
+        return reached;
+    };
+    ClickThumbnail(1);
+    const Names desk = {"ImgEdit1", "lvwSettings", "ZoomPercent", "ImgThumbnail1", "chkActive"};
+    EXPECT_EQ(order(desk), desk);
+    Click("Process");
+    Click("Review");
+    Press(Find<QTreeView>(*window_, "lvwReview"), Qt::Key_Return);
+    const Names review = {"ImgEdit1",  "lvwSettings", "ZoomPercent", "cboFilter",
+                          "txtFilter", "lvwReview",   "cboProfiles"};
+    EXPECT_EQ(order(review), review);
+}
+
+TEST_F(KeyboardTest, TheMenuOfAFormDecidesOnThatForm) {
+    for (int i = 1; i <= 3; ++i)
+        form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
+    Open();
+    Click("Process");
+    Click("Review");
+    auto& list = Find<QTreeView>(*window_, "lvwReview");
+    const auto place = [&list](int row) { return list.visualRect(list.model()->index(row, 0)).center(); };
+    const Names decisions = {"Okay", "AcceptForm", "RejectForm", "NextDoubt"};
+    EXPECT_EQ(MenuAt(list, place(1)), decisions);
+    EXPECT_EQ(FromQt(window_->windowTitle()), "scan2[*] - Tavrene CheckBoxes") << "it is opened for that";
+    EXPECT_EQ(MenuByKey(list), decisions) << "of the line that has the keyboard";
+    EXPECT_EQ(MenuAt(list, {20, list.viewport()->height() - 2}), Names()) << "there is no form";
+    Find<QAction>(*window_, "RejectForm").trigger();
+    EXPECT_EQ(In(folders_.ProcessReject), (Names{"scan2.tif", "scan2.xml"}));
+}
+
 // One letter twice in a menu, or for a menu and for what lies below it, would reach neither by one key.
 TEST_F(KeyboardTest, EveryLetterThatIsUnderlinedMeansOneThing) {
     const auto speak = [this](const char* code) {

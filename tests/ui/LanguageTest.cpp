@@ -15,9 +15,11 @@ namespace {
 using test::Find;
 
 class LanguageTest : public test::DeskWindow {
+  public:
+    ~LanguageTest() override { Speak("en"); }
+
   protected:
     LanguageTest() { AddSpecimenProfile("Form", form_); }
-    ~LanguageTest() override { Speak("en"); }
 
     void Speak(const char* code) {
         app::WriteWindow(store_, "Language", code);

@@ -1,9 +1,12 @@
+#include <QRadioButton>
 #include <QStyle>
 #include <QTreeView>
 #include <map>
 
 #include "ui/DeskWindow.h"
+#include "ui/exporting/ExportDialog.h"
 #include "ui/look/Contrast.h"
+#include "ui/page/MessageStrip.h"
 
 namespace tavrene::ui {
 namespace {
@@ -15,10 +18,12 @@ QPalette DarkPalette() {
     palette.setColor(QPalette::Base, QColor(27, 30, 32));
     palette.setColor(QPalette::AlternateBase, QColor(35, 38, 41));
     palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                            QPalette::HighlightedText, QPalette::ToolTipText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         palette.setColor(role, QColor(252, 252, 252));
-    palette.setColor(QPalette::ToolTipBase, QColor(49, 54, 59));
+    // As most dark themes leave them.
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
     // As with the palette of a desktop.
     QApplication::style()->polish(palette);
     return palette;
@@ -38,7 +43,7 @@ class LookTest : public test::DeskWindow, public testing::WithParamInterface<boo
     int Standing(const QWidget& widget, const QRect& part, double contrast) {
         QApplication::processEvents();
         const QImage picture =
-            window_->grab({widget.mapTo(window_.get(), part.topLeft()), part.size()}).toImage();
+            widget.window()->grab({widget.mapTo(widget.window(), part.topLeft()), part.size()}).toImage();
         std::map<QRgb, int> pixels;
         for (int y = 0; y < picture.height(); ++y)
             for (int x = 0; x < picture.width(); ++x)
@@ -80,9 +85,16 @@ TEST_P(LookTest, TickBoxesAndSignsStandOutOnEveryLine) {
         form_.SaveScan(folders_.ProcessIn + "scan" + std::to_string(i) + ".tif", {.checked = {2}});
     Open();
     Click("Process");
-    EXPECT_GT(Standing(Find<QWidget>(*window_, "cmdCloseSummary"),
-                       Find<QWidget>(*window_, "cmdCloseSummary").rect(), kSignContrast),
-              15);
+    dynamic_cast<MessageStrip&>(Find<QFrame>(*window_, "MessageStrip"))
+        .Show(std::array{app::Notice{"Look here."}});
+    for (const char* const name : {"cmdCloseSummary", "cmdCloseNotices"})
+        EXPECT_GT(
+            Standing(Find<QWidget>(*window_, name), Find<QWidget>(*window_, name).rect(), kSignContrast), 15)
+            << name;
+    ExportDialog dialog({}, folders_, window_.get());
+    for (const auto* const choice : dialog.findChildren<QRadioButton*>())
+        EXPECT_GT(Standing(*choice, {0, 0, 18, choice->height()}, kSignContrast), 8)
+            << FromQt(choice->text());
     Click("Review");
     auto& list = Find<QTreeView>(*window_, "lvwReview");
     list.setCurrentIndex(list.model()->index(0, 0));

@@ -218,7 +218,7 @@ TEST_F(MainWindowTest, AZoomThatFitsGoesOnFittingUntilAnotherOneIsChosen) {
 TEST_F(MainWindowTest, TheMenuOfALineActsOnThatLine) {
     AddSpecimenProfile("Seen", form_);
     Open();
-    const auto rightClick = [this](QAbstractItemView& list, int row) {
+    const auto rightClick = [](QAbstractItemView& list, int row) {
         const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
         QTest::mousePress(list.viewport(), Qt::RightButton, Qt::NoModifier, place);
         QContextMenuEvent asked(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));

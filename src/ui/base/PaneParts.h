@@ -35,11 +35,11 @@ inline QWidget* StripAbove(QWidget& strip, QWidget& view) {
     return pane;
 }
 
-/// The cross that closes a part of the window.
+/// The cross that closes a part of the window, in the ink of `parent`.
 inline QToolButton* CloseButton(QWidget* parent, const char* name, const QString& toolTip) {
     auto* const close = new QToolButton(parent);
     close->setObjectName(name);
-    close->setIcon(parent->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setIcon(parent->style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, parent));
     close->setAutoRaise(true);
     close->setToolTip(toolTip);
     close->setAccessibleName(toolTip);

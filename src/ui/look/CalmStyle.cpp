@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStyleHintReturn>
 #include <QStyleOption>
+#include <QWidget>
 
 #include "ui/look/Contrast.h"
 #include "ui/look/Icons.h"
@@ -24,21 +25,43 @@ QColor RingOf(const QPalette& palette) {
                                                                          : ring;
 }
 
-// The usual outline is a shade of the window's colour, which dark lists swallow.
-void PaintTickBox(const QStyleOption& option, QPainter& painter) {
-    const QPalette& palette = option.palette;
-    const double side = std::min(option.rect.width(), option.rect.height()) - 1.0;
-    QRectF box(0, 0, side, side);
-    box.moveCenter(QRectF(option.rect).center());
-    QColor line = palette.color(QPalette::Text);
-    painter.save();
+QRectF SquareIn(const QRectF& rect) {
+    const double side = std::min(rect.width(), rect.height()) - 1;
+    QRectF square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    return square;
+}
+
+// The usual outline is a shade of the window's colour, which dark lists swallow. Leaves the painter ready for
+// the sign inside.
+void PaintOutline(const QStyleOption& option, QPainter& painter, const QRectF& box, double radius) {
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(line, 1));
-    painter.setBrush(palette.color(QPalette::Base));
-    painter.setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 0.75 : 0.4);
-    painter.drawRoundedRect(box, 2, 2);
-    painter.setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : 0.5);
-    painter.setPen(QPen(line, side / 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(option.palette.color(QPalette::Text), 1));
+    painter.setBrush(option.palette.color(QPalette::Base));
+    painter.setOpacity(isEnabled ? 0.75 : 0.4);
+    painter.drawRoundedRect(box, radius, radius);
+    painter.setOpacity(isEnabled ? 1 : 0.5);
+}
+
+void PaintRadio(const QStyleOption& option, QPainter& painter) {
+    const QRectF circle = SquareIn(option.rect);
+    painter.save();
+    PaintOutline(option, painter, circle, circle.width() / 2);
+    if (option.state.testFlag(QStyle::State_On)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(option.palette.color(QPalette::Text));
+        painter.drawEllipse(circle.center(), circle.width() / 4, circle.width() / 4);
+    }
+    painter.restore();
+}
+
+void PaintTickBox(const QStyleOption& option, QPainter& painter) {
+    const QRectF box = SquareIn(option.rect);
+    painter.save();
+    PaintOutline(option, painter, box, 2);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), box.width() / 6, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
     const auto at = [&box](double x, double y) {
         return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
     };
@@ -85,7 +108,12 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
 }
 
 QIcon CalmStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
-    return icon == SP_TitleBarCloseButton ? IconOf("Close") : QProxyStyle::standardIcon(icon, option, widget);
+    if (icon != SP_TitleBarCloseButton)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    // Dark themes leave the ground of tool tips and notices light.
+    return IconOf("Close", widget == nullptr
+                               ? IconGround()
+                               : IconGround{widget->backgroundRole(), widget->foregroundRole()});
 }
 
 void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -100,6 +128,8 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                               const QWidget* widget) const {
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
         PaintTickBox(*option, *painter);
+    else if (element == PE_IndicatorRadioButton)
+        PaintRadio(*option, *painter);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }

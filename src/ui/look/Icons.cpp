@@ -30,12 +30,11 @@ constexpr const char* kLine = "currentColor";
 // Signs inside a filled shape are cut out of it: they show the window behind.
 constexpr const char* kGround = "#f0f0f0";
 
-QByteArray InInksOf(QByteArray picture, const QPalette& palette, bool enabled) {
-    const QColor window = palette.color(QPalette::Window);
+QByteArray InInksOf(QByteArray picture, IconGround ground, bool enabled) {
+    const QPalette palette = QGuiApplication::palette();
+    const QColor window = palette.color(ground.ground);
     const QByteArray line =
-        palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::WindowText)
-            .name()
-            .toLatin1();
+        palette.color(enabled ? QPalette::Active : QPalette::Disabled, ground.text).name().toLatin1();
     const bool dark = window.lightnessF() < 0.5;
     picture.replace(kLine, line);
     picture.replace(kGround, window.name().toLatin1());
@@ -48,12 +47,12 @@ QByteArray InInksOf(QByteArray picture, const QPalette& palette, bool enabled) {
 // desktop that turns dark in the evening.
 class SvgInkEngine final : public QIconEngine {
   public:
-    explicit SvgInkEngine(QByteArray picture) : picture_(std::move(picture)) {}
+    SvgInkEngine(QByteArray picture, IconGround ground) : picture_(std::move(picture)), ground_(ground) {}
 
-    QIconEngine* clone() const override { return new SvgInkEngine(picture_); }
+    QIconEngine* clone() const override { return new SvgInkEngine(picture_, ground_); }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        QSvgRenderer renderer(InInksOf(picture_, QGuiApplication::palette(), mode != QIcon::Disabled));
+        QSvgRenderer renderer(InInksOf(picture_, ground_, mode != QIcon::Disabled));
         renderer.render(painter, rect);
     }
 
@@ -67,13 +66,14 @@ class SvgInkEngine final : public QIconEngine {
 
   private:
     QByteArray picture_;
+    IconGround ground_;
 };
 
 }  // namespace
 
-QIcon IconOf(std::string_view name) {
+QIcon IconOf(std::string_view name, IconGround ground) {
     QFile file(":/icons/" + ToQt(name) + ".svg");
-    return file.open(QIODevice::ReadOnly) ? QIcon(new SvgInkEngine(file.readAll())) : QIcon();
+    return file.open(QIODevice::ReadOnly) ? QIcon(new SvgInkEngine(file.readAll(), ground)) : QIcon();
 }
 
 }  // namespace tavrene::ui
