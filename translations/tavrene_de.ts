@@ -790,7 +790,7 @@
     </message>
     <message>
         <source>Read the forms of the last run again that Precise Alignment reads otherwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Formulare des letzten Laufs noch einmal lesen, die „Genaues Ausrichten“ anders liest</translation>
     </message>
 </context>
 <context>
@@ -2199,6 +2199,22 @@ Selecting No would keep the same profile but skip the modified fields.</source>
     <message>
         <source>Process interrupted by user</source>
         <translation>Die Verarbeitung wurde angehalten</translation>
+    </message>
+    <message>
+        <source>These boxes were copied before the program was started. Copy them once more.</source>
+        <translation>Diese Kästchen wurden kopiert, bevor das Programm gestartet wurde. Kopieren Sie sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The scanner refuses the source that was chosen.</source>
+        <translation>Der Scanner lehnt die gewählte Quelle ab.</translation>
+    </message>
+    <message>
+        <source>The scanner refuses the mode that was chosen.</source>
+        <translation>Der Scanner lehnt den gewählten Modus ab.</translation>
+    </message>
+    <message>
+        <source>The scanner refuses the resolution that was chosen.</source>
+        <translation>Der Scanner lehnt die gewählte Auflösung ab.</translation>
     </message>
 </context>
 <context>

@@ -75,6 +75,8 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("Engine", "The rest was cancelled."),
     QT_TRANSLATE_NOOP("Engine", "The clipboard holds no files. Copy scans or folders in a file manager first."),
     QT_TRANSLATE_NOOP("Engine", "The clipboard holds boxes. Open a profile to add them to it."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "These boxes were copied before the program was started. Copy them once more."),
     QT_TRANSLATE_NOOP("Engine", "1 page was scanned to ProcessIn."),
     QT_TRANSLATE_NOOP("Engine", "%L1 pages were scanned to ProcessIn."),
 
