@@ -1,8 +1,19 @@
 #include "intake/SaneLibrary.h"
 
 #include <dlfcn.h>
+#include <pthread.h>
 
 #include <optional>
+
+// Takes the place of the system's function for all of the program. Some drivers read in a thread of their
+// own, let it be killed at any moment and kill it when a page ends or jams; with the locks of the system that
+// it held just then (the loader's, the locale's) the whole program would stand still for ever. So threads end
+// only where they wait.
+extern "C" int pthread_setcanceltype(int /*type*/, int* before) {
+    if (before != nullptr)
+        *before = PTHREAD_CANCEL_DEFERRED;
+    return 0;
+}
 
 namespace tavrene::intake {
 namespace {

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <memory>
 
 #include "ui/base/EmptyHint.h"
 #include "ui/base/QtText.h"
@@ -29,10 +30,14 @@ SheetView::SheetView(QWidget* parent) : QListView(parent) {
 void SheetView::Show(SheetModel& model) {
     if (this->model() == &model)
         return;
+    if (this->model() != nullptr)
+        places_[Sheet()] = currentIndex().row();
+    // Another model gets another selection; the one before would go on following all changes.
+    const std::unique_ptr<QItemSelectionModel> before(selectionModel());
     setModel(&model);
     FitCells();
     if (model.rowCount() > 0)
-        setCurrentIndex(model.index(0));
+        setCurrentIndex(model.index(std::clamp(places_[&model], 0, model.rowCount() - 1)));
 }
 
 int SheetView::FirstOnScreen() const {

@@ -2,6 +2,7 @@
 
 #include <QListView>
 #include <functional>
+#include <map>
 #include <utility>
 
 #include "ui/reviewing/SheetModel.h"
@@ -55,7 +56,8 @@ class SheetView final : public QListView {
 
     Listener listener_;
     QString hint_;
-    QPersistentModelIndex pressed_;  ///< Under the plain left button.
+    std::map<const SheetModel*, int> places_;  ///< The current row of a part that is not shown.
+    QPersistentModelIndex pressed_;            ///< Under the plain left button.
 };
 
 }  // namespace tavrene::ui

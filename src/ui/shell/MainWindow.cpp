@@ -19,7 +19,7 @@
 #include "ui/scanning/ScanCommand.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
-#include "ui/shell/ContextMenu.h"
+#include "ui/shell/ContextMenus.h"
 #include "ui/shell/Language.h"
 #include "ui/shell/ScanIntake.h"
 
@@ -73,7 +73,8 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectViewCommands();
     ConnectCommands();
     ConnectSummary();
-    AddContextMenus();
+    AddContextMenus(
+        {*profiles_, *forms_, *boxes_, *view_, toolbars_, desk_.Session(), [this] { OfferCommands(); }});
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
     new ScanCommand(*this, {context_.files, operator_, context_.clock, state_, gate_});
     summary_->SetSplitter([this, intake] {
@@ -205,37 +206,6 @@ void MainWindow::ConnectSummary() {
     gate_.SetHandler(Command::ProcessUnread, [this] { ProcessUnread(); });
 }
 
-void MainWindow::AddContextMenus() {
-    const auto add = [this](QAbstractScrollArea& area, ContextMenu::Target target,
-                            std::initializer_list<Command> offered) {
-        QList<QAction*> actions;
-        for (const Command command : offered)
-            actions += toolbars_.ActionOf(command);
-        new ContextMenu(area, std::move(target), actions);
-    };
-    const auto ofBox = {Command::RenameBox, Command::NameBoxes, Command::DuplicateBoxes, Command::GroupBoxes,
-                        Command::DeleteBox, Command::FlipBox,   Command::NextDoubt};
-    ReasonList& unread = forms_->Unread().List();
-    const auto isOpenProfile = [this](const QModelIndex& line) {
-        return desk_.Session().Profile().CurrentProfile == line.row() + 1;
-    };
-    add(profiles_->Strip(), ClickedLine(profiles_->Strip(), isOpenProfile),
-        {Command::Save, Command::FindMoreBoxes, Command::TestProfile, Command::DuplicateProfile,
-         Command::RenameProfile, Command::DeleteProfile});
-    const auto isOpenForm = [this](const QModelIndex& line) { return forms_->List().IsOpen(line); };
-    add(forms_->List(), ClickedLine(forms_->List(), isOpenForm),
-        {Command::Okay, Command::AcceptForm, Command::RejectForm, Command::NextDoubt});
-    add(*boxes_, SelectedLine(*boxes_), ofBox);
-    add(*view_, BoxOnPage(*view_, *boxes_), ofBox);
-    const auto offered = [this, line = SelectedLine(unread)](const QContextMenuEvent& asked) {
-        const std::optional<QPoint> place = line(asked);
-        OfferCommands();
-        return place;
-    };
-    add(unread, offered, {Command::BackToProcessIn, Command::AllBackToProcessIn, Command::ProcessUnread});
-}
-
-// What cannot be processed stays where the list of unread pages shows it.
 bool MainWindow::HasFolder() const {
     return context_.folder == nullptr || context_.folder->Take(app::FolderLock::Use::Alone);
 }
@@ -255,6 +225,7 @@ void MainWindow::Process() {
         runs_.Process();
 }
 
+// What cannot be processed stays where the list of unread pages shows it.
 void MainWindow::ProcessUnread() {
     if (!run_.MayStart(state_.profiles) || !MayRun())
         return;

@@ -72,7 +72,6 @@ class MainWindow final : public QMainWindow {
     void UpdateCommands();
     void ShowTitle();
     void ConnectSummary();
-    void AddContextMenus();
     void Process();
     void ProcessUnread();
     bool HasFolder() const;

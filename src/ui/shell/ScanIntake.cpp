@@ -88,7 +88,7 @@ ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context)
         if (CopyCommands::AreBoxesOnClipboard() && context_.gate.Offers(Command::PasteBoxes))
             context_.gate.Run(Command::PasteBoxes);
         else
-            Paste(*QGuiApplication::clipboard());
+            Paste(QGuiApplication::clipboard()->mimeData());
     });
 }
 
@@ -115,9 +115,10 @@ void ScanIntake::TakeWhenIdle(const std::vector<std::string>& paths) {
 }
 
 // What file managers copy may carry a small picture beside the files.
-void ScanIntake::Paste(const QClipboard& clipboard) {
-    const std::vector<std::string> paths = PathsIn(clipboard.mimeData());
-    const QImage picture = paths.empty() ? clipboard.image() : QImage();
+void ScanIntake::Paste(const QMimeData* clipboard) {
+    const std::vector<std::string> paths = PathsIn(clipboard);
+    const bool isPicture = paths.empty() && clipboard != nullptr;
+    const auto picture = isPicture ? qvariant_cast<QImage>(clipboard->imageData()) : QImage();
     if (picture.isNull()) {
         CopyIn(paths);
         return;

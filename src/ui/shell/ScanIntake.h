@@ -12,7 +12,7 @@
 #include "ui/commands/CommandGate.h"
 #include "ui/commands/PagesIn.h"
 
-class QClipboard;
+class QMimeData;
 
 namespace tavrene::ui {
 
@@ -45,7 +45,7 @@ class ScanIntake final : public QObject {
     /// A command that takes events may be under way, and a question could not be answered meanwhile.
     void TakeWhenIdle(const std::vector<std::string>& paths);
 
-    void Paste(const QClipboard& clipboard);
+    void Paste(const QMimeData* clipboard);
     std::string WhyNothingIsPasted() const;
     void Choose();
     void TakeIn(const std::vector<std::string>& paths);
