@@ -82,7 +82,7 @@ function library(header) {
         return "SANE"
     if (header ~ /^xlsxwriter/)
         return "libxlsxwriter"
-    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|getopt|pwd|poll|signal|spawn|dlfcn|windows|io)\.h$/)
+    if (header ~ /^(sys|linux|arpa|netinet)\// || header ~ /^(unistd|fcntl|fnmatch|glob|dirent|getopt|pwd|poll|signal|spawn|dlfcn|pthread|windows|io)\.h$/)
         return "platform"
     return ""
 }
