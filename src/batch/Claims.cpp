@@ -38,6 +38,10 @@ std::optional<std::chrono::seconds> PatienceOf(std::string_view claim) {
     return std::chrono::seconds(seconds);
 }
 
+std::string ClaimsIn(const std::string& folder) {
+    return folder + ".claims/";
+}
+
 enum class Moved { Yes, IsTaken, Failed };
 
 // Where files cannot have two names, what comes to `to` in the very moment between asking and moving is
@@ -67,12 +71,29 @@ std::vector<fs::path> EntriesOf(const std::string& folder, std::error_code& erro
     return entries;
 }
 
+std::vector<std::string> ClaimFoldersIn(const std::string& claims) {
+    std::vector<std::string> names;
+    std::error_code none;
+    for (const fs::path& entry : EntriesOf(claims, none))
+        if (std::string name = app::FromPath(entry.filename()); !name.starts_with(kLeft))
+            names.push_back(std::move(name));
+    return names;
+}
+
 }  // namespace
+
+std::size_t CountClaimed(const app::Files& files, const std::string& folder) {
+    const std::string claims = ClaimsIn(folder);
+    std::size_t count = 0;
+    for (const std::string& name : ClaimFoldersIn(claims))
+        app::FailureOf([&] { count += files.List(claims + name + "/", "*").size(); });
+    return count;
+}
 
 Claims::Claims(const app::Files& files, std::string folder, std::chrono::seconds patience)
     : files_(files),
       folder_(std::move(folder)),
-      claims_(folder_ + ".claims/"),
+      claims_(ClaimsIn(folder_)),
       patience_(patience),
       own_(claims_ + OwnName(patience) + "/"),
       heart_(patience) {}
@@ -83,14 +104,13 @@ Claims::~Claims() {
 }
 
 std::vector<std::string> Claims::Others() const {
-    std::vector<std::string> claims;
-    std::error_code none;
-    for (const fs::path& entry : EntriesOf(claims_, none)) {
-        std::string name = app::FromPath(entry.filename());
-        if (!name.starts_with(kLeft) && !hopeless_.contains(name) && !heart_.Keeps(claims_ + name + "/"))
-            claims.push_back(std::move(name));
-    }
+    std::vector<std::string> claims = ClaimFoldersIn(claims_);
+    std::erase_if(claims, [this](const auto& name) { return heart_.Keeps(claims_ + name + "/"); });
     return claims;
+}
+
+bool Claims::OthersWork() const {
+    return std::ranges::any_of(Others(), [this](const auto& name) { return !hopeless_.contains(name); });
 }
 
 // The base names of what others are working on, and of images that came to their place without their results.
@@ -227,7 +247,11 @@ std::optional<std::string> Claims::Seize(const std::string& name) {
     fs::rename(app::ToPath(claims_ + name), app::ToPath(mine), error);
     if (error) {
         heart_.Drop(mine);
-        hopeless_.insert(name);
+        // Usually somebody else was faster.
+        if (error != std::errc::no_such_file_or_directory) {
+            hindrance_ = error;
+            hopeless_.insert(name);
+        }
         return std::nullopt;
     }
     fs::last_write_time(app::ToPath(mine), fs::file_time_type::clock::now(), error);
@@ -241,7 +265,7 @@ std::optional<std::string> Claims::TakeOver(Moment now) {
     Look(now);
     std::vector<std::string> ownerless;
     for (const auto& [name, state] : seen_)
-        if (now - state.since >= PatienceOf(name).value_or(patience_))
+        if (!hopeless_.contains(name) && now - state.since >= PatienceOf(name).value_or(patience_))
             ownerless.push_back(name);
     std::error_code none;
     for (const fs::path& entry : EntriesOf(claims_, none))

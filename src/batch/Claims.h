@@ -15,6 +15,10 @@
 
 namespace tavrene::batch {
 
+/// How many files lie in claims of `folder` (ending in a separator). When nobody who claims works on it,
+/// their owners were killed.
+std::size_t CountClaimed(const app::Files& files, const std::string& folder);
+
 /// Shares one folder of waiting files among any number of processes and machines, by renaming alone: whoever
 /// has moved a file into a folder of its own in the hidden folder `.claims` has claimed it, and nobody else
 /// sees it where it was. A claim folder shows that its owner lives by its time of change; one that stands
@@ -43,11 +47,12 @@ class Claims {
     /// listed.
     std::vector<std::string> Take(std::size_t count);
 
-    /// Why a file that waited could not be claimed, though nobody else had it; empty where there was none.
+    /// Why a file that waited could not be claimed though nobody else had it, or a dead one's claim not be
+    /// taken over; empty where there was none.
     std::string Hindrance() const { return hindrance_ ? hindrance_.message() : std::string(); }
 
-    /// Whether others hold claims at the moment, dead ones among them.
-    bool OthersWork() const { return !Others().empty(); }
+    /// Whether others hold claims at the moment with which something can be done, dead ones among them.
+    bool OthersWork() const;
 
     /// Takes a dead one's claim folder over (path ending in a separator), or what an earlier one could not
     /// give back, once; nothing while there is none. The folder is an own one from here on.

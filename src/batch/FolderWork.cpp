@@ -5,6 +5,8 @@
 #include <thread>
 #include <utility>
 
+#include "app/Counted.h"
+#include "app/Reason.h"
 #include "batch/IncomingWatch.h"
 #include "profiles/ProfileLoader.h"
 #include "results/CsvExport.h"
@@ -38,6 +40,8 @@ FolderWork::FolderWork(const Options& options, const Surroundings& surroundings,
 }
 
 Exit FolderWork::Do() {
+    // Better told now than after a night's work.
+    MakeExportFolder();
     if (options_.patience > 0)
         return Share();
     return options_.watch ? Watch() : ProcessOnce();
@@ -47,14 +51,16 @@ Exit FolderWork::ProcessOnce() {
     if (!LockOrTell(FolderLock::Use::Alone))
         return Exit::InUse;
     const Exit exit = Process(folders_, {}, {});
-    if (exit != Exit::Failed)
-        Export();
-    return exit;
+    if (exit == Exit::Failed)
+        return exit;
+    Export();
+    return TellOfClaimed(exit);
 }
 
 // A signal is the only way to end this, so it ends well.
 Exit FolderWork::Watch() {
     IncomingWatch watch(files_, folders_.ProcessIn);
+    bool isNew = true;
     for (; !surroundings_.stop; watch.Wait()) {
         if (!LockOrTell(FolderLock::Use::Alone))
             continue;
@@ -63,8 +69,10 @@ Exit FolderWork::Watch() {
         if (!ready.empty()) {
             if (Process(folders_, {}, incoming) == Exit::Failed)
                 return Exit::Failed;
-            Export();
+            ExportOrTell();
         }
+        if (std::exchange(isNew, false))
+            TellOfClaimed(Exit::Done);
         // Between two lots the window may have the folder.
         lock_.Release();
     }
@@ -89,8 +97,9 @@ Exit FolderWork::Share() {
     }
     if (surroundings_.stop)
         return Exit::Stopped;
-    if (const std::string why = claims.Hindrance();
-        !why.empty() && !files_.List(folders_.ProcessIn, "*").empty()) {
+    const std::string why = claims.Hindrance();
+    if (!why.empty() &&
+        (!files_.List(folders_.ProcessIn, "*").empty() || CountClaimed(files_, folders_.ProcessIn) > 0)) {
         person_.ShowMessage("",
                             "Files are left in " + folders_.ProcessIn + " that cannot be claimed: " + why);
         exit = exit == Exit::Done ? Exit::SomeLeft : exit;
@@ -154,8 +163,8 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
                                  .jobs = [this] { return options_.jobs; },
                                  .look = isCounted ? doubts.Look() : recognition::FormLook()},
                                 settings_, folders);
-    person_.onPendingEvents = [this, &run] {
-        Tell(run.TakeReports());
+    person_.onPendingEvents = [this, &run, &folders] {
+        Tell(run.TakeReports(), folders.ProcessIn);
         if (surroundings_.stop)
             run.Stop();
     };
@@ -165,7 +174,7 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     doubts.Begin();
     run.Run(profiles_);
     doubts.End();
-    Tell(run.TakeReports());
+    Tell(run.TakeReports(), folders.ProcessIn);
     progress_.End(run.Summary().seconds, surroundings_.stop);
     // Once, however many lots there are.
     const std::string specimens = recognition::TextOf(run.Opinions());
@@ -177,23 +186,48 @@ Exit FolderWork::Process(const app::WorkingFolders& folders, const std::string& 
     return left > 0 ? Exit::SomeLeft : Exit::Done;
 }
 
+void FolderWork::MakeExportFolder() {
+    if (!options_.exportTo.empty() && !files_.FolderExists(options_.exportTo + "/"))
+        files_.CreateFolder(options_.exportTo + "/");
+}
+
 // Pages that nobody reads are no fault of the run, but by night there is no summary that offers to split
 // them.
-void FolderWork::Tell(std::span<const recognition::FileReport> files) {
-    for (const recognition::FileReport& file : files)
-        if (const int further = file.furtherPages; further > 0)
-            person_.ReportFile(file.name, std::to_string(further) +
-                                              (further == 1 ? " further page was" : " further pages were") +
-                                              " not looked at");
+void FolderWork::Tell(std::span<const recognition::FileReport> files, const std::string& incoming) {
+    for (const recognition::FileReport& file : files) {
+        if (file.furtherPages > 0)
+            person_.ReportFile(
+                file.name,
+                app::Counted(file.furtherPages, "further page was", "further pages were") + " not looked at");
+        // Those that have stayed where they were are told already.
+        if (file.end == FileEnd::NotWritten && !files_.FileExists(incoming + file.name))
+            person_.ReportFile(file.name, file.reason);
+    }
     progress_.Add(files);
+}
+
+// Nobody who claims works on the folder now, so nobody else would ever read them.
+Exit FolderWork::TellOfClaimed(Exit exit) {
+    const std::size_t count = CountClaimed(files_, folders_.ProcessIn);
+    if (count == 0)
+        return exit;
+    person_.ShowMessage("", app::Counted(count, "scan lies", "scans lie") +
+                                " in claims of programs that were killed. tavrene-batch --claim takes " +
+                                (count == 1 ? "it" : "them") + " over.");
+    return exit == Exit::Done ? Exit::SomeLeft : exit;
+}
+
+// A share that is away for a while must not end the watch.
+void FolderWork::ExportOrTell() {
+    if (const std::string failure = app::FailureOf([this] { Export(); }); !failure.empty())
+        person_.ShowMessage("", failure);
 }
 
 void FolderWork::Export() {
     if (options_.exportTo.empty())
         return;
     const std::string folder = options_.exportTo + "/";
-    if (!files_.FolderExists(folder))
-        files_.CreateFolder(folder);
+    MakeExportFolder();
     const results::Progress goOn = [](std::size_t, std::size_t) { return true; };
     const auto found = results::ReadResults(files_, folders_.ProcessOut, goOn);
     for (const results::LeftOut& document : found->Damaged)

@@ -38,8 +38,11 @@ class FolderWork {
     bool ShareNext(Claims& claims, Exit& exit);
     bool LockOrTell(app::FolderLock::Use use);
     Exit Process(const app::WorkingFolders& folders, const std::string& staging, const Incoming& incoming);
-    void Tell(std::span<const recognition::FileReport> files);
+    void Tell(std::span<const recognition::FileReport> files, const std::string& incoming);
+    Exit TellOfClaimed(Exit exit);
+    void MakeExportFolder();
     void Export();
+    void ExportOrTell();
 
     const Options& options_;
     const Surroundings& surroundings_;

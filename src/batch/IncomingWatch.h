@@ -1,8 +1,11 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <map>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/DiskFile.h"
@@ -11,6 +14,8 @@
 namespace tavrene::batch {
 
 /// Tells which files of a folder nobody writes to any more: those that have stayed as they are for a while.
+/// Where the system tells that a writer has not closed its file yet, that one is waited for, though not for
+/// ever.
 class IncomingWatch {
   public:
     using Moment = std::chrono::steady_clock::time_point;
@@ -29,7 +34,7 @@ class IncomingWatch {
 
     /// Waits until something happens in the folder, or until something may have become quiet. Folders of
     /// other machines tell of nothing, so it looks by itself now and then.
-    void Wait() const;
+    void Wait();
 
   private:
     struct Seen {
@@ -38,10 +43,14 @@ class IncomingWatch {
         bool isGivenOut = false;
     };
 
+    void TakeEvents();
+    void Note(std::uint32_t event, std::string_view name);
+
     const app::Files& files_;
     std::string folder_;
     app::disk::Descriptor events_;
     std::map<std::string, Seen> seen_;
+    std::set<std::string, std::less<>> open_;  ///< Written to and not closed since.
 };
 
 }  // namespace tavrene::batch

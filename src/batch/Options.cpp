@@ -30,10 +30,12 @@ std::string WholePath(const std::string& path) {
     return whole;
 }
 
-// A number from 1 to `most`.
-bool NoteNumber(std::string_view text, int most, int& number) {
+bool NoteNumber(const char* option, std::string_view text, int most, int& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most;
+    if (error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most)
+        return true;
+    std::cerr << "tavrene-batch: " << option << " takes a number from 1 to " << most << '\n';
+    return false;
 }
 
 bool Note(Options& options, int option) {
@@ -42,10 +44,10 @@ bool Note(Options& options, int option) {
             options.settings = WholePath(::optarg);
             return !options.settings.empty();
         case 'n':
-            return NoteNumber(::optarg, 256, options.jobs);
+            return NoteNumber("--jobs", ::optarg, 256, options.jobs);
         case 'c':
             options.patience = 60;
-            return ::optarg == nullptr || NoteNumber(::optarg, 86'400, options.patience);
+            return ::optarg == nullptr || NoteNumber("--claim", ::optarg, 86'400, options.patience);
         case 'p':
             return options.precise = true;
         case 'd':

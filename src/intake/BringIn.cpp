@@ -29,7 +29,6 @@ class Intake {
         : files_(files), folders_(folders), watch_(watch), names_(files, folders) {}
 
     Report Run(std::span<const Source> sources) {
-        StagedPages::Clean(files_, folders_.Temp);
         for (const Source& source : sources)
             Find(source);
         progress_.files = found_.size();

@@ -147,12 +147,13 @@ bool PagePicture::CoversPage(const GfxState& state) const {
            place.bottom <= pageHeight_ + allowed.y;
 }
 
+// False where the picture is not the page and was not read.
 template <typename Decode>
-void PagePicture::Keep(const GfxState& state, const Decode& decode) {
+bool PagePicture::Keep(const GfxState& state, const Decode& decode) {
     const Place place = PlaceOf(state);
     const std::optional<imaging::Turn> turn = TurnOf(place);
     if (!turn || !CoversPage(state) || !IsPlain(state))
-        return Painted();
+        return false;
     try {
         imaging::Bitmap picture = imaging::Turned(decode(), *turn);
         imaging::SetResolution(picture, picture.Width() * PagePicture::kDpi / (place.right - place.left),
@@ -162,20 +163,34 @@ void PagePicture::Keep(const GfxState& state, const Decode& decode) {
     } catch (const std::exception&) {
         fault_ = std::current_exception();
     }
+    return true;
 }
 
-void PagePicture::drawImageMask(GfxState* state, Object*, Stream* stream, int width, int height, bool invert,
-                                bool, bool) {
-    if (picture_ || isPainted_ || !FillsWith(*state, 0) || imaging::IsTooLarge(width, height))
-        return Painted();
-    Keep(*state, [&] { return DecodeStencil(*stream, width, height, invert); });
+bool PagePicture::MayBeAStencil(const GfxState& state) const {
+    return !picture_ && !isPainted_ && FillsWith(state, 0);
 }
 
-void PagePicture::drawImage(GfxState* state, Object*, Stream* stream, int width, int height,
-                            GfxImageColorMap* colors, bool, const int* maskColors, bool) {
-    if (maskColors != nullptr || imaging::IsTooLarge(width, height))
+// What stands within the page's own text has to be read all the same, or its bytes would count as text; that
+// is all that the base does.
+void PagePicture::drawImageMask(GfxState* state, Object* reference, Stream* stream, int width, int height,
+                                bool invert, bool interpolate, bool isInline) {
+    if (imaging::IsTooLarge(width, height))
         return Painted();
-    Keep(*state, [&] { return DecodePicture(*stream, width, height, *colors); });
+    if (MayBeAStencil(*state) && Keep(*state, [&] { return DecodeStencil(*stream, width, height, invert); }))
+        return;
+    Painted();
+    OutputDev::drawImageMask(state, reference, stream, width, height, invert, interpolate, isInline);
+}
+
+void PagePicture::drawImage(GfxState* state, Object* reference, Stream* stream, int width, int height,
+                            GfxImageColorMap* colors, bool interpolate, const int* maskColors,
+                            bool isInline) {
+    if (imaging::IsTooLarge(width, height))
+        return Painted();
+    if (maskColors == nullptr && Keep(*state, [&] { return DecodePicture(*stream, width, height, *colors); }))
+        return;
+    Painted();
+    OutputDev::drawImage(state, reference, stream, width, height, colors, interpolate, maskColors, isInline);
 }
 
 }  // namespace tavrene::intake

@@ -62,9 +62,10 @@ class PagePicture final : public OutputDev {
     // What is seen then depends on more than the order of painting.
     void SpoiltForGood() { isSpoilt_ = true; }
     void Filled(GfxState* state);
+    bool MayBeAStencil(const GfxState& state) const;
     bool CoversPage(const GfxState& state) const;
     template <typename Decode>
-    void Keep(const GfxState& state, const Decode& decode);
+    bool Keep(const GfxState& state, const Decode& decode);
 
     double pageWidth_;
     double pageHeight_;

@@ -1,19 +1,12 @@
 #include "intake/StagedPages.h"
 
+#include "app/DiskFile.h"
+
 namespace tavrene::intake {
-namespace {
-
-constexpr const char* kPrefix = "incoming-";
-
-}  // namespace
-
-void StagedPages::Clean(app::Files& files, const std::string& folder) {
-    for (const std::string& name : files.List(folder, std::string(kPrefix) + "*.tmp"))
-        files.Delete(folder + name);
-}
 
 void StagedPages::Add(std::span<const std::byte> image) {
-    const std::string path = folder_ + kPrefix + std::to_string(paths_.size() + 1) + ".tmp";
+    // Two windows may bring in at the same time.
+    const std::string path = app::disk::TemporaryNeighbour(folder_);
     files_.Write(path, image);
     paths_.push_back(path);
 }

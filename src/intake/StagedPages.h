@@ -9,7 +9,7 @@
 namespace tavrene::intake {
 
 /// The images of one file's pages in the `Temp` folder, until all of them are there. They go with this object
-/// unless they were moved.
+/// unless they were moved; those of a program that was killed go at the next start.
 class StagedPages {
   public:
     /// `folder` ends in a separator.
@@ -17,9 +17,6 @@ class StagedPages {
     ~StagedPages() { Discard(); }
     StagedPages(const StagedPages&) = delete;
     StagedPages& operator=(const StagedPages&) = delete;
-
-    /// Removes what an earlier run left when it was killed. Throws `app::FileError`.
-    static void Clean(app::Files& files, const std::string& folder);
 
     /// Throws `app::FileError`.
     void Add(std::span<const std::byte> image);

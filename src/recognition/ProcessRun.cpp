@@ -184,6 +184,8 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
     FileOutcome outcome;
     outcome.report.name = name;
     outcome.reading = forms.Take();
+    if (WasTakenOver(name))
+        return false;
     if (std::string failure = LogFailureOf(name, [&] { Record(profiles, outcome); }); !failure.empty()) {
         // What was read and failed all the same could not be written.
         outcome.report.end = outcome.reading.marks.empty() ? FileEnd::Refused : FileEnd::NotWritten;
@@ -197,6 +199,15 @@ bool ProcessRun::TakeFile(const std::string& name, std::span<const ProfileRecord
         outcome.reading.arrived();
     summary_.files.push_back(std::move(outcome.report));
     return moved;
+}
+
+// What is staged among one's own claims was claimed by others once its owner had been still for too long.
+// They read it and tell of it.
+bool ProcessRun::WasTakenOver(const std::string& name) {
+    if (context_.staging.empty() || context_.files.FileExists(folders_.ProcessIn + name))
+        return false;
+    LogAbout(name, said::kTakenOver);
+    return true;
 }
 
 // Whatever goes wrong with one file, it moves on, and so does the run.

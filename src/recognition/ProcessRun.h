@@ -102,6 +102,7 @@ class ProcessRun {
     void NoteSecondOpinion(const FileOutcome& outcome);
     void ShowPage(const FileOutcome& outcome);
     bool MoveToProcessOut(FileReport& report);
+    bool WasTakenOver(const std::string& name);
     void StayBehind(FileReport& report, const std::string& reason);
     std::string StateOf(const std::string& name) const;
     void RestoreRows();

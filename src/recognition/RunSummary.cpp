@@ -11,8 +11,8 @@ std::size_t RunSummary::Count(FileEnd end) const {
 }
 
 bool GivesNoReason(std::string_view what) {
-    constexpr std::array beginnings = {said::kComplete, said::kReplacesResult, said::kReplacesImage,
-                                       said::kPassedOver, said::kSentBack};
+    constexpr std::array beginnings = {said::kComplete,   said::kReplacesResult, said::kReplacesImage,
+                                       said::kPassedOver, said::kTakenOver,      said::kSentBack};
     return what.ends_with(said::kWasCutShort) ||
            std::ranges::any_of(beginnings, [what](auto beginning) { return what.starts_with(beginning); });
 }

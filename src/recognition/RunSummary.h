@@ -33,6 +33,7 @@ inline constexpr std::string_view kComplete = "Processing complete";
 inline constexpr std::string_view kReplacesResult = "Result replaces the earlier ";
 inline constexpr std::string_view kReplacesImage = "Replaces an earlier image, whose result ";
 inline constexpr std::string_view kPassedOver = "Passed over, since it could not be moved before";
+inline constexpr std::string_view kTakenOver = "Taken over by another program";
 inline constexpr std::string_view kSentBack = "sent back to ";
 inline constexpr std::string_view kWasCutShort = ", which was cut short before";
 }  // namespace said

@@ -260,6 +260,29 @@ TEST_F(BatchTest, ScansThatCannotBeClaimedAreNotTakenForDone) {
     EXPECT_TRUE(files_.FileExists(other_.File("ProcessOut/a.xml")));
 }
 
+TEST_F(BatchTest, ScansInClaimsOfADeadProgramAreToldWithoutClaiming) {
+    AddProfile("Form", form_);
+    CopyFolder();
+    const std::string claim = other_.File("ProcessIn/.claims/1s-host-7/");
+    std::filesystem::create_directories(claim);
+    form_.SaveScan(claim + "a.tif", {});
+    EXPECT_EQ(Run(), Exit::SomeLeft);
+    EXPECT_PRED2(Has, messages_.str(), "1 scan lies in claims of programs that were killed.");
+    options_.patience = 1;
+    EXPECT_EQ(Run(), Exit::Done);
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessOut/a.xml")));
+}
+
+TEST_F(BatchTest, WhereNoTablesCanBeWrittenIsToldBeforeTheFirstPage) {
+    AddProfile("Form", form_);
+    form_.SaveScan(folders_.ProcessIn + "a.tif", {});
+    CopyFolder();
+    options_.exportTo = settings_file_;
+    EXPECT_EQ(Run(), Exit::Failed);
+    EXPECT_PRED2(Has, messages_.str(), "Cannot create ");
+    EXPECT_TRUE(files_.FileExists(other_.File("ProcessIn/a.tif")));
+}
+
 // Only the waiting itself needs the clock; which files it takes is tested below.
 TEST_F(BatchTest, WatchesUntilItIsStopped) {
     AddProfile("Form", form_);

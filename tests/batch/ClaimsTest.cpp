@@ -192,5 +192,24 @@ TEST_F(ClaimsTest, OnlyAClaimThatStandsStillIsTakenOverAndByOneAlone) {
     EXPECT_EQ(other.Take(9), Names{"a.tif"});
 }
 
+TEST_F(ClaimsTest, AClaimThatCannotBeTakenOverIsToldAndItsNamesStayTaken) {
+    Claims one(files_, path_, kPatience);
+    const std::string dead = path_ + ".claims/1s-host-7/";
+    const std::string inTheWay = one.Folder().substr(0, one.Folder().size() - 1) + "-1/";
+    std::filesystem::create_directories(dead);
+    std::filesystem::create_directories(inTheWay + "full");
+    test::WriteText(dead + "a.tif", "claimed");
+    EXPECT_EQ(CountClaimed(files_, path_), 1U);
+    const Claims::Moment now{};
+    EXPECT_EQ(one.TakeOver(now), std::nullopt);
+    EXPECT_EQ(one.Hindrance(), "");
+    EXPECT_EQ(one.TakeOver(now + seconds(10)), std::nullopt);
+    EXPECT_NE(one.Hindrance(), "");
+    Put({"a.tif"});
+    EXPECT_EQ(one.Take(9), Names()) << "its owner may be asleep";
+    EXPECT_EQ(Waiting(), Names{"a.tif"});
+    std::filesystem::remove_all(inTheWay);
+}
+
 }  // namespace
 }  // namespace tavrene::batch

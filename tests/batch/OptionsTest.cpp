@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sstream>
 #include <vector>
 
 #include "batch/Options.h"
+#include "support/SourceFolder.h"
+#include "support/TempFolder.h"
 
 namespace tavrene::batch {
 namespace {
@@ -42,6 +45,21 @@ TEST(OptionsTest, TakesTheFolderWhereverItStandsAndRefusesTheRest) {
                                                   {"a", "--jobs=2x"},
                                                   {"a", "--export", ""}})
         EXPECT_FALSE(Read(wrong)) << (wrong.empty() ? "" : wrong.back());
+}
+
+TEST(OptionsTest, TheManPageTellsOfEachOption) {
+    std::string page = test::ReadText(test::SourceFolder() + "/packaging/tavrene-batch.1.in");
+    std::erase(page, '\\');
+    int options = 0;
+    std::istringstream words(kUsage);
+    for (std::string word; words >> word;) {
+        if (!word.starts_with("--") || word.size() < 4)
+            continue;
+        ++options;
+        word.resize(std::min(word.find_first_not_of("abcdefghijklmnopqrstuvwxyz", 2), word.size()));
+        EXPECT_NE(page.find(word), std::string::npos) << word;
+    }
+    EXPECT_GT(options, 10);
 }
 
 }  // namespace

@@ -22,6 +22,8 @@ class BringInTest : public test::IntakeWorld {
         return samples::PdfOf(made);
     }
 
+    std::vector<std::string> Staged() const { return files_.List(folders_.Temp, ".*"); }
+
     void SaveTiff(const std::string& name, int pages) {
         std::vector<imaging::TiffPage> made;
         for (int k = 1; k <= pages; ++k)
@@ -61,7 +63,7 @@ TEST_F(BringInTest, AFolderOfAllKindsComesInPageByPage) {
     EXPECT_TRUE(Has(report.files[4].reason, "no PDF and no picture"));
     EXPECT_EQ(report.files[5].images, std::vector<std::string>{"photo.png"});
     EXPECT_EQ(In(folders_.ProcessIn).size(), 151U);
-    EXPECT_TRUE(In(folders_.Temp).empty());
+    EXPECT_TRUE(Staged().empty());
     EXPECT_EQ(steps[119], std::pair(119, 120));
     EXPECT_EQ(ReadText(From("batch.pdf")), before);
 
@@ -123,26 +125,42 @@ TEST_F(BringInTest, NoNameOfTheProcessingFoldersIsGivenAgain) {
 TEST_F(BringInTest, WhatIsCancelledOrFailsLeavesNothing) {
     WriteText(From("a.pdf"), PdfOfPages(2));
     SaveTiff("b.tif", 4);
-    WriteText(folders_.Temp + "incoming-9.tmp", "left by a run that was killed");
     const Report cancelled =
         BringIn({{from_.Path()}}, [](const Progress& p) { return p.filesDone < 1 || p.pagesDone < 2; });
     EXPECT_TRUE(cancelled.isCancelled);
     ASSERT_EQ(cancelled.files.size(), 1U);
     EXPECT_EQ(In(folders_.ProcessIn), cancelled.files[0].images);
-    EXPECT_TRUE(In(folders_.Temp).empty());
+    EXPECT_TRUE(Staged().empty());
 
     for (const char* operation : {"write", "move"}) {
         int calls = 0;
         files_.refuse = [&](const std::string& asked, const std::string& path) {
-            return asked == operation && Has(path, "incoming-") && ++calls == 3;
+            return asked == operation && Has(path, folders_.Temp) && ++calls == 3;
         };
         const Outcome failed = BringInFile("b.tif");
         EXPECT_TRUE(Has(failed.reason, std::string("Cannot ") + operation)) << failed.reason;
         EXPECT_EQ(In(folders_.ProcessIn).size(), 2U);
-        EXPECT_TRUE(In(folders_.Temp).empty());
+        EXPECT_TRUE(Staged().empty());
     }
     files_.refuse = nullptr;
     EXPECT_TRUE(Has(BringInFile("none.pdf").reason, "Cannot read"));
+}
+
+TEST_F(BringInTest, TwoWindowsAtOnceKeepTheirPagesApart) {
+    SaveTiff("a.tif", 2);
+    WriteText(From("b.pdf"), PdfOfPages(4));
+    Report inner;
+    const Report outer = BringIn({{From("b.pdf")}}, [&](const Progress& progress) {
+        if (progress.pagesDone == 2)
+            inner = BringIn({{From("a.tif")}});
+        return true;
+    });
+    EXPECT_EQ(inner.files.at(0).images.size(), 2U);
+    ASSERT_EQ(outer.files.at(0).images.size(), 4U);
+    for (int k = 1; k <= 4; ++k)
+        ExpectSame(Incoming("b-p00" + std::to_string(k) + ".tif"), samples::ToBilevel(Page(k)),
+                   "a page of b");
+    EXPECT_TRUE(Staged().empty());
 }
 
 TEST_F(BringInTest, ADamagedPageKeepsTheWholeFileOut) {

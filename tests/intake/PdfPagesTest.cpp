@@ -154,6 +154,9 @@ TEST_F(PdfPagesTest, APageOfMoreThanAPictureIsDrawn) {
     for (const std::string& contents :
          {picture + "2 w 20 20 m 100 100 l S", picture + "BT /F0 12 Tf 20 100 Td (seen) Tj ET",
           picture + "10 10 20 20 re f", "20 20 100 100 re W n " + picture,
+          // Within them stands what would end them.
+          picture + "20 0 0 20 9 9 cm BI /W 4/H 4/BPC 8/CS/G ID 0123EI J6789abcd\nEI",
+          picture + "20 0 0 20 9 9 cm BI /W 32/H 4/IM true ID 0123EI J6789abcd\nEI",
           "99 99 m 150 150 50 200 9 9 c W n " + picture, std::string("100 0 0 100 20 20 cm /Im0 Do"),
           std::string("195 20 -20 275 0 0 cm /Im0 Do"),
           std::string("BT /F0 12 Tf 20 100 Td (no picture at all) Tj ET"), std::string()}) {

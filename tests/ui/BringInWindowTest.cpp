@@ -82,8 +82,8 @@ TEST_F(BringInWindowTest, TheSummaryTellsOfPagesNotLookedAtAndBringsThemIn) {
     auto& summary = Find<QLabel>(*window_, "lblSummary");
     EXPECT_TRUE(test::Has(FromQt(summary.text()), "3 further pages were not looked at"));
     // What did not come in is offered again.
-    files_.refuse = [](const std::string& operation, const std::string& path) {
-        return operation == "write" && test::Has(path, "incoming-");
+    files_.refuse = [this](const std::string& operation, const std::string& path) {
+        return operation == "write" && test::Has(path, folders_.Temp);
     };
     Q_EMIT summary.linkActivated("split");
     files_.refuse = nullptr;
