@@ -89,6 +89,19 @@ TEST_F(CommandRowsTest, EveryCommandThatLeavesUnsavedWorkAsksFirst) {
         }
 }
 
+TEST_F(CommandRowsTest, CancelKeepsTheUnsavedFormWhateverWouldLeaveIt) {
+    test::WriteText(folders_.ProcessIn + "torn.tif", "no image");
+    OpenForm(true);
+    for (const char* const key :
+         {"NextForm", "DoubtSheet", "AcceptAllClear", "AcceptForm", "ProcessUnread"}) {
+        DialogScript answers;
+        answers.Press(Box::Cancel);
+        Command(key).trigger();
+        EXPECT_EQ(answers.shown, Names{"Save changes to Form <a>?"}) << key;
+        EXPECT_TRUE(window_->isWindowModified()) << key;
+    }
+}
+
 TEST_F(CommandRowsTest, NewWithUnsavedChangesAndCancelChangesNothing) {
     OpenProfile(true);
     DialogScript answers;
