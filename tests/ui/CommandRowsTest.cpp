@@ -8,7 +8,6 @@
 namespace tavrene::ui {
 namespace {
 
-using test::Button;
 using test::DialogScript;
 using test::Find;
 using Box = QMessageBox;
