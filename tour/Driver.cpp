@@ -18,6 +18,8 @@
 
 #include "driving/Controls.h"
 #include "tour/Story.h"
+#include "tour/Waiting.h"
+#include "ui/reviewing/ReviewTable.h"
 
 namespace tavrene::tour {
 namespace {
@@ -135,6 +137,7 @@ void Driver::ShootReview() {
     Press("Review");
     OpenForm(kFormInShot);
     Press("FitWidth");
+    WaitForDoubts();
     auto& boxes = Find<QTreeWidget>(window_, "lvwSettings");
     boxes.setCurrentItem(boxes.topLevelItem(boxes.topLevelItemCount() - kRowInShotFromEnd));
     Find<QAction>(window_, "FlipBox").trigger();
@@ -144,6 +147,18 @@ void Driver::ShootReview() {
         dynamic_cast<QMessageBox&>(question).button(QMessageBox::No)->click();
     });
     Press("Review");
+}
+
+// They are counted while nothing else is done.
+void Driver::WaitForDoubts() {
+    const QAbstractItemModel& forms = *Find<QTreeView>(window_, "lvwReview").model();
+    const auto isCounted = [&forms] {
+        for (int row = 0; row < forms.rowCount(); ++row)
+            if (forms.index(row, ui::ReviewTable::kDoubts).data().toString().isEmpty())
+                return false;
+        return true;
+    };
+    WaitUntil(isCounted, "the doubts of all forms are counted");
 }
 
 void Driver::CloseSummary() {

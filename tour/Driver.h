@@ -40,6 +40,7 @@ class Driver final : public QObject {
     void Press(const char* key);
     void ShootProfileDesk();
     void ShootReview();
+    void WaitForDoubts();
     void CloseSummary();
     void OpenForm(const QString& name);
     void ShootSettingsDialog();

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDeadlineTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
@@ -17,6 +16,7 @@
 
 #include "app/Files.h"
 #include "driving/Controls.h"
+#include "tour/Waiting.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::tour {
@@ -27,18 +27,6 @@ using driving::Find;
 constexpr const char* kProfile = "NewSurvey";
 constexpr const char* kScan = "staff-01.tif";
 constexpr const char* kBlank = "StaffSurvey.tif";
-
-constexpr int kLookForDialogs = 20;  // milliseconds
-constexpr int kPatience = 60'000;
-
-void WaitUntil(const std::function<bool()>& isSo, const char* what) {
-    QDeadlineTimer patience(kPatience);
-    while (!isSo()) {
-        if (patience.hasExpired())
-            throw std::runtime_error(std::string("This has not happened: ") + what + ".");
-        QApplication::processEvents(QEventLoop::AllEvents, kLookForDialogs);
-    }
-}
 
 void Expect(bool isSo, const char* what) {
     if (!isSo)
@@ -83,7 +71,7 @@ void Story::Trigger(const char* command, std::deque<Act> acts) {
             dialog->reject();
         }
     });
-    timer.start(kLookForDialogs);
+    timer.start(kLookAgain);
     Trigger(command);
     if (failure_)
         std::rethrow_exception(std::exchange(failure_, {}));
@@ -94,7 +82,7 @@ void Story::MakeProfile() {
     Trigger("New", {[](QDialog& dialog) { AcceptName(dialog, kProfile); },
                     [this](QDialog& dialog) {
                         dynamic_cast<QFileDialog&>(dialog).selectFile(kBlank);
-                        QApplication::processEvents(QEventLoop::AllEvents, kLookForDialogs);
+                        QApplication::processEvents(QEventLoop::AllEvents, kLookAgain);
                         shoot_(dialog, "12-blank-form");
                         AcceptName(dialog, folders_.ProfileImages + kBlank);
                     }});

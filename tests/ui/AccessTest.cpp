@@ -69,6 +69,10 @@ TEST_F(AccessTest, EveryControlHasANameAndARole) {
         ++controls;
     }
     EXPECT_GT(controls, 25);
+    ClickThumbnail(1);
+    const QAccessibleInterface& message =
+        *QAccessible::queryAccessibleInterface(&Find<QLabel>(*window_, "Message"));
+    EXPECT_EQ(FromQt(message.text(QAccessible::Description)), Panel("Message"));
 }
 
 }  // namespace

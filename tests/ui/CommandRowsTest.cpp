@@ -8,7 +8,6 @@
 namespace tavrene::ui {
 namespace {
 
-using test::Button;
 using test::DialogScript;
 using test::Find;
 using Box = QMessageBox;
@@ -89,14 +88,25 @@ TEST_F(CommandRowsTest, EveryCommandThatLeavesUnsavedWorkAsksFirst) {
         }
 }
 
-TEST_F(CommandRowsTest, NewWithUnsavedChangesAndCancelChangesNothing) {
+TEST_F(CommandRowsTest, CancelKeepsWhatIsUnsavedWhateverWouldLeaveIt) {
+    const auto expectAsks = [this](const std::string& question, std::initializer_list<const char*> keys) {
+        for (const char* const key : keys) {
+            DialogScript answers;
+            answers.Press(Box::Cancel);
+            Command(key).trigger();
+            EXPECT_EQ(answers.shown, Names{question}) << key;
+            EXPECT_TRUE(window_->isWindowModified()) << key;
+        }
+    };
     OpenProfile(true);
-    DialogScript answers;
-    answers.Press(Box::Cancel);
-    Click("New");
+    expectAsks("Save changes to Profile <" + folders_.Profiles + "Form.Tvp>?",
+               {"New", "DuplicateProfile", "RenameProfile"});
     EXPECT_EQ(RowTexts(), (Names{"Q2", "Q3", "Q4"}));
-    EXPECT_TRUE(window_->isWindowModified());
     EXPECT_EQ(Saved("Form").size(), 4U);
+    test::WriteText(folders_.ProcessIn + "torn.tif", "no image");
+    OpenForm(true);
+    expectAsks("Save changes to Form <a>?",
+               {"NextForm", "DoubtSheet", "AcceptAllClear", "AcceptForm", "ProcessUnread"});
 }
 
 TEST_F(CommandRowsTest, SaveWritesTheProfileAndDeleteAsksAndTakesItAway) {

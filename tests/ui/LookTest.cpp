@@ -21,7 +21,8 @@ QPalette DarkPalette() {
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         palette.setColor(role, QColor(252, 252, 252));
-    // As most dark themes leave them.
+    // As most dark themes leave them, and links, which stay blue.
+    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
     palette.setColor(QPalette::ToolTipText, Qt::black);
     // As with the palette of a desktop.
@@ -66,9 +67,13 @@ TEST_P(LookTest, TextsCanBeRead) {
     EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21, 0.01);
     const QPalette palette = QApplication::palette();
     const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
-        {QPalette::WindowText, QPalette::Window},       {QPalette::Text, QPalette::Base},
-        {QPalette::Text, QPalette::AlternateBase},      {QPalette::ButtonText, QPalette::Button},
-        {QPalette::ToolTipText, QPalette::ToolTipBase}, {QPalette::HighlightedText, QPalette::Highlight}};
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::Link, QPalette::Window}};
     for (const auto group : {QPalette::Active, QPalette::Inactive})
         for (const auto& [text, ground] : pairs)
             EXPECT_GE(Contrast(palette.color(group, text), palette.color(group, ground)), kTextContrast)
@@ -78,6 +83,8 @@ TEST_P(LookTest, TextsCanBeRead) {
     Click("Review");
     auto& list = Find<QTreeView>(*window_, "lvwReview");
     EXPECT_GT(Standing(*list.viewport(), list.viewport()->rect(), kTextContrast), 100) << "of an empty list";
+    auto& filter = Find<QLineEdit>(*window_, "txtFilter");
+    EXPECT_GT(Standing(filter, filter.rect(), kTextContrast), 40) << "what an empty field waits for";
 }
 
 TEST_P(LookTest, TickBoxesAndSignsStandOutOnEveryLine) {

@@ -4,6 +4,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/base/QtText.h"
+
 namespace tavrene::ui {
 
 /// The column that fills `pane` to its edges.
@@ -44,6 +46,13 @@ inline QToolButton* CloseButton(QWidget* parent, const char* name, const QString
     close->setToolTip(toolTip);
     close->setAccessibleName(toolTip);
     return close;
+}
+
+/// A tool tip that shows `text` as it is, also to those who have it read to them: without a description of
+/// its own a control would pass the tool tip on with its markup.
+inline void SetPlainToolTip(QWidget& control, const QString& text) {
+    control.setToolTip(ToolTipOf(text));
+    control.setAccessibleDescription(text);
 }
 
 }  // namespace tavrene::ui

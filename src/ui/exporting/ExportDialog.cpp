@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
@@ -60,8 +61,8 @@ ExportDialog::ExportDialog(const commands::ExportChoice& choice, const app::Work
 QWidget* ExportDialog::SourceFrame(const app::WorkingFolders& folders) {
     auto* const frame = new QGroupBox(Tr("ExportDialog", "Which forms"));
     auto* const layout = new QVBoxLayout(frame);
-    waiting_->setToolTip(ToolTipOf(ToQt(folders.ProcessOut)));
-    accepted_->setToolTip(ToolTipOf(ToQt(folders.ProcessFinal)));
+    SetPlainToolTip(*waiting_, ToQt(folders.ProcessOut));
+    SetPlainToolTip(*accepted_, ToQt(folders.ProcessFinal));
     layout->addWidget(waiting_);
     layout->addWidget(accepted_);
     return frame;

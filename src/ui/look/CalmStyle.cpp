@@ -72,19 +72,31 @@ void PaintTickBox(const QStyleOption& option, QPainter& painter) {
     painter.restore();
 }
 
+// As close to `color` as texts on or under `other` can be read.
+QColor Readable(QColor color, const QColor& other) {
+    constexpr int kSteps = 40;
+    const bool isBright = other.lightnessF() > 0.5;
+    for (int step = 0; step < kSteps && Contrast(color, other) < kTextContrast; ++step)
+        color = isBright ? color.darker(104) : color.lighter(104);
+    return color;
+}
+
 }  // namespace
 
-// Many themes put white on a middle blue, which is hard to read.
+// Many themes put white on a middle blue, which is hard to read; dark ones often leave links and the hints in
+// empty fields as light windows have them.
 void CalmStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
-    constexpr int kSteps = 20;
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        const QColor text = palette.color(group, QPalette::HighlightedText);
-        QColor ground = palette.color(group, QPalette::Highlight);
-        const bool isBright = text.lightnessF() > 0.5;
-        for (int step = 0; step < kSteps && Contrast(text, ground) < kTextContrast; ++step)
-            ground = isBright ? ground.darker(104) : ground.lighter(104);
-        palette.setColor(group, QPalette::Highlight, ground);
+        const auto color = [&](QPalette::ColorRole role) { return palette.color(group, role); };
+        palette.setColor(group, QPalette::Highlight,
+                         Readable(color(QPalette::Highlight), color(QPalette::HighlightedText)));
+        for (const auto link : {QPalette::Link, QPalette::LinkVisited})
+            palette.setColor(group, link, Readable(color(link), color(QPalette::Window)));
+        constexpr int kHint = 170;
+        QColor hint = color(QPalette::Text);
+        hint.setAlpha(kHint);
+        palette.setColor(group, QPalette::PlaceholderText, hint);
     }
 }
 

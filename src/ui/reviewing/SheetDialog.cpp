@@ -85,6 +85,7 @@ QWidget* SheetDialog::Foot() {
     about_->setObjectName("lblSheet");
     about_->setTextFormat(Qt::PlainText);
     about_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    about_->setFixedHeight(2 * about_->fontMetrics().lineSpacing());
     confirm_->setObjectName("cmdConfirm");
     // Of its own, for a button takes a tenth of a second to answer its shortcut.
     auto* const confirm = new QAction(this);
@@ -213,7 +214,7 @@ void SheetDialog::ShowAbout() {
                           current.data(SheetModel::kReason).toString();
     about_->setText(Part().rowCount() == 0
                         ? QString()
-                        : about.trimmed() + "   " +
+                        : about.trimmed() + '\n' +
                               Tr("SheetDialog", "Space turns the mark round, Enter opens the form."));
 }
 

@@ -6,6 +6,7 @@
 
 #include "ui/base/CalmWheel.h"
 #include "ui/base/FitToScreen.h"
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 #include "ui/settings/SettingsDialog.h"
 #include "ui/settings/TrySamples.h"
@@ -268,7 +269,7 @@ QWidget* SettingsDialog::Buttons() {
     const QString cancelDoes = isFirstStart_ ? Tr("SettingsDialog", "Cancel keeps %1 as the working folder.")
                                                    .arg(QDir::toNativeSeparators(folder_->CurrentFolder()))
                                              : Tr("SettingsDialog", "Closes the dialog; nothing is changed.");
-    cancel->setToolTip(ToolTipOf(cancelDoes));
+    SetPlainToolTip(*cancel, cancelDoes);
     auto* const note = new QLabel(isFirstStart_ ? cancelDoes : QString());
     note->setObjectName("lblCancel");
     note->setTextFormat(Qt::PlainText);

@@ -75,7 +75,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectSummary();
     AddContextMenus(
         {*profiles_, *forms_, *boxes_, *view_, toolbars_, desk_.Session(), [this] { OfferCommands(); }});
-    auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_});
+    auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_, context.store});
     new ScanCommand(*this, {context_.files, operator_, context_.clock, state_, gate_});
     summary_->SetSplitter([this, intake] {
         gate_.Take(Command::BringIn, [&] { intake->BringInFurtherPages(run_); });

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QDateTime>
+#include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -26,6 +27,8 @@ namespace tavrene::ui {
 namespace {
 
 using commands::Command;
+
+constexpr std::string_view kFolder = "ScansFolder";
 
 std::vector<std::string> PathsIn(const QMimeData* data) {
     std::vector<std::string> paths;
@@ -160,17 +163,25 @@ void ScanIntake::TakeIn(const std::vector<std::string>& paths) {
 
 void ScanIntake::Choose() {
     const QStringList chosen = QFileDialog::getOpenFileNames(
-        &window_, Tr("ScanIntake", "Bring In Scans"), folder_,
+        &window_, Tr("ScanIntake", "Bring In Scans"), StartFolder(),
         Tr("ScanIntake", "Scans") +
             " (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp *.jp2 *.j2k *.j2c *.webp);;" +
-            Tr("ScanIntake", "All Files") + " (*)");
+            Tr("ScanIntake", "All Files") + " (*)",
+        nullptr, QFileDialog::HideNameFilterDetails);
     std::vector<std::string> paths;
     for (const QString& path : chosen)
         paths.push_back(FromQt(path));
     if (paths.empty())
         return;
-    folder_ = QFileInfo(chosen.front()).path();
+    app::WriteWindow(context_.store, kFolder, FromQt(QFileInfo(chosen.front()).path()));
     CopyIn(paths);
+}
+
+// Where files were chosen last, or else where people keep theirs: not in the working folder, whose pages are
+// in already.
+QString ScanIntake::StartFolder() const {
+    const QString last = ToQt(app::ReadWindow(context_.store, kFolder));
+    return !last.isEmpty() && QFileInfo(last).isDir() ? last : QDir::homePath();
 }
 
 void ScanIntake::BringInFurtherPages(recognition::ProcessRun& run) {

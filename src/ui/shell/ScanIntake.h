@@ -7,6 +7,7 @@
 
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "app/SettingsStore.h"
 #include "recognition/ProcessRun.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
@@ -22,6 +23,7 @@ struct IntakeContext {
     app::Operator& person;
     const commands::AppState& state;
     commands::CommandGate& gate;
+    app::SettingsStore& store;
 };
 
 /// The commands `BringIn` and `PasteScans` (files, folders or a picture), and files and folders that are
@@ -48,12 +50,12 @@ class ScanIntake final : public QObject {
     void Paste(const QMimeData* clipboard);
     std::string WhyNothingIsPasted() const;
     void Choose();
+    QString StartFolder() const;
     void TakeIn(const std::vector<std::string>& paths);
     void CopyIn(const std::vector<std::string>& paths);
 
     QWidget& window_;
     IntakeContext context_;
-    QString folder_;  ///< From where files were chosen last.
 };
 
 }  // namespace tavrene::ui

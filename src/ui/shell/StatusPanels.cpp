@@ -5,6 +5,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
 #include "ui/base/Shown.h"
 #include "ui/commands/RunTexts.h"
@@ -35,7 +36,7 @@ PanelLabel::PanelLabel(const QString& name) {
 
 void PanelLabel::ShowText(const QString& text) {
     setText(text);
-    setToolTip(ToolTipOf(text));
+    SetPlainToolTip(*this, text);
     repaint();
 }
 

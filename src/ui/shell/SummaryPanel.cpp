@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTextDocumentFragment>
 #include <algorithm>
 #include <utility>
 
@@ -69,7 +70,9 @@ SummaryPanel::SummaryPanel(QWidget* parent)
 
 void SummaryPanel::Show(const recognition::RunSummary& summary) {
     summary_ = summary;
-    text_->setText(LineOf(summary_));
+    const QString line = LineOf(summary_);
+    text_->setText(line);
+    text_->setAccessibleDescription(QTextDocumentFragment::fromHtml(line).toPlainText());
     ShowList(ToQt(commands::WorstLink(summary_).value_or("")));
     show();
 }

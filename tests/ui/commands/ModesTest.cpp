@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -62,6 +63,20 @@ TEST(ModesTest, OnlyTheStartAndARunOfferWhatHasNoEffect) {
                                                       : Commands{};
         EXPECT_EQ(offered, expected);
     }
+}
+
+TEST(ModesTest, WhatLeavesUnsavedWorkBehindAsksAboutItFirst) {
+    std::map<Prompts, Commands> asking;
+    for (int k = 0; k <= static_cast<int>(C::PickMark); ++k)
+        asking[PromptsBefore(static_cast<Command>(k))].insert(static_cast<Command>(k));
+    EXPECT_EQ(asking[Prompts::Profile],
+              (Commands{C::New, C::DuplicateProfile, C::RenameProfile, C::PickThumbnail}));
+    EXPECT_EQ(asking[Prompts::Form],
+              (Commands{C::AcceptForm, C::OpenForm, C::NextForm, C::PreviousForm, C::PickForm, C::DoubtSheet,
+                        C::AcceptAllClear, C::UndoDecision, C::ReadAgain}));
+    EXPECT_EQ(asking[Prompts::ProfileThenForm],
+              (Commands{C::Process, C::Review, C::ProcessUnread, C::PickFile}));
+    EXPECT_EQ(asking[Prompts::FormThenProfile], Commands{C::Exit});
 }
 
 TEST(ModesTest, ARunOutdoesReviewAndReviewOutdoesTheDesk) {
