@@ -5,7 +5,6 @@ namespace tavrene::profiles {
 namespace {
 
 using app::Answer;
-using app::Panel;
 using test::Has;
 using test::ReadText;
 using test::WriteText;
