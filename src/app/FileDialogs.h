@@ -11,6 +11,7 @@ struct FileQuestion {
     std::string startFolder;  ///< Ends in a separator.
     std::string fileName;     ///< Proposed name; empty for none.
     std::string filter;
+    bool isForNew = false;  ///< Of a file to be written: none that is there is taken.
 };
 
 /// The dialogs in which the person chooses a file; they give a whole path, or nothing when cancelled.

@@ -105,13 +105,18 @@ pugi::xml_document CreateProfileDocument(const ProfileHeader& header, const std:
     return document;
 }
 
+void SetRootAttribute(pugi::xml_document& document, const char* name, const std::string& value) {
+    pugi::xml_node root = document.first_child();
+    pugi::xml_attribute attribute = root.attribute(name);
+    if (!attribute)
+        attribute = root.append_attribute(name);
+    attribute.set_value(value.c_str());
+}
+
 void UpdateProfileDocument(pugi::xml_document& document, bool active, const std::string& omrsText) {
     const pugi::xml_document omrs = ParseOmrs(omrsText);
+    SetRootAttribute(document, "Active", active ? "1" : "0");
     pugi::xml_node root = document.first_child();
-    pugi::xml_attribute flag = root.attribute("Active");
-    if (!flag)
-        flag = root.append_attribute("Active");
-    flag.set_value(active ? "1" : "0");
     root.remove_child("OMRs");
     root.append_copy(omrs.first_child());
 }

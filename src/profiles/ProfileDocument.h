@@ -51,6 +51,9 @@ std::string ComposeOmrs(std::span<const OmrBox> boxes, std::int16_t count);
 /// A new document from header and `OMRs` text. Throws `DocumentError` when the text cannot be parsed.
 pugi::xml_document CreateProfileDocument(const ProfileHeader& header, const std::string& omrsText);
 
+/// Sets an attribute of an open document's root element, which keeps its place there.
+void SetRootAttribute(pugi::xml_document& document, const char* name, const std::string& value);
+
 /// Puts the flag and a new `OMRs` element, its boxes numbered from 1, into an open document. When the text
 /// cannot be parsed this throws `DocumentError` and leaves the document as it was.
 void UpdateProfileDocument(pugi::xml_document& document, bool active, const std::string& omrsText);

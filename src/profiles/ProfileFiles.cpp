@@ -9,18 +9,6 @@
 
 namespace tavrene::profiles {
 
-namespace {
-
-void SetRoot(pugi::xml_document& document, const char* name, const std::string& value) {
-    pugi::xml_node root = document.first_child();
-    pugi::xml_attribute attribute = root.attribute(name);
-    if (!attribute)
-        attribute = root.append_attribute(name);
-    attribute.set_value(value.c_str());
-}
-
-}  // namespace
-
 void RefuseToOpen(const std::string& path, const std::exception& error) {
     throw DocumentError("The profile " + path + " cannot be opened: " + error.what() + ".");
 }
@@ -62,7 +50,7 @@ void ProfileFiles::Save(OpenProfile& profile) {
 void ProfileFiles::ChangeImage(OpenProfile& profile, const std::string& image) {
     pugi::xml_document document;
     document.reset(profile.Document);
-    SetRoot(document, "Image", image);
+    SetRootAttribute(document, "Image", image);
     Write(profile, std::move(document));
     profile.Image = image;
 }
@@ -97,8 +85,8 @@ void ProfileFiles::WithGroups(const std::string& from, const std::string& to,
 
 void ProfileFiles::Duplicate(const OpenProfile& profile, const std::string& path) {
     pugi::xml_document document = LoadProfileDocument(files_, profile.Path);
-    SetRoot(document, "Profile", app::BaseName(path));
-    SetRoot(document, "Active", "0");
+    SetRootAttribute(document, "Profile", app::BaseName(path));
+    SetRootAttribute(document, "Active", "0");
     WithGroups(profile.Path, path, [&] { SaveProfileDocument(files_, path, document); });
     log_.LogProfileEvent("Created Profile: " + app::BaseName(path));
 }

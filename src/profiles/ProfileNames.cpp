@@ -1,13 +1,13 @@
 // The part of the profile session that gives profiles names.
 
-#include "app/Counted.h"
 #include "profiles/ProfileSession.h"
 
 namespace tavrene::profiles {
 
 std::optional<std::string> ProfileSession::AskNewName(const std::string& title, const std::string& proposed) {
-    std::optional<std::string> path =
-        context_.dialogs.AskSaveFile({title, context_.folders.Profiles, proposed + ".Tvp", kProfileFilter});
+    std::optional<std::string> path = context_.dialogs.AskSaveFile(
+        {title, context_.folders.Profiles, proposed + ".Tvp", kProfileFilter, true});
+    // It may have come in that moment.
     if (path && context_.files.FileExists(*path)) {
         context_.person.ShowMessage("", "There is a profile " + *path + " already. Choose another name.");
         return std::nullopt;
@@ -32,16 +32,27 @@ void ProfileSession::Duplicate() {
          ". Change its boxes or its image before you switch it on");
 }
 
+// Of accepted forms only the tables ask for a profile, and only for groups of its own. Those forms may be the
+// work of years, which is not read through without need.
+bool ProfileSession::MayLoseName() {
+    const auto isKnownIn = [this](const std::string& folder) {
+        return context_.hasResults && context_.hasResults(folder, profile_.Name);
+    };
+    const auto mayLose = [this](const std::string& forms, const std::string& loss) {
+        return context_.person.AskYesNo(forms + " read with the profile " + profile_.Name +
+                                            " and will not know it by another name: " + loss +
+                                            ". Rename it all the same?",
+                                        app::Answer::No) == app::Answer::Yes;
+    };
+    if (isKnownIn(context_.folders.ProcessOut))
+        return mayLose("Results were", "review will say that it no longer exists");
+    return !profile_.SavedGroups || !isKnownIn(context_.folders.ProcessFinal) ||
+           mayLose("Accepted forms were", "their tables will be without its groups");
+}
+
 void ProfileSession::Rename() {
     const std::optional<std::string> path = AskNewName("Rename Profile", profile_.Name);
-    if (!path)
-        return;
-    const int results = context_.resultsOf ? context_.resultsOf(profile_.Name) : 0;
-    const std::string question =
-        app::Counted(results, "result was", "results were") + " read with the profile " + profile_.Name +
-        " and will not know it by another name: review will say that it no longer exists. "
-        "Rename it all the same?";
-    if (results > 0 && context_.person.AskYesNo(question, app::Answer::No) != app::Answer::Yes)
+    if (!path || !MayLoseName())
         return;
     profiles_.Rename(profile_, *path);
     OpenUnderName(*path);

@@ -16,6 +16,7 @@ using app::Answer;
 using app::Panel;
 
 constexpr const char* kSpecimen = "specimen";
+constexpr const char* kLocate = "Locate...";
 constexpr const char* kGroups = "groups";
 constexpr const char* kImageFilter = "Image Files (*.Tif;*.Jpg;*.Png)|*.Tif;*.Jpg;*.Png";
 
@@ -166,11 +167,12 @@ void ProfileSession::TakeShown(const SpecimenShown& shown) {
     profile_.ImageHeight = shown.height;
     DropLasting(kSpecimen);
     if (!shown.missing.empty())
-        lasting_.push_back({shown.missing, "Locate...", [this] { Locate(); }, kSpecimen});
+        lasting_.push_back({shown.missing, kLocate, [this] { Locate(); }, kSpecimen});
     Note(shown.copyFailure);
 }
 
-// Only the path changes in the file; unsaved boxes stay unsaved.
+// Only the path changes in the file; unsaved boxes stay unsaved. There is no way back from a wrong image but
+// to another one.
 void ProfileSession::Locate() {
     const std::optional<std::string> image = context_.dialogs.AskOpenFile(
         {"Image of the Blank Form", context_.folders.ProfileImages, "", kImageFilter});
@@ -195,6 +197,10 @@ void ProfileSession::Locate() {
     specimen_.Fit(profile_.ImageWidth);
     RebuildStrip();
     ShowPanels();
+    DropNotes();
+    notes_.push_back(
+        {"The specimen image is " + *image + " now. Locate another one if the boxes do not fit it.", kLocate,
+         [this] { Locate(); }});
 }
 
 bool ProfileSession::Save() {

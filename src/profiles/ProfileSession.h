@@ -38,8 +38,8 @@ struct ProfileContext {
     /// What is to be said of boxes that a new profile may lack; without a text for nothing.
     std::function<app::Notice()> offerMore = {};
 
-    /// How many results know a profile by its name.
-    std::function<int(const std::string& name)> resultsOf = {};
+    /// Whether results in a folder know a profile by its name.
+    std::function<bool(const std::string& folder, const std::string& name)> hasResults = {};
 };
 
 /// The profile at the desk from its making or opening until it is closed: what the person is asked and told
@@ -119,6 +119,7 @@ class ProfileSession {
     void RebuildStrip();
     void Locate();
     std::optional<std::string> AskNewName(const std::string& title, const std::string& proposed);
+    bool MayLoseName();
     void OpenUnderName(const std::string& path);
     void TellIfOutside();
     void ShowPanels();

@@ -64,10 +64,6 @@ std::vector<ProfileMatch> MatchProfiles(const imaging::Page& page, std::span<con
     return matches;
 }
 
-int ScoreOf(const ProfileMatch& match) {
-    return match.tested == 0 ? 0 : app::RoundToInt(static_cast<double>(match.found) / match.tested * 100.0);
-}
-
 struct Best {
     std::size_t index = 0;
     int score = 0;
@@ -84,6 +80,10 @@ Best BestProfile(std::span<const ProfileRecord> profiles, std::span<const Profil
 }
 
 }  // namespace
+
+int ScoreOf(const ProfileMatch& match) {
+    return match.tested == 0 ? 0 : app::RoundToInt(static_cast<double>(match.found) / match.tested * 100.0);
+}
 
 Classification ClassifyImage(const imaging::Page& page, std::span<const ProfileRecord> profiles) {
     Classification result;

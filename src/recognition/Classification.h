@@ -31,6 +31,9 @@ struct Classification {
 /// A form belongs to a profile when more than half of its sampled outlines were found.
 inline constexpr int kLowConfidence = 50;
 
+/// Percent of the sampled boxes whose outline was found, as that is decided by; 0 where none was looked for.
+int ScoreOf(const ProfileMatch& match);
+
 /// Decides which of the profiles the page is a form of, by looking for the printed outlines of a sample of
 /// each active profile's boxes within `kMaxShift` pixels of their place. A profile without boxes ends the
 /// scan for itself and all later ones.

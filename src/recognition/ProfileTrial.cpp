@@ -42,10 +42,6 @@ void ReadWhereTheyShouldBe(const imaging::Page& page, const ProfileRecord& profi
 // A threshold that ticks nothing: which boxes are ticked is for the person to try.
 constexpr std::int16_t kNoThreshold = 101;
 
-bool IsMatch(const ProfileMatch& match) {
-    return match.tested > 0 && 100 * match.found > kLowConfidence * match.tested;
-}
-
 std::string WhyNoMatch(const ProfileMatch& match) {
     if (match.tested == 0)
         return "it has no boxes, or one before it in the list has none, so it is not looked for.";
@@ -61,7 +57,7 @@ Trial TryPlainly(const imaging::Page& page, std::span<const ProfileRecord> profi
         const auto winner = static_cast<std::size_t>(classification.winner);
         trial.verdict = TakenForAnother(profiles[winner], classification.matches[winner].Confidence);
     }
-    if (!IsMatch(match)) {
+    if (ScoreOf(match) <= kLowConfidence) {
         trial.verdict += "This profile does not match: " + WhyNoMatch(match);
         ReadWhereTheyShouldBe(page, profiles[tried], trial);
         return trial;

@@ -115,12 +115,13 @@ std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::stri
     return MarksIn(profiles::ReadXml(files, path, Declaration::Allowed).document_element());
 }
 
-int CountResultsOf(const app::Files& files, const std::string& folder, const std::string& profile) {
-    int count = 0;
-    for (const std::string& name : files.List(folder, "*.xml"))
-        app::FailureOf(
-            [&] { count += ResultDocument::Load(files, folder + name).Profile() == profile ? 1 : 0; });
-    return count;
+bool HasResultOf(const app::Files& files, const std::string& folder, const std::string& profile) {
+    const std::vector<std::string> names = files.List(folder, "*.xml");
+    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+        bool isOf = false;
+        app::FailureOf([&] { isOf = ResultDocument::Load(files, folder + name).Profile() == profile; });
+        return isOf;
+    });
 }
 
 std::string ImageOfResult(const app::Files& files, const std::string& path) {

@@ -81,8 +81,8 @@ void SaveResultDocument(app::Files& files, const std::string& path, const Result
 /// or `app::FileError`.
 std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::string& path);
 
-/// How many result documents of a folder were read with a profile; those that cannot be read are left out.
-int CountResultsOf(const app::Files& files, const std::string& folder, const std::string& profile);
+/// Whether a result document of a folder was read with a profile; those that cannot be read are left out.
+bool HasResultOf(const app::Files& files, const std::string& folder, const std::string& profile);
 
 /// The name of the image that a result document belongs to; empty when it cannot be told.
 std::string ImageOfResult(const app::Files& files, const std::string& path);

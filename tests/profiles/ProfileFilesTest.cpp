@@ -5,7 +5,6 @@ namespace tavrene::profiles {
 namespace {
 
 using app::Answer;
-using app::Panel;
 using test::Has;
 using test::ReadText;
 using test::WriteText;
@@ -87,7 +86,8 @@ TEST_F(ProfileFilesTest, LocatingASpecimenBringsNoDeletedDocumentBack) {
     session_.Notices().at(0).act();
     files_.refuse = nullptr;
     EXPECT_EQ(reads, 2) << "for the page and for the strip";
-    EXPECT_TRUE(session_.Notices().empty());
+    ASSERT_EQ(session_.Notices().size(), 1U) << "of another one, should the person have taken a wrong one";
+    EXPECT_EQ(session_.Notices()[0].button, lost.button);
     EXPECT_PRED2(Has, ReadText(PathOf("A")), moved);
 }
 
@@ -113,12 +113,14 @@ TEST_F(ProfileFilesTest, IsDuplicatedAndRenamedWithItsGroupsUnderFreeNames) {
     EXPECT_PRED2(Has, session_.Notices().at(0).text, "This copy is not active");
 
     const std::string document = ReadText(PathOf("C"));
-    resultsOf_ = 3;
-    person_.answers = {Answer::No, Answer::Yes};
-    dialogs_.answers = {PathOf("D"), PathOf("D")};
-    session_.Rename();
-    EXPECT_EQ(person_.lastPreset, Answer::No);
-    EXPECT_TRUE(files_.FileExists(PathOf("C")));
+    person_.answers = {Answer::No, Answer::No, Answer::Yes};
+    dialogs_.answers = {PathOf("D"), PathOf("D"), PathOf("D")};
+    for (const std::string& folder : {folders_.ProcessFinal, folders_.ProcessOut}) {
+        resultsIn_ = folder;
+        session_.Rename();
+        EXPECT_EQ(person_.lastPreset, Answer::No);
+        EXPECT_TRUE(files_.FileExists(PathOf("C")));
+    }
     session_.Rename();
     EXPECT_EQ(ReadText(PathOf("D")), document);
     EXPECT_EQ(ReadText(BoxGroupsPath(PathOf("D"))), groups);

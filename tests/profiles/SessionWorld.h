@@ -60,16 +60,17 @@ class SessionWorld : public RunWorld {
     TestForm form_ = TestForm::Grid(3, 2);
     FakeStrip strip_;
     FakeFileDialogs dialogs_;
-    int resultsOf_ = 0;
-    profiles::ProfileContext context_{files_,
-                                      person_,
-                                      dialogs_,
-                                      log_,
-                                      clock_,
-                                      folders_,
-                                      [](const profiles::OpenProfile&) { return std::vector<app::Notice>(); },
-                                      {},
-                                      [this](const std::string&) { return resultsOf_; }};
+    std::string resultsIn_;  ///< The folder whose results know every profile.
+    profiles::ProfileContext context_{
+        files_,
+        person_,
+        dialogs_,
+        log_,
+        clock_,
+        folders_,
+        [](const profiles::OpenProfile&) { return std::vector<app::Notice>(); },
+        {},
+        [this](const auto& folder, const auto&) { return folder == resultsIn_; }};
     profiles::ProfileSession session_{context_, profiles_, {screen_, screen_, strip_}};
 };
 

@@ -2,6 +2,7 @@
 
 #include <QGraphicsScene>
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/page/BoxLabels.h"
 #include "ui/page/GroupFrames.h"
@@ -44,16 +45,25 @@ TEST(LabelsTest, AFineScreenShowsNamesAndFramesAsLargeAsAnyOther) {
     }
 }
 
-// As of two blocks of questions side by side.
-TEST(LabelsTest, WhatAFrameSaysEndsBeforeTheNextFrame) {
-    auto* const frames = new GroupFrames;
-    frames->SetFrames({{{10, 80, 60, 24}, "A question with a long name: one mark"}});
+// As of two blocks of questions side by side, the first of which has print up to 200 behind it.
+TEST(LabelsTest, WhatAFrameSaysStandsBehindThePrintAndOverNoOtherFrame) {
+    const QString said = "A question: one mark";
+    double printEnd = 0;
+    auto* const frames = new GroupFrames(
+        [&](const QRectF& place) { return std::max(place.left(), std::min(place.right(), printEnd)); });
     QGraphicsScene scene;
     scene.addItem(frames);
+    const GroupFrame first{{10, 80, 60, 24}, said};
+    frames->SetFrames({first});
     const QRectF alone = InkOf(scene, 1);
-    frames->SetFrames({{{10, 80, 60, 24}, "A question with a long name: one mark"}, {{130, 80, 60, 24}, ""}});
-    EXPECT_GT(alone.right(), 200);
-    EXPECT_LT(InkOf(scene, 1).right(), 200);
+    EXPECT_NEAR(alone.top(), 77, 3) << "on its line";
+    EXPECT_GT(alone.right(), 150);
+    printEnd = 150;
+    const QRectF printed = InkOf(scene, 1);
+    EXPECT_NEAR(printed.right() - alone.right(), 150 - 76, 8);
+    frames->SetFrames({first, {{130, 80, 60, 24}, ""}});
+    EXPECT_LT(InkOf(scene, 1).right(), 200) << "neither over the other frame nor behind it";
+    EXPECT_LT(InkOf(scene, 1).top(), 70) << "but above";
 }
 
 }  // namespace

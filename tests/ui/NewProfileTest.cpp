@@ -53,6 +53,21 @@ TEST_F(NewProfileTest, EachSampleBlankBecomesTheProfileThatIsKnownOfIt) {
     EXPECT_EQ(FromQt(Strip().model()->index(2, 0).data().toString()), "Profile 3 of 3");
 }
 
+TEST_F(NewProfileTest, TheDialogForANewNameTakesNoneThatIsThereAndStaysOpen) {
+    AddSpecimenProfile("Say \"yes\"", form_);
+    const std::string before = test::ReadText(folders_.Profiles + "Old.Tvp");
+    Open();
+    ClickThumbnail(1);
+    DialogScript dialogs;
+    dialogs.Type("old").PressEnter().Type("Say \"yes\"").PressEnter().Type("Copy");
+    Find<QAction>(*window_, "DuplicateProfile").trigger();
+    ASSERT_EQ(dialogs.shown.size(), 5U);
+    EXPECT_EQ(dialogs.shown[1], "Old.Tvp is there already.\nChoose another name.");
+    EXPECT_EQ(dialogs.shown[3], "Say \"yes\".Tvp is there already.\nChoose another name.");
+    EXPECT_TRUE(files_.FileExists(folders_.Profiles + "Copy.Tvp"));
+    EXPECT_EQ(test::ReadText(folders_.Profiles + "Old.Tvp"), before);
+}
+
 TEST_F(NewProfileTest, CancelLeavesEverythingAsItWas) {
     Open();
     ClickThumbnail(1);

@@ -61,7 +61,7 @@ TEST_F(SpecimenTest, ALostSpecimenIsLocatedWithoutSavingTheBoxes) {
     DialogScript dialogs;
     dialogs.Type(moved);
     Find<QFrame>(*window_, "MessageStrip").findChild<QPushButton*>()->click();
-    EXPECT_EQ(Notices(), "");
+    EXPECT_PRED2(test::Has, Notices(), "moved.tif now. Locate another one");
     EXPECT_EQ(View().sceneRect().width(), form_.width);
     EXPECT_EQ(Panel("Message"), "Profile [Form], Image [moved.tif]");
     EXPECT_EQ(RowTexts().size(), 5U);

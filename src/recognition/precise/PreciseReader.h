@@ -40,7 +40,7 @@ class PreciseReader {
                             std::span<const MarkReading> marks, std::int16_t fillThreshold);
 
     /// What is printed on a profile's specimen; null where that is not known, or the boxes do not lie on it.
-    /// Holds as long as this object.
+    /// Holds as long as this object, but not beyond a trial.
     const SpecimenPrint* PrintOf(const profiles::ProfileRecord& profile);
 
     /// The boxes of a profile at known shifts, one entry a box; the others take their place from these.
@@ -51,6 +51,10 @@ class PreciseReader {
 
     /// What was wrong with the specimens that were needed since the last call.
     SpecimenFaults TakeFaults() { return prints_.TakeFaults(); }
+
+    /// After readings that nobody is told of, by profiles as they are being made: nothing of them stays. Not
+    /// while anything is read.
+    void EndTrial() { prints_.EndTrial(); }
 
   private:
     const ReadingOptions& options_;

@@ -44,4 +44,10 @@ SpecimenFaults SpecimenPrints::TakeFaults() {
     return std::exchange(faults_, {});
 }
 
+void SpecimenPrints::EndTrial() {
+    const std::scoped_lock lock(mutex_);
+    faults_ = {};
+    former_.clear();
+}
+
 }  // namespace tavrene::recognition

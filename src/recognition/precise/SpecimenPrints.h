@@ -27,11 +27,15 @@ class SpecimenPrints {
     /// `files` must outlive this.
     explicit SpecimenPrints(const app::Files& files) : files_(files) {}
 
-    /// Null when the image is not there or cannot be read. The answer holds as long as this object.
+    /// Null when the image is not there or cannot be read. The answer holds as long as this object,
+    /// but not beyond a trial.
     const SpecimenPrint* Of(const profiles::ProfileRecord& profile);
 
     /// What was wrong with those that were asked for since the last call.
     SpecimenFaults TakeFaults();
+
+    /// Forgets what was wrong, and the prints that others have taken the place of. Not while anybody reads.
+    void EndTrial();
 
   private:
     struct Known {

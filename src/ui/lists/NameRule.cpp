@@ -8,18 +8,19 @@
 namespace tavrene::ui {
 namespace {
 
-QString Cleaned(const QString& text) {
-    return ToQt(profiles::CleanedName(FromQt(text)));
+QString OnOneLine(const QString& text) {
+    return ToQt(profiles::WithoutControls(FromQt(text)));
 }
 
 }  // namespace
 
 QValidator::State NameRule::validate(QString& text, int& cursor) const {
     if (FromQt(text).find_first_of(profiles::kForbiddenInNames) != std::string::npos)
-        QToolTip::showText(field_.mapToGlobal(QPoint(0, field_.height())),
-                           Tr("NameRule", "The name of a box cannot hold a double quote, < or &."), &field_);
-    cursor = static_cast<int>(Cleaned(text.left(cursor)).size());
-    text = Cleaned(text);
+        QToolTip::showText(
+            field_.mapToGlobal(QPoint(0, field_.height())),
+            Tr("NameRule", "With a double quote, < or & in a name the profile cannot be saved."), &field_);
+    cursor = static_cast<int>(OnOneLine(text.left(cursor)).size());
+    text = OnOneLine(text);
     return Acceptable;
 }
 

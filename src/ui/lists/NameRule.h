@@ -5,8 +5,8 @@
 
 namespace tavrene::ui {
 
-/// What a box may be named while the name is typed or pasted: control characters and line breaks become a
-/// blank, and what a profile document cannot hold is left out with a word about it beside the field.
+/// The name of a box while it is typed or pasted: any text, on one line. What a profile document cannot hold
+/// is told beside the field, for the save will refuse it.
 class NameRule final : public QValidator {
   public:
     /// The rule belongs to the field.

@@ -3,9 +3,7 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace tavrene::ui {
 namespace {
@@ -19,28 +17,26 @@ const QColor kInk(0, 70, 120);
 const QColor kBadInk(180, 0, 0);
 const QColor kPaper(255, 255, 255, 225);
 
-// The first place beside the box, in sight and over nothing that is to be seen: above it, below it, at its
-// right or its left. A null rectangle where there is none.
-QRectF LabelPlace(const QRectF& box, const QSizeF& size, const QRectF& sight,
-                  const std::vector<QRectF>& taken) {
+// The first place beside the box where there is room: above it, below it, at its right or its left, and over
+// no print if that can be. A null rectangle where there is none.
+QRectF LabelPlace(const QRectF& box, const QSizeF& size, const LabelRoom& room) {
     const double level = box.center().y() - size.height() / 2;
     const QPointF places[] = {{box.left(), box.top() - size.height() - kGap},
                               {box.left(), box.bottom() + kGap},
                               {box.right() + kGap, level},
                               {box.left() - size.width() - kGap, level}};
-    for (const QPointF& place : places) {
-        const QRectF label(place, size);
-        if (sight.contains(label) && std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) {
-                return other.intersects(label);
-            }))
-            return label;
-    }
+    for (const QPointF& place : places)
+        if (room.IsBlank({place, size}))
+            return {place, size};
+    for (const QPointF& place : places)
+        if (room.IsFree({place, size}))
+            return {place, size};
     return {};
 }
 
 }  // namespace
 
-BoxLabels::BoxLabels() {
+BoxLabels::BoxLabels(PrintEnd print) : print_(std::move(print)) {
     setZValue(1.5);
     setVisible(false);
 }
@@ -69,7 +65,7 @@ void BoxLabels::SetPlaces(std::map<int, QRectF> places) {
 
 void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     const QTransform toScreen = painter->worldTransform();
-    const QRectF sight(painter->viewport());
+    LabelRoom room(*painter, print_);
     painter->save();
     painter->resetTransform();
     QFont font = QApplication::font();
@@ -77,10 +73,9 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
     painter->setFont(font);
     const QFontMetricsF metrics(font);
     // What is out of sight takes no room.
-    std::vector<QRectF> taken;
     for (const auto& [group, place] : places_)
-        if (const QRectF box = toScreen.mapRect(place); sight.intersects(box))
-            taken.push_back(box);
+        if (const QRectF box = toScreen.mapRect(place); room.Sight().intersects(box))
+            room.Take(box);
     for (const auto& [group, label] : labels_) {
         const auto place = places_.find(group);
         if (place == places_.end() || label.text.isEmpty())
@@ -88,10 +83,10 @@ void BoxLabels::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
         const QRectF box = toScreen.mapRect(place->second);
         const QString text = metrics.elidedText(label.text, Qt::ElideMiddle, kLongest);
         const QSizeF size(metrics.horizontalAdvance(text) + 2 * kPadding, metrics.height());
-        const QRectF at = sight.intersects(box) ? LabelPlace(box, size, sight, taken) : QRectF();
+        const QRectF at = room.Sight().intersects(box) ? LabelPlace(box, size, room) : QRectF();
         if (at.isNull())
             continue;
-        taken.push_back(at);
+        room.Take(at);
         painter->fillRect(at, kPaper);
         painter->setPen(label.isBad ? kBadInk : kInk);
         painter->drawText(at, Qt::AlignCenter, text);

@@ -3,6 +3,9 @@
 #include <QGraphicsItem>
 #include <QString>
 #include <map>
+#include <utility>
+
+#include "ui/page/LabelRoom.h"
 
 namespace tavrene::ui {
 
@@ -16,13 +19,14 @@ struct BoxLabel {
 /// names to be read, some are left out: those of boxes that come later, and never over another name.
 class BoxLabels final : public QGraphicsItem {
   public:
-    BoxLabels();
+    /// Names keep off the print where they can.
+    explicit BoxLabels(PrintEnd print = {});
 
     void SetLabels(std::map<int, BoxLabel> labels);
     bool IsEmpty() const { return labels_.empty(); }
     QString TextOf(int group) const;
 
-    /// Where a box is, in the page frame; an empty place for one that is not there any more.
+    /// Where all boxes are, in the page frame; those without a name are not covered either.
     void SetPlaces(std::map<int, QRectF> places);
 
     QRectF boundingRect() const override { return room_; }
@@ -32,6 +36,7 @@ class BoxLabels final : public QGraphicsItem {
     std::map<int, BoxLabel> labels_;
     std::map<int, QRectF> places_;
     QRectF room_;
+    PrintEnd print_;
 };
 
 }  // namespace tavrene::ui

@@ -36,8 +36,8 @@ BoxLayer::BoxLayer(ImageView& view)
     : view_(view),
       items_(new QGraphicsItemGroup),
       frame_(new HandleFrame),
-      labels_(new BoxLabels),
-      groups_(new GroupFrames),
+      labels_(new BoxLabels([&view](const QRectF& place) { return view.PrintedUpTo(place); })),
+      groups_(new GroupFrames([&view](const QRectF& place) { return view.PrintedUpTo(place); })),
       grid_(std::make_unique<GridTool>(*this)),
       drawn_(new QGraphicsRectItem) {
     tools_[imaging::BoxTool::Select] = std::make_unique<SelectTool>(*this);
@@ -75,9 +75,8 @@ void BoxLayer::ShowLabels(std::map<int, BoxLabel> labels) {
     if (labels.empty() && labels_->IsEmpty())
         return;
     std::map<int, QRectF> places;
-    for (const auto& [group, label] : labels)
-        if (const auto box = boxes_.find(group); box != boxes_.end())
-            places[group] = box->second.place;
+    for (const auto& [group, box] : boxes_)
+        places[group] = box.place;
     labels_->SetPlaces(std::move(places));
     labels_->SetLabels(std::move(labels));
 }

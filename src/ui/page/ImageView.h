@@ -73,6 +73,9 @@ class ImageView final : public QGraphicsView, public imaging::PageScreen {
     /// The page in its own frame; empty without one.
     QRectF PageRect() const { return page_->boundingRect(); }
 
+    /// Where print ends at the right in a part of the page; the left side of one that is blank.
+    double PrintedUpTo(const QRectF& part) const { return page_->PrintedUpTo(part); }
+
     /// Lets the view scroll to a place beside the page.
     void MakeReachable(const QRectF& rect);
 

@@ -17,6 +17,22 @@ void PageItem::SetImage(QImage image) {
     update();
 }
 
+bool PageItem::IsDark(int x, int y) const {
+    constexpr int kHalf = 128;
+    return image_.format() == QImage::Format_Mono ? ((image_.constScanLine(y)[x / 8] >> (7 - x % 8)) & 1) != 0
+                                                  : qGray(image_.pixel(x, y)) < kHalf;
+}
+
+double PageItem::PrintedUpTo(const QRectF& part) const {
+    const QRect place = part.toAlignedRect() & image_.rect();
+    int end = place.left();
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.right(); x >= end; --x)
+            if (IsDark(x, y))
+                end = x + 1;
+    return !place.isEmpty() && end > place.left() ? end : part.left();
+}
+
 QRectF PageItem::boundingRect() const {
     return {QPointF(0, 0), Size()};
 }

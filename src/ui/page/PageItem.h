@@ -15,10 +15,14 @@ class PageItem final : public QGraphicsItem {
     void SetImage(QImage image);
     QSizeF Size() const { return image_.size(); }
 
+    /// Where print ends at the right in a part of the page; the left side of one that is blank.
+    double PrintedUpTo(const QRectF& part) const;
+
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
   private:
+    bool IsDark(int x, int y) const;
     void PaintPart(QPainter& painter, const QRectF& exposed) const;
     void PaintSmaller(QPainter& painter, double scale);
 

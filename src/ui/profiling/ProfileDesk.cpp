@@ -22,6 +22,7 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       files_(context.files),
       store_(context.store),
       person_(context.person),
+      precise_(context.precise),
       gate_(context.gate),
       controls_(controls),
       session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
@@ -30,8 +31,8 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                     return app::Notice{more_.Offer(), "Find More Boxes",
                                        [this] { gate_.Run(Command::FindMoreBoxes); }};
                 },
-                [this](const std::string& name) {
-                    return recognition::CountResultsOf(files_, state_.folders.ProcessOut, name);
+                [this](const auto& folder, const auto& name) {
+                    return recognition::HasResultOf(files_, folder, name);
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
       boxes_(context.gate, session_.Profile(), session_.Editor()),
@@ -93,17 +94,21 @@ void ProfileDesk::TestProfile() {
     *tried = std::move(own);
     const auto index = static_cast<std::size_t>(tried - records.begin());
     const app::WorkingFolders& folders = state_.folders;
-    const bool hasRead = !ScansIn(files_, folders.ProcessOut).empty();
+    std::string folder = folders.ProcessOut;
+    std::vector<std::string> scans = ScansIn(files_, folder);
+    if (scans.empty())
+        scans = ScansIn(files_, folder = folders.ProcessIn);
     const auto way =
         state_.reading.preciseAlignment ? recognition::TrialWay::Precise : recognition::TrialWay::Plain;
-    TestProfileDialog({files_, std::move(records), index, hasRead ? folders.ProcessOut : folders.ProcessIn,
-                       way, state_.settings.FillThreshold,
+    TestProfileDialog({files_, std::move(records), index, std::move(folder), std::move(scans), precise_, way,
+                       state_.settings.FillThreshold,
                        [this](int threshold) {
                            state_.settings.FillThreshold = app::ClampToInt16(threshold);
                            app::WriteCommonNumber(store_, "FillThreshold", state_.settings.FillThreshold);
                        }},
                       controls_.view.window())
         .exec();
+    precise_.EndTrial();
 }
 
 // Of the size of the selected box, or of what is looked for on a page; the arrow keys are to take it further.

@@ -6,6 +6,7 @@
 #include "app/Operator.h"
 #include "app/SettingsStore.h"
 #include "profiles/ProfileSession.h"
+#include "recognition/precise/PreciseReader.h"
 #include "ui/commands/AppState.h"
 #include "ui/commands/CommandGate.h"
 #include "ui/lists/BoxListView.h"
@@ -28,6 +29,7 @@ struct DeskContext {
     commands::CommandGate& gate;
     app::FileDialogs& dialogs;
     app::SettingsStore& store;
+    recognition::PreciseReader& precise;
 };
 
 /// The controls that show the open profile.
@@ -80,6 +82,7 @@ class ProfileDesk {
     app::Files& files_;
     app::SettingsStore& store_;
     app::Operator& person_;
+    recognition::PreciseReader& precise_;
     commands::CommandGate& gate_;
     DeskControls controls_;
     profiles::ProfileSession session_;

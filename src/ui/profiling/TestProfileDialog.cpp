@@ -66,7 +66,6 @@ std::vector<std::string> ScansIn(const app::Files& files, const std::string& fol
 TestProfileDialog::TestProfileDialog(TrialContext context, QWidget* parent)
     : QDialog(parent),
       context_(std::move(context)),
-      precise_(context_.files, options_),
       scans_(Named(new QListWidget, "lvwScans", Tr("TestProfileDialog", "Scans"))),
       page_(Named(new ImageView(context_.files, this), "TestPage",
                   Tr("TestProfileDialog", "Scan with the boxes of the profile"))),
@@ -85,7 +84,7 @@ TestProfileDialog::TestProfileDialog(TrialContext context, QWidget* parent)
     setWindowTitle(
         Tr("TestProfileDialog", "Test Profile %1").arg(ToQt(context_.profiles[context_.tried].Name)));
     Build();
-    AddScans(ScansIn(context_.files, context_.folder));
+    AddScans(context_.scans);
     if (scans_->count() == 0)
         ShowNothing(Tr("TestProfileDialog", "There are no scans in %1. Choose some with Other Scans.")
                         .arg(ToQt(context_.folder)));
@@ -229,8 +228,9 @@ void TestProfileDialog::ReadScan() {
         return;
     const BusyCursor busy;
     const auto way = plain_->isChecked() ? recognition::TrialWay::Plain : recognition::TrialWay::Precise;
-    const std::string failure = app::FailureOf(
-        [&] { trial_ = recognition::TryProfile(*scan_, context_.profiles, context_.tried, way, precise_); });
+    const std::string failure = app::FailureOf([&] {
+        trial_ = recognition::TryProfile(*scan_, context_.profiles, context_.tried, way, context_.precise);
+    });
     if (!failure.empty()) {
         ShowNothing(Shown(failure));
         return;

@@ -24,6 +24,8 @@ struct TrialContext {
     std::vector<profiles::ProfileRecord> profiles;  ///< Those that a run would look at,
     std::size_t tried = 0;                          ///< and which of them is tried.
     std::string folder;                             ///< Whose scans are offered; ends in a separator.
+    std::vector<std::string> scans;                 ///< Those that lie there, by their whole paths.
+    recognition::PreciseReader& precise;
     recognition::TrialWay way = recognition::TrialWay::Plain;
     int threshold = 0;                      ///< Percent, as runs use it.
     std::function<void(int)> useThreshold;  ///< Lets runs use another one.
@@ -48,8 +50,6 @@ class TestProfileDialog final : public QDialog {
     void ShowMarks();
 
     TrialContext context_;
-    recognition::ReadingOptions options_;
-    recognition::PreciseReader precise_;
     std::optional<imaging::Page> scan_;
     recognition::Trial trial_;
     QListWidget* scans_;

@@ -57,7 +57,7 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
            state_.settings, state_.folders),
       gate_({operator_, log_, [this] { return CurrentMode(); }, [this] { return desk_.MayLeave(); },
              [this] { return review_.MayLeave(); }}),
-      desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_, context.store},
+      desk_(state_, {context.files, operator_, log_, context.clock, gate_, dialogs_, context.store, precise_},
             {*view_, *boxes_, *profiles_, *candidates_}),
       review_(state_, {context.files, operator_, log_, context.store, gate_, precise_},
               {*view_, *boxes_, *side_, *forms_}, [this] { desk_.Close(); }),

@@ -1,5 +1,6 @@
 #include "ui/shell/QtFileDialogs.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -67,6 +68,12 @@ class FileDialog final : public QFileDialog {
     /// dialog looks whether the file is there already.
     void SetExtension(const QString& extension) { extension_ = extension; }
 
+    /// Takes no file that is there, and stays open.
+    void TakeOnlyNew() {
+        takesOnlyNew_ = true;
+        setOption(QFileDialog::DontConfirmOverwrite);
+    }
+
     /// Shows the picture of the file that is highlighted beside the list.
     void ShowPictures(const app::Files& files) {
         auto* const picture = new QLabel(Tr("FileDialog", "No picture"), this);
@@ -115,6 +122,8 @@ class FileDialog final : public QFileDialog {
             if (IsHidden(files.front()))
                 return;
             nameEdit->setText(Completed(typed, files.front()));
+            if (IsTaken(directory().absoluteFilePath(nameEdit->text())))
+                return;
         }
         QFileDialog::accept();
     }
@@ -131,7 +140,7 @@ class FileDialog final : public QFileDialog {
             QMessageBox::warning(this, windowTitle(), Tr("FileDialog", "%1\nFile not found.").arg(name));
             return;
         }
-        if (!extension_.isEmpty() && (IsHidden(named) || (isThere && !MayReplace(name))))
+        if (!extension_.isEmpty() && (IsHidden(named) || IsTaken(named) || (isThere && !MayReplace(name))))
             return;
         named_ = named;
         // The file dialog's own would take the name apart again.
@@ -143,6 +152,20 @@ class FileDialog final : public QFileDialog {
                    this, windowTitle(),
                    Tr("FileDialog", "%1 already exists.\nDo you want to replace it?").arg(name),
                    QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    }
+
+    bool IsTaken(const QString& path) {
+        if (!takesOnlyNew_ || !QFileInfo::exists(path))
+            return false;
+        QMessageBox::warning(
+            this, windowTitle(),
+            Tr("FileDialog", "%1 is there already.\nChoose another name.").arg(QFileInfo(path).fileName()));
+        // What is selected in the list counts for more than what is typed.
+        findChild<QAbstractItemView*>("listView")->clearSelection();
+        auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
+        nameEdit->setFocus();
+        nameEdit->selectAll();
+        return true;
     }
 
     // No list of the program shows such a file.
@@ -165,6 +188,7 @@ class FileDialog final : public QFileDialog {
     }
 
     QString extension_;
+    bool takesOnlyNew_ = false;
     QString named_;  ///< The file whose name the dialog itself would not take.
 };
 
@@ -175,6 +199,8 @@ std::optional<std::string> QtFileDialogs::AskSaveFile(const app::FileQuestion& q
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.SetExtension(ExtensionOf(question.filter));
+    if (question.isForNew)
+        dialog.TakeOnlyNew();
     return dialog.Ask();
 }
 
