@@ -1973,14 +1973,6 @@ Selecting No would keep the same profile but skip the modified fields.</source>
         <translation>Diese Kopie ist nicht aktiv, denn sie passte zu denselben Formularen wie %1. Ändern Sie ihre Kästchen oder ihr Bild, ehe Sie sie einschalten</translation>
     </message>
     <message>
-        <source>1 result was read with the profile %1 and will not know it by another name: review will say that it no longer exists. Rename it all the same?</source>
-        <translation>1 Ergebnis wurde mit dem Profil %1 gelesen und kennt es unter einem anderen Namen nicht: die Prüfung wird sagen, dass es das Profil nicht mehr gibt. Trotzdem umbenennen?</translation>
-    </message>
-    <message>
-        <source>%L1 results were read with the profile %2 and will not know it by another name: review will say that it no longer exists. Rename it all the same?</source>
-        <translation>%L1 Ergebnisse wurden mit dem Profil %2 gelesen und kennen es unter einem anderen Namen nicht: die Prüfung wird sagen, dass es das Profil nicht mehr gibt. Trotzdem umbenennen?</translation>
-    </message>
-    <message>
         <source>Setting groups and saving writes them anew.</source>
         <translation>Wer Gruppen setzt und speichert, schreibt sie neu.</translation>
     </message>
@@ -2216,6 +2208,26 @@ Selecting No would keep the same profile but skip the modified fields.</source>
         <source>The scanner refuses the resolution that was chosen.</source>
         <translation>Der Scanner lehnt die gewählte Auflösung ab.</translation>
     </message>
+    <message>
+        <source>Results were read with the profile %1 and will not know it by another name: review will say that it no longer exists. Rename it all the same?</source>
+        <translation>Ergebnisse wurden mit dem Profil %1 gelesen und kennen es unter anderem Namen nicht: die Prüfung wird sagen, dass es nicht mehr existiert. Trotzdem umbenennen?</translation>
+    </message>
+    <message>
+        <source>Accepted forms were read with the profile %1 and will not know it by another name: their tables will be without its groups. Rename it all the same?</source>
+        <translation>Angenommene Formulare wurden mit dem Profil %1 gelesen und kennen es unter anderem Namen nicht: ihre Tabellen werden ohne seine Gruppen sein. Trotzdem umbenennen?</translation>
+    </message>
+    <message>
+        <source>The specimen image is %1 now. Locate another one if the boxes do not fit it.</source>
+        <translation>Das Musterbild ist jetzt %1. Suchen Sie ein anderes, wenn die Kästchen nicht dazu passen.</translation>
+    </message>
+    <message>
+        <source>1 scan waits in ProcessIn/.claims</source>
+        <translation>1 Scan wartet in ProcessIn/.claims</translation>
+    </message>
+    <message>
+        <source>%1 scans wait in ProcessIn/.claims</source>
+        <translation>%1 Scans warten in ProcessIn/.claims</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -2317,6 +2329,12 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>A file whose name begins with a dot is hidden. Choose another name.</source>
         <translation>Eine Datei, deren Name mit einem Punkt beginnt, ist versteckt. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>%1 is there already.
+Choose another name.</source>
+        <translation>%1 ist schon vorhanden.
+Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
@@ -2660,8 +2678,8 @@ wie sie hier gezählt werden: ein Spaltenblock nach dem anderen</translation>
 <context>
     <name>NameRule</name>
     <message>
-        <source>The name of a box cannot hold a double quote, &lt; or &amp;.</source>
-        <translation>Der Name eines Kästchens darf kein doppeltes Anführungszeichen, &lt; oder &amp; enthalten.</translation>
+        <source>With a double quote, &lt; or &amp; in a name the profile cannot be saved.</source>
+        <translation>Mit einem Anführungszeichen, &lt; oder &amp; in einem Namen kann das Profil nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

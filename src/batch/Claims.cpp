@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/ClaimFolders.h"
 #include "app/Reason.h"
 #include "recognition/ResultDocument.h"
 
@@ -17,9 +18,6 @@ namespace tavrene::batch {
 namespace {
 
 namespace fs = std::filesystem;
-
-// What could not be given back; nobody works on it.
-constexpr std::string_view kLeft = "left-";
 
 // Who watches a claim goes by the patience that its owner counts on, not by its own.
 std::string OwnName(std::chrono::seconds patience) {
@@ -36,10 +34,6 @@ std::optional<std::chrono::seconds> PatienceOf(std::string_view claim) {
     if (error != std::errc() || !std::string_view(end).starts_with("s-"))
         return std::nullopt;
     return std::chrono::seconds(seconds);
-}
-
-std::string ClaimsIn(const std::string& folder) {
-    return folder + ".claims/";
 }
 
 enum class Moved { Yes, IsTaken, Failed };
@@ -71,29 +65,12 @@ std::vector<fs::path> EntriesOf(const std::string& folder, std::error_code& erro
     return entries;
 }
 
-std::vector<std::string> ClaimFoldersIn(const std::string& claims) {
-    std::vector<std::string> names;
-    std::error_code none;
-    for (const fs::path& entry : EntriesOf(claims, none))
-        if (std::string name = app::FromPath(entry.filename()); !name.starts_with(kLeft))
-            names.push_back(std::move(name));
-    return names;
-}
-
 }  // namespace
-
-std::size_t CountClaimed(const app::Files& files, const std::string& folder) {
-    const std::string claims = ClaimsIn(folder);
-    std::size_t count = 0;
-    for (const std::string& name : ClaimFoldersIn(claims))
-        app::FailureOf([&] { count += files.List(claims + name + "/", "*").size(); });
-    return count;
-}
 
 Claims::Claims(const app::Files& files, std::string folder, std::chrono::seconds patience)
     : files_(files),
       folder_(std::move(folder)),
-      claims_(ClaimsIn(folder_)),
+      claims_(app::ClaimsIn(folder_)),
       patience_(patience),
       own_(claims_ + OwnName(patience) + "/"),
       heart_(patience) {}
@@ -104,7 +81,7 @@ Claims::~Claims() {
 }
 
 std::vector<std::string> Claims::Others() const {
-    std::vector<std::string> claims = ClaimFoldersIn(claims_);
+    std::vector<std::string> claims = app::ClaimFoldersIn(claims_);
     std::erase_if(claims, [this](const auto& name) { return heart_.Keeps(claims_ + name + "/"); });
     return claims;
 }
@@ -270,7 +247,7 @@ std::optional<std::string> Claims::TakeOver(Moment now) {
     std::error_code none;
     for (const fs::path& entry : EntriesOf(claims_, none))
         if (const std::string name = app::FromPath(entry.filename());
-            name.starts_with(kLeft) && !hopeless_.contains(name))
+            name.starts_with(app::kLeftClaim) && !hopeless_.contains(name))
             ownerless.push_back(name);
     for (const std::string& name : ownerless)
         if (auto mine = Seize(name))
@@ -320,8 +297,8 @@ std::string Claims::Leave(const std::string& claim) {
     const auto before = names_.find(claim);
     const std::string last = app::FileName(claim.substr(0, claim.size() - 1));
     std::string name = before == names_.end() ? last : before->second;
-    if (!name.starts_with(kLeft))
-        name.insert(0, kLeft);
+    if (!name.starts_with(app::kLeftClaim))
+        name.insert(0, app::kLeftClaim);
     std::error_code error;
     fs::rename(app::ToPath(claim), app::ToPath(claims_ + name), error);
     hopeless_.insert(name);

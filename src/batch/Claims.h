@@ -15,10 +15,6 @@
 
 namespace tavrene::batch {
 
-/// How many files lie in claims of `folder` (ending in a separator). When nobody who claims works on it,
-/// their owners were killed.
-std::size_t CountClaimed(const app::Files& files, const std::string& folder);
-
 /// Shares one folder of waiting files among any number of processes and machines, by renaming alone: whoever
 /// has moved a file into a folder of its own in the hidden folder `.claims` has claimed it, and nobody else
 /// sees it where it was. A claim folder shows that its owner lives by its time of change; one that stands

@@ -5,6 +5,7 @@
 #include <thread>
 #include <utility>
 
+#include "app/ClaimFolders.h"
 #include "app/Counted.h"
 #include "app/Reason.h"
 #include "batch/IncomingWatch.h"
@@ -98,8 +99,8 @@ Exit FolderWork::Share() {
     if (surroundings_.stop)
         return Exit::Stopped;
     const std::string why = claims.Hindrance();
-    if (!why.empty() &&
-        (!files_.List(folders_.ProcessIn, "*").empty() || CountClaimed(files_, folders_.ProcessIn) > 0)) {
+    if (!why.empty() && (!files_.List(folders_.ProcessIn, "*").empty() ||
+                         app::CountClaimed(files_, folders_.ProcessIn) > 0)) {
         person_.ShowMessage("",
                             "Files are left in " + folders_.ProcessIn + " that cannot be claimed: " + why);
         exit = exit == Exit::Done ? Exit::SomeLeft : exit;
@@ -208,7 +209,7 @@ void FolderWork::Tell(std::span<const recognition::FileReport> files, const std:
 
 // Nobody who claims works on the folder now, so nobody else would ever read them.
 Exit FolderWork::TellOfClaimed(Exit exit) {
-    const std::size_t count = CountClaimed(files_, folders_.ProcessIn);
+    const std::size_t count = app::CountClaimed(files_, folders_.ProcessIn);
     if (count == 0)
         return exit;
     person_.ShowMessage("", app::Counted(count, "scan lies", "scans lie") +

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "app/ClaimFolders.h"
 #include "app/Reason.h"
 #include "app/ScopedFlag.h"
 #include "profiles/ProfileLoader.h"
@@ -82,6 +83,8 @@ void ProcessRun::Run(std::span<const ProfileRecord> profiles) {
     while (context_.incoming && !stop_ && !(names = ListImages()).empty())
         TakeFiles(profiles, names);
     context_.person.SetPanel(Panel::File, profiles::ProfileCounts(profiles));
+    if (context_.staging.empty())
+        summary_.inClaims = app::CountClaimed(context_.files, folders_.ProcessIn);
     Finish(start);
 }
 

@@ -22,6 +22,7 @@ struct FileReport {
 struct RunSummary {
     std::vector<FileReport> files;
     long seconds = 0;
+    std::size_t inClaims = 0;  ///< Scans that wait where a program that shared the folder was killed.
 
     std::size_t Count(FileEnd end) const;
 };

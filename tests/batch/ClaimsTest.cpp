@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "app/ClaimFolders.h"
 #include "batch/Claims.h"
 #include "support/FaultyFiles.h"
 #include "support/TempFolder.h"
@@ -199,7 +200,7 @@ TEST_F(ClaimsTest, AClaimThatCannotBeTakenOverIsToldAndItsNamesStayTaken) {
     std::filesystem::create_directories(dead);
     std::filesystem::create_directories(inTheWay + "full");
     test::WriteText(dead + "a.tif", "claimed");
-    EXPECT_EQ(CountClaimed(files_, path_), 1U);
+    EXPECT_EQ(app::CountClaimed(files_, path_), 1U);
     const Claims::Moment now{};
     EXPECT_EQ(one.TakeOver(now), std::nullopt);
     EXPECT_EQ(one.Hindrance(), "");

@@ -22,6 +22,8 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("Engine", "%L1 seconds"),
     QT_TRANSLATE_NOOP("Engine", "1 further page was not looked at:"),
     QT_TRANSLATE_NOOP("Engine", "%1 further pages were not looked at:"),
+    QT_TRANSLATE_NOOP("Engine", "1 scan waits in ProcessIn/.claims"),
+    QT_TRANSLATE_NOOP("Engine", "%1 scans wait in ProcessIn/.claims"),
     QT_TRANSLATE_NOOP("Engine", "bring in to ProcessIn"),
     QT_TRANSLATE_NOOP("Engine", "Read These Again"),
     QT_TRANSLATE_NOOP("Engine", "Reading forms again... Esc stops."),

@@ -55,6 +55,9 @@ std::vector<SummaryPart> SummaryParts(const RunSummary& summary) {
     if (further > 0)
         parts.push_back({app::Counted(further, "further page was", "further pages were") + " not looked at:",
                          "bring in to ProcessIn", kSplitLink});
+    if (summary.inClaims > 0)
+        parts.push_back(
+            {"", app::Counted(summary.inClaims, "scan waits", "scans wait") + " in ProcessIn/.claims", ""});
     return parts;
 }
 

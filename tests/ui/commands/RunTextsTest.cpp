@@ -16,13 +16,15 @@ TEST(RunTextsTest, TheProgressSaysWhatIsLeftOnceItIsKnown) {
 TEST(RunTextsTest, TheSummaryLinksOnlyWhatHasFiles) {
     using recognition::FileEnd;
     const recognition::RunSummary summary = {
-        {{"a.tif", FileEnd::Read, ""}, {"b.tif", FileEnd::Refused, "torn"}}, 1};
-    EXPECT_EQ(SummaryParts(summary), (std::vector<SummaryPart>{{"Last run:", "2 files", "all"},
-                                                               {"", "1 read", "0"},
-                                                               {"", "0 not recognised", ""},
-                                                               {"", "1 refused", "2"},
-                                                               {"", "0 not written", ""},
-                                                               {"", "1 second", ""}}));
+        {{"a.tif", FileEnd::Read, ""}, {"b.tif", FileEnd::Refused, "torn"}}, 1, 2};
+    EXPECT_EQ(SummaryParts(summary),
+              (std::vector<SummaryPart>{{"Last run:", "2 files", "all"},
+                                        {"", "1 read", "0"},
+                                        {"", "0 not recognised", ""},
+                                        {"", "1 refused", "2"},
+                                        {"", "0 not written", ""},
+                                        {"", "1 second", ""},
+                                        {"", "2 scans wait in ProcessIn/.claims", ""}}));
     EXPECT_EQ(WorstLink(summary), "2");
     EXPECT_EQ(FilesBehind(summary, "all").size(), 2U);
     EXPECT_EQ(FilesBehind(summary, "2").at(0).reason, "torn");
