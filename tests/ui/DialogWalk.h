@@ -20,7 +20,8 @@ class DialogWalk : public FormWindow {
         WriteText(folders_.ProcessIn + "torn.png", "no image");
         Open();
         look(*window_, "start");
-        for (const char* const command : {"New", "Settings", "About", "BringIn", "Scan", "ExportResults"})
+        for (const char* const command :
+             {"New", "Settings", "About", "BringIn", "BringInFolder", "Scan", "ExportResults"})
             LookAtDialog(command, look);
         LookAtOthers(look);
         ClickThumbnail(1);

@@ -78,6 +78,7 @@ enum class Command {
     AllBackToProcessIn,
     ProcessUnread,
     BringIn,
+    BringInFolder,
     Scan,
     PasteScans,
     Manual,

@@ -86,6 +86,7 @@ ScanIntake::ScanIntake(QWidget& window, const IntakeContext& context)
     window.setAcceptDrops(true);
     window.installEventFilter(this);
     context_.gate.SetHandler(Command::BringIn, [this] { Choose(); });
+    context_.gate.SetHandler(Command::BringInFolder, [this] { ChooseFolder(); });
     context_.gate.SetHandler(Command::PasteScans, [this] {
         // One key for whatever was copied last.
         if (CopyCommands::AreBoxesOnClipboard() && context_.gate.Offers(Command::PasteBoxes))
@@ -162,12 +163,22 @@ void ScanIntake::TakeIn(const std::vector<std::string>& paths) {
 }
 
 void ScanIntake::Choose() {
-    const QStringList chosen = QFileDialog::getOpenFileNames(
+    Take(QFileDialog::getOpenFileNames(
         &window_, Tr("ScanIntake", "Bring In Scans"), StartFolder(),
         Tr("ScanIntake", "Scans") +
             " (*.pdf *.tif *.tiff *.jpg *.jpeg *.png *.gif *.pcx *.bmp *.jp2 *.j2k *.j2c *.webp);;" +
             Tr("ScanIntake", "All Files") + " (*)",
-        nullptr, QFileDialog::HideNameFilterDetails);
+        nullptr, QFileDialog::HideNameFilterDetails));
+}
+
+void ScanIntake::ChooseFolder() {
+    const QString chosen =
+        QFileDialog::getExistingDirectory(&window_, Tr("ScanIntake", "Bring In a Folder"), StartFolder());
+    Take(chosen.isEmpty() ? QStringList() : QStringList(chosen));
+}
+
+// Beside what was chosen the next is likely to lie.
+void ScanIntake::Take(const QStringList& chosen) {
     std::vector<std::string> paths;
     for (const QString& path : chosen)
         paths.push_back(FromQt(path));

@@ -26,7 +26,7 @@ struct IntakeContext {
     app::SettingsStore& store;
 };
 
-/// The commands `BringIn` and `PasteScans` (files, folders or a picture), and files and folders that are
+/// The commands `BringIn`, `BringInFolder` and `PasteScans` (files, folders or a picture), and files and folders that are
 /// dropped anywhere on the window.
 class ScanIntake final : public QObject {
   public:
@@ -50,6 +50,8 @@ class ScanIntake final : public QObject {
     void Paste(const QMimeData* clipboard);
     std::string WhyNothingIsPasted() const;
     void Choose();
+    void ChooseFolder();
+    void Take(const QStringList& chosen);
     QString StartFolder() const;
     void TakeIn(const std::vector<std::string>& paths);
     void CopyIn(const std::vector<std::string>& paths);
