@@ -1,6 +1,7 @@
 #include "ui/reviewing/SheetModel.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "ui/base/QtText.h"
 #include "ui/base/Shown.h"
@@ -51,12 +52,12 @@ int SheetModel::TurnedCount() const {
     return static_cast<int>(std::ranges::count(items_, true, &Item::isTurned));
 }
 
-void SheetModel::Remove(int first, int count, std::span<const std::string> documents) {
+void SheetModel::Remove(std::span<const int> rows, std::span<const std::string> documents) {
     const auto isOneOf = [&](int row) {
         return std::ranges::find(documents, items_[static_cast<std::size_t>(row)].box.Document) !=
                documents.end();
     };
-    for (int row = std::min(first + count, rowCount()) - 1; row >= first; --row) {
+    for (const int row : std::views::reverse(rows)) {
         if (!isOneOf(row))
             continue;
         beginRemoveRows({}, row, row);
