@@ -1,7 +1,6 @@
 #include "ui/reviewing/SheetModel.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "ui/base/QtText.h"
 #include "ui/base/Shown.h"
@@ -57,11 +56,11 @@ void SheetModel::Remove(std::span<const int> rows, std::span<const std::string> 
         return std::ranges::find(documents, items_[static_cast<std::size_t>(row)].box.Document) !=
                documents.end();
     };
-    for (const int row : std::views::reverse(rows)) {
-        if (!isOneOf(row))
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        if (!isOneOf(*row))
             continue;
-        beginRemoveRows({}, row, row);
-        items_.erase(items_.begin() + row);
+        beginRemoveRows({}, *row, *row);
+        items_.erase(items_.begin() + *row);
         endRemoveRows();
     }
 }
