@@ -84,7 +84,7 @@ no meaning here.
   --jobs N         read N pages side by side; the outcome is the same as with one
   --precise        read by precise alignment
   --doubts         count the boxes in doubt, so that review need not when the window opens FOLDER with these
-                   settings; takes nearly half as long again
+                   settings; takes about an eighth longer
   --export DIR     write the results in ProcessOut as CSV tables into DIR; tables that are there are replaced
   --groups         with --export: one column a group of boxes instead of one a box
   --claim[=SEC]    share FOLDER with other tavrene-batch --claim, on this machine or others: each takes some

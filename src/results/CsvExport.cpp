@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "app/Reason.h"
 #include "results/TableNames.h"
 
 namespace tavrene::results {
@@ -11,8 +12,8 @@ namespace {
 
 // What spreadsheets take for the beginning of a formula; the wide forms as well, which some of them fold.
 bool LooksLikeFormula(std::string_view text) {
-    constexpr std::array<std::string_view, 10> kBeginnings = {"=",  "+",      "-",      "@",      "\t",
-                                                              "\r", "\uFF1D", "\uFF0B", "\uFF0D", "\uFF20"};
+    constexpr std::array<std::string_view, 11> kBeginnings = {
+        "=", "+", "-", "@", "\t", "\r", "\n", "\uFF1D", "\uFF0B", "\uFF0D", "\uFF20"};
     return std::any_of(kBeginnings.begin(), kBeginnings.end(),
                        [text](std::string_view beginning) { return text.starts_with(beginning); });
 }
@@ -64,6 +65,29 @@ class CsvText final : public CellSink {
     bool atStart_ = true;
 };
 
+void DeleteAll(app::Files& files, std::span<const std::string> paths) {
+    for (const std::string& path : paths)
+        app::FailureOf([&] { files.Delete(path); });
+}
+
+// A disk that is full at the last table must not leave new tables beside those of the export before: all are
+// written under hidden names first.
+void WriteTogether(app::Files& files, const std::string& folder, std::span<const std::string> names,
+                   std::span<const std::string> texts) {
+    std::vector<std::string> written;
+    try {
+        for (std::size_t k = 0; k < names.size(); ++k) {
+            written.push_back(folder + "." + names[k]);
+            files.Write(written.back(), app::AsBytes(texts[k]));
+        }
+        for (std::size_t k = 0; k < names.size(); ++k)
+            files.Move(written[k], folder + names[k]);
+    } catch (...) {
+        DeleteAll(files, written);
+        throw;
+    }
+}
+
 }  // namespace
 
 std::vector<std::string> CsvNames(std::span<const ResultTable> tables) {
@@ -86,9 +110,7 @@ bool ExportCsv(app::Files& files, std::span<const ResultTable> tables, const Gro
     CsvText summary(options);
     PutSummary(tables, groups, summary);
     texts.push_back(summary.Take());
-    const std::vector<std::string> names = CsvNames(tables);
-    for (std::size_t k = 0; k < names.size(); ++k)
-        files.Write(folder + names[k], app::AsBytes(texts[k]));
+    WriteTogether(files, folder, CsvNames(tables), texts);
     return true;
 }
 

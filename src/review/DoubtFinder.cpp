@@ -70,7 +70,7 @@ const FormDoubts* DoubtFinder::Known(const FormOnDisk& form) {
 
 const FormDoubts* DoubtFinder::Find(const FormOnDisk& form) {
     const std::string stamp = StampOf(form);
-    const std::optional<LookedAt> found = LookAt(form);
+    const std::optional<LookedAt> found = TryRead(form, MeasureForm);
     if (!found)
         return nullptr;
     cache_.Put(form.Document, stamp, DoubtsOf(found->form));
@@ -88,17 +88,22 @@ void DoubtFinder::KeepBesideOthers() {
 }
 
 std::optional<LookedAt> DoubtFinder::LookAt(const FormOnDisk& form) {
+    return TryRead(form, PlaceBoxes);
+}
+
+std::optional<LookedAt> DoubtFinder::TryRead(const FormOnDisk& form, Measuring& measure) {
     const ProfileRecord* const profile = ProfileOf(form);
     if (profile == nullptr)
         return std::nullopt;
     try {
-        return Read(form, *profile);
+        return Read(form, *profile, measure);
     } catch (const std::exception&) {
         return std::nullopt;  // opening the form tells what is wrong with it
     }
 }
 
-std::optional<LookedAt> DoubtFinder::Read(const FormOnDisk& form, const ProfileRecord& profile) {
+std::optional<LookedAt> DoubtFinder::Read(const FormOnDisk& form, const ProfileRecord& profile,
+                                          Measuring& measure) {
     auto read = imaging::ReadPage(files_, form.Image);
     auto* const page = std::get_if<imaging::Page>(&read);
     if (page == nullptr)
@@ -113,7 +118,7 @@ std::optional<LookedAt> DoubtFinder::Read(const FormOnDisk& form, const ProfileR
         open, profile,
         profiles::GroupsOrNone(files_, folders_.Profiles + profile.FileName, profiles::NamesOf(profile)));
     FindLostShifts(open, found.page, settings_.FillThreshold, precise_);
-    MeasureForm(open, &found.page, settings_.FillThreshold, precise_);
+    measure(open, &found.page, settings_.FillThreshold, precise_);
     return found;
 }
 

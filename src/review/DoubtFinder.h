@@ -53,8 +53,8 @@ class DoubtFinder {
     /// Keeps what a person has left in doubt of a form.
     void Set(const FormOnDisk& form, FormDoubts doubts);
 
-    /// Reads the form again: its marks, and where its boxes lie on the page. Nothing when it cannot be read,
-    /// or belongs to no profile.
+    /// Reads the form again: its marks, and where its boxes lie on the page, but not what is in doubt.
+    /// Nothing when it cannot be read, or belongs to no profile.
     std::optional<LookedAt> LookAt(const FormOnDisk& form);
 
     /// Writes what was found where the next start finds it.
@@ -68,7 +68,10 @@ class DoubtFinder {
     std::string WayOfReading() const;
     const std::string& RulesFor(const profiles::ProfileRecord& profile);
     const profiles::ProfileRecord* ProfileOf(const FormOnDisk& form) const;
-    std::optional<LookedAt> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile);
+    using Measuring = void(OpenForm&, const imaging::Page*, std::int16_t, recognition::PreciseReader*);
+    std::optional<LookedAt> TryRead(const FormOnDisk& form, Measuring& measure);
+    std::optional<LookedAt> Read(const FormOnDisk& form, const profiles::ProfileRecord& profile,
+                                 Measuring& measure);
 
     app::Files& files_;
     const app::Settings& settings_;

@@ -129,14 +129,42 @@ BoxDoubts DoubtsAbout(const MeasuredForm& measured, const recognition::SecondOpi
     return doubts;
 }
 
-// `marks` are those of the profile's boxes in the document.
-BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page, const Measures& measures,
-                      std::span<const std::optional<std::size_t>> marks, std::int16_t fillThreshold,
-                      recognition::PreciseReader* precise) {
-    MeasuredForm measured{page, measures.boxes, {}, form.IsUpsideDown, measures.precise};
-    for (const std::optional<std::size_t>& mark : marks)
+// The boxes of the profile: their marks in the document, and what the page says of them.
+struct Placed {
+    std::vector<std::optional<std::size_t>> marks;
+    Measures measures;
+};
+
+Placed Place(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
+             recognition::PreciseReader* precise) {
+    form.Boxes.assign(form.Marks.size(), {});
+    Placed placed{MarksOfBoxes(form.Profile, form.Marks), {}};
+    form.Skipped +=
+        static_cast<int>(std::ranges::count_if(placed.marks, [](const auto& mark) { return !mark; }));
+    if (page == nullptr)
+        return placed;
+    const std::vector<std::optional<BoxShift>> known = KnownShifts(form.Profile, form.Marks);
+    form.IsUpsideDown = LiesUpsideDown(*page, form.Profile, known);
+    placed.measures = MeasureBoxes(form, *page, known, fillThreshold, precise);
+    for (std::size_t k = 0; k < placed.marks.size(); ++k) {
+        const recognition::BoxMeasure& measure = placed.measures.boxes[k];
+        if (placed.marks[k])
+            form.Boxes[*placed.marks[k]] = {
+                measure.rect, measure.fill,
+                measure.fill ? std::optional(*measure.fill >= fillThreshold) : std::nullopt, std::nullopt};
+        else
+            form.SkippedRects.push_back(measure.rect);
+    }
+    return placed;
+}
+
+BoxDoubts DoubtsAbout(const OpenForm& form, const imaging::Page& page, const Placed& placed,
+                      std::int16_t fillThreshold, recognition::PreciseReader* precise) {
+    const std::vector<recognition::BoxMeasure>& boxes = placed.measures.boxes;
+    MeasuredForm measured{page, boxes, {}, form.IsUpsideDown, placed.measures.precise};
+    for (const std::optional<std::size_t>& mark : placed.marks)
         measured.checked.push_back(mark ? std::optional(form.Marks[*mark].Checked) : std::nullopt);
-    return DoubtsAbout(measured, OpinionOn(form.Profile, page, measures.boxes, fillThreshold, precise),
+    return DoubtsAbout(measured, OpinionOn(form.Profile, page, boxes, fillThreshold, precise),
                        {form.Profile, form.Groups}, fillThreshold, precise);
 }
 
@@ -168,27 +196,20 @@ void TakeDocument(OpenForm& form, const profiles::ProfileRecord& profile,
     form.Groups = std::move(groups);
 }
 
+void PlaceBoxes(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
+                recognition::PreciseReader* precise) {
+    Place(form, page, fillThreshold, precise);
+}
+
 void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
                  recognition::PreciseReader* precise) {
-    form.Boxes.assign(form.Marks.size(), {});
-    const std::vector<std::optional<std::size_t>> marks = MarksOfBoxes(form.Profile, form.Marks);
-    form.Skipped += static_cast<int>(std::ranges::count_if(marks, [](const auto& mark) { return !mark; }));
+    const Placed placed = Place(form, page, fillThreshold, precise);
     if (page == nullptr)
         return;
-    const std::vector<std::optional<BoxShift>> known = KnownShifts(form.Profile, form.Marks);
-    form.IsUpsideDown = LiesUpsideDown(*page, form.Profile, known);
-    const Measures measured = MeasureBoxes(form, *page, known, fillThreshold, precise);
-    const std::vector<recognition::BoxMeasure>& measures = measured.boxes;
-    const BoxDoubts doubts = DoubtsAbout(form, *page, measured, marks, fillThreshold, precise);
-    for (std::size_t k = 0; k < marks.size(); ++k) {
-        if (marks[k])
-            form.Boxes[*marks[k]] = {
-                measures[k].rect, measures[k].fill,
-                measures[k].fill ? std::optional(*measures[k].fill >= fillThreshold) : std::nullopt,
-                doubts[k]};
-        else
-            form.SkippedRects.push_back(measures[k].rect);
-    }
+    const BoxDoubts doubts = DoubtsAbout(form, *page, placed, fillThreshold, precise);
+    for (std::size_t k = 0; k < placed.marks.size(); ++k)
+        if (placed.marks[k])
+            form.Boxes[*placed.marks[k]].doubt = doubts[k];
 }
 
 void FindLostShifts(OpenForm& form, const imaging::Page& page, std::int16_t fillThreshold,

@@ -19,8 +19,13 @@ void TakeDocument(OpenForm& form, const profiles::ProfileRecord& profile,
                   std::vector<profiles::BoxGroup> groups);
 
 /// Finds place and ink of every box that both document and profile have, and the places of those that only
-/// the profile has, and what is in doubt. Without a page there is nothing of it. `precise`, which may be
-/// null, measures the boxes where it is to read, and is asked for a second opinion where it is not.
+/// the profile has. Without a page there is nothing of it. `precise`, which may be null, measures the boxes
+/// where it is to read.
+void PlaceBoxes(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
+                recognition::PreciseReader* precise);
+
+/// The same, and what is in doubt, which costs most of a reading: where `precise` does not read, it is asked
+/// for a second opinion.
 void MeasureForm(OpenForm& form, const imaging::Page* page, std::int16_t fillThreshold,
                  recognition::PreciseReader* precise);
 

@@ -182,6 +182,7 @@ bool FormReview::ReadAnew(OpenForm& form, const ProfileRecord& profile) {
         ReadForm(form, *page_, profile, GroupsOf(profile), settings_.FillThreshold, context_.precise);
     read.Result.Save(context_.files, PathOf(form));
     read.Fingerprint = context_.files.Fingerprint(PathOf(form));
+    context_.log.LogProcessEvent("Form [" + form.Name + "] read again as [" + profile.Name + "]");
     form = std::move(read);
     screen_.ShowBoxes(form);
     ShowInList(form);
@@ -204,6 +205,7 @@ void FormReview::DropChanges() {
         context_.files.Write(path, *form_->Before);
         form_->Result = recognition::ResultDocument::Load(context_.files, path);
         form_->Fingerprint = context_.files.Fingerprint(path);
+        context_.log.LogProcessEvent("Form [" + form_->Name + "] put back as it was before");
         ShowInList(*form_);
     }
     form_->Before.reset();

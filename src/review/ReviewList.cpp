@@ -21,6 +21,7 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
         names.push_back(profile.Name);
     context_.side.choice.ShowProfiles(names);
     entries_.clear();
+    places_.clear();
     lines_.clear();
     uncountable_.clear();
     doubts_.Begin();
@@ -32,6 +33,7 @@ void ReviewList::Fill(std::span<const profiles::ProfileRecord> profiles) {
         if (entries_.back().line)
             lines_.push_back(*entries_.back().line);
     }
+    NotePlaces();
     context_.side.lines.ShowLines(lines_);
     const auto missing = std::count_if(entries_.begin(), entries_.end(), [](const Entry& entry) {
         return !entry.line && !entry.image.empty();
@@ -72,12 +74,15 @@ std::optional<int> ReviewList::KnownDoubts(const Entry& entry) {
     return known == nullptr ? std::nullopt : std::optional(static_cast<int>(known->size()));
 }
 
-ReviewList::Entry& ReviewList::EntryOf(const std::string& document) {
-    return *std::ranges::find(entries_, document, &Entry::document);
+// Thousands of forms that are looked up one by one must not each be searched among all.
+void ReviewList::NotePlaces() {
+    places_.clear();
+    for (std::size_t k = 0; k < entries_.size(); ++k)
+        places_.emplace(entries_[k].document, k);
 }
 
 FormOnDisk ReviewList::FormOf(const std::string& document) const {
-    return OnDisk(*std::ranges::find(entries_, document, &Entry::document));
+    return OnDisk(EntryOf(document));
 }
 
 void ReviewList::RequireAsItWas(const std::string& document) const {
@@ -87,8 +92,8 @@ void ReviewList::RequireAsItWas(const std::string& document) const {
 }
 
 bool ReviewList::IsAsItWas(const std::string& document) const {
-    const auto entry = std::ranges::find(entries_, document, &Entry::document);
-    return entry != entries_.end() && entry->line && IsCurrent(*entry);
+    const auto place = places_.find(document);
+    return place != places_.end() && entries_[place->second].line && IsCurrent(entries_[place->second]);
 }
 
 std::vector<std::pair<std::string, FormDoubts>> ReviewList::InDoubt() {
@@ -199,6 +204,7 @@ void ReviewList::Follow() {
         if (entries_.back().line)
             lines.push_back(*entries_.back().line);
     }
+    NotePlaces();
     ShowDifference(lines);
     ShowCounts();
 }

@@ -5,6 +5,7 @@
 #include <set>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -100,15 +101,18 @@ class ReviewList {
     void RemoveAt(std::size_t index);
     void Count(std::size_t line);
     std::optional<int> KnownDoubts(const Entry& entry);
-    Entry& EntryOf(const std::string& document);
+    void NotePlaces();
+    const Entry& EntryOf(const std::string& document) const { return entries_[places_.at(document)]; }
+    Entry& EntryOf(const std::string& document) { return entries_[places_.at(document)]; }
     const Entry& TakeOver(std::size_t index);
     FormOnDisk OnDisk(const Entry& entry) const;
 
     ReviewContext context_;
     const app::WorkingFolders& folders_;
     DoubtFinder& doubts_;
-    std::string folder_;          ///< Its fingerprint when it was last looked at.
-    std::vector<Entry> entries_;  ///< In the order of the folder.
+    std::string folder_;                                   ///< Its fingerprint when it was last looked at.
+    std::vector<Entry> entries_;                           ///< In the order of the folder.
+    std::unordered_map<std::string, std::size_t> places_;  ///< Of the documents among them.
     std::vector<ReviewLine> lines_;
     std::set<std::string> uncountable_;  ///< Documents whose doubts were looked for in vain.
 };

@@ -119,11 +119,10 @@ void ReviewSession::SelectDocument(const std::string& document) {
 }
 
 std::optional<std::size_t> ReviewSession::Neighbour(std::optional<std::size_t> selected, int step) const {
-    const std::optional<std::size_t> open = OpenLine();
-    const std::optional<std::size_t> from = open ? open : selected;
+    const std::optional<std::size_t> from = selected ? selected : OpenLine();
     const bool isTried =
         selected && *selected < list_.Lines().size() && list_.Lines()[*selected].Document == tried_;
-    if (from && !open && !isTried && step > 0)
+    if (from && from != OpenLine() && !isTried && step > 0)
         return from;
     return context_.side.lines.Beside(from, from ? step : 1);
 }
@@ -306,12 +305,13 @@ bool ReviewSession::GoOn() {
         HasForm() ? context_.side.lines.Beside(OpenLine(), 1) : list_.IndexOf(below_);
     if (!line)
         return false;
+    context_.side.lines.SelectLine(*line);
     OpenUnasked(*line);
     return OpenLine() == line && ShowDoubt(form_.NextDoubtful(0));
 }
 
 void ReviewSession::OpenUnasked(std::size_t line) {
-    if (form_.OpensUnasked(list_.Lines()[line].Document))
+    if (MayOpen(line))
         Open(line);
 }
 

@@ -101,8 +101,8 @@ class ReviewSession {
     /// Opens the form of a line. Unsaved changes of the open one are lost: the prompt comes before.
     void Open(std::size_t line);
 
-    /// The line `step` lines below that of the open form, where there is one. While none is open, the next
-    /// one is the `selected` one, unless that has just been tried.
+    /// The line `step` lines below the `selected` one, without one that of the open form; where there is one.
+    /// While the selected one is not open, it is the next one itself, unless that has just been tried.
     std::optional<std::size_t> Neighbour(std::optional<std::size_t> selected, int step) const;
 
     /// Turns the mark of a row round and brings its box into view.
@@ -131,8 +131,8 @@ class ReviewSession {
     void Accept() { Decide(Decision::Accept); }
     void Reject() { Decide(Decision::Reject); }
 
-    /// Opens the form below the one that was decided about or is open, where there is one and opening it asks
-    /// nothing, at its first box in doubt. False when it shows none.
+    /// Selects the form below the one that was decided about or is open, where there is one, and opens it at
+    /// its first box in doubt, unless that asks something. False when it shows none.
     bool GoOn();
 
     /// The first line shown that is not reviewed, or else the first one; none in an empty list.

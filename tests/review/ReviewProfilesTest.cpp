@@ -72,6 +72,20 @@ TEST_F(ReviewProfilesTest, AFormOfADeletedProfileCanGoBack) {
     EXPECT_EQ(list_.lines, Names{"c 100"});
 }
 
+TEST_F(ReviewProfilesTest, GoingOnOnlySelectsAFormThatWouldAskOrIsDamaged) {
+    ProcessAndReview();
+    Open(0);
+    const std::string document = Result("b.xml");
+    for (const std::string& other :
+         {ReadText(folders_.ProcessOut + "b.xml").replace(document.find("Form"), 4, "Gone"),
+          std::string("no document")}) {
+        WriteText(folders_.ProcessOut + "b.xml", other);
+        Do([this] { EXPECT_FALSE(review_.GoOn()); });
+        EXPECT_EQ(transcript_.Lines(), Names{"select: b 100"});
+        EXPECT_EQ(review_.OpenLine(), 0U);
+    }
+}
+
 TEST_F(ReviewProfilesTest, NoPutsTheDocumentBackThatAnotherProfileReplaced) {
     AddProfile("Other", TestForm::Grid(1, 2));
     AddProfile("Third", TestForm::Grid(2, 1));

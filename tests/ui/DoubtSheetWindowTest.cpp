@@ -39,6 +39,14 @@ class DoubtSheetWindowTest : public test::DeskWindow {
         EXPECT_TRUE(QTest::qWaitFor([&] { return Count(dialog) == count; }, 60'000));
     }
 
+    // They come by themselves.
+    static void WaitForPictures(const QDialog& dialog, int rows) {
+        const QAbstractItemModel& boxes = *Sheet(dialog).model();
+        for (int row = 0; row < rows; ++row)
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] { return boxes.index(row, 0).data(SheetModel::kBox).toString() == "Q3"; }, 60'000));
+    }
+
     static void WaitUntilAllAreFound(const QDialog& dialog) { WaitUntil(dialog, 60); }
 
     // The subject above or below the present one, from the opened list.
@@ -61,10 +69,7 @@ TEST_F(DoubtSheetWindowTest, IsJudgedScreenByScreenByKeys) {
         EXPECT_EQ(QApplication::focusWidget(), &sheet) << "the arrows move there again";
         Choose(dialog, Qt::Key_Up);
         WaitUntilAllAreFound(dialog);
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&sheet] { return sheet.model()->index(39, 0).data(SheetModel::kBox).toString() == "Q3"; },
-            60'000))
-            << "pictures come by themselves";
+        WaitForPictures(dialog, 40);
         Press(sheet, Qt::Key_Right);
         Press(sheet, Qt::Key_Down);
         EXPECT_EQ(sheet.currentIndex().row(), 9);
@@ -76,6 +81,7 @@ TEST_F(DoubtSheetWindowTest, IsJudgedScreenByScreenByKeys) {
         EXPECT_TRUE(isChecked(8) && isChecked(9) && !isChecked(7) && !isChecked(10));
         Press(sheet, Qt::Key_Return, Qt::ControlModifier);
         EXPECT_EQ(Count(dialog), 20) << "forty to a screen";
+        WaitForPictures(dialog, 20);
         Press(sheet, Qt::Key_A, Qt::ControlModifier);
         Press(sheet, Qt::Key_Space);
         Press(sheet, Qt::Key_Return, Qt::ControlModifier);

@@ -107,11 +107,18 @@ TEST_F(ReviewListTest, NothingIsDecidedWhileAnotherLineIsSelected) {
     EXPECT_TRUE(Offers("AcceptForm"));
     Press(List(), Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(Opened(), "Image [form2.tif") << "counted on the way";
-    Press(Rows(), Qt::Key_Space);
+    Press(Rows(), Qt::Key_Home);
+    for (const Qt::Key key : {Qt::Key_Q, Qt::Key_3, Qt::Key_Space})
+        Press(Rows(), key);
+    EXPECT_EQ(Rows().currentItem()->text(0), "Q3");
     EXPECT_FALSE(Rows().currentItem()->icon(2).isNull()) << "turned by hand";
     Click("Okay");
     Press(Rows(), Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(Opened(), "Saved Form: form2") << "no other form has any";
+    Press(List(), Qt::Key_Up);
+    EXPECT_FALSE(Offers("AcceptForm") || Find<QComboBox>(*window_, "cboProfiles").isEnabled());
+    Press(List(), Qt::Key_PageUp);
+    EXPECT_EQ(Opened(), "Image [form1.tif") << "above the one that is selected";
 }
 
 }  // namespace

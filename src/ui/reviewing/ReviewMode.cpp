@@ -98,16 +98,18 @@ void ReviewMode::ConnectNeighbour(Command command, int step) {
 // They wait while another line than that of the open form stands out, so that nobody decides about a form
 // that is not the one in sight.
 void ReviewMode::ConnectDecisions() {
-    const auto isHighlighted = [this] {
-        const std::optional<std::size_t> selected = controls_.pane.List().SelectedLine();
-        return !selected || !session_.OpenLine() || selected == session_.OpenLine();
-    };
+    const auto isHighlighted = [this] { return IsOpenFormSelected(); };
     gate_.SetHandler(
         Command::Okay, [this] { Save(); }, isHighlighted);
     gate_.SetHandler(
         Command::AcceptForm, [this] { Decide([this] { session_.Accept(); }); }, isHighlighted);
     gate_.SetHandler(
         Command::RejectForm, [this] { Decide([this] { session_.Reject(); }); }, isHighlighted);
+}
+
+bool ReviewMode::IsOpenFormSelected() const {
+    const std::optional<std::size_t> selected = controls_.pane.List().SelectedLine();
+    return !selected || !session_.OpenLine() || selected == session_.OpenLine();
 }
 
 // Another selected line, or others that the filter shows. Not at once, for the list itself is brought up to
@@ -225,6 +227,8 @@ void ReviewMode::Decide(const std::function<void()>& decide) {
 void ReviewMode::GoOn() {
     if (goesOn_ && session_.GoOn())
         controls_.boxes.setFocus();
+    else if (!IsOpenFormSelected())
+        controls_.pane.List().setFocus();
 }
 
 // Who saves a form and still has it in the list may mean to decide about it next.
@@ -265,6 +269,7 @@ void ReviewMode::Update() {
                                     "Choose a profile on the left, make one with New,\n"
                                     "or press Process to read the scans that wait in the folder ProcessIn."));
     controls_.pane.List().MarkOpen(session_.OpenLine());
+    controls_.pane.Choice().setEnabled(session_.HasForm() && IsOpenFormSelected());
     // With the form all that had its keys is gone; Enter opens the next one. A list of files, whose line took
     // the form's place on the page, goes on by itself.
     const bool hasKeys = dynamic_cast<const ReasonList*>(QApplication::focusWidget()) != nullptr;
@@ -272,14 +277,19 @@ void ReviewMode::Update() {
         controls_.pane.List().setFocus();
 }
 
-// Who types a name in the list looks for a box; blanks and digits belong to the name then.
+// Who types a name in the list looks for a box. Digits belong to the name then, and blanks as far as a name
+// has one there: otherwise they turn the box that was found.
 bool ReviewMode::IsTyping(const QKeyEvent& key) {
     const QString text = key.text();
-    const bool goesOn = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
-    const bool isName = !text.isEmpty() && (text[0].isLetter() || (goesOn && text[0].isPrint()));
-    if (isName)
-        typed_.start();
-    return isName;
+    const bool goesOn = since_.isValid() && since_.elapsed() < QApplication::keyboardInputInterval();
+    if (text.isEmpty() || !(text[0].isLetter() || (goesOn && text[0].isPrint())))
+        return false;
+    const QString name = goesOn ? typed_ + text : text;
+    if (text == " " && controls_.boxes.findItems(name, Qt::MatchStartsWith).isEmpty())
+        return false;
+    typed_ = name;
+    since_.start();
+    return true;
 }
 
 // The digits turn the boxes of a question round.

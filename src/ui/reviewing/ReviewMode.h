@@ -89,6 +89,7 @@ class ReviewMode final : public QObject {
     void ConnectNeighbour(commands::Command command, int step);
     void ConnectFormCommands();
     void ConnectDecisions();
+    bool IsOpenFormSelected() const;
     void ConnectControls();
     void Toggle();
     void TakeFirstLine();
@@ -115,7 +116,8 @@ class ReviewMode final : public QObject {
     QTimer offer_;          ///< The list shows other lines: what can be done is to be shown.
     InputWatch input_;
     bool goesOn_;
-    QElapsedTimer typed_;   ///< Since the last letter in the box list.
+    QString typed_;         ///< As much of a name as was typed in the box list without a pause.
+    QElapsedTimer since_;   ///< The last letter of it.
     bool hadForm_ = false;  ///< A form was open after the last command.
 };
 

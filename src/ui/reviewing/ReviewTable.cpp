@@ -86,7 +86,7 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return IsCentred(index.column()) ? QVariant(Qt::AlignCenter) : QVariant();
         case Qt::ToolTipRole:
-            return isName ? QVariant(ToolTipOf(ToQt(line.Name))) : QVariant();
+            return isName ? QVariant(ToolTipOf(ToQt(line.Name) + " · " + ToQt(line.Profile))) : QVariant();
         case Qt::CheckStateRole:
             return isName ? QVariant(line.Reviewed ? Qt::Checked : Qt::Unchecked) : QVariant();
         default:

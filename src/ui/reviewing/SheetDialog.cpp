@@ -90,6 +90,7 @@ QWidget* SheetDialog::Foot() {
     // Of its own, for a button takes a tenth of a second to answer its shortcut.
     auto* const confirm = new QAction(this);
     confirm->setShortcuts({QKeySequence("Ctrl+Return"), QKeySequence("Ctrl+Enter")});
+    confirm->setAutoRepeat(false);
     connect(confirm, &QAction::triggered, this, [this] { Confirm(); });
     addAction(confirm);
     confirm_->setToolTip(
@@ -146,18 +147,24 @@ void SheetDialog::showEvent(QShowEvent* event) {
     Update();
 }
 
+// A box whose picture is not there yet was seen by nobody.
 void SheetDialog::Confirm() {
-    if (Part().rowCount() == 0)
+    const int first = view_->FirstOnScreen();
+    std::vector<int> rows;
+    std::vector<review::SheetBox> judged;
+    for (int row = first; row < std::min(first + SheetView::kScreen, Part().rowCount()); ++row) {
+        if (!Part().IsPictured(row))
+            continue;
+        rows.push_back(row);
+        judged.push_back(Part().At(row));
+    }
+    if (judged.empty())
         return;
     const BusyCursor busy;
-    const int first = view_->FirstOnScreen();
-    std::vector<review::SheetBox> judged;
-    for (int row = first; row < std::min(first + SheetView::kScreen, Part().rowCount()); ++row)
-        judged.push_back(Part().At(row));
     const review::DoubtSheet::Outcome outcome = sheet_.Confirm(judged);
     reviewed_ += outcome.reviewed;
     corrected_ += outcome.corrected;
-    Part().Remove(first, static_cast<int>(judged.size()), outcome.done);
+    Part().Remove(rows, outcome.done);
     if (!outcome.failures.empty())
         person_.ShowMessage("", review::TextOfFailures(outcome.failures));
     GoOn();

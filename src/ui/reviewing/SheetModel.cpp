@@ -51,16 +51,16 @@ int SheetModel::TurnedCount() const {
     return static_cast<int>(std::ranges::count(items_, true, &Item::isTurned));
 }
 
-void SheetModel::Remove(int first, int count, std::span<const std::string> documents) {
+void SheetModel::Remove(std::span<const int> rows, std::span<const std::string> documents) {
     const auto isOneOf = [&](int row) {
         return std::ranges::find(documents, items_[static_cast<std::size_t>(row)].box.Document) !=
                documents.end();
     };
-    for (int row = std::min(first + count, rowCount()) - 1; row >= first; --row) {
-        if (!isOneOf(row))
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        if (!isOneOf(*row))
             continue;
-        beginRemoveRows({}, row, row);
-        items_.erase(items_.begin() + row);
+        beginRemoveRows({}, *row, *row);
+        items_.erase(items_.begin() + *row);
         endRemoveRows();
     }
 }

@@ -35,8 +35,13 @@ class SheetModel final : public QAbstractListModel {
     void Turn(int row);
     int TurnedCount() const;
 
-    /// Takes away the rows of a range whose document is one of these.
-    void Remove(int first, int count, std::span<const std::string> documents);
+    /// Whether the picture of a row was made, or found not to be possible.
+    bool IsPictured(int row) const {
+        return crops_.Find(items_.at(static_cast<std::size_t>(row)).box) != nullptr;
+    }
+
+    /// Takes away those of some rows, in ascending order, whose document is one of these.
+    void Remove(std::span<const int> rows, std::span<const std::string> documents);
 
     /// The pictures of a form were made.
     void TellMade(const std::string& document);

@@ -20,7 +20,6 @@ class WatchedWork {
     WatchedWork& operator=(const WatchedWork&) = delete;
 
     review::WorkWatch Watch();
-    bool WasStopped() const { return escape_.WasPressed(); }
 
   private:
     bool GoesOn(std::size_t done, std::size_t total);
