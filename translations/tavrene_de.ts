@@ -792,6 +792,14 @@
         <source>Read the forms of the last run again that Precise Alignment reads otherwise</source>
         <translation>Die Formulare des letzten Laufs noch einmal lesen, die „Genaues Ausrichten“ anders liest</translation>
     </message>
+    <message>
+        <source>The same with all scans of a folder and of the folders in it</source>
+        <translation>Dasselbe mit allen Scans eines Ordners und der Ordner darin</translation>
+    </message>
+    <message>
+        <source>Bring In a &amp;Folder...</source>
+        <translation>&amp;Ordner hereinholen...</translation>
+    </message>
 </context>
 <context>
     <name>Composition</name>
@@ -2947,6 +2955,10 @@ Datei %2 von %3, Seite %4 von %5</translation>
     <message>
         <source>All Files</source>
         <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Bring In a Folder</source>
+        <translation>Ordner hereinholen</translation>
     </message>
 </context>
 <context>
