@@ -798,7 +798,7 @@
     </message>
     <message>
         <source>Bring In a &amp;Folder...</source>
-        <translation>&amp;Ordner hereinholen...</translation>
+        <translation>O&amp;rdner hereinholen...</translation>
     </message>
 </context>
 <context>

@@ -26,8 +26,8 @@ struct IntakeContext {
     app::SettingsStore& store;
 };
 
-/// The commands `BringIn`, `BringInFolder` and `PasteScans` (files, folders or a picture), and files and folders that are
-/// dropped anywhere on the window.
+/// The commands `BringIn`, `BringInFolder` and `PasteScans` (files, folders or a picture), and files and
+/// folders that are dropped anywhere on the window.
 class ScanIntake final : public QObject {
   public:
     ScanIntake(QWidget& window, const IntakeContext& context);
