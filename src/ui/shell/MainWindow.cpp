@@ -328,6 +328,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     });
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    toolbars_.FitLabels();
+}
+
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
