@@ -248,6 +248,12 @@ TEST_F(MainWindowTest, LabelsUnderTheButtonsStayChosenAndFitANarrowWindow) {
     Click("Review");  // which has the most buttons
     QApplication::processEvents();
     EXPECT_TRUE(Button(*window_, "CfgToolbar", "Delete").isVisible());
+    for (const auto& [width, isLabelled] : {std::pair(700, false), {1024, true}}) {
+        window_->resize(width, 700);
+        QApplication::processEvents();
+        EXPECT_EQ(Button(*window_, "MainToolbar", "New").height() > 40, isLabelled) << width;
+        EXPECT_TRUE(Button(*window_, "CfgToolbar", "Delete").isVisible()) << "no button has to give way";
+    }
     Find<QAction>(*window_, "ToolbarLabels").trigger();
     QApplication::processEvents();
     EXPECT_LT(Button(*window_, "MainToolbar", "New").height(), 40);

@@ -14,10 +14,13 @@ namespace {
 constexpr int kRowMargin = 6;
 constexpr int kHeaderMargin = 16;
 constexpr int kNameWidth = 150;
+constexpr int kLeastNameWidth = 90;
 constexpr int kTickMargin = 6;  // pixels before the tick
 
-// What a person needs least comes last: the tick says it already.
-constexpr std::array kWhereThereIsRoom = {ReviewTable::kProfile, ReviewTable::kReviewed};
+// What a person needs least comes last: the tick says it already. With the room that the names have to keep.
+constexpr std::array kWhereThereIsRoom = {std::pair(ReviewTable::kDoubts, kLeastNameWidth),
+                                          std::pair(ReviewTable::kProfile, kNameWidth),
+                                          std::pair(ReviewTable::kReviewed, kNameWidth)};
 
 }  // namespace
 
@@ -59,13 +62,12 @@ void ReviewListView::LayOutColumns() {
 
 // A column that would take the room from the names is not shown until the list is made wider.
 void ReviewListView::ShowColumnsWithRoom() {
-    int room = viewport()->width() - kNameWidth - header()->sectionSize(ReviewTable::kDoubts) -
-               header()->sectionSize(ReviewTable::kConfidence);
-    for (const int column : kWhereThereIsRoom) {
+    int room = viewport()->width() - header()->sectionSize(ReviewTable::kConfidence);
+    for (const auto& [column, names] : kWhereThereIsRoom) {
         // A hidden one tells no size.
         header()->setSectionHidden(column, false);
         room -= header()->sectionSize(column);
-        header()->setSectionHidden(column, room < 0);
+        header()->setSectionHidden(column, room < names);
     }
 }
 

@@ -94,14 +94,14 @@ void MainWindow::BuildLayout() {
     splitter_->setHandleWidth(1);
     side_->addWidget(profiles_);
     side_->addWidget(forms_);
-    side_->setMinimumWidth(150);
+    side_->setMinimumWidth(190);
     auto* const lists = new QSplitter(Qt::Vertical, splitter_);
     lists->setObjectName("Splitter2");
     lists->setChildrenCollapsible(false);
-    lists->setMinimumWidth(180);
+    lists->setMinimumWidth(220);
     lists->addWidget(boxes_);
     lists->addWidget(candidates_);
-    view_->setMinimumWidth(300);
+    view_->setMinimumWidth(220);
     view_->SetNames([boxes = boxes_](int number) { return boxes->NameOf(number); });
     splitter_->addWidget(side_);
     splitter_->addWidget(StripAbove(*strip_, *view_));
@@ -326,6 +326,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         review_.KeepCounts();
         event->accept();
     });
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    toolbars_.FitLabels();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/base/PaneParts.h"
 #include "ui/base/QtText.h"
@@ -22,8 +23,10 @@ constexpr int kPanelMargin = 6;
 constexpr int kProgressBarWidth = 120;
 constexpr int kProgressBarHeight = 14;
 
+// Rounded up: a text that lacks a part of a pixel is cut.
 int WidthOf(const QLabel& label, const QString& text) {
-    return label.fontMetrics().horizontalAdvance(text) + 2 * kPanelMargin;
+    const double width = QFontMetricsF(label.font()).horizontalAdvance(text);
+    return static_cast<int>(std::ceil(width)) + 2 * kPanelMargin;
 }
 
 }  // namespace

@@ -28,6 +28,15 @@ QToolBar* MakeToolbar(QMainWindow& window, const char* name, const QString& titl
     return toolbar;
 }
 
+// With the buttons that are hidden now, so that labels do not come and go with them.
+int FullWidthOf(const QToolBar& toolbar) {
+    int width = toolbar.sizeHint().width();
+    for (QAction* const action : toolbar.actions())
+        if (!action->isVisible())
+            width += toolbar.widgetForAction(action)->sizeHint().width();
+    return width;
+}
+
 }  // namespace
 
 Toolbars::Toolbars(QMainWindow& window, std::function<void(commands::Command)> run) : run_(std::move(run)) {
@@ -99,12 +108,24 @@ void Toolbars::Update(const std::function<ButtonState(commands::Command)>& state
 }
 
 void Toolbars::ShowLabels(bool shown) {
-    for (const auto& [name, toolbar] : toolbars_)
-        toolbar->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    hasLabels_ = shown;
+    if (shown) {
+        SetStyle(Qt::ToolButtonTextUnderIcon);
+        labelledWidth_ = 0;
+        for (const auto& [name, toolbar] : toolbars_)
+            labelledWidth_ += FullWidthOf(*toolbar);
+    }
+    FitLabels();
 }
 
-bool Toolbars::LabelsShown() const {
-    return toolbars_.at(commands::Toolbar::Main)->toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+void Toolbars::FitLabels() {
+    const int room = toolbars_.at(commands::Toolbar::Main)->window()->width();
+    SetStyle(hasLabels_ && labelledWidth_ <= room ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+}
+
+void Toolbars::SetStyle(Qt::ToolButtonStyle style) {
+    for (const auto& [name, toolbar] : toolbars_)
+        toolbar->setToolButtonStyle(style);
 }
 
 }  // namespace tavrene::ui

@@ -33,19 +33,26 @@ class Toolbars {
     /// One that is there already, or a menu of boxes within theirs.
     QMenu* MenuOf(commands::Menu menu);
 
-    /// Words under the pictures of the buttons, or none.
+    /// Words under the pictures of the buttons, or none. A window that is too narrow for all of them shows
+    /// none.
     void ShowLabels(bool shown);
-    bool LabelsShown() const;
+    bool LabelsShown() const { return hasLabels_; }
+
+    /// For another width of the window.
+    void FitLabels();
 
   private:
     void AddCommand(QMainWindow& window, const commands::CommandInfo& info);
     void AddToToolbar(const commands::CommandInfo& info, QAction* action);
     void AddToMenu(const commands::CommandInfo& info, QAction* action);
+    void SetStyle(Qt::ToolButtonStyle style);
 
     std::function<void(commands::Command)> run_;
     std::map<commands::Toolbar, QToolBar*> toolbars_;
     std::map<commands::Menu, QMenu*> menus_;
     std::map<commands::Command, QAction*> actions_;
+    bool hasLabels_ = false;
+    int labelledWidth_ = 0;  ///< Of all buttons with their labels.
 };
 
 }  // namespace tavrene::ui
