@@ -238,5 +238,26 @@ TEST_F(KeyboardTest, PagesThatWereNotReadHaveAMenuAndAKey) {
     EXPECT_EQ(In(folders_.ProcessIn), Names{"b.png"});
 }
 
+TEST_F(KeyboardTest, EscapeClosesTheSummaryThenTheNameThatIsTypedThenTheWindow) {
+    form_.SaveScan(folders_.ProcessIn + "scan.tif", {});
+    Open();
+    Click("Process");
+    ClickThumbnail(1);
+    Rows().setFocus();
+    Rows().setCurrentIndex(Rows().model()->index(0, 0));
+    Find<QAction>(*window_, "RenameBox").trigger();
+    QTest::keyClicks(QApplication::focusWidget(), "half a na");
+    const auto escape = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); };
+    escape();
+    EXPECT_FALSE(Find<QWidget>(*window_, "SummaryPanel").isVisible());
+    EXPECT_FALSE(Rows().hasFocus()) << "the name is being typed still";
+    escape();
+    EXPECT_TRUE(Rows().hasFocus());
+    EXPECT_EQ(RowTexts().front(), "Q1");
+    EXPECT_TRUE(window_->isVisible());
+    escape();
+    EXPECT_FALSE(window_->isVisible());
+}
+
 }  // namespace
 }  // namespace tavrene::ui

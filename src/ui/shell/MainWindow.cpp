@@ -20,6 +20,7 @@
 #include "ui/settings/SettingsDialog.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ContextMenus.h"
+#include "ui/shell/EscapeFirst.h"
 #include "ui/shell/Language.h"
 #include "ui/shell/ScanIntake.h"
 
@@ -73,6 +74,9 @@ MainWindow::MainWindow(const app::Settings& settings, const WindowContext& conte
     ConnectViewCommands();
     ConnectCommands();
     ConnectSummary();
+    // One thing with each Escape, that which came last first.
+    new EscapeFirst(*this,
+                    [this] { return help_->Close() || operator_.CloseReports() || summary_->Close(); });
     AddContextMenus(
         {*profiles_, *forms_, *boxes_, *view_, toolbars_, desk_.Session(), [this] { OfferCommands(); }});
     auto* const intake = new ScanIntake(*this, {context.files, operator_, state_, gate_, context.store});
@@ -336,13 +340,8 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
-    else if (!CloseWhatIsOver())
+    else if (!desk_.CloseCandidates())
         close();
-}
-
-// One thing with each Escape, that which came last first.
-bool MainWindow::CloseWhatIsOver() {
-    return help_->Close() || operator_.CloseReports() || summary_->Close() || desk_.CloseCandidates();
 }
 
 }  // namespace tavrene::ui

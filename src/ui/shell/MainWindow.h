@@ -78,7 +78,6 @@ class MainWindow final : public QMainWindow {
     bool HasFolder() const;
     bool MayRun();
     void ShowFile(const ReasonRow& file);
-    bool CloseWhatIsOver();
     void ShowSettings();
     void OpenOnDesktop(const std::string& path);
 
