@@ -9,7 +9,6 @@ namespace {
 
 using test::DialogScript;
 using test::Find;
-using test::TestForm;
 
 // By mouse, by keys and by the window's own commands.
 class UndoTest : public test::FormWindow {
