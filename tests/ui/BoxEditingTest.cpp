@@ -284,6 +284,10 @@ TEST_F(BoxEditingTest, ABoxDrawnByHandIsReadByARunWhichClosesTheProfile) {
     Drag(place.center(), place.center() + QPointF(20, 20));
     Click("Save");
     EXPECT_EQ(test::ReadText(document_), before) << "the boxes of a run are no profile";
+    ClickThumbnail(1);
+    dialogs.Type("Other").Press(QMessageBox::No);
+    Find<QAction>(*window_, "RenameProfile").trigger();
+    EXPECT_PRED2(test::Has, dialogs.shown.back(), "Results were read with the profile Form");
 }
 
 TEST_F(BoxEditingTest, WheelZoomsAroundThePointerAndTheMiddleButtonPans) {
