@@ -89,16 +89,17 @@ int HalfABox(const Boxes& boxes) {
     return std::min(std::abs(box.R - box.L), std::abs(box.B - box.T)) / 2;
 }
 
-void AdviseOnSpread(const Boxes& boxes, Advice& advice) {
+void AdviseOnSpread(const Boxes& boxes, bool isPrecise, Advice& advice) {
     const Boxes sampled = SampledBoxes(boxes);
     const std::pair<Ordinate, std::string> axes[] = {{Left, "column"}, {Lower, "row"}};
     for (const auto& [ordinate, line] : axes) {
         const int spread = SpreadOf(sampled, ordinate);
-        if (spread == 0)
+        const bool hasNoSlope = spread == 0 && !isPrecise;
+        if (hasNoSlope)
             Add(advice, "no slope in one " + line, NoSlope(line, sampled.size(), boxes.size()));
-        else if (spread * kLargestGrowth < SpreadOf(boxes, ordinate))
+        else if (!isPrecise && spread * kLargestGrowth < SpreadOf(boxes, ordinate))
             Add(advice, "near one " + line, SteepSlope(line));
-        if (spread > 0 && SpreadOf(boxes, ordinate) < HalfABox(boxes))
+        if (!hasNoSlope && SpreadOf(boxes, ordinate) < HalfABox(boxes))
             Add(advice, "one " + line, OneLine(line));
     }
 }
@@ -158,7 +159,7 @@ void AdviseOnPlaces(const OpenProfile& profile, Advice& advice) {
 
 }  // namespace
 
-std::vector<app::Notice> AdviseOn(const OpenProfile& profile) {
+std::vector<app::Notice> AdviseOn(const OpenProfile& profile, const ReadingOptions& reading) {
     Advice advice;
     if (!profile.IsOpen)
         return advice;
@@ -174,7 +175,7 @@ std::vector<app::Notice> AdviseOn(const OpenProfile& profile) {
             "is not active. Add boxes or delete it.");
         return advice;
     }
-    AdviseOnSpread(boxes, advice);
+    AdviseOnSpread(boxes, reading.preciseAlignment, advice);
     AdviseOnPlaces(profile, advice);
     if (boxes.size() < kFewBoxes)
         Add(advice, "few boxes",

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include "recognition/Classification.h"
 
@@ -104,6 +105,16 @@ Trial TryPrecisely(const imaging::Page& page, std::span<const ProfileRecord> pro
 }
 
 }  // namespace
+
+std::size_t PutInPlace(std::vector<ProfileRecord>& loaded, ProfileRecord own) {
+    const auto place = std::ranges::find(loaded, own.FileName, &ProfileRecord::FileName);
+    const auto index = static_cast<std::size_t>(place - loaded.begin());
+    if (place == loaded.end())
+        loaded.push_back(std::move(own));
+    else
+        *place = std::move(own);
+    return index;
+}
 
 Trial TryProfile(const imaging::Page& page, std::vector<ProfileRecord> profiles, std::size_t tried,
                  TrialWay way, PreciseReader& precise) {

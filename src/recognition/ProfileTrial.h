@@ -23,6 +23,10 @@ struct Trial {
     std::vector<MarkReading> marks;  ///< In the profile's order; `Checked` is left to the threshold.
 };
 
+/// Puts a profile as it stands into the place of the loaded one of its file, or behind all where there is
+/// none. Gives its index.
+std::size_t PutInPlace(std::vector<profiles::ProfileRecord>& loaded, profiles::ProfileRecord own);
+
 /// Tries profile `tried` of those that a run would look at, as if it were active.
 Trial TryProfile(const imaging::Page& page, std::vector<profiles::ProfileRecord> profiles, std::size_t tried,
                  TrialWay way, PreciseReader& precise);

@@ -116,6 +116,8 @@ std::vector<ResultMark> ReadResultMarks(const app::Files& files, const std::stri
 }
 
 bool HasResultOf(const app::Files& files, const std::string& folder, const std::string& profile) {
+    if (!files.FolderExists(folder))
+        return false;
     const std::vector<std::string> names = files.List(folder, "*.xml");
     return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
         bool isOf = false;

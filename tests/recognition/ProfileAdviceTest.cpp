@@ -69,6 +69,13 @@ TEST(ProfileAdvice, TellsOfEachTrapAndOfNoOther) {
     }
 }
 
+TEST(ProfileAdvice, PreciseAlignmentNeedsNoSlopeButBoxesOfItsOwn) {
+    const auto advice = AdviseOn(ProfileOf(TestForm::Grid(1, 4).boxes), {.preciseAlignment = true});
+    ASSERT_EQ(advice.size(), 1U);
+    EXPECT_NE(advice[0].text.find("may match forms"), std::string::npos) << advice[0].text;
+    EXPECT_TRUE(AdviseOn(ProfileOf(TestForm::Grid(2, 12).boxes), {.preciseAlignment = true}).empty());
+}
+
 TEST(ProfileAdvice, LooksAtKeptBoxesAndAtTheCount) {
     profiles::OpenProfile profile = ProfileOf(TestForm::Grid(2, 2).boxes);
     profile.BoxList[1].Checked = profile.BoxList[3].Checked = false;

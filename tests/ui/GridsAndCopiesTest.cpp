@@ -63,12 +63,6 @@ TEST_F(GridsAndCopiesTest, AGridIsDrawnAndCopiesSnapToThePrint) {
     EXPECT_EQ(RowTexts(), (Names{"Q8", "Q9", "Q10", "Q11"}));
     Click("Save");
     EXPECT_EQ(PlaceOf(Saved("Form").at(2)), PlaceOf(whole.boxes[13]));
-
-    const QPointF free = PlaceOf(whole.boxes[20]).topLeft() + QPointF(2, 2);
-    Click("Add", "CfgToolbar");
-    Drag(free, free + QPointF(22, 22));
-    Click("Save");
-    EXPECT_EQ(PlaceOf(Saved("Form").back()), PlaceOf(whole.boxes[20]));
 }
 
 // All are put a little beside the outlines of the second row, which has no boxes yet.

@@ -32,6 +32,11 @@ TEST_F(HandlesTest, EachMovesItsEdgesAndNoOther) {
     }
     QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, View().mapFromScene(box.center()));
     EXPECT_TRUE(View().hasFocus()) << "the keys go where the person has clicked";
+    Press(View(), Qt::Key_Left);
+    Press(View(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(View().Boxes().PlaceOf(1), box.translated(-1, 10));
+    Press(View(), Qt::Key_Z, Qt::ControlModifier);
+    Press(View(), Qt::Key_Z, Qt::ControlModifier);
     Drag(box.bottomRight(), box.topLeft() - QPointF(30, 30));
     EXPECT_EQ(View().Boxes().PlaceOf(1), QRectF(box.topLeft(), QSizeF(1, 1))) << "a side stops at the other";
 }

@@ -49,6 +49,15 @@ TEST(PageItemTest, AOneBitPageLooksLikeTheSamePageInGrey) {
                 difference += std::abs(qGray(seen.pixel(x, y)) - qGray(grey.pixel(x, y)));
         EXPECT_LT(difference / (seen.width() * seen.height()), 1.5);
     }
+    PageItem bits;
+    PageItem grey;
+    bits.SetImage(page);
+    grey.SetImage(page.convertToFormat(QImage::Format_Grayscale8));
+    const auto upTo = [&](int last) { return static_cast<double>(random() % static_cast<unsigned>(last)); };
+    for (int k = 0; k < 300; ++k) {
+        const QRectF part(upTo(340) - 10, upTo(260) - 10, 1 + upTo(60), 1 + upTo(20));
+        EXPECT_EQ(bits.PrintedUpTo(part), grey.PrintedUpTo(part)) << k;
+    }
 }
 
 // The shown page lies as the boxes that are drawn on it.

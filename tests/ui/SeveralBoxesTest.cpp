@@ -115,6 +115,11 @@ TEST_F(SeveralBoxesWindowTest, NamesAreShownOnThePageBeforeTheyAreTaken) {
     Trigger("SortByPlace");
     EXPECT_EQ(RowTexts().at(3), "Q2 often");
     EXPECT_EQ(View().Boxes().SelectedBox(), 5);
+    Trigger("GroupFrames");
+    Trigger("SnapToPrint");
+    Open();
+    for (const char* const toggle : {"BoxNames", "GroupFrames", "SnapToPrint"})
+        EXPECT_TRUE(Find<QAction>(*window_, toggle).isChecked()) << toggle << " at the next start";
 }
 
 TEST_F(SeveralBoxesWindowTest, GroupsAreFramedAndKeptBesideTheProfile) {

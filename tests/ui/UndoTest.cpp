@@ -9,7 +9,6 @@ namespace {
 
 using test::DialogScript;
 using test::Find;
-using test::TestForm;
 
 // By mouse, by keys and by the window's own commands.
 class UndoTest : public test::FormWindow {
@@ -165,8 +164,13 @@ TEST_F(UndoTest, EveryActionOfTheWindowIsUndoneAndDoneAgainInAnyOrder) {
     while (Can("Redo"))
         Press(View(), Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(State(), states.back());
+    Click("Save");
+    std::size_t saved = 0;
+    for (const int number : View().Boxes().Numbers())
+        EXPECT_EQ(View().Boxes().PlaceOf(number), PlaceOf(Saved("Form").at(saved++))) << number;
     while (Can("Undo"))
         Trigger("Undo");
+    Click("Save");
     EXPECT_EQ(State(), began);
     const DialogScript none;  // nothing has changed that could be saved
     Press(View(), Qt::Key_Escape);

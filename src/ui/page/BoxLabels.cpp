@@ -25,13 +25,17 @@ QRectF LabelPlace(const QRectF& box, const QSizeF& size, const LabelRoom& room) 
                               {box.left(), box.bottom() + kGap},
                               {box.right() + kGap, level},
                               {box.left() - size.width() - kGap, level}};
-    for (const QPointF& place : places)
-        if (room.IsBlank({place, size}))
-            return {place, size};
-    for (const QPointF& place : places)
-        if (room.IsFree({place, size}))
-            return {place, size};
-    return {};
+    QRectF free;
+    for (const QPointF& place : places) {
+        const QRectF label(place, size);
+        if (!room.IsFree(label))
+            continue;
+        if (room.PrintedUpTo(label) <= label.left())
+            return label;
+        if (free.isNull())
+            free = label;
+    }
+    return free;
 }
 
 }  // namespace

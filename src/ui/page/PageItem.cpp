@@ -25,11 +25,14 @@ bool PageItem::IsDark(int x, int y) const {
 
 double PageItem::PrintedUpTo(const QRectF& part) const {
     const QRect place = part.toAlignedRect() & image_.rect();
+    const bool isMono = image_.format() == QImage::Format_Mono;
     int end = place.left();
-    for (int y = place.top(); y <= place.bottom(); ++y)
-        for (int x = place.right(); x >= end; --x)
-            if (IsDark(x, y))
-                end = x + 1;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        int x = place.right();
+        while (x >= end && !IsDark(x, y))
+            x -= isMono && x % 8 == 7 && image_.constScanLine(y)[x / 8] == 0 ? 8 : 1;
+        end = std::max(end, x + 1);
+    }
     return !place.isEmpty() && end > place.left() ? end : part.left();
 }
 

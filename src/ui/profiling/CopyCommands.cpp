@@ -14,6 +14,7 @@
 #include "imaging/PageReader.h"
 #include "profiles/BoxArrangement.h"
 #include "profiles/BoxPlace.h"
+#include "profiles/CopyPlaces.h"
 #include "ui/base/QtText.h"
 
 namespace tavrene::ui {
@@ -26,10 +27,8 @@ namespace {
 
 constexpr int kMostLines = 200;
 
+constexpr std::string_view kSnapToPrint = "SnapToPrint";
 constexpr const char* kBoxesFormat = "application/x-tavrene-boxes";
-
-// Copies go to an outline below that is at most so many heights of a box away.
-constexpr double kReachDown = 3;
 
 PageRect ToPageRect(const QRectF& rect) {
     return {rect.left(), rect.top(), rect.width(), rect.height()};
@@ -44,21 +43,22 @@ QSpinBox* Counter(const char* name, const QString& label, int value) {
     return counter;
 }
 
-bool IsTaken(const std::vector<OmrBox>& boxes, const PageRect& place) {
-    return std::any_of(boxes.begin(), boxes.end(), [&](const OmrBox& box) {
-        const profiles::BoxMiddle middle = profiles::MiddleOf(box);
-        return box.Checked && std::abs(middle.x - place.left - place.width / 2) < place.width / 2 &&
-               std::abs(middle.y - place.top - place.height / 2) < place.height / 2;
-    });
-}
-
 }  // namespace
 
 CopyCommands::CopyCommands(commands::CommandGate& gate, const app::Files& files, app::Operator& person,
-                           const profiles::OpenProfile& profile, profiles::BoxEditor& editor, ImageView& view)
-    : files_(files), person_(person), profile_(profile), editor_(editor), view_(view) {
+                           app::SettingsStore& store, const profiles::OpenProfile& profile,
+                           profiles::BoxEditor& editor, ImageView& view)
+    : files_(files),
+      person_(person),
+      profile_(profile),
+      editor_(editor),
+      view_(view),
+      snaps_(app::ReadWindowFlag(store, kSnapToPrint, false)) {
     gate.SetHandler(Command::DrawGrid, [this, &gate] { DrawGrid(gate); });
-    gate.SetHandler(Command::SnapToPrint, [this] { snaps_ = !snaps_; });
+    gate.SetHandler(Command::SnapToPrint, [this, &store] {
+        snaps_ = !snaps_;
+        app::WriteWindowFlag(store, kSnapToPrint, snaps_);
+    });
     editor.SetPlacing([this](const PageRect& place) { return Placed(place); });
     ConnectCopies(gate);
 }
@@ -73,7 +73,7 @@ void CopyCommands::ConnectCopies(commands::CommandGate& gate) {
         Command::DuplicateBoxes,
         [this] {
             const std::vector<OmrBox> boxes = SelectedBoxes();
-            Append(boxes, {0, WayDown(boxes)});
+            Append(boxes, profiles::WayDown(profile_.BoxList, boxes, Print()));
         },
         hasSelected);
 }
@@ -101,34 +101,7 @@ bool CopyCommands::AreBoxesOnClipboard() {
 
 // In another profile they come to the place where they were, where boxes are to the next free one.
 void CopyCommands::Paste() {
-    const PageRect first = profiles::PlaceOf(copied_.front());
-    constexpr int kMost = 100;
-    int step = 0;
-    const auto meetsOthers = [&](const OmrBox& box) {
-        PageRect place = profiles::PlaceOf(box);
-        place.left += step * first.width;
-        place.top += step * first.height;
-        return IsTaken(profile_.BoxList, place);
-    };
-    while (step < kMost && std::ranges::any_of(copied_, meetsOthers))
-        ++step;
-    Append(copied_, {step * static_cast<int>(first.width), step * static_cast<int>(first.height)});
-}
-
-// To the next outline that is printed below the first of them and has no box yet, or else just below them.
-int CopyCommands::WayDown(const std::vector<OmrBox>& boxes) {
-    const PageRect first = profiles::PlaceOf(boxes.front());
-    double bottom = 0;
-    for (const OmrBox& box : boxes)
-        bottom = std::max<double>(bottom, std::max(box.T, box.B));
-    const double below = bottom - first.top;
-    for (double down = below; down < below + kReachDown * first.height; down += 2) {
-        const PageRect place = {first.left, first.top + down, first.width, first.height};
-        const PageRect printed = InPrint(place);
-        if (printed != place && printed.top > bottom && !IsTaken(profile_.BoxList, printed))
-            return static_cast<int>(printed.top - first.top);
-    }
-    return static_cast<int>(below + first.height / 2);
+    Append(copied_, profiles::WayToFreePlace(profile_.BoxList, copied_));
 }
 
 std::vector<OmrBox> CopyCommands::SelectedBoxes() const {
@@ -161,24 +134,19 @@ profiles::PixelWay CopyCommands::Placed(const OmrBox& first, profiles::PixelWay 
 }
 
 // Copies that the edge of the page holds back would lie over what is there.
-void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay way) {
+void CopyCommands::Append(const std::vector<OmrBox>& copied, profiles::PixelWay wanted) {
     if (copied.empty())
         return;
-    const profiles::PixelWay wanted = Placed(copied.front(), way);
-    const profiles::PixelWay held = profiles::HeldOnPage(wanted, copied, ExtentOf(profile_));
-    const auto meetsOthers = [&](const OmrBox& box) {
-        const PageRect before = profiles::PlaceOf(box);
-        return IsTaken(profile_.BoxList,
-                       {before.left + held.dx, before.top + held.dy, before.width, before.height});
-    };
-    if (held != wanted && std::ranges::any_of(copied, meetsOthers)) {
+    const std::optional<profiles::PixelWay> way =
+        profiles::WayOfCopies(Placed(copied.front(), wanted), profile_.BoxList, copied, ExtentOf(profile_));
+    if (!way) {
         person_.SetPanel(app::Panel::Message, "There is no room on the page for the copies there.");
         return;
     }
     std::vector<OmrBox> after = profile_.BoxList;
     const std::vector<int> numbers = profiles::AppendCopies(after, copied);
     const profiles::BoxSelection selected(numbers, numbers.front());
-    profiles::Move(after, selected, held.dx, held.dy, ExtentOf(profile_));
+    profiles::Move(after, selected, way->dx, way->dy, ExtentOf(profile_));
     if (editor_.Change([&](std::vector<OmrBox>& boxes) { boxes = after; }, selected))
         person_.SetPanel(app::Panel::Message, app::Counted(copied.size(), "box", "boxes") + " added.");
 }
@@ -189,7 +157,7 @@ bool CopyCommands::KeepsFree() const {
 
 // Where a box goes that the person puts at a place.
 PageRect CopyCommands::Placed(const PageRect& place) {
-    return snaps_ && !KeepsFree() ? InPrint(place) : place;
+    return snaps_ && !KeepsFree() ? profiles::InPrint(Print(), place) : place;
 }
 
 void CopyCommands::DrawGrid(commands::CommandGate& gate) {
@@ -204,7 +172,7 @@ void CopyCommands::DrawGrid(commands::CommandGate& gate) {
 
 void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast) {
     const auto placed = [this, isFree = KeepsFree()](const PageRect& place) {
-        return isFree ? place : InPrint(place);
+        return isFree ? place : profiles::InPrint(Print(), place);
     };
     const PageRect first = placed(drawnFirst);
     const PageRect last = placed(drawnLast);
@@ -217,7 +185,7 @@ void CopyCommands::AddGrid(const PageRect& drawnFirst, const PageRect& drawnLast
     for (const PageRect& place : profiles::PlacesOfGrid(first, last, *shape)) {
         OmrBox box;
         profiles::PutAt(box, profiles::OntoPage(placed(place), ExtentOf(profile_)));
-        if (!IsTaken(profile_.BoxList, profiles::PlaceOf(box)))
+        if (!profiles::IsTaken(profile_.BoxList, profiles::PlaceOf(box)))
             added.push_back(box);
     }
     if (!editor_.AddBoxes(added)) {
@@ -251,11 +219,6 @@ std::optional<profiles::GridShape> CopyCommands::AskShape(const profiles::GridSh
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return profiles::GridShape{rows->value(), columns->value()};
-}
-
-PageRect CopyCommands::InPrint(const PageRect& place) {
-    const imaging::WorkGrid* const print = Print();
-    return print == nullptr ? place : profiles::OutlineUnder(*print, place).value_or(place);
 }
 
 // Nothing where the specimen cannot be read.

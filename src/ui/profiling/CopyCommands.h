@@ -6,6 +6,7 @@
 
 #include "app/Files.h"
 #include "app/Operator.h"
+#include "app/SettingsStore.h"
 #include "imaging/WorkGrid.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/BoxGrid.h"
@@ -20,7 +21,8 @@ class CopyCommands {
   public:
     /// The references must outlive it.
     CopyCommands(commands::CommandGate& gate, const app::Files& files, app::Operator& person,
-                 const profiles::OpenProfile& profile, profiles::BoxEditor& editor, ImageView& view);
+                 app::SettingsStore& store, const profiles::OpenProfile& profile, profiles::BoxEditor& editor,
+                 ImageView& view);
 
     bool SnapsToPrint() const { return snaps_; }
 
@@ -38,13 +40,11 @@ class CopyCommands {
     std::optional<profiles::GridShape> AskShape(const profiles::GridShape& guess) const;
     void Copy();
     void Paste();
-    void Append(const std::vector<profiles::OmrBox>& copied, profiles::PixelWay way);
+    void Append(const std::vector<profiles::OmrBox>& copied, profiles::PixelWay wanted);
     bool KeepsFree() const;
     imaging::PageRect Placed(const imaging::PageRect& place);
     profiles::PixelWay Placed(const profiles::OmrBox& first, profiles::PixelWay way);
     std::vector<profiles::OmrBox> SelectedBoxes() const;
-    int WayDown(const std::vector<profiles::OmrBox>& boxes);
-    imaging::PageRect InPrint(const imaging::PageRect& place);
     const imaging::WorkGrid* Print();
 
     const app::Files& files_;
@@ -52,7 +52,7 @@ class CopyCommands {
     const profiles::OpenProfile& profile_;
     profiles::BoxEditor& editor_;
     ImageView& view_;
-    bool snaps_ = false;
+    bool snaps_;
     std::vector<profiles::OmrBox> copied_;
     std::string printOf_;  ///< The specimen that was read last, and what is printed on it where it could be.
     std::optional<imaging::WorkGrid> print_;

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <algorithm>
 #include <map>
+#include <string_view>
 #include <utility>
 
 #include "profiles/GroupEdits.h"
@@ -19,6 +20,8 @@ using profiles::BoxGroup;
 using profiles::OmrBox;
 
 namespace {
+
+constexpr std::string_view kGroupFrames = "GroupFrames";
 
 constexpr std::pair<profiles::Takes, const char*> kTakes[] = {
     {profiles::Takes::One, QT_TRANSLATE_NOOP("GroupCommands", "one mark")},
@@ -34,9 +37,13 @@ QString TextOf(profiles::Takes takes) {
 
 }  // namespace
 
-GroupCommands::GroupCommands(commands::CommandGate& gate, const profiles::OpenProfile& profile,
-                             profiles::BoxEditor& editor, ImageView& view)
-    : profile_(profile), editor_(editor), view_(view) {
+GroupCommands::GroupCommands(commands::CommandGate& gate, app::SettingsStore& store,
+                             const profiles::OpenProfile& profile, profiles::BoxEditor& editor,
+                             ImageView& view)
+    : profile_(profile),
+      editor_(editor),
+      view_(view),
+      showsFrames_(app::ReadWindowFlag(store, kGroupFrames, false)) {
     gate.SetHandler(
         Command::GroupBoxes, [this] { GroupSelected(); }, [this] { return profile_.Selected.HasSeveral(); });
     gate.SetHandler(
@@ -55,7 +62,10 @@ GroupCommands::GroupCommands(commands::CommandGate& gate, const profiles::OpenPr
         editor_.SetGroups(std::nullopt);
         showsFrames_ = true;
     });
-    gate.SetHandler(Command::GroupFrames, [this] { showsFrames_ = !showsFrames_; });
+    gate.SetHandler(Command::GroupFrames, [this, &store] {
+        showsFrames_ = !showsFrames_;
+        app::WriteWindowFlag(store, kGroupFrames, showsFrames_);
+    });
 }
 
 // What was done is to be seen.

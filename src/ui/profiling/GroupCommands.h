@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/SettingsStore.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/BoxGroups.h"
 #include "profiles/OpenProfile.h"
@@ -16,8 +17,8 @@ namespace tavrene::ui {
 class GroupCommands {
   public:
     /// The references must outlive it.
-    GroupCommands(commands::CommandGate& gate, const profiles::OpenProfile& profile,
-                  profiles::BoxEditor& editor, ImageView& view);
+    GroupCommands(commands::CommandGate& gate, app::SettingsStore& store,
+                  const profiles::OpenProfile& profile, profiles::BoxEditor& editor, ImageView& view);
 
     /// Shows the frames as the groups are now, or none.
     void Update();
@@ -34,7 +35,7 @@ class GroupCommands {
     const profiles::OpenProfile& profile_;
     profiles::BoxEditor& editor_;
     ImageView& view_;
-    bool showsFrames_ = false;
+    bool showsFrames_;
 };
 
 }  // namespace tavrene::ui

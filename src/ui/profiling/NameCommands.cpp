@@ -1,6 +1,7 @@
 #include "ui/profiling/NameCommands.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "profiles/BoxCells.h"
 #include "ui/base/QtText.h"
@@ -11,13 +12,25 @@ namespace tavrene::ui {
 using commands::Command;
 using profiles::OmrBox;
 
-NameCommands::NameCommands(commands::CommandGate& gate, const profiles::OpenProfile& profile,
-                           profiles::BoxEditor& editor, ImageView& view)
-    : profile_(profile), editor_(editor), view_(view) {
+namespace {
+
+constexpr std::string_view kBoxNames = "BoxNames";
+
+}  // namespace
+
+NameCommands::NameCommands(commands::CommandGate& gate, app::SettingsStore& store,
+                           const profiles::OpenProfile& profile, profiles::BoxEditor& editor, ImageView& view)
+    : profile_(profile),
+      editor_(editor),
+      view_(view),
+      showsNames_(app::ReadWindowFlag(store, kBoxNames, false)) {
     gate.SetHandler(
         Command::NameBoxes, [this] { NameBoxes(); },
         [this] { return !profiles::KeptNumbers(profile_.BoxList).empty(); });
-    gate.SetHandler(Command::BoxNames, [this] { showsNames_ = !showsNames_; });
+    gate.SetHandler(Command::BoxNames, [this, &store] {
+        showsNames_ = !showsNames_;
+        app::WriteWindowFlag(store, kBoxNames, showsNames_);
+    });
     view.SetTabHandler([this, &gate](bool isForward) {
         bool isTaken = false;
         gate.Take(Command::EditBoxes, [&] { isTaken = Step(isForward); });

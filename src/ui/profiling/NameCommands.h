@@ -3,6 +3,7 @@
 #include <set>
 #include <vector>
 
+#include "app/SettingsStore.h"
 #include "profiles/BoxEditor.h"
 #include "profiles/BoxNaming.h"
 #include "profiles/OpenProfile.h"
@@ -15,7 +16,7 @@ namespace tavrene::ui {
 class NameCommands {
   public:
     /// The references must outlive it.
-    NameCommands(commands::CommandGate& gate, const profiles::OpenProfile& profile,
+    NameCommands(commands::CommandGate& gate, app::SettingsStore& store, const profiles::OpenProfile& profile,
                  profiles::BoxEditor& editor, ImageView& view);
 
     /// Shows the names on the page as they are now, or none.
@@ -35,7 +36,7 @@ class NameCommands {
     const profiles::OpenProfile& profile_;
     profiles::BoxEditor& editor_;
     ImageView& view_;
-    bool showsNames_ = false;
+    bool showsNames_;
 };
 
 }  // namespace tavrene::ui

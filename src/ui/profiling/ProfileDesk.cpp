@@ -26,7 +26,7 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
       gate_(context.gate),
       controls_(controls),
       session_({context.files, context.person, context.dialogs, context.log, context.clock, state.folders,
-                recognition::AdviseOn,
+                [this](const auto& profile) { return recognition::AdviseOn(profile, state_.reading); },
                 [this] {
                     return app::Notice{more_.Offer(), "Find More Boxes",
                                        [this] { gate_.Run(Command::FindMoreBoxes); }};
@@ -36,10 +36,10 @@ ProfileDesk::ProfileDesk(commands::AppState& state, const DeskContext& context, 
                 }},
                state.profiles, {controls.view, controls.rows, controls.pane.Strip()}),
       boxes_(context.gate, session_.Profile(), session_.Editor()),
-      names_(context.gate, session_.Profile(), session_.Editor(), controls.view),
-      copies_(context.gate, context.files, context.person, session_.Profile(), session_.Editor(),
-              controls.view),
-      groups_(context.gate, session_.Profile(), session_.Editor(), controls.view),
+      names_(context.gate, context.store, session_.Profile(), session_.Editor(), controls.view),
+      copies_(context.gate, context.files, context.person, context.store, session_.Profile(),
+              session_.Editor(), controls.view),
+      groups_(context.gate, context.store, session_.Profile(), session_.Editor(), controls.view),
       more_({context.files, context.person, state, session_.Profile(), session_.Editor(), controls.view,
              controls.candidates},
             [this](const std::function<void()>& event) { gate_.Take(Command::EditBoxes, event); }) {
@@ -87,12 +87,7 @@ void ProfileDesk::ConnectBoxCommands() {
 // The other profiles are those that a run would look at; scans that wait are tried where none was read yet.
 void ProfileDesk::TestProfile() {
     std::vector<profiles::ProfileRecord> records = state_.profiles;
-    profiles::ProfileRecord own = RecordOf(session_.Profile());
-    auto tried = std::ranges::find(records, own.FileName, &profiles::ProfileRecord::FileName);
-    if (tried == records.end())
-        tried = records.insert(tried, own);
-    *tried = std::move(own);
-    const auto index = static_cast<std::size_t>(tried - records.begin());
+    const std::size_t tried = recognition::PutInPlace(records, RecordOf(session_.Profile()));
     const app::WorkingFolders& folders = state_.folders;
     std::string folder = folders.ProcessOut;
     std::vector<std::string> scans = ScansIn(files_, folder);
@@ -100,7 +95,7 @@ void ProfileDesk::TestProfile() {
         scans = ScansIn(files_, folder = folders.ProcessIn);
     const auto way =
         state_.reading.preciseAlignment ? recognition::TrialWay::Precise : recognition::TrialWay::Plain;
-    TestProfileDialog({files_, std::move(records), index, std::move(folder), std::move(scans), precise_, way,
+    TestProfileDialog({files_, std::move(records), tried, std::move(folder), std::move(scans), precise_, way,
                        state_.settings.FillThreshold,
                        [this](int threshold) {
                            state_.settings.FillThreshold = app::ClampToInt16(threshold);

@@ -117,7 +117,7 @@ class FileDialog final : public QFileDialog {
             AcceptName(typed);
             return;
         }
-        const QStringList files = selectedFiles();
+        const QStringList files = FilesOf(typed);
         if (!extension_.isEmpty() && !files.isEmpty() && !QFileInfo(files.front()).isDir()) {
             if (IsHidden(files.front()))
                 return;
@@ -129,6 +129,17 @@ class FileDialog final : public QFileDialog {
     }
 
   private:
+    // The file of a name that is proposed may be selected in the list, which counts for more than what is
+    // typed.
+    QStringList FilesOf(const QString& typed) {
+        QStringList files = selectedFiles();
+        const QFileInfo first(files.value(0));
+        if (extension_.isEmpty() || first.isDir() || first.fileName() == typed)
+            return files;
+        findChild<QAbstractItemView*>("listView")->clearSelection();
+        return selectedFiles();
+    }
+
     // The dialog itself would take each piece between two quotes for a file.
     void AcceptName(const QString& typed) {
         const QString path = directory().absoluteFilePath(typed);
@@ -160,8 +171,6 @@ class FileDialog final : public QFileDialog {
         QMessageBox::warning(
             this, windowTitle(),
             Tr("FileDialog", "%1 is there already.\nChoose another name.").arg(QFileInfo(path).fileName()));
-        // What is selected in the list counts for more than what is typed.
-        findChild<QAbstractItemView*>("listView")->clearSelection();
         auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
         nameEdit->setFocus();
         nameEdit->selectAll();
