@@ -41,7 +41,8 @@ struct Desk {
     NobodysStrip strip;
     std::vector<profiles::ProfileRecord> records;
     profiles::ProfileSession session{
-        {work.files, work.nobody, work.nobody, work.log, work.clock, work.folders, recognition::AdviseOn},
+        {work.files, work.nobody, work.nobody, work.log, work.clock, work.folders,
+         [](const auto& profile) { return recognition::AdviseOn(profile); }},
         records,
         {work.nobody, work.nobody, strip}};
 };
