@@ -245,7 +245,7 @@ TEST_F(KeyboardTest, EscapeClosesTheSummaryThenTheNameThatIsTypedThenTheWindow) 
     ClickThumbnail(1);
     Rows().setFocus();
     Rows().setCurrentIndex(Rows().model()->index(0, 0));
-    Find<QAction>(*window_, "RenameBox").trigger();
+    QTest::keyClick(&Rows(), Qt::Key_F2);
     QTest::keyClicks(QApplication::focusWidget(), "half a na");
     const auto escape = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); };
     escape();
