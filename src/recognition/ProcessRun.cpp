@@ -15,14 +15,11 @@
 #include "recognition/ResultDocument.h"
 
 namespace tavrene::recognition {
-namespace {
 
 using app::Panel;
 using app::ShowInStatusBar;
 using imaging::PageError;
 using profiles::ProfileRecord;
-
-}  // namespace
 
 // What came of one file, as far as it is shown.
 struct ProcessRun::FileOutcome {
